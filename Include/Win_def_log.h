@@ -1,0 +1,51 @@
+// Diagnostics of the platform layer and the publisher logic: a level, a name and a depth for each thread, and
+// one-line datagrams to the log agent of the control service.
+//
+// The test of the level is made at the call site, so that a suppressed line costs one comparison:
+//     if (GetLogLevel() >= 2) { logViaAgent(4, "...", ...); }
+#pragma once
+
+#include "Win_def.h"
+
+/// The process's log level, written once at start-up. Above 1: warnings go out. Above 3: debug traces too.
+extern int g_logLebel;
+int GetLogLevel();
+void SetLogLevel(int level);
+
+/// Sends "MESSAGE=RT300API[pid]: text\nPRIORITY=n\n" to the log agent; the text is cut to 511 bytes.
+/// `priority` is a syslog number: 4 warning, 7 debug. Without an agent the line is lost in silence. Never
+/// blocks for long.
+void logViaAgent(int priority, const char* format, ...) __attribute__((format(printf, 2, 3)));
+
+/// The calling thread's name: its kernel id in upper-case hexadecimal unless it was named. Good until the
+/// thread ends.
+const char* GetThreadName();
+/// A name of 64 bytes or more empties the name, so that the id shows again.
+void SetThreadName(const char* szThreadName);
+/// Local time as "hh:mm:ss:mmm", in a buffer of the calling thread.
+const char* GetTimeString();
+
+extern thread_local int g_stackDepthTLS;
+extern thread_local char g_szThreadNameTLS[64];
+extern thread_local char g_szTimeStringTLS[64];
+/// Exactly 30 blanks.
+extern const char g_stackDepthSpace[31];
+
+/// Indents the trace lines of the scope it stands in by one step. Nesting stays within 15.
+class _StackDepth
+{
+public:
+    _StackDepth()
+    {
+        ++g_stackDepthTLS;
+    }
+    ~_StackDepth()
+    {
+        --g_stackDepthTLS;
+    }
+    _StackDepth(const _StackDepth&) = delete;
+    _StackDepth& operator=(const _StackDepth&) = delete;
+
+    /// Two blanks for each step of depth.
+    static const char* getSpace();
+};

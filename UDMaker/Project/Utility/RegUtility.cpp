@@ -1,0 +1,1 @@
+#include "Win_def_MFC.h"

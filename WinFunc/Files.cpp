@@ -1,0 +1,1 @@
+#include "WinFunc.h"

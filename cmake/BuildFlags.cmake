@@ -1,0 +1,37 @@
+# Flags of every target: warnings, hardening, sanitizers, and assertions that stay on in every build type.
+
+set(ULMAR_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize (empty: none)")
+option(ULMAR_WERROR "Treat warnings as errors" OFF)
+option(ULMAR_COVERAGE "Instrument for gcov" OFF)
+
+# NDEBUG is never defined: a condition that cannot occur stops the process in every build type.
+set(CMAKE_CXX_FLAGS_DEBUG "-Og -g")
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g")
+set(CMAKE_CXX_FLAGS_RELEASE "-O2")
+
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported()
+
+add_compile_options(
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wold-style-cast -Wformat=2 -Wcast-qual -Wundef)
+if(ULMAR_WERROR)
+    add_compile_options(-Werror)
+endif()
+
+add_compile_options(-fno-plt -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+add_link_options(-Wl,-z,relro,-z,now -Wl,-z,noexecstack -Wl,--as-needed)
+
+if(ULMAR_SANITIZE)
+    add_compile_options(-fsanitize=${ULMAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${ULMAR_SANITIZE})
+else()
+    # The sanitizers bring checks of their own, which do not see through the fortified calls.
+    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+endif()
+
+if(ULMAR_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()
