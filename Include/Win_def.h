@@ -198,14 +198,18 @@ constexpr DWORD INFINITE = 0xFFFFFFFF;
 // Strings with a size. Results are errno numbers: 0, 22 (EINVAL), 34 (ERANGE), 12 (ENOMEM).
 
 int strcpy_s(char* dest, size_t dest_size, const char* src);
-/// Adds no NUL when the source fills `count`.
+/// Writes `count` bytes, NULs behind a shorter source, and no NUL when the source fills `count`: the room
+/// must be `count` at least.
 int strncpy_s(char* dest, size_t dest_size, const char* src, size_t count);
 int strcat_s(char* dest, size_t dest_size, const char* src);
+/// A NULL source changes nothing here.
 int strncat_s(char* dest, size_t dest_size, const char* src, size_t count);
+/// Lowers A to Z up to the first NUL.
 int _strlwr_s(char* str, size_t size);
 /// Upper-cases all `sizeInBytes` bytes, those behind a NUL too.
 int _strupr_s(char* str, size_t sizeInBytes);
-/// 0 when equal but for the case of letters; bytes that are neither letters nor white space do not count.
+/// 0 when equal but for the case of letters. The class of each byte of `string1` decides: digits and white
+/// space compare exactly, letters without regard to case, all others (its end included) match anything.
 int _strnicmp(const char* string1, const char* string2, size_t count);
 /// The first byte of `str` that is not in `charset`, or NULL when there is none.
 char* _strspnp(const char* str, const char* charset);
@@ -244,7 +248,7 @@ int _vscprintf(const char* Format, va_list ArgList) __attribute__((format(printf
 int _itoa_s(int value, char* buffer, size_t size, int radix);
 int _ltoa_s(long value, char* buffer, size_t size, int radix);
 int _ultoa_s(unsigned long value, char* buffer, size_t size, int radix);
-/// Radix 16, 10 and 8; any other writes nothing.
+/// Radix 16, 10 and 8 give 0; any other writes nothing and gives 22.
 int _ltow_s(long Value, char* Buffer, size_t SizeOfBuffer, int Radix);
 LONGLONG _atoi64(const char* str);
 int _wtoi(const char* str);
@@ -260,8 +264,8 @@ public:
 };
 using bstr_t = _bstr_t;
 
-/// Splits at "/" and "."; an output that would not fit is left zeroed without an error. 0, or 22 for bad
-/// arguments.
+/// Splits at "/" and "."; the backslash is a plain byte. An output that would not fit is left zeroed without
+/// an error, and one given as NULL with size 0 is skipped. 0, or 22 for bad arguments.
 int _splitpath_s(const char* path, char* drive, size_t driveNumberOfElements, char* dir,
                  size_t dirNumberOfElements, char* fname, size_t nameNumberOfElements, char* ext,
                  size_t extNumberOfElements);
@@ -278,12 +282,11 @@ HGLOBAL GlobalFree(HGLOBAL hMem);
 // ---------------------------------------------------------------------------------------------------------------------
 // Time
 
-/// gmtime and localtime share their static result: one thread at a time for each of the two.
 void GetSystemTime(LPSYSTEMTIME lpSystemTime);
 void GetLocalTime(LPSYSTEMTIME lpSystemTime);
 /// Milliseconds of the monotonic clock, cut to 32 bits.
 DWORD GetTickCount();
-/// Milliseconds; 0 yields the processor.
+/// Milliseconds; 0 yields the processor. A signal may end it early by less than a second.
 void Sleep(DWORD dwMilliseconds);
 /// -1, 0 or 1.
 LONG CompareFileTime(const FILETIME* lpFileTime1, const FILETIME* lpFileTime2);

@@ -75,15 +75,15 @@ public:
     }
     const TYPE& GetAt(INT_PTR nIndex) const
     {
-        return this->at(inside(nIndex));
+        return (*this)[inside(nIndex)];
     }
     TYPE& GetAt(INT_PTR nIndex)
     {
-        return this->at(inside(nIndex));
+        return (*this)[inside(nIndex)];
     }
     void SetAt(INT_PTR nIndex, ARG_TYPE newElement)
     {
-        this->at(inside(nIndex)) = newElement;
+        (*this)[inside(nIndex)] = newElement;
     }
     void Copy(const CArray& src)
     {
@@ -92,6 +92,7 @@ public:
     /// Grows the array when `nIndex` lies behind its end.
     void InsertAt(INT_PTR nIndex, ARG_TYPE newElement)
     {
+        ASSERT(nIndex >= 0);
         if (nIndex > GetSize()) {
             SetSize(nIndex);
         }
@@ -99,7 +100,7 @@ public:
     }
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1)
     {
-        ASSERT(nIndex >= 0 && nCount >= 0 && nIndex + nCount <= GetSize());
+        ASSERT(nIndex >= 0 && nCount >= 0 && nCount <= GetSize() - nIndex);
         this->erase(this->begin() + nIndex, this->begin() + nIndex + nCount);
     }
 

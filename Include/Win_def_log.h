@@ -2,7 +2,8 @@
 // one-line datagrams to the log agent of the control service.
 //
 // The test of the level is made at the call site, so that a suppressed line costs one comparison:
-//     if (GetLogLevel() >= 2) { logViaAgent(4, "...", ...); }
+//     if (GetLogLevel() > 1) { logViaAgent(4, "...", ...); }
+//     if (GetLogLevel() > 3) { logViaAgent(7, "...", ...); }
 #pragma once
 
 #include "Win_def.h"
@@ -13,8 +14,8 @@ int GetLogLevel();
 void SetLogLevel(int level);
 
 /// Sends "MESSAGE=RT300API[pid]: text\nPRIORITY=n\n" to the log agent; the text is cut to 511 bytes.
-/// `priority` is a syslog number: 4 warning, 7 debug. Without an agent the line is lost in silence. Never
-/// blocks for long.
+/// `priority` is a syslog number: 4 warning, 7 debug. Without an agent, or with one that lags behind, the
+/// line is lost in silence. Never blocks; keeps errno.
 void logViaAgent(int priority, const char* format, ...) __attribute__((format(printf, 2, 3)));
 
 /// The calling thread's name: its kernel id in upper-case hexadecimal unless it was named. Good until the
@@ -25,13 +26,13 @@ void SetThreadName(const char* szThreadName);
 /// Local time as "hh:mm:ss:mmm", in a buffer of the calling thread.
 const char* GetTimeString();
 
-extern thread_local int g_stackDepthTLS;
-extern thread_local char g_szThreadNameTLS[64];
-extern thread_local char g_szTimeStringTLS[64];
+extern constinit thread_local int g_stackDepthTLS;
+extern constinit thread_local char g_szThreadNameTLS[64];
+extern constinit thread_local char g_szTimeStringTLS[64];
 /// Exactly 30 blanks.
 extern const char g_stackDepthSpace[31];
 
-/// Indents the trace lines of the scope it stands in by one step. Nesting stays within 15.
+/// Indents the trace lines of the scope it stands in by one step.
 class _StackDepth
 {
 public:
@@ -46,6 +47,6 @@ public:
     _StackDepth(const _StackDepth&) = delete;
     _StackDepth& operator=(const _StackDepth&) = delete;
 
-    /// Two blanks for each step of depth.
+    /// Two blanks for each step of depth, 30 at most.
     static const char* getSpace();
 };

@@ -1,1 +1,92 @@
+#include "InstallPaths.h"
+#include "SystemCalls.h"
 #include "WinFunc.h"
+
+#include <cstring>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <syslog.h>
+#include <unistd.h>
+
+int g_logLebel = 4;
+
+namespace {
+
+/// One socket for a line: none stays open that a restart of the service would make stale.
+void SendToAgent(const char* datagram)
+{
+    const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    if (fd < 0) {
+        return;
+    }
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    static_assert(sizeof LOG_AGENT_SOCKET <= sizeof address.sun_path);
+    memcpy(address.sun_path, LOG_AGENT_SOCKET, sizeof LOG_AGENT_SOCKET);
+    const auto* peer = reinterpret_cast<const sockaddr*>(&address);
+    if (connect(fd, peer, sizeof address) == 0) {
+        sendto(fd, datagram, strlen(datagram), MSG_NOSIGNAL | MSG_DONTWAIT, peer, sizeof address);
+    }
+    close(fd);
+}
+
+void LogLine(int priority, const char* before, const char* behind, const char* format, va_list args)
+    __attribute__((format(printf, 4, 0)));
+
+/// One line to the console and to syslog. The console's starts with the thread, in magenta, and the
+/// indentation of its trace depth; `before` and `behind` colour the text there.
+void LogLine(int priority, const char* before, const char* behind, const char* format, va_list args)
+{
+    const ErrnoKeeper keeper;
+    va_list again;
+    va_copy(again, args);
+    printf("\x1b[35m[%s]\x1b[0m%s%s", GetThreadName(), _StackDepth::getSpace(), before);
+    vprintf(format, args);
+    puts(behind);
+    vsyslog(priority, format, again);
+    va_end(again);
+}
+
+} // namespace
+
+int GetLogLevel()
+{
+    return g_logLebel;
+}
+
+void SetLogLevel(int level)
+{
+    g_logLebel = level;
+}
+
+void logViaAgent(int priority, const char* format, ...)
+{
+    const ErrnoKeeper keeper; // callers log between a failed call and their look at its error
+    char message[512] = {};
+    va_list args;
+    va_start(args, format);
+    vsnprintf(message, sizeof message, format, args);
+    va_end(args);
+
+    char datagram[1024] = {};
+    snprintf(datagram, sizeof datagram, "MESSAGE=RT300API[%d]: %s\nPRIORITY=%d\n", getpid(), message,
+             priority);
+    SendToAgent(datagram);
+}
+
+void LogWarning(const char* format, ...)
+{
+    va_list args;
+    va_start(args, format);
+    LogLine(LOG_WARNING, "\x1b[33m", "\x1b[0m", format, args);
+    va_end(args);
+}
+
+void LogDebug(const char* format, ...)
+{
+    va_list args;
+    va_start(args, format);
+    LogLine(LOG_DEBUG, "", "", format, args);
+    va_end(args);
+}

@@ -1,0 +1,71 @@
+#include "LockedFile.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+LockedFile::LockedFile(const char* path, int flags, mode_t mode)
+    : m_fd(path == nullptr ? -1 : open(path, flags | O_CLOEXEC | O_NONBLOCK, mode))
+{
+    if (IsOpen()) {
+        while (flock(m_fd, LOCK_EX) == -1 && errno == EINTR) {
+        }
+    }
+}
+
+LockedFile::~LockedFile()
+{
+    const int error = errno; // the caller still wants to know what failed
+    Close();
+    errno = error;
+}
+
+off_t LockedFile::Size() const
+{
+    struct stat info = {};
+    return fstat(m_fd, &info) == 0 && S_ISREG(info.st_mode) ? info.st_size : 0;
+}
+
+ssize_t LockedFile::Read(char* buffer, size_t size) const
+{
+    size_t done = 0;
+    while (done < size) {
+        const ssize_t count = read(m_fd, buffer + done, size - done);
+        if (count == 0) {
+            break;
+        }
+        if (count > 0) {
+            done += static_cast<size_t>(count);
+        } else if (errno != EINTR) {
+            return -1;
+        }
+    }
+    return static_cast<ssize_t>(done);
+}
+
+bool LockedFile::WriteAll(const std::string& text) const
+{
+    size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t count = write(m_fd, text.data() + done, text.size() - done);
+        if (count > 0) {
+            done += static_cast<size_t>(count);
+        } else if (count == 0 || errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool LockedFile::Close()
+{
+    if (!IsOpen()) {
+        return true;
+    }
+    // Unlocked by hand: a child just forked shares the lock and would keep it until it runs its own program.
+    flock(m_fd, LOCK_UN);
+    const bool closed = close(m_fd) == 0;
+    m_fd = -1;
+    return closed;
+}

@@ -1,0 +1,210 @@
+// Loading the registry's text file into the map and writing the map back.
+#include "RegistryFile.h"
+
+#include "InstallPaths.h"
+#include "WinFunc.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <fcntl.h>
+#include <optional>
+#include <string_view>
+#include <unistd.h>
+
+namespace {
+
+constexpr size_t PIECE_MAX = 1023;
+constexpr mode_t REGISTRY_FILE_MODE = 0644;
+
+/// Tells one state of the file from another.
+struct FileStamp
+{
+    dev_t device;
+    ino_t inode;
+    off_t size;
+    timespec modified;
+    timespec changed;
+
+    bool operator==(const FileStamp& other) const
+    {
+        return device == other.device && inode == other.inode && size == other.size &&
+               SameTime(modified, other.modified) && SameTime(changed, other.changed);
+    }
+
+private:
+    static bool SameTime(const timespec& one, const timespec& two)
+    {
+        return one.tv_sec == two.tv_sec && one.tv_nsec == two.tv_nsec;
+    }
+};
+
+// The state of the file that the map holds in full. Every key is opened through a load, and reading the same
+// bytes again would not change the map.
+std::optional<FileStamp> g_loadedFile;
+
+/// The stamp, or none when a change yet to come could carry the same one: the kernel's clock stands still
+/// between two ticks, and 100 ms is longer than any tick.
+std::optional<FileStamp> TakeStamp(const LockedFile& file)
+{
+    timespec now = {};
+    struct stat info = {};
+    if (clock_gettime(CLOCK_REALTIME_COARSE, &now) != 0 || fstat(file.Descriptor(), &info) != 0) {
+        return std::nullopt;
+    }
+    constexpr long long nsPerSecond = 1'000'000'000;
+    const long long age =
+        (now.tv_sec - info.st_ctim.tv_sec) * nsPerSecond + now.tv_nsec - info.st_ctim.tv_nsec;
+    if (age < nsPerSecond / 10) {
+        return std::nullopt;
+    }
+    return FileStamp{info.st_dev, info.st_ino, info.st_size, info.st_mtim, info.st_ctim};
+}
+
+bool CreateEmptyFile()
+{
+    CreateDirectoryA(CONF_DIR, nullptr);
+    // Without O_TRUNC: another program may just have made the file and filled it.
+    LockedFile file(REGISTRY_FILE, O_WRONLY | O_CREAT, REGISTRY_FILE_MODE);
+    return file.IsOpen();
+}
+
+/// The entry of the name, made when it is not there; no text is allocated to find one that is.
+template <class Map>
+typename Map::mapped_type& Entry(Map& map, std::string_view name)
+{
+    const auto place = map.lower_bound(name);
+    if (place != map.end() && place->first == name) {
+        return place->second;
+    }
+    return map.try_emplace(place, std::string(name))->second;
+}
+
+void ReadValueLine(std::string_view line, CRegistryValueStore& store)
+{
+    constexpr std::string_view numberMark = "dword:";
+
+    const size_t nameEnd = line.find('"', 1);
+    const size_t equals = line.find('=', 1);
+    if (nameEnd == std::string_view::npos || equals == std::string_view::npos || equals < nameEnd) {
+        return;
+    }
+    const std::string_view name = line.substr(1, nameEnd - 1);
+    const std::string_view data = line.substr(equals + 1);
+    if (data.starts_with('"')) {
+        const size_t textEnd = data.find('"', 1);
+        if (textEnd != std::string_view::npos) {
+            Entry(store.stringValues, name) = data.substr(1, textEnd - 1);
+        }
+    } else if (data.starts_with(numberMark)) {
+        // The line lies in a NUL-terminated piece, so the conversion ends inside it.
+        const char* digits = data.data() + numberMark.size();
+        Entry(store.dwordValues, name) = static_cast<uint32_t>(std::strtol(digits, nullptr, 16));
+    }
+}
+
+void ReadPieces(RegistryPieces& pieces)
+{
+    CRegistryValueStore* store = nullptr; // none ahead of the first section: values there belong to no key
+    std::string piece;
+    while (pieces.Next(piece)) {
+        const std::string_view line = piece.c_str(); // a line ends at a NUL
+        if (line.starts_with('[')) {
+            const size_t nameEnd = line.find(']');
+            if (nameEnd != std::string_view::npos) {
+                store = &Entry(g_Registry, line.substr(1, nameEnd - 1));
+            }
+        } else if (line.starts_with('"') && store != nullptr) {
+            ReadValueLine(line, *store);
+        }
+    }
+}
+
+void AppendSection(std::string& text, const std::string& key, const CRegistryValueStore& store)
+{
+    constexpr char digits[] = "0123456789abcdef";
+
+    text.append("[").append(key).append("]\n");
+    for (const auto& [name, value] : store.stringValues) {
+        text.append("\"").append(name).append("\"=\"").append(value).append("\"\n");
+    }
+    for (const auto& [name, value] : store.dwordValues) {
+        text.append("\"").append(name).append("\"=dword:");
+        for (int shift = 28; shift >= 0; shift -= 4) {
+            text.push_back(digits[(value >> shift) & 0xF]);
+        }
+        text.push_back('\n');
+    }
+    text.push_back('\n');
+}
+
+} // namespace
+
+RegistryPieces::RegistryPieces(const LockedFile& file) : m_file(file), m_left(file.Size()) {}
+
+bool RegistryPieces::Fill()
+{
+    const size_t wanted = static_cast<size_t>(std::min<off_t>(m_left, off_t{sizeof m_buffer}));
+    const ssize_t count = m_file.Read(m_buffer.data(), wanted);
+    m_position = 0;
+    m_filled = count > 0 ? static_cast<size_t>(count) : 0;
+    m_left -= static_cast<off_t>(m_filled);
+    return m_filled > 0;
+}
+
+bool RegistryPieces::Next(std::string& piece)
+{
+    piece.clear();
+    while (piece.size() < PIECE_MAX && (m_position < m_filled || Fill())) {
+        const char* start = m_buffer.data() + m_position;
+        const size_t room = std::min(m_filled - m_position, PIECE_MAX - piece.size());
+        const void* lineFeed = std::memchr(start, '\n', room);
+        const size_t count =
+            lineFeed == nullptr ? room : static_cast<size_t>(static_cast<const char*>(lineFeed) - start) + 1;
+        piece.append(start, count);
+        m_position += count;
+        if (lineFeed != nullptr) {
+            break;
+        }
+    }
+    return !piece.empty();
+}
+
+bool RegReplaceFile(const std::string& text)
+{
+    g_loadedFile.reset(); // whatever the clock will say about the new text
+    LockedFile file(REGISTRY_FILE, O_WRONLY | O_CREAT | O_TRUNC, REGISTRY_FILE_MODE);
+    // Emptied once more under the lock: another program may have written while this one waited for it, and
+    // the end of a longer text would stay behind ours.
+    return file.IsOpen() && ftruncate(file.Descriptor(), 0) == 0 && file.WriteAll(text) && file.Close();
+}
+
+void RegForgetLoad()
+{
+    g_loadedFile.reset();
+}
+
+bool RegReadIn(int flags)
+{
+    const LockedFile file(REGISTRY_FILE, flags);
+    if (!file.IsOpen()) {
+        return CreateEmptyFile();
+    }
+    const std::optional<FileStamp> stamp = TakeStamp(file);
+    if (!stamp || stamp != g_loadedFile) {
+        RegistryPieces pieces(file);
+        ReadPieces(pieces);
+        g_loadedFile = pieces.Complete() ? stamp : std::nullopt;
+    }
+    return true;
+}
+
+bool RegWriteOut()
+{
+    std::string text;
+    for (const auto& [key, store] : g_Registry) {
+        AppendSection(text, key, store);
+    }
+    return RegReplaceFile(text);
+}

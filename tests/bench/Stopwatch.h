@@ -1,0 +1,46 @@
+// Times of interleaved repetitions, compared by their medians.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// One way of doing the work that is compared.
+struct Contender
+{
+    std::string name;
+    std::function<void()> run;
+    std::vector<double> microseconds;
+
+    double Median()
+    {
+        const auto middle = microseconds.begin() + static_cast<std::ptrdiff_t>(microseconds.size() / 2);
+        std::nth_element(microseconds.begin(), middle, microseconds.end());
+        return *middle;
+    }
+};
+
+/// Runs all contenders in turn, `repetitions` times, so that a slow moment of the machine meets all of them;
+/// then prints the medians, and their ratios to the last contender.
+inline void Compare(const std::string& what, std::vector<Contender> contenders, int repetitions)
+{
+    for (int round = -1; round < repetitions; ++round) { // the first one warms up
+        for (Contender& contender : contenders) {
+            const auto start = std::chrono::steady_clock::now();
+            contender.run();
+            const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
+            if (round >= 0) {
+                contender.microseconds.push_back(time.count());
+            }
+        }
+    }
+    std::printf("%s (medians of %d interleaved repetitions)\n", what.c_str(), repetitions);
+    const double reference = contenders.back().Median();
+    for (Contender& contender : contenders) {
+        const double median = contender.Median();
+        std::printf("  %-58s %12.1f us   %7.3f x\n", contender.name.c_str(), median, median / reference);
+    }
+}

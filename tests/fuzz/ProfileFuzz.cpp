@@ -1,0 +1,108 @@
+// Any bytes as a private profile file: read with buffers of all sizes, and written without touching another
+// line.
+#include "TextFiles.h"
+#include "Win_def.h"
+#include "Win_def_log.h"
+
+#include <cstring>
+#include <vector>
+
+namespace {
+
+const char FILE_NAME[] = "/tmp/fuzz.ini";
+const char VALUE[] = "\x01value\x01"; // found again in the file, because no input holds it
+const char LINE_START[] = "\nKey=";
+const char PAIRS[] = "Key=1\0Other=2\0";
+const char PAIR_LINES[] = "Key=1\nOther=2\n";
+
+void ReadWithAnyBuffer()
+{
+    size_t whole = 0;
+    for (const DWORD size : {1024U, 1023U, 100U, 2U, 1U, 0U}) {
+        std::vector<char> buffer(size);
+        const DWORD length = GetPrivateProfileStringA("Common", "Key", "", buffer.data(), size, FILE_NAME);
+        if (size == 0) {
+            assert(length == 0);
+            continue;
+        }
+        whole = size == 1024 ? length : whole;
+        assert(length == std::min<size_t>(whole, size - 1));
+        assert(std::strlen(buffer.data()) == length);
+        for (size_t index = 0; index < length; ++index) {
+            assert(buffer[index] >= 0x20 && buffer[index] <= 0x7E);
+        }
+    }
+    GetPrivateProfileIntA("Common", "Key", 0, FILE_NAME);
+}
+
+/// What a file holds after `text` was written over `before` from the start.
+std::string Over(const std::string& before, const std::string& text)
+{
+    return before.size() > text.size() ? text + before.substr(text.size()) : text;
+}
+
+/// One line replaced or one line added, at the place where the value now stands.
+bool IsOneLineWritten(const std::string& before, const std::string& after)
+{
+    const size_t place = after.find(VALUE);
+    if (place == std::string::npos) {
+        return false;
+    }
+    const std::string added = after.substr(0, place + std::strlen(VALUE)) + "\n";
+
+    const std::string newSection = std::string("[Common]\nKey=") + VALUE + "\n";
+    if (after == before + newSection || after == before + "\n" + newSection) {
+        return true;
+    }
+    if (before.compare(0, place, after, 0, place) == 0) { // the line's value
+        const size_t lineFeed = before.find('\n', place);
+        if (lineFeed != std::string::npos && after == Over(before, added + before.substr(lineFeed + 1))) {
+            return true;
+        }
+    }
+    const size_t start = place - std::strlen(LINE_START); // the first line of the section
+    return place >= std::strlen(LINE_START) &&
+           after.compare(start, std::strlen(LINE_START), LINE_START) == 0 && start < before.size() &&
+           before.compare(0, start, after, 0, start) == 0 &&
+           after == Over(before, added + before.substr(start + 1));
+}
+
+/// The section's lines replaced, all others as they were.
+bool IsSectionWritten(const std::string& before, const std::string& after)
+{
+    const std::string section = "[Common]";
+    const std::string visible = before.c_str();
+    const size_t found = visible.find(section);
+    if (found == std::string::npos) {
+        const std::string added = section + "\n" + PAIR_LINES;
+        return after == before + added || after == before + "\n" + added;
+    }
+    const size_t behind = found + section.size() + 1;
+    const size_t next = std::min(visible.find('[', behind - 1), visible.size());
+    return after == Over(before, before.substr(0, behind) + PAIR_LINES + before.substr(next));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    SetLogLevel(0);
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    if (text.find(VALUE) != std::string::npos) {
+        return 0;
+    }
+    WriteText(FILE_NAME, text);
+    ReadWithAnyBuffer();
+    assert(ReadText(FILE_NAME) == text);
+
+    const BOOL keyWritten = WritePrivateProfileStringA("Common", "Key", VALUE, FILE_NAME);
+    const std::string withKey = ReadText(FILE_NAME);
+    assert(keyWritten ? IsOneLineWritten(text, withKey) : withKey == text);
+    ReadWithAnyBuffer();
+
+    WriteText(FILE_NAME, text);
+    const BOOL sectionWritten = WritePrivateProfileSectionA("Common", PAIRS, FILE_NAME);
+    const std::string withSection = ReadText(FILE_NAME);
+    assert(sectionWritten ? IsSectionWritten(text, withSection) : withSection == text);
+    return 0;
+}

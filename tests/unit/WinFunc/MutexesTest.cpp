@@ -1,0 +1,144 @@
+// Mutexes, which nothing releases, and critical sections.
+#include "CountedSleep.h"
+#include "WinFunc.h"
+
+#include <string>
+#include <thread>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using Runs = CountedSleep::Runs;
+
+/// What another thread gets from a wait.
+DWORD WaitElsewhere(HANDLE handle, DWORD timeout)
+{
+    DWORD result = WAIT_FAILED;
+    std::thread([&] { result = WaitForSingleObject(handle, timeout); }).join();
+    return result;
+}
+
+TEST(MutexesTest, AZeroTimeoutNeverTakesAFreeMutex)
+{
+    CountedSleep::The().Start();
+    const HANDLE mutex = CreateMutexA(nullptr, FALSE, nullptr);
+    EXPECT_EQ(WaitForSingleObject(mutex, 0), 258u);
+    EXPECT_EQ(WaitElsewhere(mutex, 1), 0u) << "it was left free";
+    EXPECT_EQ(CountedSleep::The().Count(), 0u);
+    EXPECT_EQ(CloseHandle(mutex), TRUE);
+}
+
+TEST(MutexesTest, OneMillisecondTakesAFreeMutex)
+{
+    CountedSleep::The().Start();
+    const HANDLE mutex = CreateMutexA(nullptr, FALSE, "ignored");
+    EXPECT_EQ(WaitForSingleObject(mutex, 1), 0u);
+    EXPECT_EQ(CountedSleep::The().Counted(), Runs{});
+    EXPECT_EQ(WaitElsewhere(mutex, 3), 258u);
+    EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 3}})) << "one sleep behind each failed attempt";
+    EXPECT_EQ(CloseHandle(mutex), TRUE);
+}
+
+TEST(MutexesTest, AnInfiniteWaitTakesAFreeMutex)
+{
+    const HANDLE mutex = CreateMutexA(nullptr, FALSE, nullptr);
+    EXPECT_EQ(WaitForSingleObject(mutex, INFINITE), 0u);
+    EXPECT_EQ(WaitElsewhere(mutex, 1), 258u);
+    EXPECT_EQ(CloseHandle(mutex), TRUE);
+}
+
+TEST(MutexesTest, AnInitialOwnerHasItForGood)
+{
+    for (const BOOL initialOwner : {TRUE, 5}) {
+        const HANDLE mutex = CreateMutexA(nullptr, initialOwner, nullptr);
+        EXPECT_EQ(WaitElsewhere(mutex, 2), 258u);
+        EXPECT_EQ(WaitForSingleObject(mutex, 2), 258u) << "not recursive: its owner times out as well";
+        EXPECT_EQ(CloseHandle(mutex), TRUE);
+    }
+}
+
+TEST(MutexesTest, AMutexThatIsFreedBetweenTwoAttemptsIsTaken)
+{
+    const HANDLE handle = CreateMutexA(nullptr, TRUE, nullptr);
+    auto* mutex = dynamic_cast<WinMutex*>(static_cast<IWinHandle*>(handle));
+    ASSERT_NE(mutex, nullptr);
+    CountedSleep::The().Start([&](uint64_t number) {
+        if (number == 2) {
+            mutex->mtx.unlock();
+        }
+    });
+    EXPECT_EQ(WaitForSingleObject(handle, 100), 0u);
+    EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 2}}));
+    EXPECT_EQ(CloseHandle(handle), TRUE);
+}
+
+TEST(MutexesTest, MutexesOfOneNameAreNotShared)
+{
+    const HANDLE one = CreateMutexA(nullptr, TRUE, "same");
+    const HANDLE other = CreateMutexA(nullptr, FALSE, "same");
+    EXPECT_EQ(WaitElsewhere(other, 1), 0u);
+    EXPECT_EQ(CloseHandle(one), TRUE);
+    EXPECT_EQ(CloseHandle(other), TRUE);
+}
+
+TEST(MutexesTest, NoMutexIsOpenedByName)
+{
+    const HANDLE existing = CreateMutexA(nullptr, FALSE, "existing");
+    for (const char* name : {"existing", "absent", "", static_cast<const char*>(nullptr)}) {
+        EXPECT_EQ(OpenMutexA(0, FALSE, name), nullptr);
+        EXPECT_EQ(OpenMutexA(0xFFFFFFFF, TRUE, name), nullptr);
+    }
+    EXPECT_EQ(CloseHandle(existing), TRUE);
+}
+
+/// What another thread gets from trying.
+BOOL TryElsewhere(LPCRITICAL_SECTION section)
+{
+    BOOL entered = FALSE;
+    std::thread([&] {
+        entered = TryEnterCriticalSection(section);
+        if (entered != FALSE) {
+            LeaveCriticalSection(section);
+        }
+    }).join();
+    return entered;
+}
+
+TEST(CriticalSectionTest, ItsOwnerEntersAgain)
+{
+    CRITICAL_SECTION section;
+    InitializeCriticalSection(&section);
+    EnterCriticalSection(&section);
+    EnterCriticalSection(&section);
+    EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
+    EXPECT_EQ(TryElsewhere(&section), FALSE);
+    LeaveCriticalSection(&section);
+    LeaveCriticalSection(&section);
+    EXPECT_EQ(TryElsewhere(&section), FALSE) << "left twice of three times";
+    LeaveCriticalSection(&section);
+    EXPECT_EQ(TryElsewhere(&section), TRUE);
+    DeleteCriticalSection(&section);
+}
+
+TEST(CriticalSectionTest, OneThreadAtATimeIsInside)
+{
+    CRITICAL_SECTION section;
+    InitializeCriticalSection(&section);
+    int count = 0;
+    const auto work = [&] {
+        for (int i = 0; i < 10000; ++i) {
+            EnterCriticalSection(&section);
+            ++count;
+            LeaveCriticalSection(&section);
+        }
+    };
+    std::thread one(work);
+    std::thread other(work);
+    one.join();
+    other.join();
+    EXPECT_EQ(count, 20000);
+    DeleteCriticalSection(&section);
+}
+
+} // namespace

@@ -1,0 +1,242 @@
+// Reading private profile files: lines, sections, keys and what is made of them.
+#include "TextFiles.h"
+#include "Win_def.h"
+
+#include <array>
+#include <clocale>
+#include <gtest/gtest.h>
+#include <random>
+#include <sys/stat.h>
+
+namespace {
+
+const char FILE_NAME[] = "/tmp/a.ini";
+
+struct Reading
+{
+    std::string text;
+    DWORD length;
+    bool operator==(const Reading&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Reading& reading)
+{
+    return out << '"' << reading.text << "\" " << reading.length;
+}
+
+/// Reads into a buffer of exactly `size` bytes, so that a byte too many is a memory error.
+Reading Read(const char* section, const char* key, DWORD size = 2048, const char* fallback = "default",
+             const char* file = FILE_NAME)
+{
+    std::vector<char> buffer(size, '\x7F');
+    const DWORD length = GetPrivateProfileStringA(section, key, fallback, buffer.data(), size, file);
+    return {buffer.data(), length};
+}
+
+Reading Found(const std::string& text)
+{
+    return {text, static_cast<DWORD>(text.size())};
+}
+
+const Reading NOTHING = {"", 0};
+
+using PrivateProfileDeathTest = testing::Test;
+
+} // namespace
+
+TEST(PrivateProfile, TheDefaultServesWhenTheFileCannotBeOpened)
+{
+    EXPECT_EQ(Read("Common", "Key"), Found("default"));
+    EXPECT_EQ(Read("Common", "Key", 2048, ""), NOTHING);
+    EXPECT_EQ(Read("Common", "Key", 2048, nullptr), NOTHING);
+    EXPECT_EQ(Read("Common", "Key", 2048, "default", nullptr), Found("default"));
+}
+
+TEST(PrivateProfile, ADefaultThatDoesNotFitBecomesTheEmptyText)
+{
+    EXPECT_EQ(Read("Common", "Key", 8, "default"), Found("default"));
+    EXPECT_EQ(Read("Common", "Key", 7, "default"), NOTHING);
+    EXPECT_EQ(Read("Common", "Key", 1, "default"), NOTHING);
+}
+
+TEST(PrivateProfile, AMissingKeyIsTheEmptyTextWhateverTheDefault)
+{
+    WriteText(FILE_NAME, "[Common]\nOther=1\nEmpty=\n");
+    EXPECT_EQ(Read("Common", "Key"), NOTHING);
+    EXPECT_EQ(Read("Common", "Empty"), NOTHING);
+    EXPECT_EQ(Read("Absent", "Other"), NOTHING);
+    WriteText(FILE_NAME, "");
+    EXPECT_EQ(Read("Common", "Key"), NOTHING);
+}
+
+// A file, and what key "Key" of section "Common" reads as.
+struct ReadCase
+{
+    const char* what;
+    std::string text;
+    std::string value;
+};
+
+TEST(PrivateProfile, LineTable)
+{
+    using namespace std::string_literals;
+    const ReadCase cases[] = {
+        {"as the system writes it", "[Common]\nKey=value\n", "value"},
+        {"no line feed at the end", "[Common]\nKey=value", "value"},
+        {"lines of a foreign system", "[Common]\r\nKey=value\r\n", "value"},
+        {"blanks around the equals sign", "[Common]\nKey  =   value\n", "value"},
+        {"a blank in the place of the equals sign", "[Common]\nKey value\n", "value"},
+        {"one equals sign is skipped", "[Common]\nKey==value\n", "=value"},
+        {"one behind a blank too", "[Common]\nKey = =value\n", "=value"},
+        {"blanks inside stay", "[Common]\nKey=a  b = c\n", "a  b = c"},
+        {"blanks at the end go", "[Common]\nKey=value  \n", "value"},
+        {"a tab is removed", "[Common]\nKey=va\tlue\t\n", "value"},
+        {"a tab is no delimiter", "[Common]\nKey\tvalue\n", ""},
+        {"a tab in the name is removed", "[Common]\nK\tey=value\n", "value"},
+        {"bytes above 126 are removed", "[Common]\nKey=\xC3\xA4p\x7Fq\xFF\n", "pq"},
+        {"nothing else in the value", "[Common]\nKey=\xC3\xA4\nKey=later\n", "later"},
+        {"control bytes are removed", "[Common]\nKey=p\x01q\x1Br\n", "pqr"},
+        {"a NUL byte is removed", "[Common]\nKey=a\0b\n"s, "ab"},
+        {"a semicolon ends the value", "[Common]\nKey=a;b\n", "a"},
+        {"and the blank ahead of it goes", "[Common]\nKey=a ; b\n", "a"},
+        {"nothing ahead of the semicolon", "[Common]\nKey=;b\n", ""},
+        {"a comment line", "[Common]\n;Key=old\nKey=value\n", "value"},
+        {"a semicolon in the section line", "[Com;mon]\nKey=a\n[Common];x\nKey=b\n", "b"},
+        {"a section in a comment", ";[Common]\nKey=a\n", ""},
+        {"a section named in another case", "[COMMON]\nKey=value\n", "value"},
+        {"a key named in another case", "[Common]\nKEY=value\n", "value"},
+        {"blanks in the section name count", "[ Common ]\nKey=value\n", ""},
+        {"text behind the section name", "[Common]x\nKey=value\n", "value"},
+        {"a section line is not indented", " [Common]\nKey=value\n", ""},
+        {"a section line needs its end", "[Common\nKey=value\n", ""},
+        {"one without is a line like others", "[Common]\n[Other\nKey=value\n", "value"},
+        {"ahead of any section", "Key=value\n", ""},
+        {"in another section", "[Other]\nKey=value\n[Common]\n", ""},
+        {"behind another section", "[Other]\nKey=a\n[Common]\nKey=b\n", "b"},
+        {"the section ends at the next", "[Common]\n[Other]\nKey=value\n", ""},
+        {"the section twice", "[Common]\nA=1\n[Other]\n[common]\nKey=value\n", "value"},
+        {"the first match wins", "[Common]\nKey=first\nKey=second\n", "first"},
+        {"an empty one does not match", "[Common]\nKey=\nKey= \nKey=later\n", "later"},
+        {"an empty one, and a later section", "[Common]\nKey=\n[COMMON]\nKey=later\n", "later"},
+        {"an indented line never matches", "[Common]\n Key=value\n", ""},
+        {"a longer name", "[Common]\nKey2=value\n", ""},
+        {"a shorter name", "[Common]\nKe=value\n", ""},
+        {"no delimiter", "[Common]\nKey\nKeyvalue\n", ""},
+        {"an old tail behind the match", "[Common]\nKey=1\n345\nKey=2\n", "1"},
+    };
+    for (const ReadCase& c : cases) {
+        WriteText(FILE_NAME, c.text);
+        EXPECT_EQ(Read("Common", "Key"), Found(c.value)) << c.what;
+    }
+}
+
+TEST(PrivateProfile, ALineIsCutAt1023PrintableBytesAndItsRestIsNoOtherLine)
+{
+    for (const size_t length : {1022U, 1023U, 1024U, 1025U, 5000U, 100000U}) {
+        const std::string line = "Key=" + std::string(length - 4, 'v');
+        WriteText(FILE_NAME, "[Common]\n" + line + "\nNext=found\n");
+        EXPECT_EQ(Read("Common", "Key"), Found(line.substr(4, 1019))) << length;
+        EXPECT_EQ(Read("Common", "Next"), Found("found")) << length;
+    }
+}
+
+TEST(PrivateProfile, TheRestOfALongLineIsDropped)
+{
+    WriteText(FILE_NAME, "[Common]\n" + std::string(1023, 'x') + "[Other]\nKey=a\n" + std::string(1023, ';') +
+                             "Key=b\n" + std::string(1023, 'x') + "Key=c\n");
+    EXPECT_EQ(Read("Common", "Key"), Found("a"));
+    EXPECT_EQ(Read("Other", "Key"), NOTHING);
+}
+
+TEST(PrivateProfile, DroppedBytesDoNotCountIntoALine)
+{
+    WriteText(FILE_NAME,
+              "[Common]\n" + std::string(3000, '\t') + "Key=" + std::string(3000, '\xFF') + "value\n");
+    EXPECT_EQ(Read("Common", "Key"), Found("value"));
+}
+
+TEST(PrivateProfile, AValueThatDoesNotFitIsCut)
+{
+    WriteText(FILE_NAME, "[Common]\nKey=value\n");
+    EXPECT_EQ(Read("Common", "Key", 6), Found("value"));
+    EXPECT_EQ(Read("Common", "Key", 5), Found("valu"));
+    EXPECT_EQ(Read("Common", "Key", 2), Found("v"));
+    EXPECT_EQ(Read("Common", "Key", 1), NOTHING);
+}
+
+TEST(PrivateProfile, ASizeOfNothingLeavesTheBufferAlone)
+{
+    WriteText(FILE_NAME, "[Common]\nKey=value\n");
+    char byte = '#';
+    EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", &byte, 0, FILE_NAME), 0U);
+    EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", &byte, 0, "/tmp/absent"), 0U);
+    EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", nullptr, 0, FILE_NAME), 0U);
+    EXPECT_EQ(byte, '#');
+}
+
+TEST(PrivateProfile, WhatIsNoRegularFileReadsAsEmptyAtOnce)
+{
+    ASSERT_EQ(mkfifo("/tmp/fifo.ini", 0644), 0);
+    EXPECT_EQ(Read("Common", "Key", 64, "default", "/tmp/fifo.ini"), NOTHING);
+    EXPECT_EQ(Read("Common", "Key", 64, "default", "/tmp"), NOTHING);
+    EXPECT_EQ(Read("Common", "Key", 64, "default", "/dev/zero"), NOTHING);
+}
+
+TEST(PrivateProfile, TheLocaleChangesNothing)
+{
+    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    WriteText(FILE_NAME, "[COMMON]\nPUBLISHERID=\xC3\x84p\xE9\n");
+    EXPECT_EQ(Read("common", "publisherid"), Found("p"));
+}
+
+TEST(PrivateProfile, RubbishDoesNoHarm)
+{
+    std::mt19937 random(4711);
+    const std::string marks = "[]=; \t\n\nKeyCommon";
+    for (int round = 0; round < 300; ++round) {
+        std::string text = "[Common]\nFirst=sound\n";
+        for (int count = 0; count < 3000; ++count) {
+            const auto number = random();
+            text += number % 2 == 0 ? marks[number / 2 % marks.size()] : static_cast<char>(number >> 8);
+        }
+        WriteText(FILE_NAME, text);
+        ASSERT_EQ(Read("Common", "First", 16), Found("sound"));
+        const Reading reading = Read("Common", "Key", 16);
+        ASSERT_EQ(reading.length, reading.text.size());
+        for (const char byte : reading.text) {
+            ASSERT_TRUE(byte >= 0x20 && byte <= 0x7E);
+        }
+    }
+}
+
+struct NumberCase
+{
+    const char* line;
+    UINT number;
+};
+
+TEST(PrivateProfile, NumberTable)
+{
+    const NumberCase cases[] = {
+        {"Key=42", 42},  {"Key=-1", 0xFFFFFFFF}, {"Key= 7 apples", 7}, {"Key=007", 7},
+        {"Key=0x10", 0}, {"Key=apples", 0},      {"Key=;42", 5}, // an empty value
+        {"Key=", 5},     {"Other=42", 5},        {"Key=\nKey=9", 9},   {"Key=2147483647", 2147483647},
+    };
+    for (const NumberCase& c : cases) {
+        WriteText(FILE_NAME, std::string("[Common]\n") + c.line + "\n");
+        EXPECT_EQ(GetPrivateProfileIntA("Common", "Key", 5, FILE_NAME), c.number) << c.line;
+    }
+    EXPECT_EQ(GetPrivateProfileIntA("Common", "Key", -1, "/tmp/absent"), 0xFFFFFFFFU);
+}
+
+TEST_F(PrivateProfileDeathTest, SectionAndKeyMustBeNamed)
+{
+    char text[8];
+    EXPECT_DEATH(GetPrivateProfileStringA(nullptr, "Key", "", text, sizeof text, FILE_NAME),
+                 "Assertion `lpAppName != NULL' failed");
+    EXPECT_DEATH(GetPrivateProfileStringA("Common", nullptr, "", text, sizeof text, FILE_NAME),
+                 "Assertion `lpKeyName != NULL' failed");
+    EXPECT_DEATH(GetPrivateProfileIntA(nullptr, "Key", 0, FILE_NAME), "Assertion `lpAppName != NULL' failed");
+    EXPECT_DEATH(GetPrivateProfileIntA("Common", nullptr, 0, FILE_NAME),
+                 "Assertion `lpKeyName != NULL' failed");
+}

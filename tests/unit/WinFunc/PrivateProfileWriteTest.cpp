@@ -1,0 +1,414 @@
+// Writing private profile files: the file's bytes behind each write, and the lines that a failure logs.
+#include "ChildProcess.h"
+#include "OrdinaryRights.h"
+#include "StdoutCapture.h"
+#include "TextFiles.h"
+#include "Win_def.h"
+#include "Win_def_log.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstddef>
+#include <gtest/gtest.h>
+#include <linux/audit.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+
+namespace {
+
+const char FILE_NAME[] = "/tmp/a.ini";
+
+using namespace std::string_literals;
+
+std::string Read(const char* section, const char* key, const char* file = FILE_NAME)
+{
+    char text[2048];
+    GetPrivateProfileStringA(section, key, "cannot be opened", text, sizeof text, file);
+    return text;
+}
+
+mode_t Mode(const char* path)
+{
+    struct stat info = {};
+    EXPECT_EQ(stat(path, &info), 0);
+    return info.st_mode & 07777;
+}
+
+/// The lines that a call put out, at the program's own log level.
+template <class Call>
+std::string Logged(Call call)
+{
+    SetLogLevel(3);
+    StdoutCapture output;
+    call();
+    return output.Stop();
+}
+
+/// From here on every read of a file fails with EIO.
+bool BreakReading()
+{
+    sock_filter program[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_read, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EIO),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog filter = {sizeof program / sizeof program[0], program};
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
+}
+
+using PrivateProfileWriteDeathTest = testing::Test;
+
+} // namespace
+
+// ---------------------------------------------------------------------------------------------------------------------
+// One key
+
+struct KeyCase
+{
+    const char* what;
+    std::string before;
+    const char* key;
+    const char* value;
+    std::string behind; // empty: refused, the file stays as it was
+};
+
+TEST(PrivateProfileWrite, KeyTable)
+{
+    const KeyCase cases[] = {
+        {"an empty file", "", "Key", "value", "[Common]\nKey=value\n"},
+        {"a new section", "[Other]\nA=1\n", "Key", "value", "[Other]\nA=1\n[Common]\nKey=value\n"},
+        {"behind an unfinished line", "[Other]\nA=1", "Key", "value", "[Other]\nA=1\n[Common]\nKey=value\n"},
+        {"behind two bytes", "ab", "Key", "value", "ab\n[Common]\nKey=value\n"},
+        {"behind one byte", "a", "Key", "value", "a[Common]\nKey=value\n"},
+        {"behind one line feed", "\n", "Key", "value", "\n[Common]\nKey=value\n"},
+        {"a new key becomes the first", "[Common]\nA=1\nB=2\n", "Key", "value",
+         "[Common]\nKey=value\nA=1\nB=2\n"},
+        {"in an empty section", "[Common]\n", "Key", "value", "[Common]\nKey=value\n"},
+        {"a section between others", "[A]\nKey=0\n[Common]\n[B]\nKey=9\n", "Key", "value",
+         "[A]\nKey=0\n[Common]\nKey=value\n[B]\nKey=9\n"},
+        {"a section that ends in a foreign system's way", "[Common]\r\nA=1\r\n", "Key", "value",
+         "[Common]\nKey=value\n\nA=1\r\n"},
+        {"a value of the same length", "[Common]\nKey=abc\nB=2\n", "Key", "xyz", "[Common]\nKey=xyz\nB=2\n"},
+        {"a longer value", "[Common]\nKey=1\nB=2\n", "Key", "12345", "[Common]\nKey=12345\nB=2\n"},
+        {"a shorter value leaves the old end behind", "[Common]\nKey=12345\nB=abcd\n", "Key", "1",
+         "[Common]\nKey=1\nB=abcd\nbcd\n"},
+        {"an empty value", "[Common]\nKey=1\n", "Key", "", "[Common]\nKey=\n\n"},
+        {"an empty value becomes one", "[Common]\nKey=\nB=2\n", "Key", "value", "[Common]\nKey=value\nB=2\n"},
+        {"a blank ahead of the equals sign is the delimiter", "[Common]\nKey = 1\n", "Key", "234",
+         "[Common]\nKey 234\n"},
+        {"a tab too", "[Common]\nKey\t=1\n", "Key", "2", "[Common]\nKey\t2\n\n"},
+        {"case matters for the key", "[Common]\nKEY=old\n", "Key", "new", "[Common]\nKey=new\nKEY=old\n"},
+        {"case matters for the section", "[COMMON]\nKey=old\n", "Key", "new",
+         "[COMMON]\nKey=old\n[Common]\nKey=new\n"},
+        {"the tail of an earlier key", "[Common]\nMyKey=1\nKey=2\n", "Key", "3",
+         "[Common]\nMyKey=3\nKey=2\n"},
+        {"a place in an earlier value", "[Common]\nA=Key x\nKey=2\n", "Key", "3",
+         "[Common]\nA=Key 3\nKey=2\n"},
+        {"the section's name in a value", "[A]\nB=[Common] \nC=1\n", "Key", "v",
+         "[A]\nB=[Common]\nKey=v\n\nC=1\n"},
+        {"a bracket in a value hides later keys", "[Common]\nA=[x]\nKey=1\n", "Key", "2",
+         "[Common]\nKey=2\nA=[x]\nKey=1\n"},
+        {"the key on an unfinished last line", "[Common]\nA=1\nKey=old", "Key", "new", ""},
+        {"the key without a delimiter on the last line", "[Common]\nA=1\nKey", "Key", "new", ""},
+        {"the section line ends the file", "[A]\nB=1\n[Common]", "Key", "new", ""},
+        {"the section line is the file", "[Common]", "Key", "new", ""},
+        {"a key without a name", "[Common]\nA=1\n", "", "new", ""},
+        {"bytes behind a NUL stay", "[Common]\nKey=1\n\0\xFFrest\n"s, "Key", "2",
+         "[Common]\nKey=2\n\0\xFFrest\n"s},
+        {"a key behind a NUL is not seen", "[Common]\n\0Key=1\n"s, "Key", "2", "[Common]\nKey=2\n\0Key=1\n"s},
+        {"a section behind a NUL is not seen", "a\0\n[Common]\nKey=1\n"s, "Key", "2",
+         "a\0\n[Common]\nKey=1\n[Common]\nKey=2\n"s},
+        {"a NUL ends the section line", "[Common]\0\nKey=1\n"s, "Key", "2", ""},
+        {"a NUL ends the key's line", "[Common]\nKey=1\0\n"s, "Key", "2", ""},
+        {"bytes above 126 stay", "[Common]\nN=\xC3\xA4\nKey=1\n", "Key", "\xC3\xBC",
+         "[Common]\nN=\xC3\xA4\nKey=\xC3\xBC\n"},
+    };
+    for (const KeyCase& c : cases) {
+        SCOPED_TRACE(c.what);
+        WriteText(FILE_NAME, c.before);
+        BOOL result = FALSE;
+        EXPECT_EQ(Logged([&] { result = WritePrivateProfileStringA("Common", c.key, c.value, FILE_NAME); }),
+                  "");
+        EXPECT_EQ(result, c.behind.empty() ? FALSE : TRUE);
+        EXPECT_EQ(ReadText(FILE_NAME), c.behind.empty() ? c.before : c.behind);
+    }
+}
+
+TEST(PrivateProfileWrite, ANewFileHasMode0755ByTheKeyWriterAnd0600ByTheSectionWriter)
+{
+    umask(0);
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "value", FILE_NAME));
+    EXPECT_EQ(Mode(FILE_NAME), 0755U);
+    EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nKey=value\n");
+    EXPECT_TRUE(WritePrivateProfileSectionA("Common", "Key=value\0", "/tmp/b.ini"));
+    EXPECT_EQ(Mode("/tmp/b.ini"), 0600U);
+    EXPECT_EQ(ReadText("/tmp/b.ini"), "[Common]\nKey=value\n");
+}
+
+TEST(PrivateProfileWrite, AValueWrittenUnderAnotherCaseWinsAtTheNextRead)
+{
+    WriteText(FILE_NAME, "[Common]\nKEY=old\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "key", "new", FILE_NAME));
+    EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nkey=new\nKEY=old\n");
+    EXPECT_EQ(Read("Common", "Key"), "new");
+}
+
+TEST(PrivateProfileWrite, ASectionWrittenUnderAnotherCaseComesSecond)
+{
+    WriteText(FILE_NAME, "[COMMON]\nKey=first\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "second", FILE_NAME));
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Other", "only here", FILE_NAME));
+    EXPECT_EQ(ReadText(FILE_NAME), "[COMMON]\nKey=first\n[Common]\nOther=only here\nKey=second\n");
+    EXPECT_EQ(Read("Common", "Key"), "first");
+    EXPECT_EQ(Read("Common", "Other"), "only here");
+}
+
+TEST(PrivateProfileWrite, OneDigitOverFiveLeavesTheLastFourBytesOfTheFile)
+{
+    WriteText(FILE_NAME, "[Common]\nStacker3=12345\nName=abcdefg\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Stacker3", "7", FILE_NAME));
+    EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nStacker3=7\nName=abcdefg\nefg\n");
+    EXPECT_EQ(Read("Common", "Name"), "abcdefg");
+}
+
+TEST(PrivateProfileWrite, LongTextsAreWrittenWhole)
+{
+    const std::string before(3000000, 'x');
+    WriteText(FILE_NAME, "[A]\n" + before + "\n[Common]\nKey=1\n[Z]\n" + before);
+    const std::string value(100000, 'v');
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", value.c_str(), FILE_NAME));
+    EXPECT_EQ(ReadText(FILE_NAME), "[A]\n" + before + "\n[Common]\nKey=" + value + "\n[Z]\n" + before);
+}
+
+TEST(PrivateProfileWrite, AFileBeyondAnyTextIsRefused)
+{
+    WriteText(FILE_NAME, "[Common]\nKey=1\n");
+    std::filesystem::resize_file(FILE_NAME, 3ULL << 30);
+    EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "2", FILE_NAME));
+    EXPECT_FALSE(WritePrivateProfileSectionA("Common", "Key=2\0", FILE_NAME));
+    EXPECT_EQ(std::filesystem::file_size(FILE_NAME), 3ULL << 30);
+    EXPECT_EQ(Read("Common", "Key"), "1");
+}
+
+TEST(PrivateProfileWrite, ALinkIsFollowed)
+{
+    WriteText("/tmp/target.ini", "[Common]\nKey=1\nLong=" + std::string(500, 'x') + "\n");
+    ASSERT_EQ(symlink("/tmp/target.ini", FILE_NAME), 0);
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "2", FILE_NAME));
+    EXPECT_EQ(ReadText("/tmp/target.ini"), "[Common]\nKey=2\nLong=" + std::string(500, 'x') + "\n");
+    EXPECT_TRUE(std::filesystem::is_symlink(FILE_NAME));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Failures
+
+TEST(PrivateProfileWrite, AFileUnderNoFolderIsLogged)
+{
+    WriteText("/tmp/file", "");
+    const std::string lines =
+        Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", "/tmp/file/a.ini")); });
+    EXPECT_NE(lines.find("WritePrivateProfileStringA, lstat failed with errno=20\x1b"), std::string::npos)
+        << lines;
+}
+
+TEST(PrivateProfileWrite, AFileThatCannotBeOpenedIsLogged)
+{
+    WriteText(FILE_NAME, "[Common]\n");
+    ASSERT_EQ(chmod(FILE_NAME, 0444), 0);
+    ASSERT_TRUE(TakeAwayPrivileges());
+    const std::string lines =
+        Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", FILE_NAME)); });
+    EXPECT_NE(lines.find("WritePrivateProfileStringA, open(,O_RDWR) failed with errno=13\x1b"),
+              std::string::npos)
+        << lines;
+}
+
+TEST(PrivateProfileWrite, AFileThatCannotBeReadIsLogged)
+{
+    WriteText(FILE_NAME, "[Common]\n");
+    ASSERT_TRUE(BreakReading());
+    const std::string lines =
+        Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", FILE_NAME)); });
+    EXPECT_NE(lines.find("WritePrivateProfileStringA, read failed with errno=5\x1b"), std::string::npos)
+        << lines;
+}
+
+TEST(PrivateProfileWrite, AFileThatCannotBeMadeIsLogged)
+{
+    const std::string lines =
+        Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", "/tmp/absent/a.ini")); });
+    EXPECT_NE(lines.find("WritePrivateProfileStringA, open(,O_RDWR|O_CREAT|O_EXCL) failed with errno=2\x1b"),
+              std::string::npos)
+        << lines;
+}
+
+TEST(PrivateProfileWrite, AFailedWriteIsLogged)
+{
+    const std::string lines =
+        Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", "/dev/full")); });
+    EXPECT_NE(lines.find("WritePrivateProfileStringA, write failed with errno=28\x1b"), std::string::npos)
+        << lines;
+}
+
+TEST(PrivateProfileWrite, AShortWriteIsNotNoticed)
+{
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit tiny = {12, 12};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tiny), 0);
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "value", FILE_NAME));
+    EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nKey");
+}
+
+TEST(PrivateProfileWrite, BelowTheWarningLevelNothingIsLogged)
+{
+    SetLogLevel(1);
+    StdoutCapture output;
+    EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", "/tmp/absent/a.ini"));
+    EXPECT_EQ(output.Stop(), "");
+}
+
+TEST(PrivateProfileWrite, TheSectionWriterFailsInSilence)
+{
+    WriteText("/tmp/file", "");
+    const std::string lines = Logged([] {
+        EXPECT_FALSE(WritePrivateProfileSectionA("Common", "Key=v\0", "/tmp/file/a.ini"));
+        EXPECT_FALSE(WritePrivateProfileSectionA("Common", "Key=v\0", "/tmp/absent/a.ini"));
+        EXPECT_FALSE(WritePrivateProfileSectionA("Common", "Key=v\0", "/tmp"));
+        EXPECT_FALSE(WritePrivateProfileSectionA("Common", "Key=v\0", "/dev/full"));
+    });
+    EXPECT_EQ(lines, "");
+}
+
+TEST_F(PrivateProfileWriteDeathTest, NoArgumentMayBeNull)
+{
+    EXPECT_DEATH(WritePrivateProfileStringA(nullptr, "k", "v", FILE_NAME), "lpAppName != NULL");
+    EXPECT_DEATH(WritePrivateProfileStringA("s", nullptr, "v", FILE_NAME), "lpKeyName != NULL");
+    EXPECT_DEATH(WritePrivateProfileStringA("s", "k", nullptr, FILE_NAME), "lpString != NULL");
+    EXPECT_DEATH(WritePrivateProfileStringA("s", "k", "v", nullptr), "lpFileName != NULL");
+    EXPECT_DEATH(WritePrivateProfileSectionA(nullptr, "k=v\0", FILE_NAME), "lpAppName != NULL");
+    EXPECT_DEATH(WritePrivateProfileSectionA("s", nullptr, FILE_NAME), "lpKeyValuePairs != NULL");
+    EXPECT_DEATH(WritePrivateProfileSectionA("s", "k=v\0", nullptr), "lpFileName != NULL");
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// A whole section
+
+struct SectionCase
+{
+    const char* what;
+    std::string before;
+    std::string pairs;  // each ended by NUL; the string's own NUL ends the list
+    std::string behind; // empty: refused, the file stays as it was
+};
+
+TEST(PrivateProfileWrite, SectionTable)
+{
+    const SectionCase cases[] = {
+        {"an empty file", "", "A=1\0B=2\0"s, "[Common]\nA=1\nB=2\n"},
+        {"a new section", "[Other]\nC=3\n", "A=1\0B=2\0"s, "[Other]\nC=3\n[Common]\nA=1\nB=2\n"},
+        {"behind an unfinished line", "[Other]\nC=3", "A=1\0"s, "[Other]\nC=3\n[Common]\nA=1\n"},
+        {"behind one byte", "a", "A=1\0"s, "a[Common]\nA=1\n"},
+        {"all lines go, blank ones too", "[Common]\nA=1\n\nX=9\n\n[Z]\nz=1\n", "A=2\0BB=345\0"s,
+         "[Common]\nA=2\nBB=345\n[Z]\nz=1\n"},
+        {"a shorter section leaves the old end behind", "[Common]\nA=1\n[Z]\nz=1\n", ""s,
+         "[Common]\n[Z]\nz=1\nz=1\n"},
+        {"the last section", "[Z]\nz=1\n[Common]\nA=1\n", "A=2\0"s, "[Z]\nz=1\n[Common]\nA=2\n"},
+        {"the last section, shorter", "[Common]\nA=12345\n", "A=1\0"s, "[Common]\nA=1\n345\n"},
+        {"a section without lines", "[Common]\n[Z]\n", "A=1\0"s, "[Common]\nA=1\n[Z]\n"},
+        {"up to the next bracket, wherever", "[Common]\nA=1[2]\nB=1\n", "A=222\0"s,
+         "[Common]\nA=222\n[2]\nB=1\n"},
+        {"the section line ends the file", "[Z]\nz=1\n[Common]", "A=1\0"s, ""},
+        {"bytes behind a NUL stay", "[Common]\nA=1\n\0\xFFrest\n"s, "A=1\0B=2\0"s,
+         "[Common]\nA=1\nB=2\n\0\xFFrest\n"s},
+        {"a NUL ends the section line", "[Common]\0\nA=1\n"s, "A=2\0"s, ""},
+    };
+    for (const SectionCase& c : cases) {
+        SCOPED_TRACE(c.what);
+        WriteText(FILE_NAME, c.before);
+        EXPECT_EQ(WritePrivateProfileSectionA("Common", c.pairs.c_str(), FILE_NAME),
+                  c.behind.empty() ? FALSE : TRUE);
+        EXPECT_EQ(ReadText(FILE_NAME), c.behind.empty() ? c.before : c.behind);
+    }
+}
+
+TEST(PrivateProfileWrite, TheSectionWriterOpensWithATraceLine)
+{
+    SetLogLevel(4);
+    StdoutCapture output;
+    EXPECT_TRUE(WritePrivateProfileSectionA("Common", "A=1\0B=2\0", FILE_NAME));
+    const std::string lines = output.Stop();
+    EXPECT_NE(lines.find("WritePrivateProfileSectionA(\"Common\", \"A=1\", \"/tmp/a.ini\")\n"),
+              std::string::npos)
+        << lines;
+}
+
+TEST(PrivateProfileWrite, BelowTheDebugLevelThereIsNoTraceLine)
+{
+    EXPECT_EQ(Logged([] { EXPECT_TRUE(WritePrivateProfileSectionA("Common", "A=1\0", FILE_NAME)); }), "");
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Several processes on one file
+
+TEST(PrivateProfileProcess, AWriterAndReadersOfOneFile)
+{
+    constexpr int rounds = 400;
+    WriteText(FILE_NAME, "[Common]\nFirst=aaaaaaaa\nCount=1000\nLast=zzzzzzzz\n");
+    const pid_t writer = StartChild([] {
+        for (int round = 0; round < rounds; ++round) {
+            const std::string number = std::to_string(1000 + round);
+            if (!WritePrivateProfileStringA("Common", "Count", number.c_str(), FILE_NAME)) {
+                return false;
+            }
+        }
+        return true;
+    });
+    const auto read = [] {
+        UINT last = 1000;
+        while (last < 1000 + rounds - 1) {
+            const UINT number = GetPrivateProfileIntA("Common", "Count", 0, FILE_NAME);
+            if (number < last || Read("Common", "First") != "aaaaaaaa" ||
+                Read("Common", "Last") != "zzzzzzzz") {
+                return false;
+            }
+            last = number;
+        }
+        return true;
+    };
+    const pid_t reader = StartChild(read);
+    EXPECT_TRUE(read());
+    EXPECT_TRUE(WaitFor(reader));
+    EXPECT_TRUE(WaitFor(writer));
+}
+
+TEST(PrivateProfileProcess, WritersThatLetTheFileGrowLoseNothing)
+{
+    constexpr int keys = 100;
+    WriteText(FILE_NAME, "[Common]\nEnd=1\n");
+    const auto write = [](const char* prefix) {
+        for (int number = 0; number < keys; ++number) {
+            const std::string key = prefix + std::to_string(1000 + number);
+            if (!WritePrivateProfileStringA("Common", key.c_str(), "1", FILE_NAME)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    const pid_t first = StartChild([&] { return write("A"); });
+    const pid_t second = StartChild([&] { return write("B"); });
+    EXPECT_TRUE(WaitFor(first));
+    EXPECT_TRUE(WaitFor(second));
+    for (const std::string prefix : {"A", "B"}) {
+        for (int number = 0; number < keys; ++number) {
+            EXPECT_EQ(Read("Common", (prefix + std::to_string(1000 + number)).c_str()), "1");
+        }
+    }
+    EXPECT_EQ(Read("Common", "End"), "1");
+    EXPECT_EQ(ReadText(FILE_NAME).size(), std::string("[Common]\nEnd=1\n").size() + size_t{2 * keys} * 8);
+}

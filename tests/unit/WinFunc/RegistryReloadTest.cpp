@@ -1,0 +1,231 @@
+// Opening a key takes the file in anew, although an unchanged file is not parsed again: what the map holds
+// must not tell whether the parse was left out.
+#include "ChildProcess.h"
+#include "TextFiles.h"
+#include "WinFunc.h"
+
+#include <chrono>
+#include <ctime>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <thread>
+
+namespace {
+
+std::string ValueLine(int number)
+{
+    return "[HKLM/a]\n\"x\"=\"" + std::to_string(number) + "\"\n\n";
+}
+
+HKEY Open(const char* subKey = "a")
+{
+    HKEY key = nullptr;
+    EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, subKey, 0, KEY_READ, &key), 0);
+    return key;
+}
+
+std::string Value(HKEY key, const char* name = "x")
+{
+    char text[64] = {};
+    DWORD type = 0;
+    DWORD size = sizeof text;
+    const LSTATUS result = RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
+    return result == 0 ? text : "no value";
+}
+
+/// What a program that opens the key now reads.
+std::string OpenAndRead()
+{
+    HKEY key = Open();
+    std::string value = Value(key);
+    RegCloseKey(key);
+    return value;
+}
+
+void Set(HKEY key, const std::string& text, const char* name = "x")
+{
+    const auto* data = reinterpret_cast<const BYTE*>(text.c_str());
+    EXPECT_EQ(RegSetValueExA(key, name, 0, REG_SZ, data, static_cast<DWORD>(text.size() + 1)), 0);
+}
+
+/// Waits until the file's last change is so long ago that its time tells it from any later one.
+void WaitUntilSettled()
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (std::chrono::steady_clock::now() < end) {
+        struct stat info = {};
+        timespec now = {};
+        ASSERT_EQ(stat(REGISTRY_FILE, &info), 0);
+        clock_gettime(CLOCK_REALTIME_COARSE, &now);
+        const auto age = std::chrono::seconds(now.tv_sec - info.st_ctim.tv_sec) +
+                         std::chrono::nanoseconds(now.tv_nsec - info.st_ctim.tv_nsec);
+        if (age > std::chrono::milliseconds(200)) {
+            return;
+        }
+        std::this_thread::yield();
+    }
+    FAIL() << "the clock stands still";
+}
+
+/// Gives the file the modification time that it had before a change.
+void SetModified(const struct stat& before)
+{
+    const timespec times[] = {before.st_atim, before.st_mtim};
+    ASSERT_EQ(utimensat(AT_FDCWD, REGISTRY_FILE, times, 0), 0);
+}
+
+struct stat State()
+{
+    struct stat info = {};
+    EXPECT_EQ(stat(REGISTRY_FILE, &info), 0);
+    return info;
+}
+
+} // namespace
+
+TEST(RegistryReload, ChangesOfTheSameSizeWithinOneTickAreSeen)
+{
+    WriteRegistry(ValueLine(0));
+    for (int round = 0; round < 2000; ++round) {
+        WriteText(REGISTRY_FILE, ValueLine(round % 10));
+        ASSERT_EQ(OpenAndRead(), std::to_string(round % 10));
+    }
+}
+
+TEST(RegistryReload, AChangeByAnotherProcessIsSeen)
+{
+    WriteRegistry(ValueLine(1));
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "1");
+    EXPECT_EQ(OpenAndRead(), "1");
+    ASSERT_TRUE(WaitFor(StartChild([] {
+        WriteText(REGISTRY_FILE, ValueLine(2));
+        return true;
+    })));
+    EXPECT_EQ(OpenAndRead(), "2");
+    ASSERT_TRUE(WaitFor(StartChild([] {
+        HKEY key = Open();
+        Set(key, "3");
+        return RegCloseKey(key) == 0;
+    })));
+    EXPECT_EQ(OpenAndRead(), "3");
+}
+
+TEST(RegistryReload, AChangeThatKeepsSizeAndModificationTimeIsSeen)
+{
+    WriteRegistry(ValueLine(1));
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "1");
+    const struct stat before = State();
+    WriteText(REGISTRY_FILE, ValueLine(2));
+    SetModified(before);
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "2");
+}
+
+TEST(RegistryReload, AnotherFileInItsPlaceIsSeen)
+{
+    WriteRegistry(ValueLine(1));
+    const std::string other = std::string(CONF_DIR) + "/other";
+    WriteText(other, ValueLine(2));
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "1");
+    const struct stat before = State();
+    ASSERT_EQ(rename(other.c_str(), REGISTRY_FILE), 0);
+    SetModified(before);
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "2");
+}
+
+TEST(RegistryReload, AVanishedFileIsMadeAnewAndTheMapStays)
+{
+    WriteRegistry(ValueLine(1));
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "1");
+    ASSERT_EQ(unlink(REGISTRY_FILE), 0);
+    EXPECT_EQ(OpenAndRead(), "1");
+    EXPECT_EQ(ReadText(REGISTRY_FILE), "");
+    WriteText(REGISTRY_FILE, ValueLine(3));
+    EXPECT_EQ(OpenAndRead(), "3");
+}
+
+TEST(RegistryReload, AnyOpeningTakesAnUnsavedValueBack)
+{
+    for (const bool settled : {false, true}) {
+        WriteRegistry(ValueLine(1));
+        if (settled) {
+            WaitUntilSettled();
+        }
+        HKEY key = Open();
+        Set(key, "unsaved");
+        Set(key, "stays", "beyond the file");
+        EXPECT_EQ(Value(key), "unsaved");
+        RegCloseKey(Open());
+        EXPECT_EQ(Value(key), "1") << settled;
+        EXPECT_EQ(Value(key, "beyond the file"), "stays") << settled;
+        RegCloseKey(key);
+        EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\"beyond the file\"=\"stays\"\n\"x\"=\"1\"\n\n")
+            << settled;
+    }
+}
+
+TEST(RegistryReload, AValueThatTheFormatCannotHoldComesBackAsTheFileSays)
+{
+    WriteRegistry(ValueLine(1));
+    HKEY key = Open();
+    Set(key, "cut\"here");
+    RegCloseKey(key);
+    EXPECT_EQ(g_Registry["HKLM/a"].stringValues["x"], "cut\"here");
+    EXPECT_EQ(OpenAndRead(), "cut");
+
+    key = Open();
+    Set(key, "cut\"here");
+    RegCloseKey(key);
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "cut");
+}
+
+TEST(RegistryReload, ADeletedValueIsGoneFromTheFileAndStaysInTheMap)
+{
+    for (const bool settled : {false, true}) {
+        WriteRegistry("[HKLM/a]\n\"x\"=\"1\"\n\"y\"=\"2\"\n\n");
+        if (settled) {
+            WaitUntilSettled();
+        }
+        HKEY key = Open();
+        EXPECT_EQ(RegDeleteValueA(key, "y"), 0);
+        RegCloseKey(key);
+        EXPECT_EQ(ReadText(REGISTRY_FILE), ValueLine(1));
+        if (settled) {
+            WaitUntilSettled();
+        }
+        key = Open();
+        EXPECT_EQ(Value(key, "y"), "2");
+        EXPECT_EQ(Value(key), "1");
+        RegCloseKey(key);
+    }
+}
+
+TEST(RegistryReload, ADeletedKeyIsGoneFromTheFileAndStaysInTheMap)
+{
+    WriteRegistry(ValueLine(1) + "[HKLM/b]\n\n");
+    WaitUntilSettled();
+    RegCloseKey(Open("b"));
+    EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, "b"), 0);
+    RegCloseKey(Open("b"));
+    EXPECT_EQ(ReadText(REGISTRY_FILE), ValueLine(1));
+}
+
+TEST(RegistryReload, AFileOfTheFutureIsReadEachTime)
+{
+    WriteRegistry(ValueLine(1));
+    timespec times[] = {{0, UTIME_NOW}, {0, 0}};
+    clock_gettime(CLOCK_REALTIME, &times[1]);
+    times[1].tv_sec += 3600;
+    ASSERT_EQ(utimensat(AT_FDCWD, REGISTRY_FILE, times, 0), 0);
+    EXPECT_EQ(OpenAndRead(), "1");
+    WriteText(REGISTRY_FILE, ValueLine(2));
+    ASSERT_EQ(utimensat(AT_FDCWD, REGISTRY_FILE, times, 0), 0);
+    EXPECT_EQ(OpenAndRead(), "2");
+}
