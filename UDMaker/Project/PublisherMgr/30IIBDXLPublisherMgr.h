@@ -1,0 +1,14 @@
+// One BDXL drive, second series.
+#pragma once
+
+#include "SDPublisherMgr.h"
+
+class C30IIBDXLPublisherMgr : public CSDPublisherMgr
+{
+public:
+    using CSDPublisherMgr::CSDPublisherMgr;
+
+    UINT GetPublisherMgrType() override;
+    bool IsSupportPublishMode(UINT uiPublishMode) override;
+    bool IsSupportDiscType(UINT uiDiscType) override;
+};

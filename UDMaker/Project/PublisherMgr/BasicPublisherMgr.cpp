@@ -1,0 +1,387 @@
+#include "BasicPublisherMgr.h"
+
+#include "DeviceKey.h"
+#include "RegUtility.h"
+#include "Win_def_log.h"
+
+#include <string_view>
+#include <utility>
+
+namespace {
+
+/// A value as one line of the file: what stands behind a line end would read as a key of its own.
+std::string LineValue(const std::string& strValue)
+{
+    const std::string strLine = strValue.substr(0, strValue.find_first_of(std::string_view("\r\n\0", 3)));
+    return strLine.empty() ? REG_PUB_SETUP_STRING_DEFAULT : strLine;
+}
+
+std::string LineValue(UINT uiValue)
+{
+    return std::to_string(static_cast<int>(uiValue));
+}
+
+/// Every local model but the one without drives of its own.
+bool HasDriveSettings(UINT uiPublisherDevType)
+{
+    switch (uiPublisherDevType) {
+    case PUBMGR_PUBLISHERTYPE_BASIC:
+    case PUBMGR_PUBLISHERTYPE_SD:
+    case PUBMGR_PUBLISHERTYPE_30BD:
+    case PUBMGR_PUBLISHERTYPE_30BDA:
+    case PUBMGR_PUBLISHERTYPE_30II:
+    case PUBMGR_PUBLISHERTYPE_300MOD:
+    case PUBMGR_PUBLISHERTYPE_300II_DVD:
+    case PUBMGR_PUBLISHERTYPE_300II_BD:
+    case PUBMGR_PUBLISHERTYPE_300III_DVD:
+    case PUBMGR_PUBLISHERTYPE_300III_BD:
+    case PUBMGR_PUBLISHERTYPE_30II_BDXL:
+    case PUBMGR_PUBLISHERTYPE_300III_BDXL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The retries that the service goes by in the record's mode.
+UINT RetryCountInForce(const PUBLISHERINFO& sPublisherInfo)
+{
+    if (sPublisherInfo.uiPublishMode != PUBMGR_PUBLISHMODE_READ) {
+        return sPublisherInfo.uiRetryCountW;
+    }
+    return sPublisherInfo.bContinuePublish ? UINT{PUBMGR_DEFAULT_RETRYCOUNT_READ}
+                                           : sPublisherInfo.uiRetryCountR;
+}
+
+template <class T>
+void Assign(T& field, std::type_identity_t<T> value, bool& bChanged)
+{
+    if (field != value) {
+        field = value;
+        bChanged = true;
+    }
+}
+
+} // namespace
+
+CBasicPublisherMgr::CBasicPublisherMgr(bool bPublisherIDMode, CString strPath)
+    : m_bConnectPublisherIDMode(bPublisherIDMode), m_strSettingFolder(std::move(strPath))
+{
+    m_olAnsync.hEvent = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+    ASSERT(m_olAnsync.hEvent != nullptr);
+}
+
+CBasicPublisherMgr::~CBasicPublisherMgr()
+{
+    if (m_hPipeConnection != nullptr) {
+        CloseHandle(m_hPipeConnection);
+    }
+    CloseHandle(m_olAnsync.hEvent);
+}
+
+UINT CBasicPublisherMgr::GetPublisherMgrType()
+{
+    return PUBMGR_PUBLISHERTYPE_BASIC;
+}
+
+SettingFile CBasicPublisherMgr::FileOf(LPCTSTR szPublisherRegistID) const
+{
+    return SettingFile(m_strSettingFolder, szPublisherRegistID);
+}
+
+bool CBasicPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo, BOOL)
+{
+    ASSERT(szPublisherRegistID != nullptr);
+    ASSERT(psPublisherInfo != nullptr);
+    if (szPublisherRegistID[0] == '\0') {
+        return false;
+    }
+    psPublisherInfo->Clear();
+    const SettingFile file = FileOf(szPublisherRegistID);
+    if (!file.Exists()) {
+        if (GetLogLevel() >= 2) {
+            logViaAgent(4, "CBasicPublisherMgr::GetPublisherInfo, \"%s\" is not found", file.Path().c_str());
+        }
+        return false;
+    }
+    PUBLISHERINFO& info = *psPublisherInfo;
+    ReadCommonSettings(szPublisherRegistID, info);
+    info.uiUseDrive = file.ReadInt(REG_PUB_SETUP_VAL_USEDRIVE, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiRetryCount = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiRetryCountR = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT_R, PUBMGR_DEFAULT_RETRYCOUNT);
+    info.uiRetryCountW = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT_W, PUBMGR_DEFAULT_RETRYCOUNT);
+    info.bContinuePublish = file.ReadInt(REG_PUB_SETUP_VAL_READBACKCONTINUE, 1) != 0;
+    info.bAddErrorMark = file.ReadInt(REG_PUB_SETUP_VAL_ERRORMARK, REG_PUB_SETUP_INT_DEFAULT) != 0;
+    return true;
+}
+
+void CBasicPublisherMgr::ReadCommonSettings(LPCTSTR szPublisherRegistID, PUBLISHERINFO& info) const
+{
+    const SettingFile file = FileOf(szPublisherRegistID);
+    info.uiPublisherType = PUBMGR_CONNECTTYPE_LOCAL;
+    info.strPublisherRegistID = szPublisherRegistID;
+    info.strGUID = file.ReadString(REG_PUB_SETUP_VAL_GUID);
+    info.strPublisherName = file.ReadString(REG_PUB_SETUP_VAL_PUBLISH_NAME);
+    info.uiPublishMode = file.ReadInt(REG_PUB_SETUP_VAL_PUBLISH_MODE, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker1DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK1, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker2DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK2, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker3DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK3, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker4DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK4, REG_PUB_SETUP_INT_DEFAULT);
+    info.strPrinterName = file.ReadString(REG_PUB_SETUP_VAL_PRINTER_NAME);
+}
+
+bool CBasicPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
+{
+    ASSERT(!sPublisherInfo.strPublisherRegistID.empty());
+    std::string strBlock;
+    const auto add = [&strBlock](LPCTSTR szKey, const auto& value) {
+        strBlock += std::string(szKey) + "=" + LineValue(value) + '\0';
+    };
+    add(REG_PUB_SETUP_VAL_GUID, sPublisherInfo.strGUID);
+    add(REG_PUB_SETUP_VAL_PUBLISH_NAME, sPublisherInfo.strPublisherName);
+    add(REG_PUB_SETUP_VAL_PUBLISH_MODE, sPublisherInfo.uiPublishMode);
+    add(REG_PUB_SETUP_VAL_STK1, sPublisherInfo.uiStacker1DiscType);
+    add(REG_PUB_SETUP_VAL_STK2, sPublisherInfo.uiStacker2DiscType);
+    add(REG_PUB_SETUP_VAL_STK3, sPublisherInfo.uiStacker3DiscType);
+    add(REG_PUB_SETUP_VAL_STK4, sPublisherInfo.uiStacker4DiscType);
+    add(REG_PUB_SETUP_VAL_PRINTER_NAME, sPublisherInfo.strPrinterName);
+    add(REG_PUB_SETUP_VAL_TYPE, sPublisherInfo.uiPublisherType);
+    if (HasDriveSettings(sPublisherInfo.uiPublisherDevType)) {
+        add(REG_PUB_SETUP_VAL_USEDRIVE, sPublisherInfo.uiUseDrive);
+        add(REG_PUB_SETUP_VAL_RETRYCOUNT, RetryCountInForce(sPublisherInfo));
+        add(REG_PUB_SETUP_VAL_RETRYCOUNT_W, sPublisherInfo.uiRetryCountW);
+        add(REG_PUB_SETUP_VAL_RETRYCOUNT_R, sPublisherInfo.uiRetryCountR);
+        add(REG_PUB_SETUP_VAL_READBACKCONTINUE, UINT{sPublisherInfo.bContinuePublish});
+        add(REG_PUB_SETUP_VAL_ERRORMARK, UINT{sPublisherInfo.bAddErrorMark});
+    }
+    strBlock += '\0';
+
+    const SettingFile file = FileOf(sPublisherInfo.strPublisherRegistID.c_str());
+    if (!WritePrivateProfileSectionA(REG_PUB_SETUP_SECTION_COMMON, strBlock.c_str(), file.Path().c_str())) {
+        if (GetLogLevel() >= 2) {
+            logViaAgent(4,
+                        "CBasicPublisherMgr::UpdatePublisherInfo, WritePrivateProfileSection failed, \"%s\"",
+                        file.Path().c_str());
+        }
+        return false;
+    }
+    return true;
+}
+
+void CBasicPublisherMgr::WriteModeKeys(LPCTSTR szPublisherRegistID, const PUBLISHERINFO& sPublisherInfo) const
+{
+    const SettingFile file = FileOf(szPublisherRegistID);
+    const bool bWritten = file.WriteInt(REG_PUB_SETUP_VAL_PUBLISH_MODE, sPublisherInfo.uiPublishMode) &&
+                          file.WriteInt(REG_PUB_SETUP_VAL_STK3, sPublisherInfo.uiStacker3DiscType) &&
+                          file.WriteInt(REG_PUB_SETUP_VAL_STK4, sPublisherInfo.uiStacker4DiscType);
+    ASSERT(bWritten);
+}
+
+bool CBasicPublisherMgr::UpdatePublishMode(LPCTSTR szPublisherRegistID, const PUBLISHERINFO* psPublisherInfo,
+                                           bool bResetDefault, bool* pbSetDefault)
+{
+    if (szPublisherRegistID == nullptr) {
+        return false;
+    }
+    ASSERT(psPublisherInfo != nullptr);
+    if (pbSetDefault != nullptr) {
+        *pbSetDefault = false;
+    }
+    WriteModeKeys(szPublisherRegistID, *psPublisherInfo);
+    if (!bResetDefault) {
+        return true;
+    }
+
+    PUBLISHERINFO cur;
+    const bool bRead = GetPublisherInfo(szPublisherRegistID, &cur, FALSE);
+    ASSERT(bRead);
+    bool bSetDefault = false;
+    const bool bFitted = UpdatePublishInfoFromPubMode(&cur, bSetDefault);
+    ASSERT(bFitted);
+
+    bool bChanged = bSetDefault;
+    if (IsSupportUseDrive()) {
+        Assign(cur.uiUseDrive, psPublisherInfo->uiUseDrive, bChanged);
+    }
+    Assign(cur.uiRetryCount, psPublisherInfo->uiRetryCount, bChanged);
+    Assign(cur.bContinuePublish, psPublisherInfo->bContinuePublish, bChanged);
+    Assign(cur.uiRetryCountW, psPublisherInfo->uiRetryCountW, bChanged);
+    Assign(cur.uiRetryCountR, psPublisherInfo->uiRetryCountR, bChanged);
+    Assign(cur.bAddErrorMark, psPublisherInfo->bAddErrorMark, bChanged);
+    if (bChanged) {
+        const bool bUpdated = UpdatePublisherInfo(cur);
+        ASSERT(bUpdated);
+        ASSERT(pbSetDefault != nullptr);
+        *pbSetDefault = bSetDefault;
+    }
+    return true;
+}
+
+bool CBasicPublisherMgr::UpdatePublishInfoFromPubMode(PUBLISHERINFO* pstPubInfo, bool& bChanged)
+{
+    if (pstPubInfo == nullptr) {
+        return false;
+    }
+    PUBLISHERINFO& info = *pstPubInfo;
+    ASSERT(IsSupportPublishMode(info.uiPublishMode));
+    const auto supported = [this](UINT uiDiscType) {
+        return IsSupportDiscType(uiDiscType) ? uiDiscType : UINT{PUBMGR_STACKERDISCTYPE_CDR};
+    };
+
+    switch (info.uiPublishMode) {
+    case PUBMGR_PUBLISHMODE_NORMAL:
+        Assign(info.uiStacker1DiscType, supported(info.uiStacker1DiscType), bChanged);
+        Assign(info.uiStacker2DiscType, PUBMGR_STACKERDISCTYPE_OUTPUT, bChanged);
+        break;
+    case PUBMGR_PUBLISHMODE_BATCH:
+        Assign(info.uiStacker1DiscType, supported(info.uiStacker1DiscType), bChanged);
+        Assign(info.uiStacker2DiscType, info.uiStacker1DiscType, bChanged);
+        Assign(info.bAddErrorMark, true, bChanged);
+        break;
+    case PUBMGR_PUBLISHMODE_OUTPUT:
+        Assign(info.uiStacker1DiscType, supported(info.uiStacker1DiscType), bChanged);
+        Assign(info.uiStacker2DiscType, supported(info.uiStacker2DiscType), bChanged);
+        break;
+    case PUBMGR_PUBLISHMODE_ERRORRATE:
+    case PUBMGR_PUBLISHMODE_READ:
+        Assign(info.uiStacker1DiscType, PUBMGR_STACKERDISCTYPE_INPUT, bChanged);
+        Assign(info.uiStacker2DiscType, PUBMGR_STACKERDISCTYPE_OUTPUT, bChanged);
+        break;
+    default:
+        return false;
+    }
+
+    if (info.uiPublishMode == PUBMGR_PUBLISHMODE_BATCH || !IsSupportStacker4()) {
+        Assign(info.uiStacker3DiscType, PUBMGR_STACKERDISCTYPE_OUTPUT, bChanged);
+        Assign(info.uiStacker4DiscType, PUBMGR_STACKERDISCTYPE_NOTUSE, bChanged);
+        return true;
+    }
+    const auto receives = [](UINT uiDiscType) {
+        return uiDiscType == PUBMGR_STACKERDISCTYPE_NOTUSE || uiDiscType == PUBMGR_STACKERDISCTYPE_OUTPUT;
+    };
+    if (!receives(info.uiStacker3DiscType) || !receives(info.uiStacker4DiscType)) {
+        Assign(info.uiStacker3DiscType, PUBMGR_STACKERDISCTYPE_NOTUSE, bChanged);
+        Assign(info.uiStacker4DiscType, PUBMGR_STACKERDISCTYPE_OUTPUT, bChanged);
+    }
+    return true;
+}
+
+CString CBasicPublisherMgr::GetPublisherGUID(LPCTSTR szPublisherRegistID)
+{
+    ASSERT(szPublisherRegistID != nullptr);
+    const SettingFile file = FileOf(szPublisherRegistID);
+    if (!file.Exists()) {
+        if (GetLogLevel() >= 2) {
+            logViaAgent(4, "CBasicPublisherMgr::GetPublisherGUID, \"%s\" is not found", file.Path().c_str());
+        }
+        return "";
+    }
+    return file.ReadString(REG_PUB_SETUP_VAL_GUID);
+}
+
+UINT CBasicPublisherMgr::GetCopiesMax(LPCTSTR szPublisherRegistID, bool)
+{
+    ASSERT(szPublisherRegistID != nullptr);
+    PUBLISHERINFO info;
+    GetPublisherInfo(szPublisherRegistID, &info, FALSE);
+    ASSERT(IsSupportPublishMode(info.uiPublishMode));
+    switch (info.uiPublishMode) {
+    case PUBMGR_PUBLISHMODE_NORMAL:
+    case PUBMGR_PUBLISHMODE_BATCH:
+    case PUBMGR_PUBLISHMODE_OUTPUT:
+        return 1000;
+    case PUBMGR_PUBLISHMODE_ERRORRATE:
+    case PUBMGR_PUBLISHMODE_READ:
+        return 50;
+    default:
+        ASSERT(false);
+        return 0;
+    }
+}
+
+CString CBasicPublisherMgr::GetSupportWriteSpeedString(LPCTSTR szPublisherRegistID, UINT uiDrive)
+{
+    ASSERT(szPublisherRegistID != nullptr);
+    PUBLISHERINFO info;
+    CString strSpeeds;
+    if ((uiDrive == PUBMGR_USEDRIVE_DRIVE1 || uiDrive == PUBMGR_USEDRIVE_DRIVE2) &&
+        GetPublisherInfo(szPublisherRegistID, &info, FALSE)) {
+        CRegUtility::GetRegStrData(HKEY_LOCAL_MACHINE, DeviceKey(info.strGUID).c_str(),
+                                   uiDrive == PUBMGR_USEDRIVE_DRIVE1 ? REG_PRN_REG_VAL_DRV1_SUPPORT_WR_SPEED
+                                                                     : REG_PRN_REG_VAL_DRV2_SUPPORT_WR_SPEED,
+                                   &strSpeeds);
+    }
+    return strSpeeds;
+}
+
+bool CBasicPublisherMgr::IsSupportPublishMode(UINT uiPublishMode)
+{
+    return uiPublishMode == PUBMGR_PUBLISHMODE_NORMAL || uiPublishMode == PUBMGR_PUBLISHMODE_BATCH ||
+           uiPublishMode == PUBMGR_PUBLISHMODE_OUTPUT;
+}
+
+bool CBasicPublisherMgr::IsSupportDiscType(UINT uiDiscType)
+{
+    return uiDiscType == PUBMGR_STACKERDISCTYPE_CDR || uiDiscType == PUBMGR_STACKERDISCTYPE_DVDR ||
+           uiDiscType == PUBMGR_STACKERDISCTYPE_DVDRDL;
+}
+
+bool CBasicPublisherMgr::IsSupportUseDrive()
+{
+    return true;
+}
+
+bool CBasicPublisherMgr::IsSupportStacker4()
+{
+    return true;
+}
+
+bool CBasicPublisherMgr::StartConnection(LPCTSTR, DWORD*, DWORD*)
+{
+    return true;
+}
+
+bool CBasicPublisherMgr::EndConnection(DWORD)
+{
+    return true;
+}
+
+CString CBasicPublisherMgr::GetPublishID(DWORD, DWORD*)
+{
+    return "";
+}
+
+bool CBasicPublisherMgr::SendJobData(DWORD, const BYTE*, DWORD, int*, DWORD*)
+{
+    return true;
+}
+
+bool CBasicPublisherMgr::SendPRNData(DWORD, int, const BYTE*, DWORD, DWORD*)
+{
+    return true;
+}
+
+bool CBasicPublisherMgr::CommitJob(DWORD, int, DWORD*)
+{
+    return true;
+}
+
+bool CBasicPublisherMgr::SendDiscInfo(DWORD, int, const BYTE*, DWORD, DWORD*)
+{
+    return true;
+}
+
+CString CBasicPublisherMgr::GetHostName(LPCTSTR)
+{
+    return "";
+}
+
+CString CBasicPublisherMgr::GetDeviceInfo(LPCTSTR, DWORD, DWORD*)
+{
+    return "";
+}
+
+int CBasicPublisherMgr::GetCommunicateJobCount(LPCTSTR)
+{
+    return -1;
+}
