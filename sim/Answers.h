@@ -1,0 +1,17 @@
+// What the service answers to a request, from the state of the machines.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "Publisher.h"
+#include "Wire.h"
+
+namespace udsim {
+
+/// Carries out one request. `publisher` is the machine that it names, null when it names none or an unknown
+/// one; `all` are the machines of the room; `uniqueNumber` is one that no other request was given.
+Reply answer(const Request& request, Publisher* publisher, const std::vector<Publisher>& all,
+             uint64_t uniqueNumber);
+
+} // namespace udsim

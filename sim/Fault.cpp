@@ -1,0 +1,104 @@
+#include "Fault.h"
+
+#include <array>
+#include <utility>
+
+#include "Protocol.h"
+#include "Text.h"
+
+namespace udsim {
+
+namespace {
+
+constexpr std::array<std::pair<const char*, Fault::Kind>, 9> WORDS{{
+    {"refuse", Fault::Kind::refuse},
+    {"stall", Fault::Kind::stall},
+    {"wrong-id", Fault::Kind::wrongId},
+    {"short-header", Fault::Kind::shortHeader},
+    {"short-payload", Fault::Kind::shortPayload},
+    {"huge-length", Fault::Kind::hugeLength},
+    {"result", Fault::Kind::result},
+    {"close", Fault::Kind::close},
+    {"delay", Fault::Kind::delay},
+}};
+
+constexpr uint64_t HUGE_LENGTH = uint64_t{1} << 62;
+constexpr uint64_t LONGEST_DELAY = 3'600'000;
+
+} // namespace
+
+std::optional<Fault> Fault::parse(const std::string& text, std::string& error)
+{
+    const auto [word, argument] = splitFirstWord(text);
+    Fault fault;
+    bool known = false;
+    for (const auto& [name, kind] : WORDS) {
+        if (word == name) {
+            fault.kind = kind;
+            known = true;
+        }
+    }
+    if (!known) {
+        error = "unknown fault \"" + word + "\"";
+        return std::nullopt;
+    }
+    const bool takesNumber = fault.kind == Kind::result || fault.kind == Kind::delay;
+    if (!takesNumber && !argument.empty()) {
+        error = "the fault \"" + word + "\" takes no argument";
+        return std::nullopt;
+    }
+    if (takesNumber) {
+        const auto number = parseNumber(argument, LONGEST_DELAY);
+        if (!number) {
+            error = "the fault \"" + word + "\" needs a number up to " + std::to_string(LONGEST_DELAY);
+            return std::nullopt;
+        }
+        fault.number = *number;
+    }
+    return fault;
+}
+
+Delivery deliver(const Reply& reply, const Fault* fault)
+{
+    const std::string whole = encodeReply(reply);
+    Delivery delivery{.bytes = whole};
+    if (fault == nullptr) {
+        return delivery;
+    }
+    ByteWriter header;
+    switch (fault->kind) {
+    case Fault::Kind::refuse: // the listening socket is closed; a connection from before is treated as cut
+    case Fault::Kind::close:
+        delivery.bytes.clear();
+        delivery.close = true;
+        break;
+    case Fault::Kind::stall:
+        delivery.bytes.clear();
+        delivery.stall = true;
+        break;
+    case Fault::Kind::wrongId:
+        delivery.bytes = encodeReply({reply.control + 1, reply.result, reply.payload});
+        break;
+    case Fault::Kind::shortHeader:
+        delivery.bytes = whole.substr(0, HEADER_SIZE / 2);
+        delivery.close = true;
+        break;
+    case Fault::Kind::shortPayload:
+        delivery.bytes = whole.substr(0, HEADER_SIZE + reply.payload.size() / 2);
+        delivery.close = true;
+        break;
+    case Fault::Kind::hugeLength:
+        header.u64(reply.control).u64(reply.result).u64(HUGE_LENGTH);
+        delivery.bytes = header.bytes() + reply.payload;
+        break;
+    case Fault::Kind::result:
+        delivery.bytes = encodeReply({reply.control, fault->number, reply.payload});
+        break;
+    case Fault::Kind::delay:
+        delivery.delay = std::chrono::milliseconds(fault->number);
+        break;
+    }
+    return delivery;
+}
+
+} // namespace udsim

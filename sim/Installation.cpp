@@ -1,0 +1,127 @@
+#include "Installation.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include "LockedFile.h"
+#include "Protocol.h"
+#include "RegistryFile.h"
+#include "Text.h"
+
+namespace udsim {
+
+namespace {
+
+constexpr char DEVICE_ROOT[] = "HKLM/Software/ARVEN/Ulmar Disc Maker/Local/";
+constexpr char DEFAULT_RETRIES[] = "3";
+
+std::string settingPath(const std::string& registId)
+{
+    return std::string(SETTING_FOLDER) + "/" + registId + ".ini";
+}
+
+std::string settingText(const PublisherSetup& publisher)
+{
+    std::string text = "[Common]\nGUID=" + publisher.guid + "\nPublisherName=" + publisher.shownName +
+                       "\nPublishMode=" + std::to_string(publisher.mode);
+    for (size_t i = 0; i < publisher.stackers.size(); ++i) {
+        text += "\nStacker" + std::to_string(i + 1) + "=" + std::to_string(publisher.stackers[i].media);
+    }
+    text += "\nPrinterName=" + std::string(publisher.model->printerName) + "\nPublisherConnectionType=0\n";
+    if (publisher.model->drives > 0) {
+        const std::string retries = DEFAULT_RETRIES;
+        text += "UseDrive=0\nRetryTimes=" + retries + "\nRetryTimesW=" + retries +
+                "\nRetryTimesR=" + retries + "\nReadBackContinue=1\nAddErrorMark=1\n";
+    }
+    return text;
+}
+
+RegistryValues deviceValues(const Publisher& publisher)
+{
+    const Model& model = publisher.model();
+    RegistryValues values;
+    values.numbers["Connected"] = publisher.connected() ? 1 : 0;
+    values.numbers["DPType"] = model.deviceType;
+    values.numbers["USBMode"] =
+        publisher.connected() ? publisher.state().usbMode : static_cast<uint32_t>(USB_DISCONNECTED);
+    if (model.drives == 1) {
+        values.texts["DRVSupportWriteSpeed"] = model.writeSpeeds();
+    } else if (model.drives == 2) {
+        values.texts["DRV1SupportWriteSpeed"] = model.writeSpeeds();
+        values.texts["DRV2SupportWriteSpeed"] = model.writeSpeeds();
+    }
+    return values;
+}
+
+} // namespace
+
+bool makeFolders(std::string& error)
+{
+    for (const std::string& folder : {std::string(SETTING_FOLDER), std::string(INSTALL_FOLDER) + "/JOB"}) {
+        std::error_code failure;
+        std::filesystem::create_directories(folder, failure);
+        if (failure) {
+            error = folder + ": " + failure.message();
+            return false;
+        }
+    }
+    return true;
+}
+
+bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error)
+{
+    RegistryKeys keys;
+    for (const Publisher& publisher : publishers) {
+        keys[DEVICE_ROOT + publisher.state().guid] = deviceValues(publisher);
+    }
+    return writeRegistryKeys(REGISTRY, keys, error);
+}
+
+bool makeSetting(const PublisherSetup& publisher, std::string& error)
+{
+    const std::string path = settingPath(publisher.registId);
+    struct stat there
+    {
+    };
+    if (::stat(path.c_str(), &there) == 0) {
+        return true;
+    }
+    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
+    return file && file->write(settingText(publisher), error);
+}
+
+std::optional<Setting> readSetting(const std::string& registId)
+{
+    std::string error;
+    if (registId.empty() || registId.find('/') != std::string::npos) {
+        return std::nullopt;
+    }
+    const auto file = LockedFile::acquire(settingPath(registId), O_RDONLY | O_NONBLOCK, error);
+    const auto text = file ? file->read(error) : std::nullopt;
+    if (!text) {
+        return std::nullopt;
+    }
+    Setting setting;
+    for (const std::string& line : splitLines(*text)) {
+        const size_t equals = line.find('=');
+        if (equals == std::string::npos) {
+            continue;
+        }
+        const std::string key = trim(line.substr(0, equals));
+        const std::string value = trim(line.substr(equals + 1));
+        if (key == "GUID") {
+            setting.guid = value;
+        } else if (key == "PublisherName") {
+            setting.shownName = value;
+        } else if (key.size() == 8 && key.starts_with("Stacker") && key[7] >= '1' && key[7] <= '4') {
+            setting.media[static_cast<size_t>(key[7] - '1')] =
+                static_cast<uint32_t>(parseNumber(value, UINT32_MAX).value_or(media::NOT_USED));
+        }
+    }
+    return setting;
+}
+
+} // namespace udsim

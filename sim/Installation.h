@@ -1,0 +1,37 @@
+// What the service keeps in the installation's folder: device keys, setting files, and the folders
+// themselves.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Publisher.h"
+
+namespace udsim {
+
+inline constexpr char INSTALL_FOLDER[] = "/opt/arven/Ulmar Disc Maker";
+inline constexpr char REGISTRY[] = "/opt/arven/Ulmar Disc Maker/conf/registry.txt";
+inline constexpr char SETTING_FOLDER[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
+
+/// What the service reads of a setting file.
+struct Setting
+{
+    std::string guid;
+    std::string shownName;
+    std::array<uint32_t, 4> media{};
+};
+
+/// Makes the folders that are missing. False, with the reason, when one cannot be made.
+bool makeFolders(std::string& error);
+/// Brings the device keys up to date, all in one pass over the registry file.
+bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error);
+/// Makes the setting file of a registered publisher, unless it is there.
+bool makeSetting(const PublisherSetup& publisher, std::string& error);
+/// Reads a setting file; nothing when it does not exist, or when the id, which comes from a client, is no
+/// file name.
+std::optional<Setting> readSetting(const std::string& registId);
+
+} // namespace udsim

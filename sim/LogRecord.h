@@ -1,0 +1,22 @@
+// What the log agent takes: key-value lines in one datagram.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace udsim {
+
+struct LogRecord
+{
+    std::string message;
+    int priority = 0;     ///< a syslog number
+    std::string datagram; ///< the bytes as they came
+};
+
+/// Reads "MESSAGE=...\nPRIORITY=n\n". The message may itself hold line feeds; what stands behind the last
+/// PRIORITY line is not looked at. Nothing when either key is missing or the priority is no number from 0
+/// to 7.
+std::optional<LogRecord> parseLogRecord(std::string_view datagram);
+
+} // namespace udsim

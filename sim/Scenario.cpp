@@ -1,0 +1,435 @@
+#include "Scenario.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+
+#include "Protocol.h"
+#include "Text.h"
+
+namespace udsim {
+
+namespace {
+
+struct Entry
+{
+    size_t line = 0;
+    std::string key;
+    std::string value;
+};
+
+struct Section
+{
+    size_t line = 0;
+    std::string kind;
+    std::string name;
+    std::vector<Entry> entries;
+};
+
+constexpr size_t LONGEST_NAME = 64;
+constexpr size_t LONGEST_ID = 128;
+constexpr size_t LONGEST_SERIAL = 31;
+constexpr uint64_t MOST_PRINTS = 1'000'000;
+constexpr std::array<std::pair<const char*, uint32_t>, 8> MEDIA{{
+    {"CD-R", 1},
+    {"DVD-R", 6},
+    {"DVD-R DL", 7},
+    {"BD-R", 8},
+    {"BD-R DL", 9},
+    {"BD-R TL", 10},
+    {"BD-R QL", 11},
+    {"not used", media::NOT_USED},
+}};
+
+std::string at(size_t line, const std::string& what)
+{
+    return "line " + std::to_string(line) + ": " + what;
+}
+
+/// A text that can stand in a setting file and in the registry file, and as a file name.
+bool isPlainText(const std::string& text, size_t longest)
+{
+    return !text.empty() && text.size() <= longest && text.find_first_of("\\/\"[];=") == std::string::npos &&
+           std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });
+}
+
+std::optional<std::vector<Section>> readSections(const std::string& text, std::string& error)
+{
+    std::vector<Section> sections;
+    size_t number = 0;
+    for (const std::string& raw : splitLines(text)) {
+        ++number;
+        const std::string line = trim(raw);
+        if (line.empty() || line[0] == '#' || line[0] == ';') {
+            continue;
+        }
+        if (line[0] == '[') {
+            if (line.back() != ']') {
+                error = at(number, "a section without \"]\"");
+                return std::nullopt;
+            }
+            const auto [kind, name] = splitFirstWord(line.substr(1, line.size() - 2));
+            if (kind != "publisher" && kind != "event" && kind != "fault") {
+                error = at(number, "unknown section \"" + kind + "\" (publisher NAME, event or fault)");
+                return std::nullopt;
+            }
+            if ((kind == "publisher") == name.empty()) {
+                error = at(number, kind == "publisher" ? "a publisher needs a name: [publisher NAME]"
+                                                       : "the section \"" + kind + "\" takes no name");
+                return std::nullopt;
+            }
+            sections.push_back({number, kind, name, {}});
+            continue;
+        }
+        const size_t equals = line.find('=');
+        if (equals == std::string::npos) {
+            error = at(number, "neither a section nor \"key = value\"");
+            return std::nullopt;
+        }
+        if (sections.empty()) {
+            error = at(number, "a key ahead of the first section");
+            return std::nullopt;
+        }
+        Entry entry{number, trim(line.substr(0, equals)), trim(line.substr(equals + 1))};
+        const auto& before = sections.back().entries;
+        if (entry.key != "job" &&
+            std::any_of(before.begin(), before.end(), [&](const Entry& e) { return e.key == entry.key; })) {
+            error = at(number, "\"" + entry.key + "\" stands twice");
+            return std::nullopt;
+        }
+        sections.back().entries.push_back(std::move(entry));
+    }
+    return sections;
+}
+
+/// Sets `target` to the number, or says what is wrong with it.
+template <class Number>
+std::string setNumber(const Entry& entry, uint64_t highest, Number& target)
+{
+    const auto number = parseNumber(entry.value, highest);
+    if (!number) {
+        return "\"" + entry.key + "\" needs a number up to " + std::to_string(highest);
+    }
+    target = static_cast<Number>(*number);
+    return {};
+}
+
+std::string setYesNo(const Entry& entry, bool& target)
+{
+    const auto answer = parseYesNo(entry.value);
+    if (!answer) {
+        return "\"" + entry.key + "\" needs yes or no";
+    }
+    target = *answer;
+    return {};
+}
+
+std::string setTime(const Entry& entry, uint64_t& target)
+{
+    const auto time = parseDuration(entry.value);
+    if (!time || *time == 0) {
+        return "\"" + entry.key + "\" needs a time such as 250ms, 8s or 2m";
+    }
+    target = *time;
+    return {};
+}
+
+std::string setText(const Entry& entry, size_t longest, std::string& target)
+{
+    if (!isPlainText(entry.value, longest)) {
+        return "\"" + entry.key + "\" needs a text of up to " + std::to_string(longest) +
+               " bytes without any of \\ / \" [ ] ; =";
+    }
+    target = entry.value;
+    return {};
+}
+
+std::string setMedia(const Entry& entry, uint32_t& target)
+{
+    for (const auto& [name, value] : MEDIA) {
+        if (entry.value == name) {
+            target = value;
+            return {};
+        }
+    }
+    if (entry.value == "output") {
+        target = media::OUTPUT;
+        return {};
+    }
+    return "\"" + entry.value + "\" is no disc type";
+}
+
+std::string addJobs(const Entry& entry, PublisherSetup& setup)
+{
+    if (entry.key == "jobs") {
+        uint64_t count = 0;
+        std::string mistake = setNumber(entry, Publisher::MAX_JOBS, count);
+        for (uint64_t i = 1; i <= count; ++i) {
+            setup.jobs.push_back({.name = "Disc " + std::to_string(i)});
+        }
+        return mistake;
+    }
+    std::string error;
+    if (const auto job = parseJob(entry.value, error)) {
+        setup.jobs.push_back(*job);
+    }
+    return error;
+}
+
+/// "ink.cyan = 80" and "stacker1 = 50" mean what the commands "ink cyan 80" and "stacker 1 50" mean.
+std::string setSupply(const Entry& entry, PublisherSetup& setup)
+{
+    std::string error;
+    const bool isInk = entry.key.starts_with("ink.");
+    const std::string text = isInk ? "ink " + entry.key.substr(4) + " " + entry.value
+                                   : "stacker " + entry.key.substr(7) + " " + entry.value;
+    if (const auto command = Command::parse(text, error)) {
+        if (isInk) {
+            setup.ink[command->index] = command->number;
+        } else {
+            setup.stackers[command->index].discs = command->number;
+        }
+    }
+    return error;
+}
+
+/// What is wrong with the entry; empty when it was taken.
+std::string apply(const Entry& entry, PublisherSetup& setup)
+{
+    const std::string& key = entry.key;
+    if (key == "model" || key == "mode") {
+        return {}; // taken before: the others build on them
+    }
+    if (key == "name") {
+        return setText(entry, LONGEST_NAME, setup.shownName);
+    }
+    if (key == "guid") {
+        return setText(entry, LONGEST_ID, setup.guid);
+    }
+    if (key == "id") {
+        return setText(entry, LONGEST_ID, setup.registId);
+    }
+    if (key == "serial") {
+        return setText(entry, LONGEST_SERIAL, setup.serial);
+    }
+    if (key == "registered") {
+        return setYesNo(entry, setup.registered);
+    }
+    if (key == "connected") {
+        return setYesNo(entry, setup.connected);
+    }
+    if (key == "error") {
+        return setNumber(entry, 9999, setup.error);
+    }
+    if (key == "usb") {
+        return setNumber(entry, 16, setup.usbMode);
+    }
+    if (key == "maintenance-box") {
+        return setNumber(entry, 100, setup.maintenanceBox);
+    }
+    if (key == "print-count") {
+        return setNumber(entry, MOST_PRINTS, setup.printCount);
+    }
+    if (key == "disc-time") {
+        return setTime(entry, setup.discTime);
+    }
+    if (key == "jobs" || key == "job") {
+        return addJobs(entry, setup);
+    }
+    if (key.size() == 14 && key.starts_with("stacker") && key.ends_with(".media") && key[7] >= '1' &&
+        key[7] <= '4') {
+        return setMedia(entry, setup.stackers[static_cast<size_t>(key[7] - '1')].media);
+    }
+    if (key.starts_with("ink.") || key.starts_with("stacker")) {
+        return setSupply(entry, setup);
+    }
+    return "unknown key \"" + key + "\" of a publisher";
+}
+
+const Entry* find(const Section& section, const std::string& key)
+{
+    const auto found = std::find_if(section.entries.begin(), section.entries.end(),
+                                    [&](const Entry& entry) { return entry.key == key; });
+    return found == section.entries.end() ? nullptr : &*found;
+}
+
+std::string decimal(size_t number, size_t digits)
+{
+    std::string text = std::to_string(number);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
+
+/// What is wrong, with its line; empty when the publisher was added.
+std::string addPublisher(const Section& section, Scenario& scenario)
+{
+    const Entry* const model = find(section, "model");
+    if (model == nullptr) {
+        return at(section.line, "the publisher \"" + section.name + "\" needs a model");
+    }
+    const Model* const known = findModel(model->value);
+    if (known == nullptr) {
+        return at(model->line, "unknown model \"" + model->value + "\"");
+    }
+    PublisherSetup setup = PublisherSetup::ofModel(*known);
+    const size_t number = scenario.publishers.size() + 1;
+    setup.name = section.name;
+    setup.shownName = section.name;
+    setup.guid = "{5D2C0A10-7B3E-4C11-9A60-" + decimal(number, 12) + "}";
+    setup.registId = "{ARPUB20260105_" + std::to_string(number) + "}";
+    setup.serial = "SIM" + decimal(number, 7);
+    if (const Entry* const mode = find(section, "mode")) {
+        const auto value = parseNumber(mode->value, 9);
+        if (!value || !known->supportsMode(*value)) {
+            return at(mode->line, "the model has no publish mode \"" + mode->value + "\"");
+        }
+        setup.setMode(static_cast<uint32_t>(*value));
+    }
+    for (const Entry& entry : section.entries) {
+        if (const std::string mistake = apply(entry, setup); !mistake.empty()) {
+            return at(entry.line, mistake);
+        }
+    }
+    if (!isPlainText(setup.name, LONGEST_NAME)) {
+        return at(section.line, "a name has up to 64 bytes and none of \\ / \" [ ] ; =");
+    }
+    if (setup.jobs.size() > Publisher::MAX_JOBS) {
+        return at(section.line, "more than " + std::to_string(Publisher::MAX_JOBS) + " jobs");
+    }
+    for (const PublisherSetup& other : scenario.publishers) {
+        if (other.name == setup.name || other.guid == setup.guid || other.registId == setup.registId) {
+            return at(section.line, "another publisher has this name, guid or id");
+        }
+    }
+    scenario.publishers.push_back(setup);
+    return {};
+}
+
+bool isKnownPublisher(const Scenario& scenario, const std::string& name)
+{
+    return std::any_of(scenario.publishers.begin(), scenario.publishers.end(),
+                       [&](const PublisherSetup& setup) { return setup.name == name; });
+}
+
+std::string addEvent(const Section& section, Scenario& scenario)
+{
+    Event event;
+    bool hasTime = false;
+    for (const Entry& entry : section.entries) {
+        std::string mistake;
+        if (entry.key == "at" && entry.value == "0s") {
+            hasTime = true;
+        } else if (entry.key == "at") {
+            mistake = setTime(entry, event.at);
+            hasTime = true;
+        } else if (entry.key == "every") {
+            mistake = setTime(entry, event.every);
+        } else if (entry.key == "publisher") {
+            event.publisher = entry.value;
+            mistake =
+                isKnownPublisher(scenario, entry.value) ? "" : "unknown publisher \"" + entry.value + "\"";
+        } else if (entry.key == "do") {
+            event.command = Command::parse(entry.value, mistake).value_or(Command{});
+        } else {
+            mistake = "unknown key \"" + entry.key + "\" of an event";
+        }
+        if (!mistake.empty()) {
+            return at(entry.line, mistake);
+        }
+    }
+    if (find(section, "do") == nullptr || (!hasTime && event.every == 0)) {
+        return at(section.line, "an event needs \"do\", and \"at\" or \"every\"");
+    }
+    if (event.command.isForService() != event.publisher.empty()) {
+        return at(section.line, "an event needs a publisher, unless it concerns the service itself");
+    }
+    if (!hasTime) {
+        event.at = event.every;
+    }
+    scenario.events.push_back(event);
+    return {};
+}
+
+std::string addFault(const Section& section, Scenario& scenario)
+{
+    Fault fault;
+    const Entry* const what = find(section, "do");
+    if (what == nullptr) {
+        return at(section.line, "a fault needs \"do\"");
+    }
+    std::string mistake;
+    fault = Fault::parse(what->value, mistake).value_or(fault);
+    if (!mistake.empty()) {
+        return at(what->line, mistake);
+    }
+    for (const Entry& entry : section.entries) {
+        if (entry.key == "control") {
+            mistake = setNumber(entry, UINT64_MAX, fault.control);
+        } else if (entry.key == "times") {
+            mistake = setNumber(entry, UINT32_MAX, fault.times);
+        } else if (entry.key == "publisher") {
+            fault.publisher = entry.value;
+            mistake =
+                isKnownPublisher(scenario, entry.value) ? "" : "unknown publisher \"" + entry.value + "\"";
+        } else if (entry.key != "do") {
+            mistake = "unknown key \"" + entry.key + "\" of a fault";
+        }
+        if (mistake.empty() && fault.kind == Fault::Kind::refuse && entry.key != "do") {
+            mistake =
+                "\"refuse\" concerns every connection: it takes neither control nor publisher nor times";
+        }
+        if (!mistake.empty()) {
+            return at(entry.line, mistake);
+        }
+    }
+    scenario.faults.push_back(fault);
+    return {};
+}
+
+} // namespace
+
+std::optional<Scenario> Scenario::parse(const std::string& text, std::string& error)
+{
+    const auto sections = readSections(text, error);
+    if (!sections) {
+        return std::nullopt;
+    }
+    Scenario scenario;
+    // Publishers first: events and faults name them, wherever they stand in the text.
+    for (const bool publishers : {true, false}) {
+        for (const Section& section : *sections) {
+            if ((section.kind == "publisher") != publishers) {
+                continue;
+            }
+            std::string mistake = publishers                ? addPublisher(section, scenario)
+                                  : section.kind == "event" ? addEvent(section, scenario)
+                                                            : addFault(section, scenario);
+            if (!mistake.empty()) {
+                error = std::move(mistake);
+                return std::nullopt;
+            }
+        }
+    }
+    return scenario;
+}
+
+std::optional<Scenario> Scenario::load(const std::string& path, std::string& error)
+{
+    std::ifstream file(path, std::ios::binary);
+    file.peek(); // a folder opens, and fails here
+    if (!file.is_open() || file.bad()) {
+        error = path + ": " + std::strerror(errno);
+        return std::nullopt;
+    }
+    std::ostringstream text;
+    text << file.rdbuf();
+    auto scenario = parse(text.str(), error);
+    if (!scenario) {
+        error = path + ": " + error;
+    }
+    return scenario;
+}
+
+} // namespace udsim

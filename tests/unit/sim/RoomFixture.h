@@ -1,0 +1,28 @@
+// A room that is open for the length of a test.
+#pragma once
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Room.h"
+
+inline udsim::Scenario scenarioOf(const std::string& text)
+{
+    std::string error;
+    const auto scenario = udsim::Scenario::parse(text, error);
+    EXPECT_TRUE(scenario) << error;
+    return scenario.value_or(udsim::Scenario{});
+}
+
+class OpenRoom
+{
+public:
+    explicit OpenRoom(const std::string& text, double speed = 0) : room(scenarioOf(text), speed)
+    {
+        std::string error;
+        EXPECT_TRUE(room.start(error)) << error;
+    }
+
+    udsim::Room room;
+};
