@@ -1,1 +1,335 @@
-#include <QMainWindow>
+#include "PubSetup.h"
+
+#include "MyTreeWidgetItem.h"
+#include "PubMgrConst.h"
+#include "PublisherCtrlConst.h"
+#include "RegistIDKey.h"
+#include "RowTexts.h"
+#include "SelectionRules.h"
+
+#include "ui_aboutDialog.h"
+
+#include <QGuiApplication>
+#include <QHash>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSet>
+#include <QStyle>
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr QSize startSize(800, 300);
+constexpr int pollInterval = 5000;         // milliseconds, as are the two below
+constexpr int localPollPatience = 10000;   // how long closing waits for the local query
+constexpr int networkPollPatience = 60000; // and for the query of each network publisher
+constexpr Qt::Alignment numberAlignment = Qt::AlignRight | Qt::AlignVCenter;
+
+QString keyOf(const QTreeWidgetItem* row)
+{
+    return row->data(0, Qt::UserRole).toString();
+}
+
+/// An image with the other size that stands beside the plain one in the resource tree, so that nothing is
+/// scaled. A selected row shows it as it is: tinted with the colour of the selection it could not be made
+/// out.
+QIcon image(const char* name, const char* otherSize)
+{
+    QIcon icon;
+    for (const QString& suffix : {QString(), QLatin1Char('-') + QLatin1String(otherSize)}) {
+        const QString file = QStringLiteral(":/res/%1%2.png").arg(QLatin1String(name), suffix);
+        icon.addFile(file, QSize(), QIcon::Normal);
+        icon.addFile(file, QSize(), QIcon::Selected);
+    }
+    return icon;
+}
+
+} // namespace
+
+CPublisherMgr PubSetup::m_cPubMgr(true);
+
+PubSetup::PubSetup(QWidget* parent) : QMainWindow(parent)
+{
+    setupUi(this);
+    setUpImages();
+    setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size().expandedTo(startSize),
+                                    QGuiApplication::primaryScreen()->availableGeometry()));
+    m_timer = std::make_unique<QTimer>(this);
+    m_timer->setInterval(pollInterval);
+    m_statusPoll =
+        std::make_shared<StatusPoll>(m_cPubMgr, m_bSupportNetworkModel, [this](const StatusRow& row) {
+            emit updateStatusOneDeviceSignal(row.strPublisherRegistID, row.strDevType, row.strHostName,
+                                             row.strStatus, row.nJobWaiting, row.nJobSending,
+                                             row.strHDDAvail);
+        });
+
+    treePublisherList->addAction(deletePublisher);
+    treePublisherList->addAction(showPublisherProperty);
+    treePublisherList->setContextMenuPolicy(Qt::ActionsContextMenu);
+    if (getuid() != 0) {
+        addPublisher->setEnabled(false);
+        showSetting->setEnabled(false);
+        collectAndSaveLogs->setEnabled(false);
+    }
+    showPublisherProperty->setEnabled(false);
+    deletePublisher->setEnabled(false);
+    disableUnfinishedActions();
+
+    setUpColumns();
+    connectAll();
+    fetchStatusAsync();
+    m_timer->start();
+    updateList();
+}
+
+PubSetup::~PubSetup()
+{
+    m_timer->stop();
+    m_statusPoll->close();
+    m_statusPoll->waitForQueries(localPollPatience, networkPollPatience);
+}
+
+void PubSetup::setUpImages()
+{
+    setWindowIcon(image("UDSetup", "22"));
+    addPublisher->setIcon(image("A1-1", "48"));
+    showPublisherProperty->setIcon(image("A2-1", "48"));
+    udmMenu->setIcon(image("A4-1", "48"));
+    deletePublisher->setIcon(image("A5-1", "48"));
+}
+
+void PubSetup::setUpColumns()
+{
+    QHeaderView* header = treePublisherList->header();
+    if (m_bSupportNetworkModel) {
+        treePublisherList->setHeaderLabels({tr("Name"), tr("Model name"), tr("Host Name"), tr("Status"),
+                                            tr("Waiting"), tr("Transmitting"), tr("Available Space")});
+        header->setDefaultSectionSize(100);
+        header->resizeSection(colDevType, 120);
+        header->resizeSection(colStatus, 120);
+    } else {
+        editMenu->removeAction(addPublisher);
+        toolBar->removeAction(addPublisher);
+        colStatus = 2;
+        colJobWaiting = 3;
+        colHostName = colJobSending = colHDDAvail = -1;
+        treePublisherList->setHeaderLabels({tr("Name"), tr("Model name"), tr("Status"), tr("Waiting")});
+        header->setDefaultSectionSize(160);
+    }
+    for (const int column : {colJobWaiting, colJobSending, colHDDAvail}) {
+        treePublisherList->headerItem()->setTextAlignment(column, numberAlignment);
+    }
+    treePublisherList->sortByColumn(colName, Qt::AscendingOrder);
+}
+
+void PubSetup::connectAll()
+{
+    connect(treePublisherList, &QTreeWidget::itemSelectionChanged, this, &PubSetup::updateMenu);
+    connect(exitProgram, &QAction::triggered, this, &PubSetup::close);
+    connect(addPublisher, &QAction::triggered, this, &PubSetup::showAddDialog);
+    connect(deletePublisher, &QAction::triggered, this, &PubSetup::showDeleteDialog);
+    connect(showPublisherProperty, &QAction::triggered, this, &PubSetup::showPropertyDialog);
+    connect(showSetting, &QAction::triggered, this, &PubSetup::showSettingDialog);
+    connect(collectAndSaveLogs, &QAction::triggered, this, &PubSetup::doCollectAndSaveLogs);
+    connect(showAbout, &QAction::triggered, this, &PubSetup::showAboutDialog);
+    connect(treePublisherList, &QTreeWidget::itemDoubleClicked, this, &PubSetup::showPropertyDialog);
+    connect(m_timer.get(), &QTimer::timeout, this, &PubSetup::fetchStatusAsync);
+    connect(this, &PubSetup::updateListSignal, this, &PubSetup::updateList);
+    connect(this, &PubSetup::updateStatusOneDeviceSignal, this, &PubSetup::updateStatusOneDevice);
+}
+
+bool PubSetup::getPublisherInfo(const char* id, PUBLISHERINFO& info, BOOL& bConnection, long& lResultCommLib)
+{
+    return readPublisher(m_cPubMgr, id, info, bConnection, lResultCommLib);
+}
+
+void PubSetup::showWariningBeforeProperty(QWidget* parent)
+{
+    QMessageBox::warning(
+        parent, tr("ARVEN Ulmar Disc Setup"),
+        tr("The Publish Mode registered in the output device could not be obtained, so the previously "
+           "displayed  value is displayed.\nThe displayed Publish Mode and stacker settings may be different "
+           "from the values that are actually registered."));
+}
+
+QList<QTreeWidgetItem*> PubSetup::allRows() const
+{
+    return treePublisherList->findItems(QStringLiteral("*"), Qt::MatchWildcard, 0);
+}
+
+QTreeWidgetItem* PubSetup::findItemByPublisherRegistID(const QString& strPublisherRegistID)
+{
+    const QList<QTreeWidgetItem*> rows = allRows();
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const QTreeWidgetItem* row) {
+        return keyOf(row) == strPublisherRegistID;
+    });
+    return found == rows.end() ? nullptr : *found;
+}
+
+bool PubSetup::getCurrentPublisherInfo(PUBLISHERINFO& info, BOOL& bConnection)
+{
+    const QTreeWidgetItem* row = treePublisherList->currentItem();
+    ASSERT(row != nullptr);
+    long lResultCommLib = 0;
+    return getPublisherInfo(registIDFromKey(keyOf(row)).c_str(), info, bConnection, lResultCommLib);
+}
+
+QString PubSetup::getPublisherDevTypeStr(const PUBLISHERINFO& info, const CString& id)
+{
+    return modelText(m_cPubMgr.GetPublisherDevType(id.c_str()), info.uiNetPublisherType);
+}
+
+void PubSetup::fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINFO& info)
+{
+    static const QIcon networkPublisher = image("A7-1", "48");
+    static const QIcon localPublisher = image("A6-1", "48");
+
+    item->setText(colDevType, getPublisherDevTypeStr(info, info.strPublisherRegistID));
+    item->setIcon(0, info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK ? networkPublisher : localPublisher);
+    item->setText(colName, QString::fromStdString(info.strPublisherName));
+    item->setText(colStatus, tr("Not connected"));
+    item->setText(colJobWaiting, jobCountText(-1));
+    item->setText(colHostName, hostNameText(QString::fromStdString(info.strHostName)));
+    item->setText(colJobSending, jobCountText(-1));
+    item->setText(colHDDAvail, spaceText(""));
+    for (const int column : {colJobWaiting, colJobSending, colHDDAvail}) {
+        item->setTextAlignment(column, numberAlignment);
+    }
+    item->setData(0, Qt::UserRole, keyFromRegistID(info.strPublisherRegistID));
+}
+
+void PubSetup::updateMenu()
+{
+    const SelectionActions actions = selectionActions(treePublisherList->selectedItems().size());
+    showPublisherProperty->setEnabled(actions.showPublisherProperty);
+    deletePublisher->setEnabled(actions.deletePublisher);
+    disableUnfinishedActions();
+}
+
+void PubSetup::updateList()
+{
+    CStringArray ids;
+    m_cPubMgr.EnumRegistedPublisher(&ids);
+
+    QHash<QString, QTreeWidgetItem*> unregistered;
+    for (QTreeWidgetItem* row : allRows()) {
+        unregistered.insert(keyOf(row), row);
+    }
+    QSet<QString> shown;
+    for (const CString& id : ids) {
+        const QString key = keyFromRegistID(id);
+        if (unregistered.remove(key) > 0) {
+            shown.insert(key);
+        }
+    }
+    qDeleteAll(unregistered);
+
+    for (const CString& id : ids) {
+        const bool network = m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
+        PUBLISHERINFO info;
+        const QString key = keyFromRegistID(id);
+        if (!m_cPubMgr.GetPublisherInfo(id.c_str(), &info, network) || shown.contains(key)) {
+            continue;
+        }
+        auto row = std::make_unique<MyTreeWidgetItem>();
+        fillContentIntoTreeItem(row.get(), info);
+        treePublisherList->addTopLevelItem(row.release());
+        shown.insert(key);
+    }
+    repaint();
+}
+
+void PubSetup::fetchStatusAsync()
+{
+    emit updateListSignal();
+
+    CStringArray ids;
+    m_cPubMgr.EnumRegistedPublisher(&ids);
+    m_statusPoll->startLocal(ids);
+    if (m_bSupportNetworkModel) {
+        for (const CString& id : ids) {
+            m_statusPoll->startNetwork(id);
+        }
+    }
+}
+
+void PubSetup::fetchStatusOneDevice(const CString& strPublisherRegistID)
+{
+    m_statusPoll->fetchStatusOneDevice(strPublisherRegistID);
+}
+
+void PubSetup::updateStatusOneDevice(QString strPublisherRegistID, QString strDevType, QString strHostName,
+                                     QString strStatus, int nJobWaiting, int nJobSending, QString strHDDAvail)
+{
+    QTreeWidgetItem* row = findItemByPublisherRegistID(strPublisherRegistID);
+    if (!row) {
+        return;
+    }
+    row->setText(colDevType, strDevType);
+    row->setText(colStatus, strStatus);
+    row->setText(colJobWaiting, jobCountText(nJobWaiting));
+    if (m_bSupportNetworkModel) {
+        row->setText(colHostName, hostNameText(strHostName));
+        row->setText(colJobSending, jobCountText(nJobSending));
+        row->setText(colHDDAvail, strHDDAvail);
+    }
+}
+
+bool PubSetup::hasUnfinishedJobs(const CString& id)
+{
+    JobStatusArray jobs;
+    long result = 0;
+    m_cPubMgr.GetServiceJobStatusUnfinish(id.c_str(), &jobs, &result);
+    // A list that cannot be fetched does not stand in the way of a removal.
+    return result == 0 && std::any_of(jobs.rbegin(), jobs.rend(), [](const ST_PC_JOB_STATUS& job) {
+               return job.ulJobStatus != ARV_PC_JOB_CANCELLED && job.ulJobStatus != ARV_PC_JOB_FINISHED;
+           });
+}
+
+void PubSetup::showDeleteDialog()
+{
+    if (QMessageBox::question(this, tr("ARVEN Ulmar Disc Setup"), tr("Do you want to delete it?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        return;
+    }
+    PUBLISHERINFO info;
+    for (QTreeWidgetItem* row : treePublisherList->selectedItems()) {
+        const CString id = registIDFromKey(keyOf(row));
+        BOOL bConnection = 0;
+        long lResultCommLib = 0;
+        if (!getPublisherInfo(id.c_str(), info, bConnection, lResultCommLib)) {
+            delete row;
+            continue;
+        }
+        if (info.uiPublisherType == PUBMGR_CONNECTTYPE_LOCAL && hasUnfinishedJobs(id)) {
+            QMessageBox::information(
+                this, tr("ARVEN Ulmar Disc Setup"),
+                tr("There are jobs in the output device, so it could not be deleted.\nPlease delete it after "
+                   "all jobs are finished."));
+            return;
+        }
+        if (!m_cPubMgr.DeletePublisher(id.c_str())) {
+            QMessageBox::critical(this, tr("ARVEN Ulmar Disc Setup"), tr("Failed to change setting."));
+            return;
+        }
+        m_cPubMgr.ClearUnusedGUID();
+        delete row;
+        treePublisherList->repaint();
+    }
+}
+
+void PubSetup::showAboutDialog()
+{
+    auto dialog = new QDialog;
+    Ui::aboutDialog ui;
+    ui.setupUi(dialog);
+    dialog->setModal(true);
+    dialog->adjustSize();
+    dialog->setFixedSize(dialog->size());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    dialog->exec(); // deletes the dialog
+}

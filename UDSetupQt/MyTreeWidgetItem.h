@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QTreeWidgetItem>
+
+/// A row of the publisher list: names sort naturally, the other columns as plain text.
+class MyTreeWidgetItem : public QTreeWidgetItem
+{
+public:
+    using QTreeWidgetItem::QTreeWidgetItem;
+    bool operator<(const QTreeWidgetItem& other) const override;
+};

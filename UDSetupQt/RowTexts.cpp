@@ -1,0 +1,92 @@
+#include "RowTexts.h"
+
+#include "NW_Com_LibConst.h"
+#include "PubMgrConst.h"
+#include "PublisherCtrlConst.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+
+namespace {
+
+QString notConnected()
+{
+    return QCoreApplication::translate("PubSetup", "Not connected");
+}
+
+QString unreachableText(const StatusFacts& facts)
+{
+    if (facts.network && facts.connectResult == NCL_ERR_USER_NOT_REGISTERED) {
+        return QCoreApplication::translate("PubSetup", "Administrator not registered");
+    }
+    if (facts.network && facts.connectResult == NCL_ERR_APP_VERSION) {
+        return QCoreApplication::translate("PubSetup", "Unsupported version");
+    }
+    return notConnected();
+}
+
+QString fatalText(const StatusFacts& facts)
+{
+    return facts.fatalCode == ARV_PC_ERROR_OFFLINE ? notConnected()
+                                                   : QCoreApplication::translate("PubSetup", "Error");
+}
+
+} // namespace
+
+StatusDecision decideStatus(const StatusFacts& facts)
+{
+    if (!facts.reachable) {
+        return {unreachableText(facts), false, false};
+    }
+    if (facts.fatal) {
+        return {fatalText(facts), false, false};
+    }
+    return {QCoreApplication::translate("PubSetup", "Ready"), true, facts.network};
+}
+
+QString modelText(UINT devType, UINT netPublisherType)
+{
+    switch (devType) {
+    case PUBMGR_PUBLISHERTYPE_300III_DVD:
+    case PUBMGR_PUBLISHERTYPE_300III_BD:
+        return QStringLiteral("RT-300III");
+    case PUBMGR_PUBLISHERTYPE_300III_BDXL:
+        return QStringLiteral("RT-300III (BD-XL)");
+    case PUBMGR_PUBLISHERTYPE_30II:
+        return QStringLiteral("RT-30II");
+    case PUBMGR_PUBLISHERTYPE_30II_BDXL:
+        return QStringLiteral("RT-30II (BD-XL)");
+    case PUBMGR_PUBLISHERTYPE_NETWORK:
+        if (netPublisherType == PUBMGR_NPTYPE_300NII) {
+            return QStringLiteral("RT-300NII");
+        }
+        if (netPublisherType == PUBMGR_NPTYPE_300NII_BDXL) {
+            return QStringLiteral("RT-300NII (BD-XL)");
+        }
+        break;
+    default:
+        break;
+    }
+    return QStringLiteral("N/A");
+}
+
+QString jobCountText(int count)
+{
+    return count < 0 ? QStringLiteral("-") : QString::number(count);
+}
+
+QString hostNameText(const QString& hostName)
+{
+    return hostName.isEmpty() ? QStringLiteral("-") : hostName;
+}
+
+QString spaceText(const CString& bytes)
+{
+    if (bytes.empty()) {
+        return QStringLiteral("-");
+    }
+    constexpr long long bytesPerMiB = 1048576;
+    const long long wholeMiB = std::strtoll(bytes.c_str(), nullptr, 10) / bytesPerMiB;
+    return QString::asprintf("%.1lf GB", static_cast<double>(wholeMiB) / 1024.0);
+}

@@ -1,0 +1,13 @@
+// Which actions on publishers make sense for how many selected rows.
+#pragma once
+
+struct SelectionActions
+{
+    bool showPublisherProperty;
+    bool deletePublisher;
+};
+
+constexpr SelectionActions selectionActions(int selectedRows)
+{
+    return {selectedRows == 1, selectedRows >= 1};
+}

@@ -1,0 +1,141 @@
+#include "StatusPoll.h"
+
+#include "MyRunnable.h"
+#include "NW_Com_LibConst.h"
+#include "PubMgrConst.h"
+#include "PublisherCtrlConst.h"
+#include "RegistIDKey.h"
+#include "RowTexts.h"
+
+#include <QMutexLocker>
+#include <QThreadPool>
+
+#include <algorithm>
+
+namespace {
+
+/// Jobs that wait in the publisher's queue; 0 when the list cannot be fetched.
+int countWaitingJobs(CPublisherMgr& publisherMgr, const CString& id)
+{
+    JobStatusArray jobs;
+    long result = 0;
+    publisherMgr.GetServiceJobStatusUnfinish(id.c_str(), &jobs, &result);
+    if (result != 0) {
+        return 0;
+    }
+    return static_cast<int>(std::count_if(jobs.begin(), jobs.end(), [](const ST_PC_JOB_STATUS& job) {
+        return job.ulJobStatus == ARV_PC_JOB_WAITING;
+    }));
+}
+
+} // namespace
+
+bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& info, BOOL& bConnection,
+                   long& lResultCommLib)
+{
+    if (publisherMgr.GetConnectType(id) == PUBMGR_CONNECTTYPE_NETWORK) {
+        bConnection = publisherMgr.IsPossibleCommunicate(id, &lResultCommLib) ? 1 : 0;
+    } else {
+        bConnection = 1;
+    }
+    return publisherMgr.GetPublisherInfo(id, &info, bConnection == 0);
+}
+
+StatusPoll::StatusPoll(CPublisherMgr& publisherMgr, bool bSupportNetworkModel, Report report)
+    : m_cPubMgr(publisherMgr), m_bSupportNetworkModel(bSupportNetworkModel), m_report(std::move(report))
+{
+}
+
+void StatusPoll::startLocal(const CStringArray& ids)
+{
+    if (!m_mtxUpdateStatusLocal.tryLock(0)) {
+        return;
+    }
+    QThreadPool::globalInstance()->start(new MyRunnable([self = shared_from_this(), ids] {
+        const QMutexLocker running(&self->m_mtxUpdateStatusLocal);
+        for (const CString& id : ids) {
+            if (self->m_closed) {
+                return;
+            }
+            if (self->m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_LOCAL) {
+                self->fetchStatusOneDevice(id);
+            }
+        }
+    }));
+    m_mtxUpdateStatusLocal.unlock();
+}
+
+void StatusPoll::startNetwork(const CString& id)
+{
+    QMutex& mutex = m_mtxUpdateStatusNetwork[id];
+    if (!mutex.tryLock(0)) {
+        return;
+    }
+    QThreadPool::globalInstance()->start(new MyRunnable([self = shared_from_this(), id, &mutex] {
+        const QMutexLocker running(&mutex);
+        if (!self->m_closed && self->m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK) {
+            self->fetchStatusOneDevice(id);
+        }
+    }));
+    mutex.unlock();
+}
+
+void StatusPoll::fetchStatusOneDevice(const CString& id)
+{
+    PUBLISHERINFO info;
+    StatusFacts facts;
+    BOOL bConnection = 0;
+    if (!readPublisher(m_cPubMgr, id.c_str(), info, bConnection, facts.connectResult)) {
+        return;
+    }
+    facts.network = info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK;
+    facts.reachable =
+        facts.network ? bConnection != 0 : m_cPubMgr.IsExistConnectedPublisher(info.strGUID.c_str());
+    if (facts.reachable) {
+        facts.fatal = m_cPubMgr.IsFatalErrorInPublisher(id.c_str(), &facts.fatalCode);
+    }
+    const StatusDecision decision = decideStatus(facts);
+
+    StatusRow row;
+    row.strPublisherRegistID = keyFromRegistID(id);
+    row.strDevType = modelText(m_cPubMgr.GetPublisherDevType(id.c_str()), info.uiNetPublisherType);
+    row.strHostName = QString::fromStdString(info.strHostName);
+    row.strStatus = decision.status;
+    row.strHDDAvail = spaceText("");
+    if (decision.fetchWaiting) {
+        row.nJobWaiting = countWaitingJobs(m_cPubMgr, id);
+    }
+    if (m_bSupportNetworkModel && decision.fetchSendingAndSpace) {
+        row.nJobSending = m_cPubMgr.GetCommunicateJobCount(id.c_str());
+        row.strHDDAvail =
+            spaceText(m_cPubMgr.GetDeviceInfo(id.c_str(), NCL_DIT_REMAINDER_OF_HARD_DISC, nullptr));
+    }
+    report(row);
+}
+
+void StatusPoll::report(const StatusRow& row)
+{
+    const std::lock_guard lock(m_reportGuard);
+    if (m_report) {
+        m_report(row);
+    }
+}
+
+void StatusPoll::close()
+{
+    m_closed = true;
+    const std::lock_guard lock(m_reportGuard);
+    m_report = nullptr;
+}
+
+void StatusPoll::waitForQueries(int localTimeout, int networkTimeout)
+{
+    if (m_mtxUpdateStatusLocal.tryLock(localTimeout)) {
+        m_mtxUpdateStatusLocal.unlock();
+    }
+    for (auto& [id, mutex] : m_mtxUpdateStatusNetwork) {
+        if (mutex.tryLock(networkTimeout)) {
+            mutex.unlock();
+        }
+    }
+}

@@ -1,0 +1,98 @@
+// Closing the window while the service is asked, and answers that come when there is no window any more.
+#include "Installation.h"
+#include "MyRunnable.h"
+#include "PubSetup.h"
+#include "ScriptedService.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QThreadPool>
+
+#include <thread>
+
+class LateAnswerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void closingWaitsForTheAnswer();
+    void closingStopsAskingTheOthers();
+    void answerAfterTheWindowIsGone();
+
+private:
+    Installation m_installation;
+};
+
+void LateAnswerTest::init()
+{
+    m_installation = Installation();
+}
+
+void LateAnswerTest::closingWaitsForTheAnswer()
+{
+    ScriptedService service;
+    service.stall("a");
+    m_installation.addLocal("a", "A");
+    auto window = std::make_unique<PubSetup>(nullptr);
+    window->show();
+    QVERIFY(service.waitFor("22 a", 1));
+    std::atomic<bool> answered = false;
+    std::thread answer([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        answered = true;
+        service.release("a");
+    });
+    QElapsedTimer time;
+    time.start();
+    window.reset();
+    QVERIFY(answered);
+    QVERIFY(time.elapsed() < 9000);
+    answer.join();
+    QVERIFY(waitForTasks(10000));
+    QCoreApplication::processEvents();
+}
+
+void LateAnswerTest::closingStopsAskingTheOthers()
+{
+    ScriptedService service;
+    m_installation.addLocal("a", "A");
+    m_installation.addLocal("b", "B");
+    service.stall("a");
+    service.stall("b");
+    auto window = std::make_unique<PubSetup>(nullptr);
+    QTRY_COMPARE(service.count("22 a") + service.count("22 b"), 1); // whichever the folder names first
+    std::thread answer([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        service.release("a");
+        service.release("b");
+    });
+    window.reset();
+    answer.join();
+    QVERIFY(waitForTasks(10000));
+    QCOMPARE(service.count("22 a") + service.count("22 b"), 1);
+}
+
+void LateAnswerTest::answerAfterTheWindowIsGone()
+{
+    ScriptedService service;
+    service.stall("a");
+    m_installation.addLocal("a", "A");
+    auto window = std::make_unique<PubSetup>(nullptr);
+    window->show();
+    QVERIFY(service.waitFor("22 a", 1));
+    QElapsedTimer time;
+    time.start();
+    window.reset();
+    const qint64 waited = time.elapsed();
+    QVERIFY2(waited >= 9900 && waited < 15000, qPrintable(QString::number(waited)));
+    QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 1); // it still hangs
+    service.release("a");
+    QVERIFY(waitForTasks(10000));
+    QCoreApplication::processEvents();
+    QVERIFY2(service.count("4 a") <= 1, "the jobs of the one query at most");
+}
+
+QTEST_MAIN(LateAnswerTest)
+#include "LateAnswerTest.moc"

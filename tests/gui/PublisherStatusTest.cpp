@@ -1,0 +1,259 @@
+// What the rows say about publishers behind a control service, from the question on a pool thread to the
+// text.
+#include "Installation.h"
+#include "MyRunnable.h"
+#include "PubSetup.h"
+#include "ScriptedService.h"
+
+#include <QTest>
+#include <QThread>
+#include <QThreadPool>
+
+#include <optional>
+
+class PublisherStatusTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+    void everyStateHasItsRow_data();
+    void everyStateHasItsRow();
+    void withoutAServiceNothingIsConnected();
+    void theTimerKeepsTheRowsUpToDate();
+    void aReturningServiceIsNoticed();
+    void aStalledPublisherIsAskedOnce();
+    void publisherRemovedWhileItIsAsked();
+    void answersComeFromAPoolThread();
+    void answerForAnUnknownRowIsDropped();
+    void answerWritesEveryColumnButTheName();
+    void unknownNumbersAreDashes();
+    void unreadablePublisherIsNotReported();
+    void absentPublisherIsNotAsked();
+
+private:
+    void open();
+    QStringList texts(const QString& key) const;
+
+    Installation m_installation;
+    std::optional<ScriptedService> m_service;
+    std::unique_ptr<PubSetup> m_window;
+};
+
+void PublisherStatusTest::initTestCase()
+{
+    QThreadPool::globalInstance()->setMaxThreadCount(4); // whatever the machine has
+}
+
+void PublisherStatusTest::open()
+{
+    m_window = std::make_unique<PubSetup>(nullptr);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void PublisherStatusTest::cleanup()
+{
+    m_window.reset();
+    m_service.reset();
+    QVERIFY(waitForTasks(10000));
+    m_installation = Installation();
+}
+
+QStringList PublisherStatusTest::texts(const QString& key) const
+{
+    const QTreeWidgetItem* row = m_window->findItemByPublisherRegistID(key);
+    QStringList list;
+    for (int column = 0; row && column < 7; ++column) {
+        list << row->text(column);
+    }
+    return list;
+}
+
+void PublisherStatusTest::everyStateHasItsRow_data()
+{
+    QTest::addColumn<bool>("attached");
+    QTest::addColumn<uint>("fatalCode");
+    QTest::addColumn<QVector<quint64>>("jobs");
+    QTest::addColumn<uint>("jobsResult");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("waiting");
+    const QVector<quint64> none;
+    QTest::newRow("not attached") << false << 0U << none << 0U << "Not connected"
+                                  << "-";
+    QTest::newRow("not attached, with an error") << false << 9U << none << 0U << "Not connected"
+                                                 << "-";
+    QTest::newRow("offline") << true << 11U << none << 0U << "Not connected"
+                             << "-";
+    QTest::newRow("cover open") << true << 9U << QVector<quint64>{1} << 0U << "Error"
+                                << "-";
+    QTest::newRow("service's own error code") << true << 1010U << none << 0U << "Error"
+                                              << "-";
+    QTest::newRow("ready, no jobs") << true << 0U << none << 0U << "Ready"
+                                    << "0";
+    QTest::newRow("ready, jobs") << true << 0U << QVector<quint64>{2, 1, 9, 1, 8, 1, 5} << 0U << "Ready"
+                                 << "3";
+    QTest::newRow("ready, no job list") << true << 0U << QVector<quint64>{1} << 1001U << "Ready"
+                                        << "0";
+}
+
+void PublisherStatusTest::everyStateHasItsRow()
+{
+    QFETCH(bool, attached);
+    QFETCH(uint, fatalCode);
+    QFETCH(QVector<quint64>, jobs);
+    QFETCH(uint, jobsResult);
+    QFETCH(QString, status);
+    QFETCH(QString, waiting);
+    m_service.emplace();
+    m_service->setFatalCode("X", fatalCode);
+    m_service->setJobs("X", std::vector<uint64_t>(jobs.begin(), jobs.end()));
+    m_service->setJobsResult("X", jobsResult);
+    m_installation.addLocal("X", "Studio", 0x30000009, attached);
+    open();
+    m_window->findItemByPublisherRegistID("X")->setText(3, "before the answer");
+    m_window->fetchStatusAsync();
+    QTRY_COMPARE(texts("X"), (QStringList{"Studio", "RT-300III (BD-XL)", "-", status, waiting, "-", "-"}));
+}
+
+void PublisherStatusTest::withoutAServiceNothingIsConnected()
+{
+    m_installation.addLocal("X", "Studio");
+    open();
+    m_window->findItemByPublisherRegistID("X")->setText(3, "before the answer");
+    m_window->fetchStatusAsync();
+    QTRY_COMPARE(texts("X"), (QStringList{"Studio", "RT-300III", "-", "Not connected", "-", "-", "-"}));
+}
+
+void PublisherStatusTest::theTimerKeepsTheRowsUpToDate()
+{
+    m_service.emplace();
+    m_installation.addLocal("X", "Studio");
+    open();
+    QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Ready", 2500); // the window asks at once, before the first tick
+    m_service->setFatalCode("X", 19);
+    QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Error", 20000);
+    QCOMPARE(texts("X")[4], "-");
+}
+
+void PublisherStatusTest::aReturningServiceIsNoticed()
+{
+    m_service.emplace();
+    m_installation.addLocal("X", "Studio");
+    open();
+    QTRY_COMPARE(texts("X")[3], "Ready");
+    m_service.reset();
+    m_window->fetchStatusAsync();
+    QTRY_COMPARE(texts("X")[3], "Not connected");
+    m_service.emplace();
+    const auto asked = [this] {
+        m_window->fetchStatusAsync();
+        return texts("X")[3];
+    };
+    QTRY_COMPARE(asked(), "Ready");
+}
+
+void PublisherStatusTest::aStalledPublisherIsAskedOnce()
+{
+    m_service.emplace();
+    m_service->stall("A");
+    m_installation.addLocal("A", "A");
+    open();
+    QVERIFY(m_service->waitFor("22 A", 1));
+    m_window->fetchStatusAsync();
+    m_window->fetchStatusAsync();
+    QTest::qWait(200);
+    QCOMPARE(m_service->count("22 A"), 1);
+    QCOMPARE(texts("A")[3], "Not connected");
+    m_service->release("A");
+    QTRY_COMPARE(texts("A")[3], "Ready");
+    m_window->fetchStatusAsync();
+    QVERIFY(m_service->waitFor("22 A", 2));
+}
+
+void PublisherStatusTest::publisherRemovedWhileItIsAsked()
+{
+    m_service.emplace();
+    m_service->stall("A");
+    m_installation.addLocal("A", "A");
+    open();
+    QVERIFY(m_service->waitFor("22 A", 1));
+    Installation::remove("A");
+    m_window->updateList();
+    QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
+    m_service->release("A");
+    QVERIFY(m_service->waitFor("4 A", 1));
+    QVERIFY(waitForTasks(10000));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
+}
+
+void PublisherStatusTest::answersComeFromAPoolThread()
+{
+    m_installation.addLocal("A", "A");
+    open();
+    std::atomic<QThread*> thread = nullptr;
+    connect(
+        m_window.get(), &PubSetup::updateStatusOneDeviceSignal, this,
+        [&] { thread = QThread::currentThread(); }, Qt::DirectConnection);
+    m_window->fetchStatusAsync();
+    QTRY_VERIFY(thread != nullptr);
+    QVERIFY(thread != QThread::currentThread());
+    QVERIFY(waitForTasks(10000));
+
+    thread = nullptr;
+    m_window->fetchStatusOneDevice("A"); // serves any thread
+    QVERIFY(thread == QThread::currentThread());
+}
+
+void PublisherStatusTest::answerForAnUnknownRowIsDropped()
+{
+    m_installation.addLocal("A", "A");
+    open();
+    m_window->updateStatusOneDevice("B", "RT-30II", "", "Ready", 1, 1, "1.0 GB");
+    QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 1);
+    QCOMPARE(texts("A")[1], "RT-300III");
+}
+
+void PublisherStatusTest::answerWritesEveryColumnButTheName()
+{
+    m_installation.addLocal("A", "A");
+    open();
+    m_window->updateStatusOneDevice("A", "RT-300NII", "studio-3", "Ready", 12, 3, "1.5 GB");
+    QCOMPARE(texts("A"), (QStringList{"A", "RT-300NII", "studio-3", "Ready", "12", "3", "1.5 GB"}));
+}
+
+void PublisherStatusTest::unknownNumbersAreDashes()
+{
+    m_installation.addLocal("A", "A");
+    open();
+    m_window->updateStatusOneDevice("A", "RT-300NII", "studio-3", "Error", -1, -1, "-");
+    QCOMPARE(texts("A"), (QStringList{"A", "RT-300NII", "studio-3", "Error", "-", "-", "-"}));
+    m_window->updateStatusOneDevice("A", "RT-300NII", "", "Ready", 0, 0, "0.0 GB");
+    QCOMPARE(texts("A"), (QStringList{"A", "RT-300NII", "-", "Ready", "0", "0", "0.0 GB"}));
+}
+
+void PublisherStatusTest::unreadablePublisherIsNotReported()
+{
+    m_installation.addLocal("A", "A");
+    open();
+    m_window->updateStatusOneDevice("A", "RT-30II", "", "old text", 5, -1, "-");
+    Installation::remove("A");
+    m_window->fetchStatusOneDevice("A");
+    QCOMPARE(texts("A"), (QStringList{"A", "RT-30II", "-", "old text", "5", "-", "-"}));
+}
+
+void PublisherStatusTest::absentPublisherIsNotAsked()
+{
+    m_service.emplace();
+    m_installation.addLocal("A", "A", 0x20000009, false);
+    open();
+    QVERIFY(waitForTasks(10000));
+    QCOMPARE(m_service->count("22 A"), 0);
+    QCOMPARE(m_service->count("4 A"), 0);
+}
+
+QTEST_MAIN(PublisherStatusTest)
+#include "PublisherStatusTest.moc"
