@@ -224,6 +224,16 @@ constexpr char REG_PUB_CTRL_USB_MODE[] = "USBMode";
 constexpr char REG_PRN_REG_VAL_DRV1_SUPPORT_WR_SPEED[] = "DRV1SupportWriteSpeed";
 constexpr char REG_PRN_REG_VAL_DRV2_SUPPORT_WR_SPEED[] = "DRV2SupportWriteSpeed";
 constexpr char REG_PRN_REG_VAL_DRV_SUPPORT_WR_SPEED[] = "DRVSupportWriteSpeed"; ///< single-drive models
+// Further ones, for other programs of the suite.
+constexpr char REG_PUB_CTRL_VAL_ATTACHSTATUS[] = "AttachStatus";
+constexpr char REG_PRN_REG_VAL_PRT_PORT_NAME[] = "PRTPortName";
+constexpr char REG_PRN_REG_VAL_DRV1_POSITION[] = "DRV1Position";
+constexpr char REG_PRN_REG_VAL_DRV2_POSITION[] = "DRV2Position";
+constexpr char REG_PRN_REG_VAL_DRV1_LIFE[] = "DRV1Life";
+constexpr char REG_PRN_REG_VAL_DRV2_LIFE[] = "DRV2Life";
+constexpr char REG_PRN_REG_VAL_DRV1_SUPPORT_CONFIRM[] = "DRV1SupportConfirm";
+constexpr char REG_PRN_REG_VAL_DRV2_SUPPORT_CONFIRM[] = "DRV2SupportConfirm";
+constexpr char REG_PRN_REG_VAL_DRV_SUPPORT_CONFIRM[] = "DRVSupportConfirm";
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Write speed strings: "type:speed,speed;type:speed"

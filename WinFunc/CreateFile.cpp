@@ -18,19 +18,6 @@ namespace {
 constexpr std::string_view pipePrefix = R"(\\.\pipe\)";
 constexpr mode_t newFileMode = 0600;
 
-/// A program whose standard streams are closed gets their numbers for its files. 0 stands for no descriptor,
-/// and whatever is printed goes to 1 and 2: so those move up. Negative, with errno, when that fails.
-int AboveStandardStreams(int fd)
-{
-    if (fd < 0 || fd > STDERR_FILENO) {
-        return fd;
-    }
-    const int moved = fcntl(fd, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-    const ErrnoKeeper keeper;
-    close(fd);
-    return moved;
-}
-
 /// A new handle that owns the descriptor; INVALID_HANDLE_VALUE for a negative one.
 HANDLE FileHandle(int fd)
 {

@@ -3,7 +3,6 @@
 #include "SystemCalls.h"
 
 #include <algorithm>
-#include <csignal>
 #include <limits>
 #include <utility>
 
@@ -13,17 +12,6 @@
 #include <unistd.h>
 
 namespace {
-
-/// A service that goes away in mid-request would end the process by SIGPIPE. It is set aside before main and
-/// before any object of the program is made, in every program that can open a handle: a later moment would
-/// leave a window in which the signal kills. A child process inherits this; QProcess gives its children the
-/// default back.
-[[gnu::constructor(101)]] void IgnoreBrokenPipes()
-{
-    struct sigaction action = {};
-    action.sa_handler = SIG_IGN;
-    sigaction(SIGPIPE, &action, nullptr);
-}
 
 /// The position after the move, negative after a failure. An unknown method moves nothing and counts as 0.
 off64_t Seek(HANDLE hFile, off64_t distance, DWORD method)

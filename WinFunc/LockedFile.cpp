@@ -1,24 +1,36 @@
 #include "LockedFile.h"
 
-#include <cerrno>
+#include "SystemCalls.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
-LockedFile::LockedFile(const char* path, int flags, mode_t mode)
-    : m_fd(path == nullptr ? -1 : open(path, flags | O_CLOEXEC | O_NONBLOCK, mode))
+namespace {
+
+int Open(const char* path, int flags, mode_t mode)
+{
+    if (path == nullptr) {
+        errno = EFAULT;
+        return -1;
+    }
+    const int fd = Uninterrupted([&] { return open(path, flags | O_CLOEXEC | O_NONBLOCK, mode); });
+    return AboveStandardStreams(fd);
+}
+
+} // namespace
+
+LockedFile::LockedFile(const char* path, int flags, mode_t mode) : m_fd(Open(path, flags, mode))
 {
     if (IsOpen()) {
-        while (flock(m_fd, LOCK_EX) == -1 && errno == EINTR) {
-        }
+        Uninterrupted([&] { return flock(m_fd, LOCK_EX); });
     }
 }
 
 LockedFile::~LockedFile()
 {
-    const int error = errno; // the caller still wants to know what failed
+    const ErrnoKeeper keeper; // the caller still wants to know what failed
     Close();
-    errno = error;
 }
 
 off_t LockedFile::Size() const

@@ -5,8 +5,8 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
-/// A descriptor under an exclusive flock for as long as the object lives. Close-on-exec, and never waiting
-/// for the other end of a FIFO that lies in the place of a file.
+/// A descriptor under an exclusive flock for as long as the object lives. Close-on-exec, never that of a
+/// standard stream, and never waiting for the other end of a FIFO that lies in the place of a file.
 class LockedFile
 {
 public:

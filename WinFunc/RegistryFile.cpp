@@ -45,7 +45,8 @@ private:
 std::optional<FileStamp> g_loadedFile;
 
 /// The stamp, or none when a change yet to come could carry the same one: the kernel's clock stands still
-/// between two ticks, and 100 ms is longer than any tick.
+/// between two ticks, and 100 ms is longer than any tick. Some file systems keep whole seconds only, and a
+/// time without a fraction is taken for one of theirs.
 std::optional<FileStamp> TakeStamp(const LockedFile& file)
 {
     timespec now = {};
@@ -56,7 +57,7 @@ std::optional<FileStamp> TakeStamp(const LockedFile& file)
     constexpr long long nsPerSecond = 1'000'000'000;
     const long long age =
         (now.tv_sec - info.st_ctim.tv_sec) * nsPerSecond + now.tv_nsec - info.st_ctim.tv_nsec;
-    if (age < nsPerSecond / 10) {
+    if (age < nsPerSecond / 10 || info.st_ctim.tv_nsec == 0) {
         return std::nullopt;
     }
     return FileStamp{info.st_dev, info.st_ino, info.st_size, info.st_mtim, info.st_ctim};
@@ -156,7 +157,13 @@ bool RegistryPieces::Fill()
 bool RegistryPieces::Next(std::string& piece)
 {
     piece.clear();
-    while (piece.size() < PIECE_MAX && (m_position < m_filled || Fill())) {
+    while (piece.size() < PIECE_MAX) {
+        if (m_position == m_filled && !Fill()) {
+            if (!Complete()) {
+                piece.clear(); // half a number would be another number
+            }
+            break;
+        }
         const char* start = m_buffer.data() + m_position;
         const size_t room = std::min(m_filled - m_position, PIECE_MAX - piece.size());
         const void* lineFeed = std::memchr(start, '\n', room);

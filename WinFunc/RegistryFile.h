@@ -12,7 +12,8 @@ class RegistryPieces
 public:
     /// Reads `file`, which must outlive the object, from its current position to the size it has now.
     explicit RegistryPieces(const LockedFile& file);
-    /// False at the end. A piece may hold any bytes, NUL among them.
+    /// False at the end. A piece may hold any bytes, NUL among them. One whose end could not be read is not
+    /// given out.
     bool Next(std::string& piece);
     /// True when every byte was read; false after a read error and when the file shrank meanwhile.
     bool Complete() const

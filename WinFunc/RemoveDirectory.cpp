@@ -34,6 +34,7 @@ std::optional<std::vector<std::string>> NamesIn(const std::string& path)
         return std::nullopt;
     }
     std::vector<std::string> names;
+    const int before = errno; // what it is again behind a success
     errno = 0;
     while (const dirent* entry = readdir(directory.get())) {
         const std::string name = entry->d_name;
@@ -45,6 +46,7 @@ std::optional<std::vector<std::string>> NamesIn(const std::string& path)
     if (errno != 0) {
         return std::nullopt;
     }
+    errno = before;
     return names;
 }
 

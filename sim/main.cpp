@@ -65,7 +65,7 @@ void print(const std::string& line)
     std::fflush(stdout);
 }
 
-/// Blocks the signals that end the program, in every thread to come, and lets a lost terminal be no signal.
+/// Blocks the signals that end the program, in every thread to come.
 sigset_t holdSignals()
 {
     sigset_t signals;
@@ -74,7 +74,6 @@ sigset_t holdSignals()
     sigaddset(&signals, SIGINT);
     sigaddset(&signals, SIGHUP);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    std::signal(SIGPIPE, SIG_IGN);
     return signals;
 }
 
@@ -114,6 +113,7 @@ int run(const Options& options)
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGPIPE, SIG_IGN); // a lost terminal ends nothing
     Options options;
     if (!parseOptions(argc, argv, options)) {
         std::fputs(USAGE, stderr);

@@ -5,7 +5,6 @@
 #include "UnixListener.h"
 #include "Win_def_log.h"
 
-#include <array>
 #include <cstring>
 #include <future>
 
@@ -52,6 +51,10 @@ const Operation operations[] = {
     {22, [](Mgr& m) { return m.IsFatalErrorInPublisher("R", nullptr); }},
     {24, [](Mgr& m) { return Ask(m, &Mgr::GetServiceNotifyStatus); }},
     {26, [](Mgr& m) { return m.GetServiceAbilityPnumPrecision("R", nullptr) != 0xFFFFFFFF; }},
+    {8, [](Mgr& m) { return Ask(m, &Mgr::GetServicePrinterStatus); }},
+    {14, [](Mgr& m) { return m.GetServiceEstimateCirculation("R", nullptr) != -1; }},
+    {17, [](Mgr& m) { return AskFour(m, &Mgr::GetServiceStackerDiscType); }},
+    {18, [](Mgr& m) { return Ask(m, &Mgr::GetServicePublishMode); }},
 };
 
 unsigned long NumberAt(const std::string& bytes, size_t offset)
@@ -83,8 +86,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         }
     }
     const bool isYes = call.get();
-    const bool isGoodHeader =
-        answer.size() >= 24 && NumberAt(answer, 0) == operation.control && NumberAt(answer, 8) == 0;
+    // The client knows a result by its low half.
+    const bool isGoodHeader = answer.size() >= 24 && NumberAt(answer, 0) == operation.control &&
+                              static_cast<int>(NumberAt(answer, 8)) == 0;
     if (operation.control == 22) {
         return 0; // fatal is what a failed query is taken for
     }

@@ -46,11 +46,12 @@ bool CAPPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINF
     if (szPublisherRegistID[0] == '\0') {
         return false;
     }
+    const CString strRegistID = szPublisherRegistID; // may be the record's own text
     psPublisherInfo->Clear();
-    if (!FileOf(szPublisherRegistID).Exists()) {
+    if (!FileOf(strRegistID.c_str()).Exists()) {
         return false;
     }
-    ReadCommonSettings(szPublisherRegistID, *psPublisherInfo);
+    ReadCommonSettings(strRegistID.c_str(), *psPublisherInfo);
     return true;
 }
 

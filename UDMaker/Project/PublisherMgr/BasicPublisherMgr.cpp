@@ -96,8 +96,9 @@ bool CBasicPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHER
     if (szPublisherRegistID[0] == '\0') {
         return false;
     }
+    const CString strRegistID = szPublisherRegistID; // may be the record's own text
     psPublisherInfo->Clear();
-    const SettingFile file = FileOf(szPublisherRegistID);
+    const SettingFile file = FileOf(strRegistID.c_str());
     if (!file.Exists()) {
         if (GetLogLevel() >= 2) {
             logViaAgent(4, "CBasicPublisherMgr::GetPublisherInfo, \"%s\" is not found", file.Path().c_str());
@@ -105,7 +106,7 @@ bool CBasicPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHER
         return false;
     }
     PUBLISHERINFO& info = *psPublisherInfo;
-    ReadCommonSettings(szPublisherRegistID, info);
+    ReadCommonSettings(strRegistID.c_str(), info);
     info.uiUseDrive = file.ReadInt(REG_PUB_SETUP_VAL_USEDRIVE, REG_PUB_SETUP_INT_DEFAULT);
     info.uiRetryCount = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT, REG_PUB_SETUP_INT_DEFAULT);
     info.uiRetryCountR = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT_R, PUBMGR_DEFAULT_RETRYCOUNT);

@@ -20,6 +20,8 @@
 #include "SettingFile.h"
 #include "Win_def_log.h"
 
+#include <cstdlib>
+
 CPublisherMgr::CPublisherMgr(bool) : m_strSettingFolder(PUBLISHER_SETTING_DIR)
 {
     constexpr bool bPublisherIDMode = true;
@@ -144,6 +146,9 @@ UINT CPublisherMgr::GetNPType(LPCTSTR lpszPublisherRegistID)
     if (!file.Exists()) {
         return PUBMGR_NPTYPE_UNKNOWN;
     }
-    const UINT uiType = file.ReadInt(REG_PUB_SETUP_VAL_NPTYPE, PUBMGR_NPTYPE_UNKNOWN);
+    char szType[32] = {};
+    GetPrivateProfileStringA(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, "", szType,
+                             sizeof szType, file.Path().c_str());
+    const auto uiType = static_cast<UINT>(std::atoi(szType));
     return uiType > PUBMGR_NPTYPE_300NII_BDXL ? UINT{PUBMGR_NPTYPE_UNKNOWN} : uiType;
 }

@@ -166,6 +166,8 @@ bool CPublisherMgr::GetErrorRateLogFolderPath(CString* pstrPath)
 
 bool CPublisherMgr::SetErrorRateLogFolderPath(CString strPath)
 {
-    return CRegUtility::SetRegStrData(HKEY_LOCAL_MACHINE, REG_PUB_KEY_ROOT,
-                                      REG_PUB_OPTION_VAL_ERRORRATELOGFOLDER, strPath.c_str());
+    // Not SetRegStrData, which takes a registry that cannot be opened for an impossible case.
+    CRegUtility key;
+    return key.OpenReg(HKEY_LOCAL_MACHINE, REG_PUB_KEY_ROOT, FALSE, TRUE) == ERROR_SUCCESS &&
+           key.SetRegStrValue(REG_PUB_OPTION_VAL_ERRORRATELOGFOLDER, strPath.c_str(), -1) == ERROR_SUCCESS;
 }

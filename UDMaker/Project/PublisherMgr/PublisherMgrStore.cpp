@@ -82,7 +82,8 @@ bool CPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO*
         return false;
     }
     const bool bRead = pPubMgr->GetPublisherInfo(szPublisherRegistID, psPublisherInfo, bConnectionError);
-    psPublisherInfo->uiPublisherDevType = uiDevType;
+    // What could not be read may have vanished since the look-up.
+    psPublisherInfo->uiPublisherDevType = bRead ? uiDevType : GetPublisherDevType(szPublisherRegistID);
     return bRead;
 }
 

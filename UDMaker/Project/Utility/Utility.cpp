@@ -145,6 +145,7 @@ long CUtility::CheckFilePath(LPCTSTR pFilePath, enAccessMode AccessMode)
     int error = 0;
     long status = ERROR_SUCCESS;
     struct stat properties = {};
+    errno = 0; // an earlier error is not the answer to this path
     if (stat(pFilePath, &properties) != 0) {
         error = errno;
     } else if (S_ISREG(properties.st_mode)) {

@@ -227,6 +227,13 @@ TEST(ServiceOperationsDeathTest, ANullIdOrJobStopsTheProcess)
     EXPECT_DEATH(mgr.GetJobCount(nullptr, nullptr), "!= FALSE");
     EXPECT_DEATH(mgr.GetServiceEstimateCirculation(nullptr, nullptr), "!= FALSE");
     EXPECT_DEATH(mgr.GetServiceAbilityPnumPrecision(nullptr, nullptr), "!= FALSE");
+    ULONG value = 0;
+    NotifyStatusArray notifications;
+    JobStatusArray jobs;
+    EXPECT_DEATH(mgr.GetServiceAldStatus(nullptr, &value, nullptr), "!= FALSE");
+    EXPECT_DEATH(mgr.GetServiceUSBMode(nullptr, &value, nullptr), "!= FALSE");
+    EXPECT_DEATH(mgr.GetServiceNotifyStatus(nullptr, &notifications, nullptr), "!= FALSE");
+    EXPECT_DEATH(mgr.GetServiceJobStatus(nullptr, &jobs, nullptr), "!= FALSE");
     EXPECT_DEATH(mgr.SetServiceNotifyChange(nullptr, nullptr), "!= FALSE");
     EXPECT_DEATH(mgr.SetServicePublishMode(nullptr, 0, nullptr), "!= FALSE");
     EXPECT_DEATH(mgr.SetServiceUpdateErrorDiscContinueCount(nullptr, nullptr), "!= FALSE");
@@ -358,6 +365,38 @@ TEST(IsFatalErrorInPublisher, FollowsTheFatalCode)
     EXPECT_TRUE(local.IsFatalErrorInPublisher("R", &code)); // the service is gone
     EXPECT_EQ(code, 11);
     EXPECT_TRUE(local.IsFatalErrorInPublisher("R", nullptr));
+}
+
+/// A model that learns of fatal errors and cancels jobs in a way of its own.
+class OwnWaysMgr : public CBasicPublisherMgr
+{
+public:
+    using CBasicPublisherMgr::CBasicPublisherMgr;
+
+    bool GetServiceFatalCode(LPCTSTR, ULONG* pulFatalCode, long*) override
+    {
+        *pulFatalCode = 42;
+        return true;
+    }
+    bool SetServiceJobCancel(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, long* pResultCode) override
+    {
+        cancelled = std::string(szPublisherRegistID) + " " + pJobID;
+        *pResultCode = 5;
+        return true;
+    }
+
+    std::string cancelled;
+};
+
+TEST(ServiceOperations, AModelsOwnWaysAreFollowed)
+{
+    OwnWaysMgr mgr(true, PUBLISHER_SETTING_DIR); // and no service
+    long code = 77;
+    EXPECT_TRUE(mgr.IsFatalErrorInPublisher("R", &code));
+    EXPECT_EQ(code, 42);
+    EXPECT_TRUE(mgr.CancelJob("R", "J", 1, 2, &code));
+    EXPECT_EQ(code, 5);
+    EXPECT_EQ(mgr.cancelled, "R J");
 }
 
 TEST(UpdateErrorDiscContinueCount, TheFacadeTellsOfEveryPublisherThatMeasures)

@@ -336,6 +336,16 @@ TEST(MaintenanceInfo, CountsAreCorrectedAndLivesAreNot)
     EXPECT_EQ(info.strSerialNo, "UNIT-SN");
 }
 
+TEST(MaintenanceInfo, ASerialNumberWithoutItsNULEndsWithItsField)
+{
+    CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
+    PUBLISHERMAINTENANCEINFO info;
+    ServiceCall<bool> call([&] { return mgr.GetPublisherMaintenanceInfo("R", &info, nullptr); });
+    call.AnswerNext(Answer(28, std::string(344, 's')));
+    EXPECT_TRUE(call.Get());
+    EXPECT_EQ(info.strSerialNo, std::string(32, 's'));
+}
+
 TEST(MaintenanceInfo, AnErrorFillsNothing)
 {
     CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);

@@ -78,6 +78,10 @@ TEST(IsExistConnectedPublisher, IsTracedAtTheHighestLevel)
     const std::vector<std::string> lines = agent.TakeAll();
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0], LogLine(7, "CPublisherMgr::IsExistConnectedPublisher(\"{G}\")"));
+    mgr.IsExistConnectedPublisher(nullptr);
+    const std::vector<std::string> linesOfAny = agent.TakeAll();
+    ASSERT_FALSE(linesOfAny.empty());
+    EXPECT_EQ(linesOfAny[0], LogLine(7, "CPublisherMgr::IsExistConnectedPublisher(\"(null)\")"));
 }
 
 TEST(IsExistRegistryKey, IsTrueForAKeyWithASubKey)
@@ -218,6 +222,15 @@ TEST(ErrorRateOptions, TheLogFolderIsAText)
     EXPECT_TRUE(mgr.GetErrorRateLogFolderPath(&path));
     EXPECT_EQ(path, "/var/log/rates");
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[" + product + "]\n\"ErrorRateLogFolder\"=\"/var/log/rates\"\n\n");
+}
+
+TEST(ErrorRateOptions, ARegistryThatCannotBeWrittenIsAFailure)
+{
+    CPublisherMgr mgr(true); // no folder, hence no registry
+    for (const Option& option : options) {
+        EXPECT_FALSE((mgr.*option.set)(1)) << option.value;
+    }
+    EXPECT_FALSE(mgr.SetErrorRateLogFolderPath("/var/log/rates"));
 }
 
 TEST(ErrorRateOptions, AValueOfTheOtherKindIsNotRead)

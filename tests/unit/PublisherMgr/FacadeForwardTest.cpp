@@ -164,6 +164,38 @@ TEST(Forwards, ACancelOfAnUnknownPublisherIsLoggedAndNoOtherForwardIs)
                                            "found\nPRIORITY=4\n"});
 }
 
+TEST(Forwards, JobSubmissionNeedsTheNetworkImplementation)
+{
+    WriteLocalPublisher("R", "00000005");
+    CPublisherMgr mgr(true);
+    ASSERT_EQ(mgr.GetPublisherMgrIFFromType(1), nullptr);
+    const BYTE data[] = {1};
+    DWORD handle = 77;
+    DWORD code = 88;
+    int job = 99;
+    EXPECT_FALSE(mgr.StartConnection("R", &handle, &code));
+    EXPECT_FALSE(mgr.EndConnection(1));
+    EXPECT_EQ(mgr.GetPublishID(1, &code), "");
+    EXPECT_FALSE(mgr.SendJobData(1, data, 1, &job, &code));
+    EXPECT_FALSE(mgr.SendPRNData(1, 2, data, 1, &code));
+    EXPECT_FALSE(mgr.CommitJob(1, 2, &code));
+    EXPECT_FALSE(mgr.SendDiscInfo(1, 2, data, 1, &code));
+    EXPECT_EQ(handle, 77u);
+    EXPECT_EQ(code, 88u);
+    EXPECT_EQ(job, 99);
+}
+
+TEST(Forwards, ANetworkPublisherHasNoImplementationYet)
+{
+    WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");
+    CPublisherMgr mgr(true);
+    for (const Operation& operation : byId) {
+        long code = 77;
+        EXPECT_TRUE(operation.givesNone(mgr, "R", &code)) << operation.name;
+        EXPECT_EQ(code, 77) << operation.name;
+    }
+}
+
 TEST(Forwards, ErrorRateCountsNeedAPublisherThatMeasures)
 {
     WriteLocalPublisher("R", "00000005");

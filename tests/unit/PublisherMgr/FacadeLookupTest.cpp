@@ -149,11 +149,32 @@ TEST(PublisherMgrType, AMissingFileIsBasicAfterOneLogLine)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
+TEST(PublisherMgrType, BelowLevelTwoNothingIsLogged)
+{
+    MakePublisherFolder();
+    LogAgent agent;
+    SetLogLevel(1);
+    CPublisherMgr mgr(true);
+    PUBLISHERINFO info;
+    mgr.GetConnectType("R");
+    mgr.GetPublisherInfo(nullptr, &info, FALSE);
+    mgr.SetServiceJobCancel(nullptr, "J", nullptr);
+    EXPECT_TRUE(agent.TakeAll().empty());
+}
+
+TEST(PublisherMgrType, ATextIsNoDPType)
+{
+    WritePublisher("R", "[Common]\nGUID={G}\n");
+    WriteRegistry(DeviceSection("{G}", "\"DPType\"=\"6\"\n"));
+    EXPECT_EQ(CPublisherMgr(true).GetLocalDeviceDPType("R"), 0xFFFFFFFFu);
+}
+
 TEST(PublisherMgrType, NoIdHasNoImplementation)
 {
     CPublisherMgr mgr(true);
     EXPECT_EQ(mgr.GetPublisherMgrIFFromID(nullptr), nullptr);
     EXPECT_EQ(mgr.GetPublisherMgrIFFromID(""), nullptr);
+    EXPECT_EQ(mgr.GetPublisherDevType(nullptr), 0u);
     EXPECT_EQ(mgr.GetConnectType(nullptr), 0u);
     EXPECT_EQ(mgr.GetConnectType(""), 0u);
     EXPECT_EQ(mgr.GetLocalDeviceDPType(nullptr), 0xFFFFFFFFu);
@@ -202,9 +223,20 @@ TEST(NPType, IsAtMostThree)
     {
         const char* line;
         UINT type;
-    } rows[] = {{"", 0},           {"NPType=0\n", 0}, {"NPType=1\n", 1}, {"NPType=2\n", 2},
-                {"NPType=3\n", 3}, {"NPType=4\n", 0}, {"NPType=7\n", 0}, {"NPType=-1\n", 0},
-                {"NPType=\n", 0},  {"NPType=x\n", 0}, {"NPType=2x\n", 2}};
+    } rows[] = {// of a long text 31 bytes count
+                {"NPType=0000000000000000000000000000003\n", 3},
+                {"NPType=00000000000000000000000000000003\n", 0},
+                {"", 0},
+                {"NPType=0\n", 0},
+                {"NPType=1\n", 1},
+                {"NPType=2\n", 2},
+                {"NPType=3\n", 3},
+                {"NPType=4\n", 0},
+                {"NPType=7\n", 0},
+                {"NPType=-1\n", 0},
+                {"NPType=\n", 0},
+                {"NPType=x\n", 0},
+                {"NPType=2x\n", 2}};
     for (const auto& row : rows) {
         WritePublisher("R", std::string("[Common]\n") + row.line);
         EXPECT_EQ(mgr.GetNPType("R"), row.type) << row.line;
@@ -235,11 +267,17 @@ TEST(FacadeGetPublisherInfo, WithoutAnImplementationItIsLoggedAndRefused)
 TEST(FacadeGetPublisherInfo, TheModelIsStoredAlsoOnFailure)
 {
     MakePublisherFolder();
+    LogAgent agent;
+    SetLogLevel(2);
     CPublisherMgr mgr(true);
     PUBLISHERINFO info;
     info.uiPublisherDevType = 8;
     EXPECT_FALSE(mgr.GetPublisherInfo("absent", &info, FALSE));
     EXPECT_EQ(info.uiPublisherDevType, 0u);
+    const std::string missing = "\"/opt/arven/Ulmar Disc Maker/conf/RegPublisher/absent.ini\" is not found";
+    const std::string lookUp = LogLine(4, "CPublisherMgr::GetConnectType, " + missing);
+    EXPECT_EQ(agent.TakeAll(),
+              (std::vector{lookUp, LogLine(4, "CBasicPublisherMgr::GetPublisherInfo, " + missing), lookUp}));
 }
 
 } // namespace

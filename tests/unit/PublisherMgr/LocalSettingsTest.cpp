@@ -152,6 +152,19 @@ TEST(GetPublisherInfo, AMissingFileClearsTheRecordAndIsLogged)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
+TEST(GetPublisherInfo, TheRecordsOwnIdMayNameIt)
+{
+    const std::string id(100, 'i');
+    WritePublisher(id, fullFile);
+    for (const auto& make : {Make<CBasicPublisherMgr>, Make<CAPPublisherMgr>}) {
+        PUBLISHERINFO info;
+        info.strPublisherRegistID = id;
+        ASSERT_TRUE(make()->GetPublisherInfo(info.strPublisherRegistID.c_str(), &info, FALSE));
+        EXPECT_EQ(info.strPublisherRegistID, id);
+        EXPECT_EQ(info.strPublisherName, "Lab 1");
+    }
+}
+
 TEST(GetPublisherInfo, TheModelWithoutDrivesReadsEightKeysAndIsSilent)
 {
     WritePublisher("R", fullFile);
@@ -202,6 +215,18 @@ TEST(GetPublisherGUID, AMissingFileIsLogged)
     SetLogLevel(2);
     EXPECT_EQ(Make<CBasicPublisherMgr>()->GetPublisherGUID("R"), "");
     EXPECT_EQ(agent.TakeAll(), std::vector{LogLine(4, "CBasicPublisherMgr::GetPublisherGUID, " + missing)});
+
+    SetLogLevel(1);
+    EXPECT_EQ(Make<CBasicPublisherMgr>()->GetPublisherGUID("R"), "");
+    EXPECT_TRUE(agent.TakeAll().empty());
+}
+
+TEST(GetPublisherGUID, AFileThatCannotBeReadGivesNotSet)
+{
+    WritePublisher("R", fullFile);
+    std::filesystem::permissions(PublisherFile("R"), std::filesystem::perms::none);
+    ASSERT_TRUE(TakeAwayPrivileges());
+    EXPECT_EQ(Make<CBasicPublisherMgr>()->GetPublisherGUID("R"), "NotSet");
 }
 
 TEST(GetPublisherGUIDDeathTest, ANullIdStopsTheProcess)
@@ -433,6 +458,10 @@ TEST(UpdatePublisherInfo, AFailureIsLogged)
     EXPECT_EQ(agent.TakeAll(),
               std::vector{LogLine(4, "CBasicPublisherMgr::UpdatePublisherInfo, WritePrivateProfileSection "
                                      "failed, \"/opt/arven/Ulmar Disc Maker/conf/RegPublisher/R.ini\"")});
+
+    SetLogLevel(1);
+    EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(Record()));
+    EXPECT_TRUE(agent.TakeAll().empty());
 }
 
 TEST(UpdatePublisherInfo, ANameCannotForgeKeys)

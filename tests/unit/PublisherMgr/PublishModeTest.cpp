@@ -141,6 +141,7 @@ TEST(UpdatePublishMode, AChangedRetryCountAloneWritesTheRecord)
     Store(Stored());
     // A key that no record has is gone when the record was written anew.
     ASSERT_TRUE(WritePrivateProfileStringA("Common", "Extra", "1", PublisherFile("R").c_str()));
+    ASSERT_EQ(ReadPublisher("R").substr(0, 16), "[Common]\nExtra=1");
     PUBLISHERINFO wanted = Load();
     wanted.uiRetryCount = 9;
     bool setDefault = true;
@@ -192,6 +193,64 @@ TEST(UpdatePublishModeDeathTest, WhatCannotFailStopsTheProcess)
     EXPECT_DEATH(mgr->UpdatePublishMode("R", &wanted, true, &setDefault), "!= FALSE");
     wanted.uiPublishMode = 1;
     EXPECT_DEATH(mgr->UpdatePublishMode("R", &wanted, true, nullptr), "!= FALSE");
+}
+
+/// A model that reads and writes its record in a way of its own.
+template <class Base>
+class OwnRecordMgr : public Base
+{
+public:
+    using Base::Base;
+
+    bool GetPublisherInfo(LPCTSTR, PUBLISHERINFO* psPublisherInfo, BOOL) override
+    {
+        *psPublisherInfo = record;
+        return readable;
+    }
+    bool UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo) override
+    {
+        record = sPublisherInfo;
+        return writable;
+    }
+
+    PUBLISHERINFO record;
+    bool readable = true;
+    bool writable = true;
+};
+
+template <class Base>
+void ExpectModelsOwnRecord()
+{
+    Store(Stored());
+    PUBLISHERINFO wanted = Stored();
+    OwnRecordMgr<Base> mgr(true, PUBLISHER_SETTING_DIR);
+    mgr.record = wanted;
+    mgr.record.uiStacker2DiscType = in;
+    bool setDefault = false;
+    EXPECT_TRUE(mgr.UpdatePublishMode("R", &wanted, true, &setDefault));
+    EXPECT_TRUE(setDefault);
+    EXPECT_EQ(mgr.record.uiStacker2DiscType, out);
+
+    mgr.record.uiStacker2DiscType = in;
+    mgr.writable = false;
+    EXPECT_DEATH(mgr.UpdatePublishMode("R", &wanted, true, &setDefault), "!= FALSE");
+    mgr.readable = false;
+    mgr.writable = true;
+    EXPECT_DEATH(mgr.UpdatePublishMode("R", &wanted, true, &setDefault), "!= FALSE");
+}
+
+TEST(UpdatePublishModeDeathTest, TheModelsOwnRecordIsReadAndWritten)
+{
+    ExpectModelsOwnRecord<CBasicPublisherMgr>();
+    ExpectModelsOwnRecord<CAPPublisherMgr>();
+}
+
+TEST(GetCopiesMax, FollowsTheModelsOwnRecord)
+{
+    OwnRecordMgr<C300MODPublisherMgr> mgr(true, PUBLISHER_SETTING_DIR);
+    mgr.record.uiPublishMode = PUBMGR_PUBLISHMODE_READ;
+    mgr.readable = false; // its result is ignored
+    EXPECT_EQ(mgr.GetCopiesMax("R", false), 50u);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

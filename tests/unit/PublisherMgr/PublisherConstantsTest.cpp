@@ -147,10 +147,15 @@ TEST(Constants, Families)
         std::string section;
         std::string prefix;
     } rows[] = {
-        {1, 2, "SUPPORT_300", "RT-300 "},       {2, 0, "SUPPORT_AP", "RT-300AP "},
-        {3, 1, "SUPPORT_30", "RT-30 "},         {4, 1, "SUPPORT_30BD", "RT-30BD "},
-        {5, 2, "SUPPORT_5300EX", "RT-5300EX "}, {6, 1, "SUPPORT_7030BD", "RT-7030BD "},
-        {7, 2, "SUPPORT_300II", "RT-300II "},   {8, 1, "SUPPORT_30II", "RT-30II "},
+        {0, 0, "", ""},
+        {1, 2, "SUPPORT_300", "RT-300 "},
+        {2, 0, "SUPPORT_AP", "RT-300AP "},
+        {3, 1, "SUPPORT_30", "RT-30 "},
+        {4, 1, "SUPPORT_30BD", "RT-30BD "},
+        {5, 2, "SUPPORT_5300EX", "RT-5300EX "},
+        {6, 1, "SUPPORT_7030BD", "RT-7030BD "},
+        {7, 2, "SUPPORT_300II", "RT-300II "},
+        {8, 1, "SUPPORT_30II", "RT-30II "},
         {9, 2, "SUPPORT_300III", "RT-300III "},
     };
     ASSERT_EQ(std::size(PUBLISHER_FAMILIES), 10u);
@@ -229,17 +234,38 @@ TEST(Constants, CreateSettingFileErrors)
 
 TEST(Constants, LoadStackers)
 {
-    ExpectAll(std::vector<Number>{});
+    ExpectAll(std::vector<Number>{
+        NUMBER(JOBMGR_LOAD_STACKER1, 1),
+        NUMBER(JOBMGR_LOAD_STACKER2, 2),
+        NUMBER(JOBMGR_LOAD_STACKER1_2, 7),
+        NUMBER(JOBMGR_LOAD_STACKER_NOSETTING, 0xFFFFFFFF),
+    });
 }
 
 TEST(Constants, EjectStackers)
 {
-    ExpectAll(std::vector<Number>{});
+    ExpectAll(std::vector<Number>{
+        NUMBER(JOBMGR_EJECT_STACKER2_3, 0),
+        NUMBER(JOBMGR_EJECT_STACKER2, 1),
+        NUMBER(JOBMGR_EJECT_STACKER4, 2),
+        NUMBER(JOBMGR_EJECT_STACKER3, 3),
+        NUMBER(JOBMGR_EJECT_STACKER_NOSETTING, 0xFFFFFFFF),
+    });
 }
 
 TEST(Constants, PrintModes)
 {
-    ExpectAll(std::vector<Number>{});
+    ExpectAll(std::vector<Number>{
+        NUMBER(JOBMGR_PRNMODE_SINGLE, 0),
+        NUMBER(JOBMGR_PRNMODE_FERRO_UNCONVEYANCE, 1),
+        NUMBER(JOBMGR_PRNMODE_FERRO_NORMAL, 2),
+        NUMBER(JOBMGR_PRNMODE_CLEANING, 3),
+        NUMBER(JOBMGR_PRNMODE_NOZZLECHECK, 4),
+        NUMBER(JOBMGR_PRNMODE_GAPADJUSTMENT_CONVEYANCE, 5),
+        NUMBER(JOBMGR_PRNMODE_GAPADJUSTMENT_UNCONVEYANCE, 6),
+        NUMBER(JOBMGR_PRNMODE_POSITIONOFFSET_CONVEYANCE, 7),
+        NUMBER(JOBMGR_PRNMODE_POSITIONOFFSET_UNCONVEYANCE, 8),
+    });
 }
 
 TEST(Constants, MediaIndices)
@@ -337,6 +363,15 @@ TEST(Constants, RegistryValues)
         WORD(REG_PRN_REG_VAL_DRV1_SUPPORT_WR_SPEED, "DRV1SupportWriteSpeed"),
         WORD(REG_PRN_REG_VAL_DRV2_SUPPORT_WR_SPEED, "DRV2SupportWriteSpeed"),
         WORD(REG_PRN_REG_VAL_DRV_SUPPORT_WR_SPEED, "DRVSupportWriteSpeed"),
+        WORD(REG_PUB_CTRL_VAL_ATTACHSTATUS, "AttachStatus"),
+        WORD(REG_PRN_REG_VAL_PRT_PORT_NAME, "PRTPortName"),
+        WORD(REG_PRN_REG_VAL_DRV1_POSITION, "DRV1Position"),
+        WORD(REG_PRN_REG_VAL_DRV2_POSITION, "DRV2Position"),
+        WORD(REG_PRN_REG_VAL_DRV1_LIFE, "DRV1Life"),
+        WORD(REG_PRN_REG_VAL_DRV2_LIFE, "DRV2Life"),
+        WORD(REG_PRN_REG_VAL_DRV1_SUPPORT_CONFIRM, "DRV1SupportConfirm"),
+        WORD(REG_PRN_REG_VAL_DRV2_SUPPORT_CONFIRM, "DRV2SupportConfirm"),
+        WORD(REG_PRN_REG_VAL_DRV_SUPPORT_CONFIRM, "DRVSupportConfirm"),
     });
 }
 

@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <type_traits>
+#include <vector>
 
 namespace {
 
@@ -243,9 +246,34 @@ TEST(PublisherVersionInfo, NewRecordIsEmpty)
     }
 }
 
-// The order of the fields is part of the contract.
-static_assert(sizeof(PUBLISHERVERSIONINFO) == 11 * sizeof(CString));
-static_assert(std::is_standard_layout_v<PUBMAINTINFODRIVE> && sizeof(PUBMAINTINFODRIVE) == 12 * sizeof(UINT));
+bool Ascend(const std::vector<const void*>& fields)
+{
+    return std::is_sorted(fields.begin(), fields.end(), std::less<>());
+}
+
+TEST(PublisherVersionInfo, FieldsStandInOrder)
+{
+    const PUBLISHERVERSIONINFO i;
+    static_assert(sizeof(i) == 11 * sizeof(CString));
+    EXPECT_TRUE(
+        Ascend({&i.strPublisherRegistID, &i.strSerialNo, &i.strAutoLoaderVersion, &i.strPrinterModelName,
+                &i.strPrinterVersion, &i.strDrive1ModelName, &i.strDrive1Version, &i.strDrive2ModelName,
+                &i.strDrive2Version, &i.strSSSVersion, &i.strUDNAVersion}));
+}
+
+TEST(PublisherMaintenanceInfo, FieldsStandInOrder)
+{
+    const PUBLISHERMAINTENANCEINFO i;
+    const PUBMAINTINFODRIVE& d = i.midrvDrive1;
+    static_assert(std::is_standard_layout_v<PUBMAINTINFODRIVE> && sizeof(d) == 12 * sizeof(UINT));
+    EXPECT_TRUE(
+        Ascend({&d.uiTrayCount, &d.uiTrayLife, &d.uiWriteCDCount, &d.uiWriteCDLife, &d.uiWriteDVDCount,
+                &d.uiWriteDVDLife, &d.uiWriteBDCount, &d.uiWriteBDLife, &d.uiDriveWriteTimeTotal,
+                &d.uiDriveWriteTimeTotalLife, &d.uiDriveReadTimeTotal, &d.uiDriveReadTimeTotalLife}));
+    EXPECT_TRUE(Ascend({&i.uiPrintCount, &i.uiCompleteDiscNum, &i.uiMainteBoxCount, &i.uiMainteBoxLife,
+                        &i.midrvDrive1, &i.midrvDrive2, &i.uiUsedPlugin, &i.strSerialNo, &i.ulDRV1Life,
+                        &i.ulDRV2Life}));
+}
 
 void ExpectUnknown(const PUBMAINTINFODRIVE& drive)
 {

@@ -11,6 +11,16 @@ int pipeObject;
 int eventObject;
 DWORD lastError = 0;
 
+void NoteMisuse(bool isMisuse)
+{
+    g_platform.misuses += isMisuse ? 1 : 0;
+}
+
+bool HasEvent(LPOVERLAPPED overlapped)
+{
+    return overlapped != nullptr && overlapped->hEvent == &eventObject;
+}
+
 } // namespace
 
 HANDLE CreateFileA(LPCSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShare, PSECURITY_ATTRIBUTES,
@@ -27,16 +37,19 @@ HANDLE CreateFileA(LPCSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShare, PSEC
 }
 
 BOOL WriteFile(HANDLE, LPCVOID lpBuffer, DWORD NumberOfBytesToWrite, LPDWORD lpNumberOfBytesWrite,
-               LPOVERLAPPED)
+               LPOVERLAPPED lpOverlapped)
 {
+    NoteMisuse(!HasEvent(lpOverlapped));
     g_platform.written.assign(static_cast<const char*>(lpBuffer), NumberOfBytesToWrite);
     *lpNumberOfBytesWrite = g_platform.write.count;
     lastError = g_platform.write.lastError;
     return g_platform.write.result;
 }
 
-BOOL ReadFile(HANDLE, LPVOID lpBuffer, DWORD nNumberOfBytesToRead, LPDWORD lpNumberOfBytesRead, LPOVERLAPPED)
+BOOL ReadFile(HANDLE, LPVOID lpBuffer, DWORD nNumberOfBytesToRead, LPDWORD lpNumberOfBytesRead,
+              LPOVERLAPPED lpOverlapped)
 {
+    NoteMisuse(!HasEvent(lpOverlapped));
     const ScriptedTransfer& read = g_platform.reads.at(g_platform.readSizes.size());
     g_platform.readSizes.push_back(nNumberOfBytesToRead);
     const size_t count = std::min<size_t>(read.data.size(), nNumberOfBytesToRead);
@@ -46,8 +59,10 @@ BOOL ReadFile(HANDLE, LPVOID lpBuffer, DWORD nNumberOfBytesToRead, LPDWORD lpNum
     return read.result;
 }
 
-BOOL GetOverlappedResult(HANDLE, LPOVERLAPPED, LPDWORD lpNumberOfBytesTransferred, BOOL)
+BOOL GetOverlappedResult(HANDLE hFile, LPOVERLAPPED lpOverlapped, LPDWORD lpNumberOfBytesTransferred,
+                         BOOL bWait)
 {
+    NoteMisuse(hFile != &pipeObject || !HasEvent(lpOverlapped) || bWait);
     ++g_platform.overlappedResults;
     if (g_platform.overlappedResult) {
         *lpNumberOfBytesTransferred = g_platform.overlappedCount;
@@ -68,16 +83,19 @@ void Sleep(DWORD dwMilliseconds) // house-rule: sleeps: this one only notes how 
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds)
 {
     g_platform.waits.push_back(dwMilliseconds);
-    return hHandle == &eventObject ? WAIT_TIMEOUT : WAIT_FAILED;
+    NoteMisuse(hHandle != &eventObject);
+    return WAIT_TIMEOUT;
 }
 
 HANDLE CreateEventA(LPSECURITY_ATTRIBUTES, BOOL bManualReset, BOOL bInitialState, LPCSTR lpName)
 {
-    return bManualReset && !bInitialState && lpName == nullptr ? &eventObject : nullptr;
+    const bool isAsAgreed = bManualReset && !bInitialState && lpName == nullptr;
+    return isAsAgreed && !g_platform.eventsFail ? &eventObject : nullptr;
 }
 
 BOOL CloseHandle(HANDLE hObject)
 {
     g_platform.closes += hObject == &pipeObject ? 1 : 0;
+    g_platform.eventCloses += hObject == &eventObject ? 1 : 0;
     return TRUE;
 }

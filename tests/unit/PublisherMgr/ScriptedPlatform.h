@@ -24,6 +24,7 @@ struct ScriptedPlatform
     std::vector<ScriptedTransfer> reads; ///< one after the other
     BOOL overlappedResult = FALSE;
     DWORD overlappedCount = 0;
+    bool eventsFail = false;
 
     // What was asked.
     int opens = 0;
@@ -37,7 +38,9 @@ struct ScriptedPlatform
     std::vector<DWORD> readSizes;
     std::string written;
     int overlappedResults = 0;
-    int closes = 0; ///< of pipes
+    int misuses = 0; ///< a transfer without the event, a wait for another one, a result that blocks
+    int closes = 0;  ///< of pipes
+    int eventCloses = 0;
 };
 
 /// The script in force.

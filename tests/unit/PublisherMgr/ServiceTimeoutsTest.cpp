@@ -37,6 +37,11 @@ protected:
         SetLogLevel(2);
     }
 
+    void TearDown() override
+    {
+        EXPECT_EQ(g_platform.misuses, 0);
+    }
+
     /// One command with control 13, and what it gave.
     int Run()
     {
@@ -111,6 +116,35 @@ TEST_F(ServiceTimeouts, AnotherErrorEndsTheRetries)
     EXPECT_EQ(Run(), -1);
     EXPECT_EQ(g_platform.opens, 3);
     EXPECT_EQ(g_platform.sleeps.size(), 2u);
+    const std::string failed = LogLine("CBasicPublisherMgr::OpenServicePipe, failed to connect pipe");
+    EXPECT_EQ(agent.TakeAll(),
+              (std::vector{failed, failed, failed,
+                           LogLine("CBasicPublisherMgr::GetServiceResponse, failed to open pipe")}));
+}
+
+TEST_F(ServiceTimeouts, BelowLevel2NothingIsLogged)
+{
+    SetLogLevel(1);
+    g_platform.openErrors = {2};
+    EXPECT_EQ(Run(), -1);
+    g_platform.openErrors = {0};
+    for (const ScriptedTransfer& write :
+         {ScriptedTransfer{FALSE, "", 0, 109}, ScriptedTransfer{FALSE, "", 0, pending},
+          ScriptedTransfer{TRUE, "", 407, 0}}) {
+        g_platform.write = write;
+        EXPECT_NE(Run(), 0);
+    }
+    EXPECT_TRUE(agent.TakeAll().empty());
+}
+
+TEST_F(ServiceTimeouts, TheEventLivesAsLongAsTheObject)
+{
+    {
+        const CBasicPublisherMgr other(true, PUBLISHER_SETTING_DIR);
+        EXPECT_EQ(g_platform.eventCloses, 0);
+    }
+    EXPECT_EQ(g_platform.eventCloses, 1);
+    EXPECT_EQ(g_platform.closes, 0); // no pipe was open
 }
 
 TEST_F(ServiceTimeouts, AFailedWriteIsNoCommunication)
@@ -240,6 +274,12 @@ TEST_F(ServiceTimeouts, TheStepsTakeTheirArgumentsAsTheyAre)
 }
 
 using ServiceTimeoutsDeathTest = ServiceTimeouts;
+
+TEST_F(ServiceTimeoutsDeathTest, NoEventStopsTheProcess)
+{
+    g_platform.eventsFail = true;
+    EXPECT_DEATH(CBasicPublisherMgr(true, PUBLISHER_SETTING_DIR), "!= FALSE");
+}
 
 TEST_F(ServiceTimeoutsDeathTest, NullArgumentsAndZeroLengthsStopTheProcess)
 {

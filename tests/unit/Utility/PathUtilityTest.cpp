@@ -161,6 +161,16 @@ TEST_F(CheckPathTest, NoPathAndAMissingOneAreNotFound)
     }
 }
 
+TEST_F(CheckFilePathTest, AnEarlierErrorIsClearedAndTheOneOfThePathStands)
+{
+    errno = EEXIST;
+    EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder", CUtility::ACCESS_NONE), 0);
+    EXPECT_EQ(errno, 0);
+    errno = EEXIST;
+    EXPECT_EQ(CUtility::CheckFilePath("/tmp/absent", CUtility::ACCESS_NONE), 3);
+    EXPECT_EQ(errno, ENOENT);
+}
+
 TEST_F(CheckFilePathTest, ARegularFileIsCode267)
 {
     for (const mode_t mode : {0644, 0444, 0000}) {

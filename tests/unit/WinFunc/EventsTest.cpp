@@ -134,6 +134,8 @@ TEST_F(EventsTest, ASetIsSeenAtTheNextPoll)
         {1000, 3, {{10000, 3}}},          // among the coarse steps
         {25, 4, {{10000, 2}, {1000, 2}}}, // among the fine steps
         {25, 7, {{10000, 2}, {1000, 5}}}, // in the very last one
+        {0x80000000, 3, {{10000, 3}}},    // no sign
+        {0xFFFFFFFE, 3, {{10000, 3}}},    // the longest but INFINITE
         {INFINITE, 1000, {{10000, 1000}}},
     };
     for (const Case& c : cases) {

@@ -229,6 +229,15 @@ TEST_F(RemoveDirectoryTest, StopsAtTheFirstFailure)
     EXPECT_EQ(ReadText(folder + "/locked/file"), "text");
 }
 
+TEST_F(RemoveDirectoryTest, SuccessLeavesTheLastError)
+{
+    fs::create_directories(folder + "/a/b");
+    WriteText(folder + "/a/file", "text");
+    SetLastError(EEXIST);
+    EXPECT_EQ(RemoveDirectoryA(folder.c_str()), TRUE);
+    EXPECT_EQ(GetLastError(), 80u);
+}
+
 TEST(PathIsDirectoryTest, IsTrueForWhatCanBeListed)
 {
     fs::create_directory("/tmp/folder");

@@ -486,6 +486,20 @@ TEST(FileSizeTest, OfAClosedDescriptorFails)
     file.fd = 0;
 }
 
+TEST(FileSuccessTest, LeavesTheLastError)
+{
+    SetLastError(EEXIST);
+    const HANDLE handle = Open(path, readWrite, CREATE_NEW);
+    ASSERT_NE(handle, INVALID_HANDLE_VALUE);
+    EXPECT_EQ(GetLastError(), 80u);
+    EXPECT_EQ(Write(handle, "text"), TRUE);
+    EXPECT_EQ(SetFilePointer(handle, 0, nullptr, FILE_BEGIN), 0u);
+    EXPECT_EQ(Read(handle, 4), "text");
+    EXPECT_EQ(GetFileSize(handle, nullptr), 4u);
+    EXPECT_EQ(CloseHandle(handle), TRUE);
+    EXPECT_EQ(GetLastError(), 80u);
+}
+
 struct Move
 {
     LONGLONG from;

@@ -60,17 +60,19 @@ TEST(MutexesTest, AnInitialOwnerHasItForGood)
 
 TEST(MutexesTest, AMutexThatIsFreedBetweenTwoAttemptsIsTaken)
 {
-    const HANDLE handle = CreateMutexA(nullptr, TRUE, nullptr);
-    auto* mutex = dynamic_cast<WinMutex*>(static_cast<IWinHandle*>(handle));
-    ASSERT_NE(mutex, nullptr);
-    CountedSleep::The().Start([&](uint64_t number) {
-        if (number == 2) {
-            mutex->mtx.unlock();
-        }
-    });
-    EXPECT_EQ(WaitForSingleObject(handle, 100), 0u);
-    EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 2}}));
-    EXPECT_EQ(CloseHandle(handle), TRUE);
+    for (const DWORD timeout : {100u, 0x80000000u, 0xFFFFFFFEu}) {
+        const HANDLE handle = CreateMutexA(nullptr, TRUE, nullptr);
+        auto* mutex = dynamic_cast<WinMutex*>(static_cast<IWinHandle*>(handle));
+        ASSERT_NE(mutex, nullptr);
+        CountedSleep::The().Start([&](uint64_t number) {
+            if (number == 2) {
+                mutex->mtx.unlock();
+            }
+        });
+        EXPECT_EQ(WaitForSingleObject(handle, timeout), 0u);
+        EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 2}}));
+        EXPECT_EQ(CloseHandle(handle), TRUE);
+    }
 }
 
 TEST(MutexesTest, MutexesOfOneNameAreNotShared)

@@ -1,5 +1,6 @@
 // Writing private profile files: the file's bytes behind each write, and the lines that a failure logs.
 #include "ChildProcess.h"
+#include "FileLocks.h"
 #include "OrdinaryRights.h"
 #include "StdoutCapture.h"
 #include "TextFiles.h"
@@ -112,6 +113,10 @@ TEST(PrivateProfileWrite, KeyTable)
          "[Common]\nA=Key 3\nKey=2\n"},
         {"the section's name in a value", "[A]\nB=[Common] \nC=1\n", "Key", "v",
          "[A]\nB=[Common]\nKey=v\n\nC=1\n"},
+        {"without a delimiter of its own it takes the next line's", "[Common]\nKey\nB=1\n", "Key", "2",
+         "[Common]\nKey\nB=2\n"},
+        {"one byte behind the section's name goes", "[Common]x\nA=1\n", "Key", "v",
+         "[Common]\nKey=v\n\nA=1\n"},
         {"a bracket in a value hides later keys", "[Common]\nA=[x]\nKey=1\n", "Key", "2",
          "[Common]\nKey=2\nA=[x]\nKey=1\n"},
         {"the key on an unfinished last line", "[Common]\nA=1\nKey=old", "Key", "new", ""},
@@ -232,11 +237,14 @@ TEST(PrivateProfileWrite, AFileThatCannotBeOpenedIsLogged)
 TEST(PrivateProfileWrite, AFileThatCannotBeReadIsLogged)
 {
     WriteText(FILE_NAME, "[Common]\n");
+    const int other = open(FILE_NAME, O_RDWR | O_CLOEXEC);
     ASSERT_TRUE(BreakReading());
     const std::string lines =
         Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", FILE_NAME)); });
     EXPECT_NE(lines.find("WritePrivateProfileStringA, read failed with errno=5\x1b"), std::string::npos)
         << lines;
+    EXPECT_EQ(flock(other, LOCK_EX | LOCK_NB), 0) << "the lock is released";
+    close(other);
 }
 
 TEST(PrivateProfileWrite, AFileThatCannotBeMadeIsLogged)
@@ -348,6 +356,17 @@ TEST(PrivateProfileWrite, TheSectionWriterOpensWithATraceLine)
         << lines;
 }
 
+TEST(PrivateProfileWrite, TheSectionWriterClearsTheErrorNumber)
+{
+    WriteText(FILE_NAME, "[Common]\nA=1\n");
+    SetLogLevel(3);
+    errno = ENOTTY;
+    const BOOL result = WritePrivateProfileSectionA("Common", "A=2\0", FILE_NAME);
+    const int error = errno;
+    EXPECT_TRUE(result);
+    EXPECT_EQ(error, 0);
+}
+
 TEST(PrivateProfileWrite, BelowTheDebugLevelThereIsNoTraceLine)
 {
     EXPECT_EQ(Logged([] { EXPECT_TRUE(WritePrivateProfileSectionA("Common", "A=1\0", FILE_NAME)); }), "");
@@ -355,6 +374,19 @@ TEST(PrivateProfileWrite, BelowTheDebugLevelThereIsNoTraceLine)
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Several processes on one file
+
+TEST(PrivateProfileProcess, ReadersAndWritersWaitForTheLock)
+{
+    WriteText(FILE_NAME, "[Common]\nKey=1\n");
+    EXPECT_TRUE(WaitsForItsTurn(FILE_NAME, [] { return Read("Common", "Key") == "1"; }));
+    EXPECT_TRUE(
+        WaitsForItsTurn(FILE_NAME, [] { return GetPrivateProfileIntA("Common", "Key", 0, FILE_NAME) == 1; }));
+    EXPECT_TRUE(WaitsForItsTurn(
+        FILE_NAME, [] { return WritePrivateProfileStringA("Common", "Key", "2", FILE_NAME) == TRUE; }));
+    EXPECT_TRUE(WaitsForItsTurn(
+        FILE_NAME, [] { return WritePrivateProfileSectionA("Common", "Key=3\0", FILE_NAME) == TRUE; }));
+    EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nKey=3\n");
+}
 
 TEST(PrivateProfileProcess, AWriterAndReadersOfOneFile)
 {

@@ -3,7 +3,9 @@
 #include "TextFiles.h"
 #include "WinFunc.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -191,6 +193,19 @@ TEST_F(RegistryDelete, AFileThatCannotBeWrittenGives12AndStays)
     ASSERT_TRUE(TakeAwayPrivileges());
     EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, "a"), 12);
     EXPECT_EQ(ReadText(REGISTRY_FILE), TREE);
+}
+
+TEST_F(RegistryDelete, AFullDiskGives12)
+{
+    WriteRegistry(TREE);
+    HKEY key = Open("a");
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit tiny = {10, 10};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tiny), 0);
+    EXPECT_EQ(RegDeleteValueA(key, "x"), 12);
+    EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\n");
+    EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, "z"), 0) << "nothing to write";
+    RegCloseKey(key);
 }
 
 TEST_F(RegistryDeleteDeathTest, AKeyThatIsNotWritableStops)

@@ -1,4 +1,5 @@
 // The registry's text file, byte for byte: what the store writes, and what it makes of what it finds.
+#include "RegistryPath.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
 
@@ -375,6 +376,7 @@ TEST_F(RegistryFormat, RootsHaveTheirPublicNumbers)
     EXPECT_EQ(reinterpret_cast<uintptr_t>(HKEY_USERS), 0x80000003U);
     EXPECT_EQ(reinterpret_cast<uintptr_t>(HKEY_CURRENT_CONFIG), 0x80000005U);
     EXPECT_EQ(reinterpret_cast<uintptr_t>(HKEY_DYN_DATA), 0x80000006U);
+    EXPECT_EQ(RegRootName(reinterpret_cast<HKEY>(uintptr_t{0x80000004})), nullptr) << "no root";
 }
 
 TEST_F(RegistryFormat, ThePathOfAnOpenKeyIsThePrefixOfItsSubKeys)

@@ -1,51 +1,34 @@
 // The registry's file between processes: every pass over it waits for the lock, and no descriptor is
 // inherited.
 #include "ChildProcess.h"
+#include "FileLocks.h"
 #include "LockedFile.h"
+#include "RegistryFile.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
 
 #include <atomic>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
-#include <functional>
 #include <gtest/gtest.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
-/// True when a process waits for a lock on a file of this inode number.
-bool SomebodyWaitsFor(ino_t inode)
+/// True while a signal that was sent to the thread has not interrupted it yet. Asked of the kernel: a race
+/// detector puts off the handler itself until the call that waits has returned.
+bool HasPendingSignal(pid_t thread)
 {
-    std::ifstream locks("/proc/locks");
-    const std::string file = ":" + std::to_string(inode) + " ";
-    for (std::string line; std::getline(locks, line);) {
-        if (line.find("-> FLOCK") != std::string::npos && line.find(file) != std::string::npos) {
-            return true;
+    std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with("SigPnd:")) {
+            return line.find_first_not_of("\t 0", line.find(':') + 1) != std::string::npos;
         }
     }
     return false;
-}
-
-ino_t Inode(const char* path)
-{
-    struct stat info = {};
-    EXPECT_EQ(stat(path, &info), 0);
-    return info.st_ino;
-}
-
-bool WaitUntil(const std::function<bool()>& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        std::this_thread::yield();
-    }
-    return true;
 }
 
 const char TEXT[] = "[HKLM/a]\n\"x\"=\"1\"\n\n[HKLM/b]\n\n";
@@ -65,29 +48,33 @@ class RegistryLock : public testing::TestWithParam<Pass>
 {
 };
 
+/// What a child of this process finds whose standard streams of these numbers are closed: 0, or where it
+/// failed.
+int OpenWithout(const std::vector<int>& streams)
+{
+    for (const int stream : streams) {
+        close(stream);
+    }
+    const LockedFile file(REGISTRY_FILE, O_RDWR);
+    if (file.Descriptor() <= STDERR_FILENO || fcntl(file.Descriptor(), F_GETFD) != FD_CLOEXEC) {
+        return 1;
+    }
+    for (const int stream : streams) {
+        if (fcntl(stream, F_GETFD) != -1) {
+            return 2; // the first number is lost
+        }
+    }
+    const int other = open(REGISTRY_FILE, O_RDWR | O_CLOEXEC);
+    return other != -1 && flock(other, LOCK_EX | LOCK_NB) == -1 ? 0 : 3; // the lock is that of the moved one
+}
+
 } // namespace
 
 TEST_P(RegistryLock, IsWaitedFor)
 {
     WriteRegistry(TEXT);
     ASSERT_TRUE(RegReadIn(O_RDWR));
-    const int descriptor = open(REGISTRY_FILE, O_RDWR | O_CLOEXEC);
-    ASSERT_NE(descriptor, -1);
-    ASSERT_EQ(flock(descriptor, LOCK_EX), 0);
-
-    std::atomic<bool> done = false;
-    bool result = false;
-    std::thread pass([&] {
-        result = GetParam().run();
-        done = true;
-    });
-    const bool waited = WaitUntil([] { return SomebodyWaitsFor(Inode(REGISTRY_FILE)); });
-    EXPECT_TRUE(waited);
-    EXPECT_FALSE(done);
-    EXPECT_EQ(flock(descriptor, LOCK_UN), 0);
-    pass.join();
-    close(descriptor);
-    EXPECT_TRUE(result);
+    EXPECT_TRUE(WaitsForItsTurn(REGISTRY_FILE, GetParam().run));
 }
 
 INSTANTIATE_TEST_SUITE_P(Passes, RegistryLock,
@@ -95,35 +82,40 @@ INSTANTIATE_TEST_SUITE_P(Passes, RegistryLock,
                                          Pass{"LoadForReading", [] { return RegReadIn(O_RDONLY); }},
                                          Pass{"WriteOut", [] { return RegWriteOut(); }},
                                          Pass{"DeleteKey",
-                                              [] { return RegDeleteKeyA(HKEY_LOCAL_MACHINE, "b") == 0; }}),
+                                              [] { return RegDeleteKeyA(HKEY_LOCAL_MACHINE, "b") == 0; }},
+                                         Pass{"DeleteValue",
+                                              [] {
+                                                  CRegistryKey key{"HKLM/a", true};
+                                                  return RegDeleteValueA(&key, "x") == 0;
+                                              }}),
                          [](const auto& pass) { return pass.param.name; });
 
 TEST(RegistryProcess, TheLockIsWaitedForThroughInterruptions)
 {
-    static std::atomic<int> interruptions = 0;
     struct sigaction action = {};
-    action.sa_handler = [](int) { ++interruptions; };
+    action.sa_handler = [](int) {};
     ASSERT_EQ(sigaction(SIGUSR1, &action, nullptr), 0); // without SA_RESTART
 
     WriteRegistry(TEXT);
-    const int descriptor = open(REGISTRY_FILE, O_RDWR | O_CLOEXEC);
-    ASSERT_EQ(flock(descriptor, LOCK_EX), 0);
+    FileLock lock(REGISTRY_FILE);
+    ASSERT_TRUE(lock.IsHeld());
     std::atomic<bool> done = false;
+    std::atomic<pid_t> thread = 0;
     std::thread pass([&] {
+        thread = gettid();
         EXPECT_TRUE(RegReadIn(O_RDWR));
         done = true;
     });
     bool waits = true;
     for (int signals = 0; signals < 5 && waits; ++signals) {
-        waits = WaitUntil([] { return SomebodyWaitsFor(Inode(REGISTRY_FILE)); });
+        waits = WaitUntil([] { return SomebodyWaitsFor(REGISTRY_FILE); });
         pthread_kill(pass.native_handle(), SIGUSR1);
-        EXPECT_TRUE(WaitUntil([&] { return interruptions > signals; }));
+        EXPECT_TRUE(WaitUntil([&] { return !HasPendingSignal(thread); }));
     }
-    EXPECT_TRUE(waits && WaitUntil([] { return SomebodyWaitsFor(Inode(REGISTRY_FILE)); }));
+    EXPECT_TRUE(waits && WaitUntil([] { return SomebodyWaitsFor(REGISTRY_FILE); }));
     EXPECT_FALSE(done);
-    EXPECT_EQ(flock(descriptor, LOCK_UN), 0);
+    lock.Release();
     pass.join();
-    close(descriptor);
     EXPECT_EQ(g_Registry.size(), 2U);
 }
 
@@ -131,15 +123,14 @@ TEST(RegistryProcess, AWriterThatWaitedLeavesNothingOfALongerText)
 {
     WriteRegistry(TEXT);
     ASSERT_TRUE(RegReadIn(O_RDWR));
-    const int descriptor = open(REGISTRY_FILE, O_RDWR | O_CLOEXEC);
-    ASSERT_EQ(flock(descriptor, LOCK_EX), 0);
+    FileLock lock(REGISTRY_FILE);
+    ASSERT_TRUE(lock.IsHeld());
     std::thread writer([] { EXPECT_TRUE(RegWriteOut()); });
-    EXPECT_TRUE(WaitUntil([] { return SomebodyWaitsFor(Inode(REGISTRY_FILE)); }));
+    EXPECT_TRUE(WaitUntil([] { return SomebodyWaitsFor(REGISTRY_FILE); }));
     const std::string longer(5000, 'x');
-    EXPECT_EQ(write(descriptor, longer.data(), longer.size()), 5000);
-    EXPECT_EQ(flock(descriptor, LOCK_UN), 0);
+    EXPECT_EQ(write(lock.Descriptor(), longer.data(), longer.size()), 5000);
+    lock.Release();
     writer.join();
-    close(descriptor);
     EXPECT_EQ(ReadText(REGISTRY_FILE), TEXT);
 }
 
@@ -175,6 +166,29 @@ TEST(RegistryProcess, WritersAndReadersNeverSeeAMixture)
     EXPECT_TRUE(WaitFor(second));
 }
 
+// Another program empties the file while this one reads it.
+TEST(RegistryProcess, ALineCutByATruncationIsNotGivenOut)
+{
+    const std::string line = "\"n\"=dword:00000001\n";
+    std::string text;
+    while (text.size() < 40000) {
+        text += line;
+    }
+    WriteRegistry(text);
+    const LockedFile file(REGISTRY_FILE, O_RDONLY);
+    RegistryPieces pieces(file);
+    std::string piece;
+    ASSERT_TRUE(pieces.Next(piece));
+    std::filesystem::resize_file(REGISTRY_FILE, 0);
+    size_t length = 0;
+    do {
+        ASSERT_EQ(piece, line);
+        length += piece.size();
+    } while (pieces.Next(piece));
+    EXPECT_LT(length, text.size());
+    EXPECT_FALSE(pieces.Complete());
+}
+
 TEST(LockedFileTest, DescriptorsAreNotInherited)
 {
     WriteRegistry(TEXT);
@@ -189,6 +203,33 @@ TEST(LockedFileTest, NeitherANullNameNorAnAbsentFileIsOpen)
     errno = 0;
     EXPECT_FALSE(LockedFile("/tmp/absent", O_RDONLY).IsOpen());
     EXPECT_EQ(errno, ENOENT);
+}
+
+TEST(LockedFileTest, AFileNeverTakesTheNumberOfAStandardStream)
+{
+    WriteRegistry(TEXT);
+    for (const std::vector<int>& streams :
+         {std::vector{0}, std::vector{1}, std::vector{2}, std::vector{0, 1, 2}}) {
+        EXPECT_EXIT(_exit(OpenWithout(streams)), testing::ExitedWithCode(0), "");
+    }
+}
+
+TEST(LockedFileTest, WhatIsPrintedWithoutAStandardOutputReachesNoFile)
+{
+    WriteText("/tmp/a.ini", "[Common]\nKey=1\n");
+    WriteRegistry(TEXT);
+    EXPECT_TRUE(WaitFor(StartChild([] {
+        close(STDIN_FILENO);
+        close(STDOUT_FILENO);
+        close(STDERR_FILENO);
+        const LockedFile registry(REGISTRY_FILE, O_RDWR);
+        const LockedFile profile("/tmp/a.ini", O_RDWR);
+        LogWarning("a line for the console");
+        std::fflush(stdout);
+        return registry.IsOpen() && profile.IsOpen();
+    })));
+    EXPECT_EQ(ReadText(REGISTRY_FILE), TEXT);
+    EXPECT_EQ(ReadText("/tmp/a.ini"), "[Common]\nKey=1\n");
 }
 
 TEST(LockedFileTest, ClosingTwiceIsHarmlessAndUnlocks)

@@ -118,6 +118,15 @@ TEST_F(WaitAnyTest, TheFirstHandleCarriesTheTiming)
     }
 }
 
+TEST_F(WaitAnyTest, TheLongestTimeoutsAreNotUpAtOnce)
+{
+    for (const DWORD timeout : {DWORD{0x80000000}, DWORD{0xFFFFFFFE}, INFINITE}) {
+        Scripted first({258, 258, 0});
+        EXPECT_EQ(WaitAny({ToHandle(&first)}, timeout), 0u);
+        EXPECT_THAT(first.timeouts, ElementsAre(10u, 10u, 10u));
+    }
+}
+
 TEST_F(WaitAnyTest, AnEventInFrontSleepsTenFineStepsARound)
 {
     WinEvent first(false, false);
