@@ -1,3 +1,4 @@
+// The tasks of the thread pool, and the wait for their end.
 #pragma once
 
 #include <QRunnable>

@@ -1,8 +1,8 @@
+// A row of the publisher list: names sort naturally, the other columns as plain text.
 #pragma once
 
 #include <QTreeWidgetItem>
 
-/// A row of the publisher list: names sort naturally, the other columns as plain text.
 class MyTreeWidgetItem : public QTreeWidgetItem
 {
 public:

@@ -99,6 +99,8 @@ void PubSetup::setUpImages()
     showPublisherProperty->setIcon(image("A2-1", "48"));
     udmMenu->setIcon(image("A4-1", "48"));
     deletePublisher->setIcon(image("A5-1", "48"));
+    m_localImage = image("A6-1", "48");
+    m_networkImage = image("A7-1", "48");
 }
 
 void PubSetup::setUpColumns()
@@ -155,18 +157,15 @@ void PubSetup::showWariningBeforeProperty(QWidget* parent)
            "from the values that are actually registered."));
 }
 
-QList<QTreeWidgetItem*> PubSetup::allRows() const
-{
-    return treePublisherList->findItems(QStringLiteral("*"), Qt::MatchWildcard, 0);
-}
-
 QTreeWidgetItem* PubSetup::findItemByPublisherRegistID(const QString& strPublisherRegistID)
 {
-    const QList<QTreeWidgetItem*> rows = allRows();
-    const auto found = std::find_if(rows.begin(), rows.end(), [&](const QTreeWidgetItem* row) {
-        return keyOf(row) == strPublisherRegistID;
-    });
-    return found == rows.end() ? nullptr : *found;
+    for (int i = 0; i < treePublisherList->topLevelItemCount(); ++i) {
+        QTreeWidgetItem* row = treePublisherList->topLevelItem(i);
+        if (keyOf(row) == strPublisherRegistID) {
+            return row;
+        }
+    }
+    return nullptr;
 }
 
 bool PubSetup::getCurrentPublisherInfo(PUBLISHERINFO& info, BOOL& bConnection)
@@ -184,11 +183,8 @@ QString PubSetup::getPublisherDevTypeStr(const PUBLISHERINFO& info, const CStrin
 
 void PubSetup::fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINFO& info)
 {
-    static const QIcon networkPublisher = image("A7-1", "48");
-    static const QIcon localPublisher = image("A6-1", "48");
-
     item->setText(colDevType, getPublisherDevTypeStr(info, info.strPublisherRegistID));
-    item->setIcon(0, info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK ? networkPublisher : localPublisher);
+    item->setIcon(0, info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK ? m_networkImage : m_localImage);
     item->setText(colName, QString::fromStdString(info.strPublisherName));
     item->setText(colStatus, tr("Not connected"));
     item->setText(colJobWaiting, jobCountText(-1));
@@ -215,7 +211,8 @@ void PubSetup::updateList()
     m_cPubMgr.EnumRegistedPublisher(&ids);
 
     QHash<QString, QTreeWidgetItem*> unregistered;
-    for (QTreeWidgetItem* row : allRows()) {
+    for (int i = 0; i < treePublisherList->topLevelItemCount(); ++i) {
+        QTreeWidgetItem* row = treePublisherList->topLevelItem(i);
         unregistered.insert(keyOf(row), row);
     }
     QSet<QString> shown;

@@ -6,6 +6,7 @@
 
 #include "ui_PubSetup.h"
 
+#include <QIcon>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -61,7 +62,6 @@ private:
     void setUpColumns();
     void connectAll();
     void disableUnfinishedActions();
-    QList<QTreeWidgetItem*> allRows() const;
     bool hasUnfinishedJobs(const CString& id);
 
     bool m_bSupportNetworkModel = true;
@@ -72,6 +72,8 @@ private:
     int colJobWaiting = 4;
     int colJobSending = 5;
     int colHDDAvail = 6;
+    QIcon m_localImage; // of the rows
+    QIcon m_networkImage;
     std::shared_ptr<StatusPoll> m_statusPoll; // shared with its tasks, which may outlive the window
     static CPublisherMgr m_cPubMgr;
     std::unique_ptr<QTimer> m_timer;

@@ -9,13 +9,33 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
+#include <string_view>
 
 namespace {
 
 constexpr int logLevel = 3;
 constexpr int taskPatience = 2000; // milliseconds
+
+bool hasValue(const char* variable)
+{
+    const char* value = std::getenv(variable);
+    return value && *value != '\0';
+}
+
+/// Whether somebody named a screen to show anything on. The toolkit aborts when there is none.
+bool hasDisplay(int argc, char** argv)
+{
+    constexpr std::string_view options[] = {"-platform", "--platform", "-display", "--display"};
+    bool chosen = false;
+    for (int i = 1; i < argc; ++i) {
+        chosen = chosen || std::find(std::begin(options), std::end(options), argv[i]) != std::end(options);
+    }
+    return chosen || hasValue("DISPLAY") || hasValue("WAYLAND_DISPLAY") || hasValue("QT_QPA_PLATFORM");
+}
 
 /// Ends the process at once when a task still hangs in a service that accepts and never answers: the thread
 /// pool would wait for it for good, and the static objects may not go while the task uses them.
@@ -34,6 +54,10 @@ int main(int argc, char** argv)
 {
     SetLogLevel(logLevel);
     applyEnvArguments(argc, argv);
+    if (!hasDisplay(argc, argv)) {
+        std::fprintf(stderr, "ARVEN Ulmar Disc Setup needs a graphical desktop: DISPLAY is not set.\n");
+        return EXIT_FAILURE;
+    }
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <iomanip>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -51,11 +53,9 @@ public:
         m_devices.push_back({guid, dpType, attached});
         std::string text = "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n";
         for (const Device& device : m_devices) {
-            char line[64];
-            std::string values = "\"Connected\"=dword:0000000" + std::to_string(int{device.attached}) + "\n";
-            std::sprintf(line, "\"DPType\"=dword:%08x\n", device.dpType);
-            values += line;
-            text += "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/" + device.guid + "]\n" + values + "\n";
+            text += "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/" + device.guid +
+                    "]\n\"Connected\"=" + dword(device.attached) + "\n\"DPType\"=" + dword(device.dpType) +
+                    "\n\n";
         }
         WriteRegistry(text);
     }
@@ -67,5 +67,13 @@ private:
         uint32_t dpType;
         bool attached;
     };
+
+    static std::string dword(uint32_t value)
+    {
+        std::ostringstream text;
+        text << "dword:" << std::hex << std::setw(8) << std::setfill('0') << value;
+        return text.str();
+    }
+
     std::vector<Device> m_devices;
 };

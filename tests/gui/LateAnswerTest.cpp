@@ -8,7 +8,16 @@
 #include <QTest>
 #include <QThreadPool>
 
+#include <atomic>
+#include <chrono>
+#include <memory>
 #include <thread>
+
+namespace {
+
+constexpr std::chrono::milliseconds lateness(1500); // long enough for the window to have begun to close
+
+} // namespace
 
 class LateAnswerTest : public QObject
 {
@@ -40,7 +49,7 @@ void LateAnswerTest::closingWaitsForTheAnswer()
     QVERIFY(service.waitFor("22 a", 1));
     std::atomic<bool> answered = false;
     std::thread answer([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        std::this_thread::sleep_for(lateness); // house-rule: sleeps: the answer is to be late
         answered = true;
         service.release("a");
     });
@@ -64,7 +73,7 @@ void LateAnswerTest::closingStopsAskingTheOthers()
     auto window = std::make_unique<PubSetup>(nullptr);
     QTRY_COMPARE(service.count("22 a") + service.count("22 b"), 1); // whichever the folder names first
     std::thread answer([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        std::this_thread::sleep_for(lateness); // house-rule: sleeps: the answer is to be late
         service.release("a");
         service.release("b");
     });

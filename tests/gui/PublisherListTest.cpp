@@ -2,6 +2,7 @@
 // refresh.
 #include "Boxes.h"
 #include "Installation.h"
+#include "MyRunnable.h"
 #include "PubSetup.h"
 #include "SameImage.h"
 
@@ -9,6 +10,7 @@
 #include <QTest>
 
 #include <csignal>
+#include <random>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -37,6 +39,7 @@ private slots:
     void rowAppearsAndVanishesWithItsFile();
     void rowVanishesBehindAnOpenBox();
     void nameOfARowIsNotRefreshed();
+    void rowThatCannotBeReadAnyMoreStays();
     void selectionAndScrollPositionSurvive();
     void selectionSurvivesAChangeOfOrder();
     void twoSelectedRowsLeaveRemoveEnabled();
@@ -48,6 +51,7 @@ private slots:
     void strangeFileNames();
     void entriesThatNameNoPublisher();
     void aLongNameIsCut();
+    void rubbishInTheFilesIsSurvived();
 
 private:
     QStringList names(int column = 0) const;
@@ -193,14 +197,16 @@ void PublisherListTest::rowVanishesBehindAnOpenBox()
     row("Vanishing")->setSelected(true);
 
     Boxes boxes({QMessageBox::Yes});
+    bool ticked = false;
     QStringList behindTheBox;
     boxes.onBox = [&](QMessageBox&) {
         Installation::remove("vanishing");
-        QTest::qWait(5500); // a tick of the timer
+        ticked = QTest::qWaitFor([this] { return names().size() < 2; }, 20000);
         behindTheBox = names();
     };
     m_window->deletePublisher->trigger();
     QVERIFY(boxes.allAnswered());
+    QVERIFY2(ticked, "the timer goes on behind the box");
     QCOMPARE(behindTheBox, QStringList{"Staying"});
     QCOMPARE(names(), QStringList{"Staying"});
     QVERIFY(std::filesystem::exists(Installation::settingFile("staying")));
@@ -213,6 +219,25 @@ void PublisherListTest::nameOfARowIsNotRefreshed()
     m_installation.addLocal("renamed", "New");
     m_window->updateList();
     QCOMPARE(names(), QStringList{"Old"});
+}
+
+void PublisherListTest::rowThatCannotBeReadAnyMoreStays()
+{
+    m_installation.addLocal("changing", "Changing");
+    m_window->updateList();
+    m_window->updateStatusOneDevice("changing", "RT-300III", "", "Ready", 3, -1, "-");
+    const QTreeWidgetItem* kept = row("Changing");
+
+    Installation::addNetwork("changing", "Changing", "192.0.2.1"); // still registered, no longer readable
+    QVERIFY(waitForTasks(10000));
+    QCoreApplication::processEvents();
+    m_window->updateStatusOneDevice("changing", "RT-300III", "", "Ready", 3, -1, "-");
+    m_window->fetchStatusAsync();
+    QVERIFY(waitForTasks(10000));
+    QCoreApplication::processEvents();
+    QCOMPARE(row("Changing"), kept);
+    QCOMPARE(kept->text(3), "Ready");
+    QCOMPARE(kept->text(4), "3");
 }
 
 void PublisherListTest::selectionAndScrollPositionSurvive()
@@ -359,6 +384,7 @@ void PublisherListTest::strangeFileNames()
     QCOMPARE(names(), (QStringList{"Other", "Strange"}));
 
     row("Strange")->setText(3, "untouched");
+    QVERIFY(waitForTasks(10000)); // a query that still runs would stand in the way of the next
     m_window->fetchStatusAsync();
     QTRY_COMPARE(row("Strange")->text(3), "Not connected"); // an answer found its row
 
@@ -382,9 +408,8 @@ void PublisherListTest::entriesThatNameNoPublisher()
     WriteText(folder + "twice.ini~", "[Common]\nPublisherName=Copy\n"); // the same id once more
     m_window->updateList();
     m_window->updateList();
-    QStringList shown = names();
-    shown.removeAll(""); // a folder of that name is a publisher without a name
-    QCOMPARE(shown, QStringList{"Twice"});
+    // A folder of that name opens and holds no keys: a publisher without a name.
+    QCOMPARE(names(), (QStringList{"", "Twice"}));
 }
 
 void PublisherListTest::aLongNameIsCut()
@@ -392,6 +417,36 @@ void PublisherListTest::aLongNameIsCut()
     m_installation.addLocal("long", std::string(5000, 'L'));
     m_window->updateList();
     QCOMPARE(m_window->findItemByPublisherRegistID("long")->text(0), QString(255, 'L'));
+}
+
+void PublisherListTest::rubbishInTheFilesIsSurvived()
+{
+    m_installation.addLocal("sane", "Sane");
+    std::mt19937 random(20260101);
+    const auto rubbish = [&random](size_t size) {
+        std::string bytes(size, '\0');
+        for (char& byte : bytes) {
+            byte = static_cast<char>(random());
+        }
+        return bytes;
+    };
+    const std::string lineEnds[] = {"\n", "\r\n", "", std::string(1, '\0')};
+    for (int i = 0; i < 40; ++i) {
+        std::string text = "[Common]\nGUID=" + rubbish(300) + lineEnds[i % 4] +
+                           "PublisherName=" + rubbish(2000) + lineEnds[i % 4] +
+                           "PublisherConnectionType=" + rubbish(20) + "\n" + rubbish(3000);
+        WriteText(Installation::settingFile("rubbish" + std::to_string(i)),
+                  i % 2 == 0 ? text : rubbish(20000));
+    }
+    const std::string registry = ReadText(REGISTRY_FILE);
+    WriteText(REGISTRY_FILE, registry + "[" + rubbish(5000) + "\n\"Connected\"=dword:" + rubbish(50) + "\n");
+    const std::string sane = ReadText(Installation::settingFile("sane"));
+    m_window->updateList();
+    m_window->fetchStatusAsync();
+    QVERIFY(waitForTasks(20000));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->findItemByPublisherRegistID("sane")->text(0), "Sane");
+    QCOMPARE(ReadText(Installation::settingFile("sane")), sane);
 }
 
 QTEST_MAIN(PublisherListTest)

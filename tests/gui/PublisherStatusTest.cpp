@@ -35,6 +35,7 @@ private slots:
 
 private:
     void open();
+    void ask();
     QStringList texts(const QString& key) const;
 
     Installation m_installation;
@@ -52,6 +53,13 @@ void PublisherStatusTest::open()
     m_window = std::make_unique<PubSetup>(nullptr);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+/// Asks all publishers once more, when no query runs that would stand in the way.
+void PublisherStatusTest::ask()
+{
+    QVERIFY(waitForTasks(10000));
+    m_window->fetchStatusAsync();
 }
 
 void PublisherStatusTest::cleanup()
@@ -114,7 +122,7 @@ void PublisherStatusTest::everyStateHasItsRow()
     m_installation.addLocal("X", "Studio", 0x30000009, attached);
     open();
     m_window->findItemByPublisherRegistID("X")->setText(3, "before the answer");
-    m_window->fetchStatusAsync();
+    ask();
     QTRY_COMPARE(texts("X"), (QStringList{"Studio", "RT-300III (BD-XL)", "-", status, waiting, "-", "-"}));
 }
 
@@ -123,7 +131,7 @@ void PublisherStatusTest::withoutAServiceNothingIsConnected()
     m_installation.addLocal("X", "Studio");
     open();
     m_window->findItemByPublisherRegistID("X")->setText(3, "before the answer");
-    m_window->fetchStatusAsync();
+    ask();
     QTRY_COMPARE(texts("X"), (QStringList{"Studio", "RT-300III", "-", "Not connected", "-", "-", "-"}));
 }
 
@@ -131,8 +139,9 @@ void PublisherStatusTest::theTimerKeepsTheRowsUpToDate()
 {
     m_service.emplace();
     m_installation.addLocal("X", "Studio");
-    open();
-    QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Ready", 2500); // the window asks at once, before the first tick
+    m_window = std::make_unique<PubSetup>(nullptr);
+    QVERIFY2(m_service->waitFor("22 X", 1), "asked at once: no event loop runs, so the timer cannot tick");
+    QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Ready", 20000);
     m_service->setFatalCode("X", 19);
     QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Error", 20000);
     QCOMPARE(texts("X")[4], "-");
@@ -145,14 +154,11 @@ void PublisherStatusTest::aReturningServiceIsNoticed()
     open();
     QTRY_COMPARE(texts("X")[3], "Ready");
     m_service.reset();
-    m_window->fetchStatusAsync();
+    ask();
     QTRY_COMPARE(texts("X")[3], "Not connected");
     m_service.emplace();
-    const auto asked = [this] {
-        m_window->fetchStatusAsync();
-        return texts("X")[3];
-    };
-    QTRY_COMPARE(asked(), "Ready");
+    ask();
+    QTRY_COMPARE(texts("X")[3], "Ready");
 }
 
 void PublisherStatusTest::aStalledPublisherIsAskedOnce()
@@ -164,12 +170,12 @@ void PublisherStatusTest::aStalledPublisherIsAskedOnce()
     QVERIFY(m_service->waitFor("22 A", 1));
     m_window->fetchStatusAsync();
     m_window->fetchStatusAsync();
-    QTest::qWait(200);
-    QCOMPARE(m_service->count("22 A"), 1);
     QCOMPARE(texts("A")[3], "Not connected");
     m_service->release("A");
+    QVERIFY(waitForTasks(10000));
+    QCOMPARE(m_service->count("22 A"), 1);
     QTRY_COMPARE(texts("A")[3], "Ready");
-    m_window->fetchStatusAsync();
+    ask();
     QVERIFY(m_service->waitFor("22 A", 2));
 }
 
@@ -198,7 +204,7 @@ void PublisherStatusTest::answersComeFromAPoolThread()
     connect(
         m_window.get(), &PubSetup::updateStatusOneDeviceSignal, this,
         [&] { thread = QThread::currentThread(); }, Qt::DirectConnection);
-    m_window->fetchStatusAsync();
+    ask();
     QTRY_VERIFY(thread != nullptr);
     QVERIFY(thread != QThread::currentThread());
     QVERIFY(waitForTasks(10000));

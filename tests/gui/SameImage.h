@@ -1,3 +1,4 @@
+// Compares what an icon shows with an image of the resource tree.
 #pragma once
 
 #include <QIcon>

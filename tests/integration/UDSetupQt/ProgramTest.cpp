@@ -6,7 +6,6 @@
 
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QThread>
 
 #include <filesystem>
 
@@ -20,7 +19,9 @@ class Screen
 public:
     Screen()
     {
-        m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x600x24", "-nolisten", "tcp"});
+        // Without -noreset the server starts anew, and refuses connections, whenever its last client leaves.
+        m_server.start("Xvfb",
+                       {"-displayfd", "1", "-screen", "0", "1024x600x24", "-nolisten", "tcp", "-noreset"});
         if (m_server.waitForReadyRead(patience)) {
             m_name = ":" + QString::fromLatin1(m_server.readLine()).trimmed();
         }
@@ -43,6 +44,15 @@ private:
 class ProgramTest : public testing::Test
 {
 protected:
+    /// The sanitizers have to be told about the libraries that show the window.
+    void SetUp() override
+    {
+        const QString notes = SANITIZER_NOTES;
+        m_environment.insert("ASAN_OPTIONS", "fast_unwind_on_malloc=0");
+        m_environment.insert("LSAN_OPTIONS", "suppressions=" + notes + "/lsan.supp:print_suppressions=0");
+        m_environment.insert("TSAN_OPTIONS", "suppressions=" + notes + "/tsan.supp");
+    }
+
     void start(const QStringList& arguments = {}, const QString& locale = "C.UTF-8")
     {
         ASSERT_FALSE(m_screen.name().isEmpty()) << "no virtual screen";
@@ -74,8 +84,10 @@ protected:
             if (!id.isEmpty()) {
                 return id;
             }
-            QThread::msleep(50);
+            m_program.waitForFinished(50); // or a while
         }
+        m_program.waitForReadyRead(0);
+        ADD_FAILURE() << "no window; the program said: " << m_program.readAllStandardError().toStdString();
         return QString();
     }
 
@@ -88,15 +100,15 @@ protected:
                !xdotool({"search", "--onlyvisible", "--name", mainTitle}).isEmpty()) {
             xdotool({"windowfocus", "--sync", window});
             xdotool({"key", "alt+" + menuKey});
-            QThread::msleep(300);
+            m_program.waitForFinished(300); // the menu opens in a while, and nothing tells when
             xdotool({"key", entryKey});
-            QThread::msleep(300);
+            m_program.waitForFinished(300);
         }
     }
 
     void expectEnd(int within = patience)
     {
-        ASSERT_TRUE(m_program.waitForFinished(within));
+        ASSERT_TRUE(m_program.state() == QProcess::NotRunning || m_program.waitForFinished(within));
         EXPECT_EQ(m_program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(m_program.exitCode(), 0);
     }
@@ -168,6 +180,37 @@ TEST_F(ProgramTest, FindsItsDisplayThroughTheCommandLine)
     m_environment.insert("DISPLAY", display); // for xdotool
     m_program.setProcessEnvironment(bare);
     m_program.start(UDSETUP_PROGRAM, {"-envDISPLAY=" + display});
+    ASSERT_TRUE(m_program.waitForStarted(patience));
+    const QString id = window(mainTitle);
+    ASSERT_FALSE(id.isEmpty());
+    choose(id, "f", "x");
+    expectEnd();
+}
+
+TEST_F(ProgramTest, SaysThatItNeedsADisplay)
+{
+    m_environment.insert("DISPLAY", ""); // an empty name is none
+    m_environment.remove("WAYLAND_DISPLAY");
+    m_environment.remove("QT_QPA_PLATFORM");
+    m_program.setProcessEnvironment(m_environment);
+    m_program.start(UDSETUP_PROGRAM, QStringList());
+    ASSERT_TRUE(m_program.waitForFinished(patience));
+    EXPECT_EQ(m_program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(m_program.exitCode(), 1);
+    EXPECT_EQ(m_program.readAllStandardError(),
+              "ARVEN Ulmar Disc Setup needs a graphical desktop: DISPLAY is not set.\n");
+}
+
+TEST_F(ProgramTest, TakesTheDisplayThatTheToolkitsOptionNames)
+{
+    QProcessEnvironment bare = m_environment;
+    bare.insert("LC_ALL", "C.UTF-8");
+    bare.insert("XDG_RUNTIME_DIR", "/tmp");
+    bare.remove("DISPLAY");
+    bare.remove("QT_QPA_PLATFORM");
+    m_environment.insert("DISPLAY", m_screen.name()); // for xdotool
+    m_program.setProcessEnvironment(bare);
+    m_program.start(UDSETUP_PROGRAM, {"-display", m_screen.name()});
     ASSERT_TRUE(m_program.waitForStarted(patience));
     const QString id = window(mainTitle);
     ASSERT_FALSE(id.isEmpty());

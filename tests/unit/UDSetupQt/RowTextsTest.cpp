@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
+#include <QLocale>
 
 namespace {
 
@@ -135,10 +135,12 @@ TEST(RowTexts, SpaceIsCutToWholeMebibytesBeforeTheDivision)
     }
 }
 
-TEST(RowTexts, SpaceHasADecimalPointInEveryLocale)
+TEST(RowTexts, SpaceHasADecimalPointInEveryLanguage)
 {
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
+    QLocale::setDefault(QLocale(QLocale::German));
+    ASSERT_EQ(QLocale().toString(1.5), "1,5");
     EXPECT_EQ(spaceText("1610612736"), "1.5 GB");
+    QLocale::setDefault(QLocale::c());
 }
 
 TEST(RegistIDKey, MapsAnyBytesBackToTheSameBytes)
