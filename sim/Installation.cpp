@@ -15,7 +15,7 @@ namespace udsim {
 
 namespace {
 
-constexpr char DEVICE_ROOT[] = "HKLM/Software/ARVEN/Ulmar Disc Maker/Local/";
+constexpr char DEVICE_ROOT[] = "HKLM/Software/ARVEN/Ulmar Disc Maker/Local";
 constexpr char DEFAULT_RETRIES[] = "3";
 
 std::string settingPath(const std::string& registId)
@@ -74,8 +74,9 @@ bool makeFolders(std::string& error)
 bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error)
 {
     RegistryKeys keys;
+    keys[DEVICE_ROOT]; // whoever enumerates the devices opens this key
     for (const Publisher& publisher : publishers) {
-        keys[DEVICE_ROOT + publisher.state().guid] = deviceValues(publisher);
+        keys[std::string(DEVICE_ROOT) + "/" + publisher.state().guid] = deviceValues(publisher);
     }
     return writeRegistryKeys(REGISTRY, keys, error);
 }

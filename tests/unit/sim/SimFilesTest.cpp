@@ -132,7 +132,8 @@ TEST(SimRegistry, WaitsForTheLockOfAnotherProgram)
 TEST(SimInstallation, StartMakesEverything)
 {
     const OpenRoom open(ONE);
-    EXPECT_EQ(contents(REGISTRY), "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{G1}]\n"
+    EXPECT_EQ(contents(REGISTRY), "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n"
+                                  "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{G1}]\n"
                                   "\"DRV1SupportWriteSpeed\"=\"" +
                                       std::string(TWO_DRIVE_SPEEDS) + "\"\n\"DRV2SupportWriteSpeed\"=\"" +
                                       TWO_DRIVE_SPEEDS +
@@ -151,6 +152,7 @@ TEST(SimInstallation, KeysOfSingleDriveAndPrinterModels)
                         "[publisher P]\nmodel = RT-300AP\nguid = {P}\nusb = 16\nid = p\n");
     EXPECT_EQ(
         contents(REGISTRY),
+        "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n"
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{P}]\n\"Connected\"=dword:00000001\n"
         "\"DPType\"=dword:00000002\n\"USBMode\"=dword:00000010\n\n"
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{S}]\n\"DRVSupportWriteSpeed\"=\"CD-R:40,32,24,16,10,4;"
