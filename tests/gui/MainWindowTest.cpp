@@ -33,6 +33,7 @@ private slots:
     void menusHoldTheirActions();
     void actionsHaveTheirTextsAndImages();
     void toolBarHoldsThreeActions();
+    void noRightClickHidesTheToolBar();
     void contextMenuHoldsRemoveAndProperties();
     void mnemonicsAreUnique();
     void widgetsHaveAccessibleNames();
@@ -192,10 +193,16 @@ void MainWindowTest::toolBarHoldsThreeActions()
     QVERIFY(!toolBar->isFloatable());
     QCOMPARE(toolBar->iconSize(), QSize(22, 22));
     QCOMPARE(toolBar->styleSheet(), "QToolButton { margin-bottom: 2px; }");
+}
 
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), toolBar->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(toolBar, &event);
-    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+void MainWindowTest::noRightClickHidesTheToolBar()
+{
+    for (QWidget* place :
+         {static_cast<QWidget*>(m_window->toolBar), static_cast<QWidget*>(m_window->menubar)}) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), place->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(place, &event);
+        QCOMPARE(QApplication::activePopupWidget(), nullptr);
+    }
 }
 
 void MainWindowTest::contextMenuHoldsRemoveAndProperties()
