@@ -24,7 +24,8 @@ add_compile_options(-fno-plt -fstack-protector-strong -fstack-clash-protection -
 add_link_options(-Wl,-z,relro,-z,now -Wl,-z,noexecstack -Wl,--as-needed)
 
 if(ULMAR_SANITIZE)
-    add_compile_options(-fsanitize=${ULMAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    # Line tables serve the reports, and cost a third less to build than full debug information.
+    add_compile_options(-fsanitize=${ULMAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all -g1)
     add_link_options(-fsanitize=${ULMAR_SANITIZE})
 else()
     # The sanitizers bring checks of their own, which do not see through the fortified calls.
