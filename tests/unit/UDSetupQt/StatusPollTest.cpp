@@ -54,6 +54,17 @@ CStringArray list(std::initializer_list<const char*> ids)
     return array;
 }
 
+struct RowCase
+{
+    const char* name;
+    ScriptedPublisher publisher;
+    const char* status;
+    int waiting;
+    int sending;
+    const char* space;
+    std::vector<std::string> calls;
+};
+
 class StatusPollTest : public testing::Test
 {
 protected:
@@ -72,9 +83,28 @@ protected:
     std::optional<StatusRow> ask(const ScriptedPublisher& publisher, bool supportNetworkModel = true)
     {
         m_script.add("X", publisher);
+        const size_t before = m_reports.rows().size();
         makePoll(supportNetworkModel)->fetchStatusOneDevice("X");
         const std::vector<StatusRow> rows = m_reports.rows();
-        return rows.empty() ? std::nullopt : std::optional(rows.back());
+        return rows.size() == before ? std::nullopt : std::optional(rows.back());
+    }
+    /// Asks the publisher of the case, and compares what is reported and in which order it was asked for.
+    void expectRow(const RowCase& row, const char* devType, const char* host)
+    {
+        SCOPED_TRACE(row.name);
+        const size_t before = m_script.calls().size();
+        const std::optional<StatusRow> got = ask(row.publisher);
+        ASSERT_TRUE(got);
+        EXPECT_EQ(got->strPublisherRegistID, "X");
+        EXPECT_EQ(got->strDevType, devType);
+        EXPECT_EQ(got->strHostName, host);
+        EXPECT_EQ(got->strStatus, row.status);
+        EXPECT_EQ(got->nJobWaiting, row.waiting);
+        EXPECT_EQ(got->nJobSending, row.sending);
+        EXPECT_EQ(got->strHDDAvail, row.space);
+        const std::vector<std::string> calls = m_script.calls();
+        EXPECT_EQ(std::vector<std::string>(calls.begin() + static_cast<long>(before), calls.end()),
+                  row.calls);
     }
 
     Script& m_script = Script::the();
@@ -102,17 +132,6 @@ ScriptedPublisher localPublisher()
     return publisher;
 }
 
-struct RowCase
-{
-    const char* name;
-    ScriptedPublisher publisher;
-    const char* status;
-    int waiting;
-    int sending;
-    const char* space;
-    std::vector<std::string> calls;
-};
-
 TEST_F(StatusPollTest, EveryStateOfALocalPublisher)
 {
     ScriptedPublisher absent = localPublisher();
@@ -139,20 +158,7 @@ TEST_F(StatusPollTest, EveryStateOfALocalPublisher)
          {live, attached, fatal, "GetServiceJobStatusUnfinish X"}},
     };
     for (const RowCase& row : table) {
-        SCOPED_TRACE(row.name);
-        const size_t before = m_script.calls().size();
-        const std::optional<StatusRow> got = ask(row.publisher);
-        ASSERT_TRUE(got);
-        EXPECT_EQ(got->strPublisherRegistID, "X");
-        EXPECT_EQ(got->strDevType, "RT-300III");
-        EXPECT_EQ(got->strHostName, "");
-        EXPECT_EQ(got->strStatus, row.status);
-        EXPECT_EQ(got->nJobWaiting, row.waiting);
-        EXPECT_EQ(got->nJobSending, row.sending);
-        EXPECT_EQ(got->strHDDAvail, row.space);
-        const std::vector<std::string> calls = m_script.calls();
-        EXPECT_EQ(std::vector<std::string>(calls.begin() + static_cast<long>(before), calls.end()),
-                  row.calls);
+        expectRow(row, "RT-300III", "");
     }
 }
 
@@ -197,19 +203,7 @@ TEST_F(StatusPollTest, EveryStateOfANetworkPublisher)
         {"lost after the first answer", lost, "Ready", 0, -1, "-", everything},
     };
     for (const RowCase& row : table) {
-        SCOPED_TRACE(row.name);
-        const size_t before = m_script.calls().size();
-        const std::optional<StatusRow> got = ask(row.publisher);
-        ASSERT_TRUE(got);
-        EXPECT_EQ(got->strDevType, "RT-300NII");
-        EXPECT_EQ(got->strHostName, "studio-3");
-        EXPECT_EQ(got->strStatus, row.status);
-        EXPECT_EQ(got->nJobWaiting, row.waiting);
-        EXPECT_EQ(got->nJobSending, row.sending);
-        EXPECT_EQ(got->strHDDAvail, row.space);
-        const std::vector<std::string> calls = m_script.calls();
-        EXPECT_EQ(std::vector<std::string>(calls.begin() + static_cast<long>(before), calls.end()),
-                  row.calls);
+        expectRow(row, "RT-300NII", "studio-3");
     }
 }
 
