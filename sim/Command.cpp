@@ -126,6 +126,9 @@ std::optional<Command> Command::parse(const std::string& text, std::string& erro
     if (word == "service" && (argument == "on" || argument == "off")) {
         return Command{Kind::service, 0, argument == "on" ? 1U : 0U, {}};
     }
+    if (word == "server" && (argument == "on" || argument == "off")) {
+        return Command{Kind::server, 0, argument == "on" ? 1U : 0U, {}};
+    }
     error = "unknown command \"" + text + "\"";
     return std::nullopt;
 }

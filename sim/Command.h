@@ -24,6 +24,7 @@ struct Command
         ink,     ///< cartridge `index` at `number` percent
         stacker, ///< stacker `index` holds `number` discs
         service, ///< the service itself listens (`number` 1) or not (0)
+        server,  ///< the server of a network publisher listens (`number` 1) or is gone (0)
     };
 
     Kind kind = Kind::clear;

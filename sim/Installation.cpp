@@ -1,5 +1,7 @@
 #include "Installation.h"
 
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -39,6 +41,56 @@ std::string settingText(const PublisherSetup& publisher)
     return text;
 }
 
+/// Everyone may leave jobs there, and take away none but his own.
+bool makeJobFolder(std::string& error)
+{
+    constexpr mode_t MODE = 01777;
+    struct stat there
+    {
+    };
+    if (::lstat(JOB_FOLDER, &there) == 0) {
+        return true;
+    }
+    if (::mkdir(JOB_FOLDER, MODE) != 0 || ::chmod(JOB_FOLDER, MODE) != 0) {
+        error = std::string(JOB_FOLDER) + ": " + std::strerror(errno);
+        return false;
+    }
+    return true;
+}
+
+/// What stands in for the printer's own data, which no simulated machine prints.
+bool makePrintData(const std::string& name, std::string& error)
+{
+    constexpr size_t REPETITIONS = 8;
+    const std::string path = std::string(PRINT_DATA_FOLDER) + "/" + name;
+    struct stat there
+    {
+    };
+    if (::lstat(path.c_str(), &there) == 0) {
+        return true;
+    }
+    std::string text;
+    for (size_t i = 0; i < REPETITIONS; ++i) {
+        text += "udsim: placeholder for the print data " + name + "\n";
+    }
+    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
+    return file && file->write(text, error);
+}
+
+/// Unless it is there.
+bool makeSettingFile(const std::string& registId, const std::string& text, std::string& error)
+{
+    const std::string path = settingPath(registId);
+    struct stat there
+    {
+    };
+    if (::stat(path.c_str(), &there) == 0) {
+        return true;
+    }
+    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
+    return file && file->write(text, error);
+}
+
 RegistryValues deviceValues(const Publisher& publisher)
 {
     const Model& model = publisher.model();
@@ -60,15 +112,16 @@ RegistryValues deviceValues(const Publisher& publisher)
 
 bool makeFolders(std::string& error)
 {
-    for (const std::string& folder : {std::string(SETTING_FOLDER), std::string(INSTALL_FOLDER) + "/JOB"}) {
+    for (const char* const folder : {SETTING_FOLDER, PRINT_DATA_FOLDER}) {
         std::error_code failure;
         std::filesystem::create_directories(folder, failure);
         if (failure) {
-            error = folder + ": " + failure.message();
+            error = std::string(folder) + ": " + failure.message();
             return false;
         }
     }
-    return true;
+    return makeJobFolder(error) && makePrintData("headCleaning.prn", error) &&
+           makePrintData("nozzleCheck.prn", error);
 }
 
 bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error)
@@ -83,15 +136,18 @@ bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& erro
 
 bool makeSetting(const PublisherSetup& publisher, std::string& error)
 {
-    const std::string path = settingPath(publisher.registId);
-    struct stat there
-    {
-    };
-    if (::stat(path.c_str(), &there) == 0) {
-        return true;
+    return makeSettingFile(publisher.registId, settingText(publisher), error);
+}
+
+bool makeNetworkSetting(const ServerSetup& server, std::string& error)
+{
+    std::string text = "[Common]\nPublisherName=" + server.machine.shownName +
+                       "\nPrinterName=" + server.machine.model->printerName +
+                       "\nPublisherConnectionType=1\nPublisherURL=" + server.host + "\n";
+    if (server.knownKind != 0) {
+        text += "NPType=" + std::to_string(server.knownKind) + "\n";
     }
-    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
-    return file && file->write(settingText(publisher), error);
+    return makeSettingFile(server.machine.registId, text, error);
 }
 
 std::optional<Setting> readSetting(const std::string& registId)
@@ -117,6 +173,8 @@ std::optional<Setting> readSetting(const std::string& registId)
             setting.guid = value;
         } else if (key == "PublisherName") {
             setting.shownName = value;
+        } else if (key == "PublishMode") {
+            setting.mode = static_cast<uint32_t>(parseNumber(value, UINT32_MAX).value_or(mode::NORMAL));
         } else if (key.size() == 8 && key.starts_with("Stacker") && key[7] >= '1' && key[7] <= '4') {
             setting.media[static_cast<size_t>(key[7] - '1')] =
                 static_cast<uint32_t>(parseNumber(value, UINT32_MAX).value_or(media::NOT_USED));

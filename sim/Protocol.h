@@ -54,8 +54,18 @@ namespace result {
 inline constexpr uint64_t SUCCESS = 0;
 inline constexpr uint32_t DISC_EMPTY = 7;
 inline constexpr uint32_t DISC_FULL = 8;
+inline constexpr uint32_t DISC_COVER_OPEN = 9;
+inline constexpr uint32_t INK_COVER_OPEN = 10;
 inline constexpr uint32_t OFFLINE = 11;
+inline constexpr uint32_t DISC_TYPE = 15;
+inline constexpr uint32_t DISC_NOT_BLANK = 16;
 inline constexpr uint32_t INK_EMPTY = 19;
+inline constexpr uint32_t DISC_WRITE = 20;
+inline constexpr uint32_t INK_PAD_OVERFLOW = 28;
+inline constexpr uint32_t MULTIFEED_DRIVE = 33;
+inline constexpr uint32_t MULTIFEED_PRINTER = 34;
+inline constexpr uint32_t STACKER4_OPEN = 46;
+inline constexpr uint32_t STACKER_DISC_PICK = 48;
 inline constexpr uint64_t PUB_NAME = 21;
 inline constexpr uint64_t JOB_ID = 22;
 inline constexpr uint64_t INVALID_CONTROL = 23;
@@ -85,11 +95,28 @@ inline constexpr uint64_t MOVE_PRIORITY_HIGH = 1;
 
 inline constexpr uint64_t JOB_TYPE_WRITE = 1;
 inline constexpr uint64_t JOB_TYPE_PRINT = 2;
+inline constexpr uint64_t JOB_TYPE_NOZZLE_CHECK = 4;
+inline constexpr uint64_t JOB_TYPE_CLEANING = 0x80000003;
+
+/// Sources and destinations of a job, a sum.
+inline constexpr uint64_t STACKER1 = 1;
+inline constexpr uint64_t STACKER2 = 2;
+inline constexpr uint64_t STACKER3 = 4;
+inline constexpr uint64_t STACKER4 = 8;
+
+/// What a job went through.
+namespace history {
+inline constexpr uint32_t WRITE_ERROR = 1;
+inline constexpr uint32_t COVER_OPEN = 2;
+inline constexpr uint32_t STACKER4_OPEN = 4;
+} // namespace history
 
 namespace mode {
 inline constexpr uint32_t NORMAL = 0;
 inline constexpr uint32_t BATCH = 1;
 inline constexpr uint32_t OUTPUT = 2;
+inline constexpr uint32_t SECURITY = 3;       ///< of servers only
+inline constexpr uint32_t OUTPUT_CONTROL = 4; ///< of servers only
 inline constexpr uint32_t ERROR_RATE = 5;
 inline constexpr uint32_t READ = 6;
 } // namespace mode
@@ -124,6 +151,7 @@ inline constexpr uint64_t IDLE = 0x1;
 inline constexpr uint64_t CONVEYING = 0x2;
 inline constexpr uint64_t PRINTING = 0x4;
 inline constexpr uint64_t PAUSE = 0x8;
+inline constexpr uint64_t CLEANING = 0x10;
 inline constexpr uint64_t ERROR = 0x40;
 inline constexpr uint64_t ERROR_OFFLINE = 0x10000;
 inline constexpr uint64_t ERROR_INKPAD_OVERFLOW = 0x20000;

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,17 @@ struct JobSetup
 {
     std::string name = "Disc";
     uint32_t copies = 1;
-    uint64_t type = 3; ///< 1 write, 2 print, 3 both
+    uint64_t type = 3;                         ///< 1 write, 2 print, 3 both; or one of the maintenance jobs
+    std::string id = {};                       ///< empty: the machine counts one up
+    uint64_t destinations = 0;                 ///< stackers that a nozzle check may be ejected to, a sum
+    uint32_t number = 0;                       ///< by which a server calls it; 0: the machine counts one up
+    std::optional<std::string> reference = {}; ///< the submitter's own id, which may be none; left out: `id`
+    std::string person = "udsim";
+
+    /// The printer's head is cleaned; no disc is moved.
+    static JobSetup cleaning(std::string id);
+    /// One disc of stacker 1 is printed with the pattern.
+    static JobSetup nozzleCheck(std::string id, uint64_t destinations);
 };
 
 struct Job
@@ -24,9 +35,23 @@ struct Job
     uint64_t type = 0;
     uint32_t copies = 0;
     uint64_t status = 0;
-    uint64_t factor = 0;    ///< why it stands still; 0 when it does not, or stands on demand
-    uint32_t completed = 0; ///< discs
-    uint64_t discTime = 0;  ///< milliseconds spent on the present disc
+    uint64_t factor = 0;       ///< why it stands still; 0 when it does not, or stands on demand
+    uint32_t completed = 0;    ///< discs
+    uint64_t discTime = 0;     ///< milliseconds spent on the present disc, or on the cleaning
+    uint64_t roundTime = 0;    ///< milliseconds that a disc, or the cleaning, takes
+    uint64_t destinations = 0; ///< of a nozzle check
+    uint32_t number = 0;       ///< by which a server calls it
+    std::string reference;     ///< the submitter's own id; empty when he gave none
+    std::string person;        ///< the submitter
+    uint32_t history = 0;      ///< what it went through, a sum of `history` bits
+
+    bool isCleaning() const;
+    bool isNozzleCheck() const;
+    bool prints() const;
+    bool isEnded() const;
+    bool isUnderWay() const; ///< on its way through the machine, also when its end is near
+    /// How often the work is done: once for a cleaning, which counts no discs.
+    uint32_t rounds() const;
 };
 
 struct Stacker
@@ -55,6 +80,8 @@ struct PublisherSetup
     uint32_t maintenanceBox = 0; ///< percent that is free
     uint32_t printCount = 0;     ///< printed before
     uint64_t discTime = 0;       ///< milliseconds a disc takes
+    uint64_t cleaningTime = 0;   ///< milliseconds a head cleaning takes
+    size_t mostJobs = 0;         ///< that the list takes
     std::array<uint32_t, 6> ink{};
     std::array<Stacker, 4> stackers{};
     std::vector<JobSetup> jobs;
@@ -72,14 +99,17 @@ enum class Phase
     conveying,
     writing,
     verifying,
-    printing
+    printing,
+    cleaning
 };
 
 class Publisher
 {
 public:
     static constexpr uint32_t STACKER_CAPACITY = 100;
-    /// A list this long and its header arrive in one piece on a stream socket; a longer one may not.
+    static constexpr uint32_t FULL_INK = 100; ///< percent
+    /// Of a local machine. A list this long and its header arrive in one piece on a stream socket; a longer
+    /// one may not.
     static constexpr size_t MAX_JOBS = 40;
     static constexpr size_t MAX_ENDED_JOBS = 20; ///< older ones are forgotten
 
@@ -133,6 +163,14 @@ public:
     void resume();
     /// The new job's id; empty when the list is full.
     std::string addJob(const JobSetup& setup);
+    /// The next number of a job on a server; none comes twice.
+    uint32_t nextNumber();
+    /// By its number; null when there is none.
+    const Job* byNumber(uint32_t number) const;
+    /// The first one that its submitter calls so; null when there is none, and for no id.
+    const Job* byReference(const std::string& reference) const;
+    /// The jobs that have finished or were cancelled since the last call (the last 100 of them).
+    std::vector<Job> takeEndedJobs();
 
     /// What a client may do; each yields a result code of the service.
     uint64_t stopJob(const std::string& id);
@@ -148,17 +186,22 @@ private:
     Job* find(const std::string& id);
     Job* active();
     const Job* active() const;
+    std::string nextJobId();
     void startNext();
-    bool takeDisc();
-    void finishDisc(Job& job);
+    bool begin(Job& job);
+    uint32_t obstacle(const Job& job);
+    void finishRound(Job& job);
+    void useInk(const Job& job);
     void settle(Job& job);
-    void forgetOldJobs();
-    Stacker* input();
-    Stacker* output();
+    void end(Job& job, uint64_t status);
+    Stacker* input(const Job& job);
+    Stacker* output(const Job& job);
 
     PublisherSetup m_state;
     std::vector<Job> m_jobs;
+    std::vector<Job> m_ended; ///< for takeEndedJobs()
     uint32_t m_jobNumber = 0;
+    uint32_t m_serverNumber = 0;
     uint32_t m_published = 0;
     uint32_t m_printed = 0;
 };

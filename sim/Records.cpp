@@ -1,5 +1,7 @@
 #include "Records.h"
 
+#include <utility>
+
 #include "Protocol.h"
 #include "Wire.h"
 
@@ -8,12 +10,8 @@ namespace udsim {
 namespace {
 
 constexpr char MAKER[] = "ARVEN";
-constexpr char LOADER_FIRMWARE[] = "02.14";
-constexpr char PRINTER_FIRMWARE[] = "01.37";
-constexpr char DRIVE_FIRMWARE[] = "1.05";
 constexpr char DRIVE_RELEASE_DATE[] = "2025/06/12";
 constexpr size_t INFO_FIELD = 32;
-constexpr uint32_t NEAR_EMPTY_PERCENT = 10;
 constexpr uint64_t MOST_PRINTS = 100'000;
 
 /// How an error of the device shows in the status words of its parts.
@@ -52,6 +50,33 @@ ErrorBits errorBits(uint32_t code)
     return {code, ald::ALD_ERROR, 0};
 }
 
+void appendJob(ByteWriter& out, const Publisher& publisher, const Job& job, size_t index)
+{
+    const auto& stackers = publisher.state().stackers;
+    const auto [sources, destinations] = routeOf(publisher, job);
+    out.text(job.id, 256).text(job.name, 256).u64(job.status).u64(job.factor).u64(job.completed).u64(index);
+    out.u64(job.rounds() * job.roundTime / 1000).u64(publisher.remainingSeconds(job));
+    out.u64(0) // errors
+        .u64(job.copies)
+        .u64(0) // discs that failed
+        .text(job.person, 65)
+        .text("", 65) // who approves
+        .zeros(6)
+        .u64(job.type)
+        .u64(sources)
+        .u64(destinations)
+        .text("", 41) // plug-in
+        .zeros(7)
+        .u64(0) // history
+        .u64(publisher.state().mode)
+        .text("", 260) // path of a read error
+        .zeros(4)
+        .u64(0) // read result
+        .u64(stackers[2].media);
+}
+
+} // namespace
+
 uint64_t oneDriveStatus(const Publisher& publisher, unsigned which)
 {
     if (which >= publisher.model().drives || !publisher.connected()) {
@@ -72,6 +97,8 @@ uint64_t oneDriveStatus(const Publisher& publisher, unsigned which)
     }
 }
 
+namespace {
+
 /// The drive of this number is writing or verifying.
 bool isBurning(const Publisher& publisher, unsigned which)
 {
@@ -80,8 +107,21 @@ bool isBurning(const Publisher& publisher, unsigned which)
            (phase == Phase::writing || phase == Phase::verifying);
 }
 
-void appendJob(ByteWriter& out, const Publisher& publisher, const Job& job, size_t index)
+} // namespace
+
+uint64_t driveProgress(const Publisher& publisher, unsigned which)
 {
+    return isBurning(publisher, which) ? publisher.progressPercent() : 0;
+}
+
+std::pair<uint64_t, uint64_t> routeOf(const Publisher& publisher, const Job& job)
+{
+    if (job.isCleaning()) {
+        return {0, 0};
+    }
+    if (job.isNozzleCheck()) {
+        return {STACKER1, job.destinations};
+    }
     uint64_t sources = 0;
     uint64_t destinations = 0;
     const auto& stackers = publisher.state().stackers;
@@ -89,35 +129,16 @@ void appendJob(ByteWriter& out, const Publisher& publisher, const Job& job, size
         sources |= stackers[i].isInput() ? uint64_t{1} << i : 0;
         destinations |= stackers[i].isOutput() ? uint64_t{1} << i : 0;
     }
-    out.text(job.id, 256).text(job.name, 256).u64(job.status).u64(job.factor).u64(job.completed).u64(index);
-    out.u64(job.copies * publisher.state().discTime / 1000).u64(publisher.remainingSeconds(job));
-    out.u64(0) // errors
-        .u64(job.copies)
-        .u64(0)            // discs that failed
-        .text("udsim", 65) // who publishes
-        .text("", 65)      // who approves
-        .zeros(6)
-        .u64(job.type)
-        .u64(sources)
-        .u64(destinations)
-        .text("", 41) // plug-in
-        .zeros(7)
-        .u64(0) // history
-        .u64(publisher.state().mode)
-        .text("", 260) // path of a read error
-        .zeros(4)
-        .u64(0) // read result
-        .u64(stackers[2].media);
+    return {sources, destinations};
 }
-
-} // namespace
 
 uint64_t loaderStatus(const Publisher& publisher)
 {
     if (publisher.hindrance() != 0) {
         return errorBits(publisher.hindrance()).loader;
     }
-    return publisher.phase() == Phase::idle ? 0 : ald::AUTOMATION;
+    const Phase phase = publisher.phase();
+    return phase == Phase::idle || phase == Phase::cleaning ? 0 : ald::AUTOMATION;
 }
 
 uint64_t printerStatus(const Publisher& publisher)
@@ -126,7 +147,14 @@ uint64_t printerStatus(const Publisher& publisher)
         const uint64_t bits = errorBits(publisher.hindrance()).printer;
         return bits == 0 ? printer::IDLE : printer::ERROR | bits;
     }
-    return publisher.phase() == Phase::printing ? printer::PRINTING : printer::IDLE;
+    switch (publisher.phase()) {
+    case Phase::printing:
+        return printer::PRINTING;
+    case Phase::cleaning:
+        return printer::CLEANING;
+    default:
+        return printer::IDLE;
+    }
 }
 
 uint64_t maintenanceBoxStatus(const Publisher& publisher)
@@ -149,6 +177,8 @@ uint64_t activity(const Publisher& publisher)
                (publisher.activeDrive() == 0 ? notify::DRV1_ACTIVE : notify::DRV2_ACTIVE);
     case Phase::printing:
         return notify::DISC_WORKING | notify::PRT_ACTIVE;
+    case Phase::cleaning:
+        return notify::PRT_ACTIVE;
     default:
         return 0;
     }
@@ -182,8 +212,7 @@ std::string driveStatus(const Publisher& publisher)
 {
     ByteWriter out;
     for (const unsigned which : {0U, 1U}) {
-        const uint64_t progress = isBurning(publisher, which) ? publisher.progressPercent() : 0;
-        out.u64(oneDriveStatus(publisher, which)).text("", 41).zeros(7).u64(progress);
+        out.u64(oneDriveStatus(publisher, which)).text("", 41).zeros(7).u64(driveProgress(publisher, which));
     }
     return out.bytes();
 }
@@ -255,7 +284,8 @@ std::string maintenanceInfo(const Publisher& publisher)
     ByteWriter out;
     out.u64(printed).u64(MOST_PRINTS);
     if (model.maintenanceBox) {
-        out.u64(publisher.state().maintenanceBox).u64(100);
+        constexpr uint64_t FULL = 100; // percent, of which the record counts what is used
+        out.u64(FULL - publisher.state().maintenanceBox).u64(FULL);
     } else {
         out.u64(MAINTENANCE_FIGURE_UNKNOWN).u64(MAINTENANCE_FIGURE_UNKNOWN);
     }

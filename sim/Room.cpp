@@ -3,9 +3,14 @@
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
+#include <set>
 
 #include "Answers.h"
+#include "Diary.h"
+#include "HttpServer.h"
 #include "Installation.h"
+#include "JobFile.h"
+#include "JobFolder.h"
 #include "Protocol.h"
 #include "Server.h"
 #include "World.h"
@@ -15,6 +20,7 @@ namespace udsim {
 namespace {
 
 constexpr size_t MOST_KEPT = 10'000;
+constexpr std::chrono::milliseconds LOOK{100}; ///< between two looks into the job folder
 
 template <class List, class Item>
 void keep(List& list, Item&& item)
@@ -32,6 +38,7 @@ struct Room::State
     State(const Scenario& scenario, double timesFaster);
 
     Delivery takeRequest(const Request& request);
+    HttpDelivery takeHttpRequest(const HttpRequest& request);
     void takeDatagram(std::string_view datagram);
     void tick(std::chrono::milliseconds realTime);
     /// Carries out `change` under the lock, and then everything that follows from it outside the machines
@@ -41,14 +48,19 @@ struct Room::State
 
     Publisher* publisherOf(const Request& request);
     const Fault* faultFor(const Request& request, const Publisher* publisher);
+    std::optional<HttpFault> faultFor(const HttpRequest& request, const std::string& publisher);
     void rereadSetting(const std::string& registId, Publisher& publisher);
     bool listens() const;
     void settle(std::vector<std::string>& notes);
+    void lookForJobs();
+    /// Hands the job to its machine; why not, if it cannot.
+    std::string takeJob(const FoundFile& found, TakenFile& taken);
 
     const double speed;
     std::function<void(const std::string&)> noteOutput;
     std::function<void(const Request&)> requestOutput;
     std::function<void(const LogRecord&)> recordOutput;
+    std::function<void(const HttpRequest&)> httpRequestOutput;
 
     std::mutex lifeMutex; ///< start and stop, one at a time
     mutable std::mutex mutex;
@@ -57,21 +69,30 @@ struct Room::State
     std::vector<Fault> faults;
     Fault current;               ///< the one that the request at hand meets
     std::vector<bool> connected; ///< as the registry file says
+    std::vector<HttpFault> networkFaults;
     std::vector<Request> requests;
+    std::vector<HttpRequest> httpRequests;
     std::vector<LogRecord> records;
+    std::vector<TakenFile> takenFiles;
+    JobFolder jobFolder{JOB_FOLDER};
+    std::set<std::string> jobIds; ///< of all job files so far
+    std::chrono::milliseconds sinceLook{0};
+    Diary diary;
+    bool serving = false; ///< the log says that the service runs
     uint64_t uniqueNumber = 0;
     double timeLeft = 0; ///< simulated milliseconds that make no whole one yet
     bool open = false;   ///< between start and stop
 
-    Server server; ///< last: its thread uses all of the above
+    HttpServer httpServer; ///< both last: their threads use all of the above
+    Server server;
 };
 
 Room::State::State(const Scenario& scenario, double timesFaster)
-    : speed(timesFaster), world(scenario), faults(scenario.faults),
+    : speed(timesFaster), world(scenario), faults(scenario.faults), networkFaults(scenario.networkFaults),
+      httpServer([this](const HttpRequest& request) { return takeHttpRequest(request); }),
       server({[this](const Request& request) { return takeRequest(request); },
               [this](std::string_view datagram) { takeDatagram(datagram); },
-              timesFaster > 0 ? [this](std::chrono::milliseconds passed) { tick(passed); }
-                              : std::function<void(std::chrono::milliseconds)>()})
+              [this](std::chrono::milliseconds passed) { tick(passed); }})
 {
 }
 
@@ -92,8 +113,19 @@ void Room::State::alter(Change&& change)
 
 void Room::State::settle(std::vector<std::string>& notes)
 {
+    if (open) {
+        diary.follow(world.publishers());
+        if (serving != world.serviceOn()) {
+            serving = world.serviceOn();
+            diary.log(serving ? "service started" : "service stopped");
+        }
+    }
+    for (const std::string& text : diary.takeNotes()) {
+        notes.push_back(world.clock() + " " + text);
+    }
     if (noteOutput) {
-        notes = world.takeNotes();
+        const std::vector<std::string> states = world.takeNotes();
+        notes.insert(notes.end(), states.begin(), states.end());
     }
     if (!open) {
         return;
@@ -111,6 +143,9 @@ void Room::State::settle(std::vector<std::string>& notes)
         }
     }
     server.setListening(listens());
+    for (const PublisherServer& one : world.servers()) {
+        httpServer.setListening(one.setup().host, one.listening());
+    }
 }
 
 bool Room::State::listens() const
@@ -122,7 +157,16 @@ bool Room::State::listens() const
 
 void Room::State::tick(std::chrono::milliseconds realTime)
 {
+    sinceLook += realTime;
+    const bool look = sinceLook >= LOOK;
+    if (!look && speed == 0) {
+        return;
+    }
     alter([&] {
+        if (look) {
+            sinceLook = {};
+            lookForJobs();
+        }
         timeLeft += static_cast<double>(realTime.count()) * speed;
         const auto whole = static_cast<uint64_t>(timeLeft);
         timeLeft -= static_cast<double>(whole);
@@ -140,12 +184,56 @@ Delivery Room::State::takeRequest(const Request& request)
         if (request.control == control::NOTIFY_CHANGE && reply.result == result::SUCCESS) {
             rereadSetting(request.publisher, *publisher);
         }
+        if (const std::string text = describe(request, reply.result); !text.empty()) {
+            diary.say((publisher == nullptr ? "\"" + printable(request.publisher) + "\""
+                                            : publisher->state().shownName) +
+                      ": " + printable(text));
+        }
         delivery = deliver(reply, faultFor(request, publisher));
     });
     if (requestOutput) {
         requestOutput(request);
     }
     return delivery;
+}
+
+HttpDelivery Room::State::takeHttpRequest(const HttpRequest& request)
+{
+    HttpRequest kept = request;
+    kept.bodySize = request.body.size();
+    kept.bodySha1 = sha1Of(request.body);
+    kept.body.resize(std::min(kept.body.size(), HttpRequest::MOST_BODY_KEPT));
+    HttpDelivery delivery;
+    alter([&] {
+        keep(httpRequests, kept);
+        PublisherServer* const publisher = world.serverByHost(request.host);
+        const auto fault =
+            publisher == nullptr ? std::nullopt : faultFor(request, publisher->setup().machine.name);
+        const auto refusal = fault ? fault->refusal() : std::nullopt;
+        const HttpReply reply = refusal                ? *refusal
+                                : publisher != nullptr ? publisher->answer(request)
+                                                       : HttpReply{404, {}};
+        delivery = deliver(reply, fault ? &*fault : nullptr);
+    });
+    if (httpRequestOutput) {
+        httpRequestOutput(kept);
+    }
+    return delivery;
+}
+
+std::optional<HttpFault> Room::State::faultFor(const HttpRequest& request, const std::string& publisher)
+{
+    for (auto fault = networkFaults.begin(); fault != networkFaults.end(); ++fault) {
+        if (!fault->fits(request, publisher) || (fault->after > 0 && fault->after-- > 0)) {
+            continue;
+        }
+        const HttpFault found = *fault;
+        if (fault->times > 0 && --fault->times == 0) {
+            networkFaults.erase(fault);
+        }
+        return found;
+    }
+    return std::nullopt;
 }
 
 /// The setting file says which device an id stands for. An id without one is looked up in the scenario.
@@ -182,6 +270,51 @@ void Room::State::rereadSetting(const std::string& registId, Publisher& publishe
     }
 }
 
+void Room::State::lookForJobs()
+{
+    if (!open || !world.serviceOn()) {
+        return;
+    }
+    for (const FoundFile& found : jobFolder.take(JobFolder::Clock::now())) {
+        TakenFile taken{found.name, {}, found.refusal};
+        if (taken.refusal.empty()) {
+            taken.refusal = takeJob(found, taken);
+        }
+        if (!taken.refusal.empty()) {
+            diary.say("job file " + printable(found.name) + " refused: " + taken.refusal);
+        }
+        keep(takenFiles, std::move(taken));
+    }
+}
+
+std::string Room::State::takeJob(const FoundFile& found, TakenFile& taken)
+{
+    std::string error;
+    const auto job = parseJobFile(found.text, error);
+    if (!job) {
+        return error;
+    }
+    const auto setting = readSetting(job->publisher);
+    Publisher* const publisher = setting ? world.byGuid(setting->guid) : nullptr;
+    if (publisher == nullptr) {
+        return "no publisher \"" + printable(job->publisher) + "\" is registered";
+    }
+    if (std::string refusal = refusalOf(*job, *setting, publisher->model()); !refusal.empty()) {
+        return refusal;
+    }
+    if (jobIds.contains(job->id)) {
+        return "a job of this ID came before";
+    }
+    const JobSetup setup = setupOf(*job);
+    taken.job = publisher->addJob(setup);
+    if (taken.job.empty()) {
+        return "the publisher's job list is full";
+    }
+    jobIds.insert(job->id);
+    diary.say(publisher->state().shownName + ": job " + taken.job + " \"" + setup.name + "\" taken");
+    return {};
+}
+
 void Room::State::takeDatagram(std::string_view datagram)
 {
     const auto record = parseLogRecord(datagram);
@@ -206,6 +339,8 @@ bool Room::start(std::string& error)
     State& state = *m_state;
     const std::lock_guard life(state.lifeMutex);
     bool listens = false;
+    bool hasServers = false;
+    std::vector<std::string> hosts;
     {
         const std::lock_guard lock(state.mutex);
         if (state.open) {
@@ -221,12 +356,29 @@ bool Room::start(std::string& error)
             }
             state.connected.push_back(publisher.connected());
         }
+        for (const PublisherServer& one : state.world.servers()) {
+            if (one.machine().state().registered && !makeNetworkSetting(one.setup(), error)) {
+                return false;
+            }
+            if (one.listening()) {
+                hosts.push_back(one.setup().host);
+            }
+        }
+        hasServers = !state.world.servers().empty();
         listens = state.listens();
     }
     if (!state.server.start(listens, error)) {
         return false;
     }
-    state.alter([&] { state.open = true; });
+    if (hasServers && !state.httpServer.start(hosts, error)) {
+        state.server.stop();
+        return false;
+    }
+    state.alter([&] {
+        state.open = true;
+        state.serving = state.world.serviceOn();
+        state.diary.log(state.serving ? "service started" : "service does not run yet");
+    });
     return true;
 }
 
@@ -235,15 +387,23 @@ void Room::stop()
     const std::lock_guard life(m_state->lifeMutex);
     {
         const std::lock_guard lock(m_state->mutex);
+        if (m_state->open && m_state->serving) {
+            m_state->diary.log("service stopped");
+        }
         m_state->open = false;
         m_state->connected.clear();
+        m_state->diary.forget();
     }
     m_state->server.stop();
+    m_state->httpServer.stop();
 }
 
 void Room::advance(uint64_t milliseconds)
 {
-    m_state->alter([&] { m_state->world.advance(milliseconds); });
+    m_state->alter([&] {
+        m_state->lookForJobs();
+        m_state->world.advance(milliseconds);
+    });
 }
 
 bool Room::tell(const std::string& publisher, const std::string& command, std::string* error)
@@ -277,9 +437,17 @@ void Room::setFault(const Fault& fault)
     m_state->alter([&] { m_state->faults.push_back(fault); });
 }
 
+void Room::setFault(const HttpFault& fault)
+{
+    m_state->alter([&] { m_state->networkFaults.push_back(fault); });
+}
+
 void Room::clearFaults()
 {
-    m_state->alter([&] { m_state->faults.clear(); });
+    m_state->alter([&] {
+        m_state->faults.clear();
+        m_state->networkFaults.clear();
+    });
 }
 
 std::optional<Publisher> Room::look(const std::string& publisher) const
@@ -316,9 +484,43 @@ std::vector<std::string> Room::agentLines() const
     return lines;
 }
 
+std::vector<TakenFile> Room::takenFiles() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->takenFiles;
+}
+
 size_t Room::connections() const
 {
     return m_state->server.connections();
+}
+
+std::optional<PublisherServer> Room::lookAtServer(const std::string& publisher) const
+{
+    const std::lock_guard lock(m_state->mutex);
+    const PublisherServer* const found = m_state->world.serverByName(publisher);
+    return found == nullptr ? std::nullopt : std::optional(*found);
+}
+
+std::vector<HttpRequest> Room::httpRequests() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->httpRequests;
+}
+
+size_t Room::httpConnections() const
+{
+    return m_state->httpServer.connections();
+}
+
+bool Room::waitForHttpRequests(const std::string& target, size_t count, std::chrono::milliseconds bound) const
+{
+    std::unique_lock lock(m_state->mutex);
+    return m_state->changed.wait_for(lock, bound, [&] {
+        return static_cast<size_t>(std::count_if(
+                   m_state->httpRequests.begin(), m_state->httpRequests.end(),
+                   [&](const HttpRequest& one) { return one.target.starts_with(target); })) >= count;
+    });
 }
 
 bool Room::waitUntil(
@@ -341,6 +543,12 @@ bool Room::waitForRequests(uint64_t control, size_t count, std::chrono::millisec
         bound);
 }
 
+bool Room::waitForTakenFiles(size_t count, std::chrono::milliseconds bound) const
+{
+    std::unique_lock lock(m_state->mutex);
+    return m_state->changed.wait_for(lock, bound, [&] { return m_state->takenFiles.size() >= count; });
+}
+
 void Room::onNote(std::function<void(const std::string&)> output)
 {
     m_state->noteOutput = std::move(output);
@@ -349,6 +557,11 @@ void Room::onNote(std::function<void(const std::string&)> output)
 void Room::onRequest(std::function<void(const Request&)> output)
 {
     m_state->requestOutput = std::move(output);
+}
+
+void Room::onHttpRequest(std::function<void(const HttpRequest&)> output)
+{
+    m_state->httpRequestOutput = std::move(output);
 }
 
 void Room::onRecord(std::function<void(const LogRecord&)> output)

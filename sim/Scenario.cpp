@@ -8,30 +8,14 @@
 #include <sstream>
 
 #include "Protocol.h"
+#include "ScenarioEntries.h"
+#include "ScenarioNetwork.h"
 #include "Text.h"
 
 namespace udsim {
 
 namespace {
 
-struct Entry
-{
-    size_t line = 0;
-    std::string key;
-    std::string value;
-};
-
-struct Section
-{
-    size_t line = 0;
-    std::string kind;
-    std::string name;
-    std::vector<Entry> entries;
-};
-
-constexpr size_t LONGEST_NAME = 64;
-constexpr size_t LONGEST_ID = 128;
-constexpr size_t LONGEST_SERIAL = 31;
 constexpr uint64_t MOST_PRINTS = 1'000'000;
 constexpr std::array<std::pair<const char*, uint32_t>, 8> MEDIA{{
     {"CD-R", 1},
@@ -43,109 +27,6 @@ constexpr std::array<std::pair<const char*, uint32_t>, 8> MEDIA{{
     {"BD-R QL", 11},
     {"not used", media::NOT_USED},
 }};
-
-std::string at(size_t line, const std::string& what)
-{
-    return "line " + std::to_string(line) + ": " + what;
-}
-
-/// A text that can stand in a setting file and in the registry file, and as a file name.
-bool isPlainText(const std::string& text, size_t longest)
-{
-    return !text.empty() && text.size() <= longest && text.find_first_of("\\/\"[];=") == std::string::npos &&
-           std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });
-}
-
-std::optional<std::vector<Section>> readSections(const std::string& text, std::string& error)
-{
-    std::vector<Section> sections;
-    size_t number = 0;
-    for (const std::string& raw : splitLines(text)) {
-        ++number;
-        const std::string line = trim(raw);
-        if (line.empty() || line[0] == '#' || line[0] == ';') {
-            continue;
-        }
-        if (line[0] == '[') {
-            if (line.back() != ']') {
-                error = at(number, "a section without \"]\"");
-                return std::nullopt;
-            }
-            const auto [kind, name] = splitFirstWord(line.substr(1, line.size() - 2));
-            if (kind != "publisher" && kind != "event" && kind != "fault") {
-                error = at(number, "unknown section \"" + kind + "\" (publisher NAME, event or fault)");
-                return std::nullopt;
-            }
-            if ((kind == "publisher") == name.empty()) {
-                error = at(number, kind == "publisher" ? "a publisher needs a name: [publisher NAME]"
-                                                       : "the section \"" + kind + "\" takes no name");
-                return std::nullopt;
-            }
-            sections.push_back({number, kind, name, {}});
-            continue;
-        }
-        const size_t equals = line.find('=');
-        if (equals == std::string::npos) {
-            error = at(number, "neither a section nor \"key = value\"");
-            return std::nullopt;
-        }
-        if (sections.empty()) {
-            error = at(number, "a key ahead of the first section");
-            return std::nullopt;
-        }
-        Entry entry{number, trim(line.substr(0, equals)), trim(line.substr(equals + 1))};
-        const auto& before = sections.back().entries;
-        if (entry.key != "job" &&
-            std::any_of(before.begin(), before.end(), [&](const Entry& e) { return e.key == entry.key; })) {
-            error = at(number, "\"" + entry.key + "\" stands twice");
-            return std::nullopt;
-        }
-        sections.back().entries.push_back(std::move(entry));
-    }
-    return sections;
-}
-
-/// Sets `target` to the number, or says what is wrong with it.
-template <class Number>
-std::string setNumber(const Entry& entry, uint64_t highest, Number& target)
-{
-    const auto number = parseNumber(entry.value, highest);
-    if (!number) {
-        return "\"" + entry.key + "\" needs a number up to " + std::to_string(highest);
-    }
-    target = static_cast<Number>(*number);
-    return {};
-}
-
-std::string setYesNo(const Entry& entry, bool& target)
-{
-    const auto answer = parseYesNo(entry.value);
-    if (!answer) {
-        return "\"" + entry.key + "\" needs yes or no";
-    }
-    target = *answer;
-    return {};
-}
-
-std::string setTime(const Entry& entry, uint64_t& target)
-{
-    const auto time = parseDuration(entry.value);
-    if (!time || *time == 0) {
-        return "\"" + entry.key + "\" needs a time such as 250ms, 8s or 2m";
-    }
-    target = *time;
-    return {};
-}
-
-std::string setText(const Entry& entry, size_t longest, std::string& target)
-{
-    if (!isPlainText(entry.value, longest)) {
-        return "\"" + entry.key + "\" needs a text of up to " + std::to_string(longest) +
-               " bytes without any of \\ / \" [ ] ; =";
-    }
-    target = entry.value;
-    return {};
-}
 
 std::string setMedia(const Entry& entry, uint32_t& target)
 {
@@ -166,7 +47,7 @@ std::string addJobs(const Entry& entry, PublisherSetup& setup)
 {
     if (entry.key == "jobs") {
         uint64_t count = 0;
-        std::string mistake = setNumber(entry, Publisher::MAX_JOBS, count);
+        std::string mistake = setNumber(entry, setup.mostJobs, count);
         for (uint64_t i = 1; i <= count; ++i) {
             setup.jobs.push_back({.name = "Disc " + std::to_string(i)});
         }
@@ -196,8 +77,9 @@ std::string setSupply(const Entry& entry, PublisherSetup& setup)
     return error;
 }
 
-/// What is wrong with the entry; empty when it was taken.
-std::string apply(const Entry& entry, PublisherSetup& setup)
+} // namespace
+
+std::string applyToMachine(const Entry& entry, PublisherSetup& setup)
 {
     const std::string& key = entry.key;
     if (key == "model" || key == "mode") {
@@ -236,6 +118,9 @@ std::string apply(const Entry& entry, PublisherSetup& setup)
     if (key == "disc-time") {
         return setTime(entry, setup.discTime);
     }
+    if (key == "cleaning-time") {
+        return setTime(entry, setup.cleaningTime);
+    }
     if (key == "jobs" || key == "job") {
         return addJobs(entry, setup);
     }
@@ -249,18 +134,7 @@ std::string apply(const Entry& entry, PublisherSetup& setup)
     return "unknown key \"" + key + "\" of a publisher";
 }
 
-const Entry* find(const Section& section, const std::string& key)
-{
-    const auto found = std::find_if(section.entries.begin(), section.entries.end(),
-                                    [&](const Entry& entry) { return entry.key == key; });
-    return found == section.entries.end() ? nullptr : &*found;
-}
-
-std::string decimal(size_t number, size_t digits)
-{
-    std::string text = std::to_string(number);
-    return std::string(digits - std::min(digits, text.size()), '0') + text;
-}
+namespace {
 
 /// What is wrong, with its line; empty when the publisher was added.
 std::string addPublisher(const Section& section, Scenario& scenario)
@@ -288,7 +162,7 @@ std::string addPublisher(const Section& section, Scenario& scenario)
         setup.setMode(static_cast<uint32_t>(*value));
     }
     for (const Entry& entry : section.entries) {
-        if (const std::string mistake = apply(entry, setup); !mistake.empty()) {
+        if (const std::string mistake = applyToMachine(entry, setup); !mistake.empty()) {
             return at(entry.line, mistake);
         }
     }
@@ -298,19 +172,11 @@ std::string addPublisher(const Section& section, Scenario& scenario)
     if (setup.jobs.size() > Publisher::MAX_JOBS) {
         return at(section.line, "more than " + std::to_string(Publisher::MAX_JOBS) + " jobs");
     }
-    for (const PublisherSetup& other : scenario.publishers) {
-        if (other.name == setup.name || other.guid == setup.guid || other.registId == setup.registId) {
-            return at(section.line, "another publisher has this name, guid or id");
-        }
+    if (isTaken(scenario, setup)) {
+        return at(section.line, "another publisher has this name, guid or id");
     }
     scenario.publishers.push_back(setup);
     return {};
-}
-
-bool isKnownPublisher(const Scenario& scenario, const std::string& name)
-{
-    return std::any_of(scenario.publishers.begin(), scenario.publishers.end(),
-                       [&](const PublisherSetup& setup) { return setup.name == name; });
 }
 
 std::string addEvent(const Section& section, Scenario& scenario)
@@ -341,6 +207,9 @@ std::string addEvent(const Section& section, Scenario& scenario)
     }
     if (find(section, "do") == nullptr || (!hasTime && event.every == 0)) {
         return at(section.line, "an event needs \"do\", and \"at\" or \"every\"");
+    }
+    if (event.command.kind == Command::Kind::server && !isNetworkPublisher(scenario, event.publisher)) {
+        return at(section.line, "only a network publisher has a server");
     }
     if (event.command.isForService() != event.publisher.empty()) {
         return at(section.line, "an event needs a publisher, unless it concerns the service itself");
@@ -397,15 +266,21 @@ std::optional<Scenario> Scenario::parse(const std::string& text, std::string& er
         return std::nullopt;
     }
     Scenario scenario;
+    using Add = std::string (*)(const Section&, Scenario&);
     // Publishers first: events and faults name them, wherever they stand in the text.
-    for (const bool publishers : {true, false}) {
+    constexpr std::array<std::pair<const char*, Add>, 5> KINDS{{
+        {"publisher", addPublisher},
+        {"network", addNetwork},
+        {"event", addEvent},
+        {"fault", addFault},
+        {"network-fault", addNetworkFault},
+    }};
+    for (const auto& [kind, add] : KINDS) {
         for (const Section& section : *sections) {
-            if ((section.kind == "publisher") != publishers) {
+            if (section.kind != kind) {
                 continue;
             }
-            std::string mistake = publishers                ? addPublisher(section, scenario)
-                                  : section.kind == "event" ? addEvent(section, scenario)
-                                                            : addFault(section, scenario);
+            std::string mistake = add(section, scenario);
             if (!mistake.empty()) {
                 error = std::move(mistake);
                 return std::nullopt;

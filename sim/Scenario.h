@@ -8,7 +8,9 @@
 
 #include "Command.h"
 #include "Fault.h"
+#include "HttpFault.h"
 #include "Publisher.h"
+#include "PublisherServer.h"
 
 namespace udsim {
 
@@ -25,6 +27,8 @@ struct Scenario
     std::vector<PublisherSetup> publishers;
     std::vector<Event> events;
     std::vector<Fault> faults;
+    std::vector<ServerSetup> servers;
+    std::vector<HttpFault> networkFaults;
 
     /// Reads a scenario. Nothing on a mistake, which `error` names with its line: "line 7: ...".
     static std::optional<Scenario> parse(const std::string& text, std::string& error);

@@ -31,13 +31,6 @@ std::string describe(const Publisher& publisher)
     return text + ", " + std::to_string(waiting) + " waiting";
 }
 
-std::string clockText(uint64_t milliseconds)
-{
-    const uint64_t seconds = milliseconds / 1000;
-    const std::string rest = std::to_string(seconds % 60);
-    return std::to_string(seconds / 60) + ":" + (rest.size() < 2 ? "0" : "") + rest;
-}
-
 bool befall(Publisher& publisher, const Command& command)
 {
     switch (command.kind) {
@@ -71,6 +64,7 @@ bool befall(Publisher& publisher, const Command& command)
         publisher.setStacker(command.index, command.number);
         return true;
     case Command::Kind::service:
+    case Command::Kind::server:
         break;
     }
     return false;
@@ -87,8 +81,9 @@ Publisher* find(std::vector<Publisher>& publishers, Property&& property, const s
 } // namespace
 
 World::World(const Scenario& scenario)
-    : m_publishers(scenario.publishers.begin(), scenario.publishers.end()), m_events(scenario.events),
-      m_noted(scenario.publishers.size())
+    : m_publishers(scenario.publishers.begin(), scenario.publishers.end()),
+      m_servers(scenario.servers.begin(), scenario.servers.end()), m_events(scenario.events),
+      m_noted(scenario.publishers.size() + scenario.servers.size())
 {
 }
 
@@ -100,6 +95,9 @@ void World::advance(uint64_t milliseconds)
         fireDueEvents();
         for (Publisher& publisher : m_publishers) {
             publisher.step(STEP);
+        }
+        for (PublisherServer& server : m_servers) {
+            server.step(STEP);
         }
     }
 }
@@ -120,14 +118,40 @@ bool World::apply(const std::string& publisher, const Command& command)
         m_serviceOn = command.number != 0;
         return publisher.empty();
     }
+    if (command.kind == Command::Kind::server) {
+        PublisherServer* const server = serverByName(publisher);
+        if (server != nullptr) {
+            server->setListening(command.number != 0);
+        }
+        return server != nullptr;
+    }
     Publisher* const target = byName(publisher);
     return target != nullptr && befall(*target, command);
 }
 
 Publisher* World::byName(const std::string& name)
 {
-    return find(
-        m_publishers, [](const PublisherSetup& one) -> const std::string& { return one.name; }, name);
+    PublisherServer* const server = serverByName(name);
+    return server != nullptr
+               ? &server->machine()
+               : find(
+                     m_publishers, [](const PublisherSetup& one) -> const std::string& { return one.name; },
+                     name);
+}
+
+PublisherServer* World::serverByName(const std::string& name)
+{
+    const auto found = std::find_if(m_servers.begin(), m_servers.end(), [&](const PublisherServer& one) {
+        return one.setup().machine.name == name;
+    });
+    return found == m_servers.end() ? nullptr : &*found;
+}
+
+PublisherServer* World::serverByHost(const std::string& host)
+{
+    const auto found = std::find_if(m_servers.begin(), m_servers.end(),
+                                    [&](const PublisherServer& one) { return one.setup().host == host; });
+    return found == m_servers.end() ? nullptr : &*found;
 }
 
 Publisher* World::byRegistId(const std::string& registId)
@@ -142,19 +166,37 @@ Publisher* World::byGuid(const std::string& guid)
         m_publishers, [](const PublisherSetup& one) -> const std::string& { return one.guid; }, guid);
 }
 
+std::string World::clock() const
+{
+    const uint64_t seconds = m_now / 1000;
+    const std::string rest = std::to_string(seconds % 60);
+    return std::to_string(seconds / 60) + ":" + (rest.size() < 2 ? "0" : "") + rest;
+}
+
 std::vector<std::string> World::takeNotes()
 {
     std::vector<std::string> notes;
-    const std::string prefix = clockText(m_now) + " ";
+    const std::string prefix = clock() + " ";
     if (m_notedService != m_serviceOn) {
         m_notedService = m_serviceOn;
         notes.push_back(prefix + (m_serviceOn ? "the service listens again" : "the service is stopped"));
     }
-    for (size_t i = 0; i < m_publishers.size(); ++i) {
-        std::string text = describe(m_publishers[i]);
-        if (text != m_noted[i]) {
-            notes.push_back(prefix + text);
-            m_noted[i] = std::move(text);
+    std::vector<std::string> texts;
+    for (const Publisher& publisher : m_publishers) {
+        texts.push_back(describe(publisher));
+    }
+    for (PublisherServer& server : m_servers) {
+        texts.push_back(server.listening() ? describe(server.machine())
+                                           : server.machine().state().shownName + ": no server");
+        const std::string who = prefix + server.machine().state().shownName + ": ";
+        for (const std::string& note : server.takeNotes()) {
+            notes.push_back(who + note);
+        }
+    }
+    for (size_t i = 0; i < texts.size(); ++i) {
+        if (texts[i] != m_noted[i]) {
+            notes.push_back(prefix + texts[i]);
+            m_noted[i] = std::move(texts[i]);
         }
     }
     return notes;

@@ -30,7 +30,19 @@ public:
     {
         return m_publishers;
     }
-    /// By scenario name, regist id and GUID; null when there is none.
+    std::vector<PublisherServer>& servers()
+    {
+        return m_servers;
+    }
+    const std::vector<PublisherServer>& servers() const
+    {
+        return m_servers;
+    }
+    /// The network publisher of this scenario name, or at this address; null when there is none.
+    PublisherServer* serverByName(const std::string& name);
+    PublisherServer* serverByHost(const std::string& host);
+    /// By scenario name, regist id and GUID; null when there is none. By its name also the machine of a
+    /// network publisher.
     Publisher* byName(const std::string& name);
     Publisher* byRegistId(const std::string& registId);
     Publisher* byGuid(const std::string& guid);
@@ -44,6 +56,8 @@ public:
     {
         return m_now;
     }
+    /// Simulated time as notes give it, in minutes and seconds: "1:05".
+    std::string clock() const;
     /// One line for each machine whose state has changed since the last call, and for the service.
     std::vector<std::string> takeNotes();
 
@@ -51,12 +65,13 @@ private:
     void fireDueEvents();
 
     std::vector<Publisher> m_publishers;
+    std::vector<PublisherServer> m_servers;
     std::vector<Event> m_events; ///< `at` is when it happens next
     uint64_t m_now = 0;
     uint64_t m_rest = 0;
     bool m_serviceOn = true;
     bool m_notedService = true;
-    std::vector<std::string> m_noted;
+    std::vector<std::string> m_noted; ///< of the publishers, and then of the servers
 };
 
 } // namespace udsim

@@ -97,6 +97,12 @@ int run(const Options& options)
                   (request.job.empty() ? "" : " " + request.job));
         });
     }
+    if (options.requests) {
+        room.onHttpRequest([](const udsim::HttpRequest& request) {
+            print("asked " + request.host + " " + request.method + " " + request.target +
+                  (request.bodySize > 0 ? " (" + std::to_string(request.bodySize) + " bytes)" : ""));
+        });
+    }
     if (!room.start(error)) {
         std::fprintf(stderr, "udsim: %s\n", error.c_str());
         return EXIT_FAILURE;

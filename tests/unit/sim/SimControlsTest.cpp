@@ -385,7 +385,7 @@ TEST_F(SimControls, MaintenanceBox)
 TEST_F(SimControls, MaintenanceInfo)
 {
     Bytes record(344);
-    record.u64(0, 1200).u64(8, 100'000).u64(16, 77).u64(24, 100).u64(32, 1200);
+    record.u64(0, 1200).u64(8, 100'000).u64(16, 23).u64(24, 100).u64(32, 1200);
     for (const size_t base : {88U, 184U}) { // drive 1, drive 2
         record.u64(base, 600).u64(base + 8, 60'000);
         record.u64(base + 16, 6000)

@@ -1,7 +1,9 @@
 // The program udsim, from outside, and the scenario of the demo.
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <fstream>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -200,4 +202,40 @@ TEST(SimDemo, TheScenarioStaysLively)
         }
         EXPECT_GE(changes, 6U) << "in minute " << minute;
     }
+}
+
+TEST(SimDemo, AMachineOfEachFamilyIsIdle)
+{
+    std::string error;
+    const auto scenario = udsim::Scenario::load(DEMO_SCENARIO, error);
+    ASSERT_TRUE(scenario) << error;
+    EXPECT_EQ(std::count_if(scenario->publishers.begin(), scenario->publishers.end(),
+                            [](const udsim::PublisherSetup& setup) { return setup.registered; }),
+              8);
+    udsim::World world(*scenario);
+    world.advance(16'000);
+    for (int second = 16; second < 1800; ++second) {
+        for (const auto& [name, model] :
+             {std::pair("Studio 10", "RT-300III DVD"), std::pair("Archive", "RT-30II BDXL")}) {
+            const udsim::Publisher& machine = *world.byName(name);
+            ASSERT_STREQ(machine.model().name, model);
+            ASSERT_EQ(machine.hindrance(), 0U) << name << " at " << second;
+            ASSERT_EQ(machine.unfinishedJobs(), 0U) << name << " at " << second;
+        }
+        world.advance(1000);
+    }
+}
+
+TEST(SimDemo, EveryMachineHasProperties)
+{
+    std::string error;
+    const auto scenario = udsim::Scenario::load(DEMO_SCENARIO, error);
+    ASSERT_TRUE(scenario) << error;
+    const std::set<std::string> known = {"RT-300III DVD", "RT-300III BD", "RT-300III BDXL", "RT-30II",
+                                         "RT-30II BDXL"};
+    std::set<std::string> shown;
+    for (const udsim::PublisherSetup& setup : scenario->publishers) {
+        shown.insert(setup.model->name);
+    }
+    EXPECT_EQ(shown, known) << "the property dialog asserts that it knows the model";
 }

@@ -103,6 +103,7 @@ TEST(SimScenario, EveryKeyOfAPublisher)
                                          "maintenance-box = 12\n"
                                          "print-count = 345\n"
                                          "disc-time = 2m\n"
+                                         "cleaning-time = 90s\n"
                                          "ink.light-magenta = 7\n"
                                          "stacker2 = 8\n"
                                          "stacker2.media = BD-R QL\n"
@@ -123,6 +124,7 @@ TEST(SimScenario, EveryKeyOfAPublisher)
     EXPECT_EQ(setup.maintenanceBox, 12U);
     EXPECT_EQ(setup.printCount, 345U);
     EXPECT_EQ(setup.discTime, 120'000U);
+    EXPECT_EQ(setup.cleaningTime, 90'000U);
     EXPECT_EQ(setup.ink[4], 7U);
     EXPECT_EQ(setup.ink[0], 100U);
     EXPECT_EQ(setup.stackers[1].discs, 8U);
@@ -244,7 +246,8 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
     const std::string machine = "[publisher A]\nmodel = RT-30\n"; // two lines
     const std::pair<std::string, std::string> table[] = {
         {"[publisher A", "line 1: a section without \"]\""},
-        {"\n[printer A]", "line 2: unknown section \"printer\" (publisher NAME, event or fault)"},
+        {"\n[printer A]",
+         "line 2: unknown section \"printer\" (publisher NAME, network NAME, event, fault or network-fault)"},
         {"[publisher]", "line 1: a publisher needs a name: [publisher NAME]"},
         {"[event now]", "line 1: the section \"event\" takes no name"},
         {"model = RT-30", "line 1: a key ahead of the first section"},
@@ -260,6 +263,7 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
         {machine + "error = ten", "line 3: \"error\" needs a number up to 9999"},
         {machine + "usb = 17", "line 3: \"usb\" needs a number up to 16"},
         {machine + "disc-time = 0s", "line 3: \"disc-time\" needs a time such as 250ms, 8s or 2m"},
+        {machine + "cleaning-time = 0s", "line 3: \"cleaning-time\" needs a time such as 250ms, 8s or 2m"},
         {machine + "disc-time = 8", "line 3: \"disc-time\" needs a time such as 250ms, 8s or 2m"},
         {machine + "ink.red = 8", "line 3: \"ink\" needs a colour (cyan, magenta, yellow, light-cyan, "
                                   "light-magenta, black) and a percentage"},

@@ -1,0 +1,136 @@
+#include "ScenarioEntries.h"
+
+#include <algorithm>
+
+namespace udsim {
+
+std::string at(size_t line, const std::string& what)
+{
+    return "line " + std::to_string(line) + ": " + what;
+}
+
+bool isPlainText(const std::string& text, size_t longest)
+{
+    return !text.empty() && text.size() <= longest && text.find_first_of("\\/\"[];=") == std::string::npos &&
+           std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });
+}
+
+std::string decimal(size_t number, size_t digits)
+{
+    std::string text = std::to_string(number);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
+
+std::optional<std::vector<Section>> readSections(const std::string& text, std::string& error)
+{
+    std::vector<Section> sections;
+    size_t number = 0;
+    for (const std::string& raw : splitLines(text)) {
+        ++number;
+        const std::string line = trim(raw);
+        if (line.empty() || line[0] == '#' || line[0] == ';') {
+            continue;
+        }
+        if (line[0] == '[') {
+            if (line.back() != ']') {
+                error = at(number, "a section without \"]\"");
+                return std::nullopt;
+            }
+            const auto [kind, name] = splitFirstWord(line.substr(1, line.size() - 2));
+            const bool isPublisher = kind == "publisher" || kind == "network";
+            if (!isPublisher && kind != "event" && kind != "fault" && kind != "network-fault") {
+                error = at(number, "unknown section \"" + kind +
+                                       "\" (publisher NAME, network NAME, event, fault or network-fault)");
+                return std::nullopt;
+            }
+            if (isPublisher == name.empty()) {
+                error = at(number, isPublisher ? "a publisher needs a name: [" + kind + " NAME]"
+                                               : "the section \"" + kind + "\" takes no name");
+                return std::nullopt;
+            }
+            sections.push_back({number, kind, name, {}});
+            continue;
+        }
+        const size_t equals = line.find('=');
+        if (equals == std::string::npos) {
+            error = at(number, "neither a section nor \"key = value\"");
+            return std::nullopt;
+        }
+        if (sections.empty()) {
+            error = at(number, "a key ahead of the first section");
+            return std::nullopt;
+        }
+        Entry entry{number, trim(line.substr(0, equals)), trim(line.substr(equals + 1))};
+        const auto& before = sections.back().entries;
+        if (entry.key != "job" &&
+            std::any_of(before.begin(), before.end(), [&](const Entry& e) { return e.key == entry.key; })) {
+            error = at(number, "\"" + entry.key + "\" stands twice");
+            return std::nullopt;
+        }
+        sections.back().entries.push_back(std::move(entry));
+    }
+    return sections;
+}
+
+const Entry* find(const Section& section, const std::string& key)
+{
+    const auto found = std::find_if(section.entries.begin(), section.entries.end(),
+                                    [&](const Entry& entry) { return entry.key == key; });
+    return found == section.entries.end() ? nullptr : &*found;
+}
+
+bool isNetworkPublisher(const Scenario& scenario, const std::string& name)
+{
+    return std::any_of(scenario.servers.begin(), scenario.servers.end(),
+                       [&](const ServerSetup& setup) { return setup.machine.name == name; });
+}
+
+bool isKnownPublisher(const Scenario& scenario, const std::string& name)
+{
+    return isNetworkPublisher(scenario, name) ||
+           std::any_of(scenario.publishers.begin(), scenario.publishers.end(),
+                       [&](const PublisherSetup& setup) { return setup.name == name; });
+}
+
+bool isTaken(const Scenario& scenario, const PublisherSetup& setup)
+{
+    const auto clashes = [&](const PublisherSetup& other) {
+        return other.name == setup.name || other.registId == setup.registId ||
+               (!setup.guid.empty() && other.guid == setup.guid);
+    };
+    return std::any_of(scenario.publishers.begin(), scenario.publishers.end(), clashes) ||
+           std::any_of(scenario.servers.begin(), scenario.servers.end(),
+                       [&](const ServerSetup& other) { return clashes(other.machine); });
+}
+
+std::string setYesNo(const Entry& entry, bool& target)
+{
+    const auto answer = parseYesNo(entry.value);
+    if (!answer) {
+        return "\"" + entry.key + "\" needs yes or no";
+    }
+    target = *answer;
+    return {};
+}
+
+std::string setTime(const Entry& entry, uint64_t& target)
+{
+    const auto time = parseDuration(entry.value);
+    if (!time || *time == 0) {
+        return "\"" + entry.key + "\" needs a time such as 250ms, 8s or 2m";
+    }
+    target = *time;
+    return {};
+}
+
+std::string setText(const Entry& entry, size_t longest, std::string& target)
+{
+    if (!isPlainText(entry.value, longest)) {
+        return "\"" + entry.key + "\" needs a text of up to " + std::to_string(longest) +
+               " bytes without any of \\ / \" [ ] ; =";
+    }
+    target = entry.value;
+    return {};
+}
+
+} // namespace udsim
