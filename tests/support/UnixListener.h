@@ -96,6 +96,9 @@ public:
         }
     }
 
+protected:
+    int m_fd = -1;
+
 private:
     bool IsReadable(int milliseconds) const
     {
@@ -113,8 +116,6 @@ private:
             }
         }
     }
-
-    int m_fd = -1;
 };
 
 /// A listening socket at `path`; both are gone with the object. It throws std::runtime_error when it cannot

@@ -1,0 +1,150 @@
+// The table of connections, and what keeps an object alive while an operation uses it.
+#include "LogManager.h"
+#include "Operation.h"
+
+namespace {
+
+constexpr size_t MAX_CONNECTIONS = 100;
+
+/// The table's size for those who do not hold its mutex.
+std::atomic<size_t> tableSize = 0;
+
+/// How many threads are on their way from a handle to the counter of its object.
+std::atomic<int> lookups = 0;
+
+std::vector<ST_NCL*> EmptyTable()
+{
+    std::vector<ST_NCL*> table;
+    table.reserve(MAX_CONNECTIONS);
+    return table;
+}
+
+std::atomic_ref<ST_NCL*> Entry(size_t index)
+{
+    return std::atomic_ref(g_pvarrNCL.data()[index]);
+}
+
+/// Beyond the table for a handle that is none: 0 wraps around.
+size_t Index(DWORD dwHandle)
+{
+    return dwHandle - DWORD{1};
+}
+
+void Destroy(CHttp* http)
+{
+    if (http != nullptr) {
+        http->Close();
+        delete http;
+    }
+}
+
+} // namespace
+
+std::vector<ST_NCL*> g_pvarrNCL = EmptyTable();
+std::mutex g_csNCLArray;
+
+DWORD SetNCLObj(ST_NCL* pstNCL)
+{
+    if (pstNCL == nullptr) {
+        return 0;
+    }
+    const std::lock_guard lock(g_csNCLArray);
+    const size_t size = g_pvarrNCL.size();
+    for (size_t index = 0; index < size; ++index) {
+        if (Entry(index) == nullptr) {
+            Entry(index) = pstNCL;
+            return static_cast<DWORD>(index + 1);
+        }
+    }
+    if (size >= MAX_CONNECTIONS) {
+        return 0;
+    }
+    g_pvarrNCL.push_back(pstNCL);
+    tableSize = size + 1;
+    return static_cast<DWORD>(size + 1);
+}
+
+ST_NCL* GetNCLObj(DWORD dwHandle)
+{
+    const size_t index = Index(dwHandle);
+    return index < tableSize ? Entry(index).load() : nullptr;
+}
+
+DWORD DeleteNCLObj(DWORD dwHandle)
+{
+    const size_t index = Index(dwHandle);
+    ASSERT(index < tableSize);
+    Entry(index) = nullptr;
+    return NCL_SUCCESS;
+}
+
+const char* GetNCLHostName(ST_NCL* pNCL)
+{
+    return pNCL == nullptr ? nullptr : pNCL->m_strServerAddress.c_str();
+}
+
+DWORD ReturnErrParam()
+{
+    CLogManager log;
+    log.LOG_ERR("[CommLib] ***Common Parameta Error***");
+    return NCL_ERR_PARAMETER;
+}
+
+NCLGuard::NCLGuard(DWORD dwHandle)
+{
+    const CAutoRefCounter lookup(lookups);
+    m_pNCL = GetNCLObj(dwHandle);
+    if (m_pNCL != nullptr) {
+        m_counter.emplace(m_pNCL->m_refCount);
+    }
+}
+
+void StopOperations(ST_NCL& ncl)
+{
+    std::atomic_ref(ncl.m_bEndConnection) = TRUE;
+    // In the one order that an operation counts itself in before it looks at the flag.
+    while (ncl.m_refCount.load() != 0) {
+    }
+}
+
+void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL)
+{
+    Destroy(pNCL->m_pHttp);
+    Destroy(pNCL->m_pHttpSecure);
+    DeleteNCLObj(dwHandle);
+    // Whoever found the object before its entry was free is counted once no lookup is under way, and leaves
+    // as soon as it sees the flag.
+    while (lookups != 0) {
+    }
+    StopOperations(*pNCL);
+    delete pNCL;
+}
+
+void EndConnection(DWORD dwHandle)
+{
+    ST_NCL* const ncl = GetNCLObj(dwHandle);
+    if (ncl == nullptr) {
+        ReturnErrParam();
+        return;
+    }
+    StopOperations(*ncl);
+    if (ncl->m_pMD != nullptr && ncl->m_dwCompatiMode != 1) {
+        const DWORD result = SendHashOfImage(ncl, ncl->m_nServerJobID);
+        if (result != NCL_SUCCESS) {
+            LogTrace("EndConnection", "SendHash()", result);
+        }
+    }
+    DestroyNCL(dwHandle, ncl);
+}
+
+DWORD GetNPType(DWORD dwHandle, DWORD* dwNPType)
+{
+    const NCLGuard guard(dwHandle);
+    const DWORD kind = guard.Object() == nullptr ? NCL_NPTYPE_UNKNOWN : guard.Object()->m_dwNPType;
+    CLogManager log;
+    log.LOG_DEBUG("%s , GetNPType , %d", GetNCLHostName(guard.Object()), static_cast<int>(kind));
+    if (dwNPType != nullptr) {
+        *dwNPType = kind;
+    }
+    return NCL_SUCCESS;
+}

@@ -1,0 +1,103 @@
+// Settings and versions of a server's device.
+#include "BigEndian.h"
+#include "LogManager.h"
+#include "Operation.h"
+
+#include <cstring>
+#include <iterator>
+
+const DWORD dwCommValueMaxConst[9] = {
+    2,          // NCL_DIT_DRV_USED
+    3,          // NCL_DIT_DRV_CONFIRM
+    0xFFFFFFFF, // NCL_DIT_WRITE_ERR_RETRY_COUNT
+    1,          // NCL_DIT_PRINT_ERR_DISC_MARK
+    11,         // NCL_DIT_STACKER1_DISC_TYPE
+    11,         // NCL_DIT_STACKER2_DISC_TYPE
+    999,        // NCL_DIT_STACKER3_DISC_TYPE
+    1,          // NCL_DIT_BATCH_JOB_SUSPEND
+    1,          // NCL_DIT_SUPPORT_BDXL
+};
+
+namespace {
+
+/// A bad parameter that has a line of its own in the log.
+DWORD BadInfoParameter(const char* what)
+{
+    CLogManager log;
+    log.LOG_ERR("[CommLib] GetDeviceInfo \"%s\" %s", what, GetNCLErrorString(NCL_ERR_PARAMETER));
+    return NCL_ERR_PARAMETER;
+}
+
+} // namespace
+
+DWORD GetDeviceInfo(DWORD dwHandle, DWORD dwInfoType, char* pszBuf, DWORD dwSize)
+{
+    NCLOperation operation(dwHandle, "GetDeviceInfo", NCLOperation::QUERY);
+    DWORD result = operation.Enter(pszBuf != nullptr && dwInfoType <= NCL_DIT_NAME_OF_DRV2);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (dwInfoType == NCL_DIT_VERSION_OF_SECURITY &&
+        operation.Object()->m_dwServerMode != NCL_MODE_SECURITY) {
+        return BadInfoParameter("Mode!=Security && Type==version_of_toe");
+    }
+    NCLRequest request;
+    request.path = "/webapp2/DevInfoGetter?ifversion=02000000&type=" + std::to_string(dwInfoType);
+    result = operation.Exchange(request, 1);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    const ST_COMM_REPLY& item = operation.Item();
+    if (dwSize < item.m_dwDataSize + 1) {
+        return BadInfoParameter("Buffer Size");
+    }
+    if (item.m_dwDataSize != 0) {
+        std::memcpy(pszBuf, item.m_pData, item.m_dwDataSize);
+    }
+    pszBuf[item.m_dwDataSize] = '\0';
+    return operation.End();
+}
+
+DWORD GetDeviceInfoInt(DWORD dwHandle, DWORD dwInfoType, DWORD* pdwValueOut)
+{
+    NCLOperation operation(dwHandle, "GetDeviceInfoInt", NCLOperation::QUERY);
+    DWORD result = operation.Enter(pdwValueOut != nullptr && dwInfoType < std::size(dwCommValueMaxConst));
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    NCLRequest request;
+    request.path = "/webapp2/DevInfoIntGetter?ifversion=02000000&type=" + std::to_string(dwInfoType);
+    result = operation.Exchange(request, 1);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (operation.Item().m_dwDataSize != 4) {
+        return operation.Invalid(1);
+    }
+    const DWORD value = BigEndian32(operation.Item().m_pData);
+    if (value > dwCommValueMaxConst[dwInfoType]) {
+        return operation.Invalid(2);
+    }
+    *pdwValueOut = value;
+    return operation.End(static_cast<int>(value));
+}
+
+DWORD GetServerMode(DWORD dwHandle, DWORD* pdwModeOut)
+{
+    NCLOperation operation(dwHandle, "GetServerMode", NCLOperation::QUERY);
+    DWORD result = operation.Enter(pdwModeOut != nullptr);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    NCLRequest request;
+    request.path = "/webapp2/ServerModeGetter";
+    result = operation.Exchange(request, 1);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (operation.Item().m_dwDataSize != 1) {
+        return operation.Invalid(1);
+    }
+    *pdwModeOut = static_cast<BYTE>(operation.Item().m_pData[0]);
+    return operation.End(static_cast<int>(*pdwModeOut));
+}

@@ -1,0 +1,158 @@
+// The live status of a device, one operation a part of it. What the bytes mean is told in
+// DeviceStatusUnpack.cpp.
+#include "Operation.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+/// Asks for one item with the status. A failure is logged in the operation's name.
+DWORD AskStatus(NCLOperation& operation, DeviceStatusType eType)
+{
+    const DWORD result = GetDeviceStatus(operation.Object(), operation.Response(), operation.Items(), eType);
+    return result == NCL_SUCCESS ? result : operation.Trace("GetDeviceStatus()", result);
+}
+
+/// The operation of a status of fixed size. `unpack` gives 0, or the number of the check that failed.
+DWORD GetStatus(DWORD dwHandle, const char* pszName, DeviceStatusType eType, DWORD dwItemSize,
+                bool areArgumentsGood, const std::function<int(const char* pData, const ST_NCL& ncl)>& unpack)
+{
+    NCLOperation operation(dwHandle, pszName, NCLOperation::QUERY);
+    DWORD result = operation.Enter(areArgumentsGood);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    result = AskStatus(operation, eType);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (operation.Item().m_dwDataSize != dwItemSize) {
+        return operation.Invalid(1);
+    }
+    const int check = unpack(operation.Item().m_pData, *operation.Object());
+    return check == 0 ? operation.End() : operation.Invalid(check);
+}
+
+/// The operation of a status that is handed on as it is.
+DWORD GetBlock(DWORD dwHandle, const char* pszName, DeviceStatusType eType, BYTE* pBuf, DWORD dwBufSize,
+               DWORD* pdwGetSize)
+{
+    NCLOperation operation(dwHandle, pszName, NCLOperation::QUERY);
+    DWORD result = operation.Enter(pBuf != nullptr && pdwGetSize != nullptr);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    *pdwGetSize = 0;
+    result = AskStatus(operation, eType);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    const ST_COMM_REPLY& item = operation.Item();
+    *pdwGetSize = item.m_dwDataSize;
+    if (dwBufSize < item.m_dwDataSize) {
+        return NCL_ERR_BUF_SIZE;
+    }
+    std::copy_n(item.m_pData, item.m_dwDataSize, pBuf);
+    return operation.End();
+}
+
+} // namespace
+
+DWORD GetDeviceStatus(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_REPLY>& rliReply,
+                      DeviceStatusType eType)
+{
+    ASSERT(pNCL != nullptr);
+    ASSERT(pstHttpRes != nullptr);
+    const bool isRetired = eType == DEV_STATUS_TYPE_RETIRED01;
+    NCLRequest request;
+    request.path = "/webapp2/DevStatusGetter?ifversion=02000000&type=";
+    if (!isRetired) {
+        request.path += std::to_string(eType);
+    }
+    const DWORD result = SendRequest(pNCL, request, pstHttpRes);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    return ParseCommReply(pstHttpRes->m_pContent, pstHttpRes->m_dwContentLength, rliReply, isRetired ? 0 : 1);
+}
+
+DWORD GetALDStatus(DWORD dwHandle, ALDStatus* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetALDStatus", DEV_STATUS_TYPE_ALD, ALD_STATUS_SIZE, pStatusOut != nullptr,
+                     [&](const char* data, const ST_NCL&) { return UnpackALDStatus(data, pStatusOut); });
+}
+
+DWORD GetStackerStatus(DWORD dwHandle, StackerStatus* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetStackerStatus", DEV_STATUS_TYPE_STACKER, STACKER_STATUS_SIZE,
+                     pStatusOut != nullptr,
+                     [&](const char* data, const ST_NCL&) { return UnpackStackerStatus(data, pStatusOut); });
+}
+
+DWORD GetDrvStatus(DWORD dwHandle, DrvStatus* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetDrvStatus", DEV_STATUS_TYPE_DRV, DRV_STATUS_SIZE, pStatusOut != nullptr,
+                     [&](const char* data, const ST_NCL&) { return UnpackDrvStatus(data, pStatusOut); });
+}
+
+DWORD GetDrvStatusEx(DWORD dwHandle, DrvStatusEx* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetDrvStatusEx", DEV_STATUS_TYPE_DRV_EX, DRV_STATUS_EX_SIZE,
+                     pStatusOut != nullptr,
+                     [&](const char* data, const ST_NCL&) { return UnpackDrvStatusEx(data, pStatusOut); });
+}
+
+DWORD GetPrnStatus(DWORD dwHandle, PrnStatus* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetPrnStatus", DEV_STATUS_TYPE_PRN, PRN_STATUS_SIZE, pStatusOut != nullptr,
+                     [&](const char* data, const ST_NCL&) { return UnpackPrnStatus(data, pStatusOut); });
+}
+
+DWORD GetInkStatus(DWORD dwHandle, InkStatus* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetInkStatus", DEV_STATUS_TYPE_INK, INK_STATUS_SIZE, pStatusOut != nullptr,
+                     [&](const char* data, const ST_NCL&) { return UnpackInkStatus(data, pStatusOut); });
+}
+
+DWORD GetDeviceFatalError(DWORD dwHandle, DeviceFatalError* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetDeviceFatalError", DEV_STATUS_TYPE_DEV_FATAL_ERR, DEVICE_FATAL_ERROR_SIZE,
+                     pStatusOut != nullptr, [&](const char* data, const ST_NCL&) {
+                         return UnpackDeviceFatalError(data, pStatusOut);
+                     });
+}
+
+DWORD GetNotifyStatus(DWORD dwHandle, NotifyStatus* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetNotifyStatus", DEV_STATUS_TYPE_NOTIFY, NOTIFY_STATUS_SIZE,
+                     pStatusOut != nullptr, [&](const char* data, const ST_NCL& ncl) {
+                         return UnpackNotifyStatus(data, ncl.m_dwServerMode, pStatusOut);
+                     });
+}
+
+DWORD GetASBStatus(DWORD dwHandle, BYTE* pBuf, DWORD dwBufSize, DWORD* pdwGetSize)
+{
+    return GetBlock(dwHandle, "GetASBStatus", DEV_STATUS_TYPE_ASB, pBuf, dwBufSize, pdwGetSize);
+}
+
+DWORD GetPrnStStatus(DWORD dwHandle, BYTE* pBuf, DWORD dwBufSize, DWORD* pdwGetSize)
+{
+    return GetBlock(dwHandle, "GetPrnStStatus", DEV_STATUS_TYPE_PRN_ST, pBuf, dwBufSize, pdwGetSize);
+}
+
+DWORD GetMaintenanceInfo(DWORD dwHandle, MaintenanceInfo* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetMaintenanceInfo", DEV_STATUS_TYPE_MAINTENANCE_INFO, MAINTENANCE_INFO_SIZE,
+                     pStatusOut != nullptr, [&](const char* data, const ST_NCL&) {
+                         return UnpackMaintenanceInfo(data, pStatusOut);
+                     });
+}
+
+DWORD GetMaintenanceInfoEx(DWORD dwHandle, MaintenanceInfoEx* pStatusOut)
+{
+    return GetStatus(dwHandle, "GetMaintenanceInfoEx", DEV_STATUS_TYPE_MAINTENANCE_INFO,
+                     MAINTENANCE_INFO_EX_SIZE, pStatusOut != nullptr, [&](const char* data, const ST_NCL&) {
+                         return UnpackMaintenanceInfoEx(data, pStatusOut);
+                     });
+}

@@ -1,0 +1,103 @@
+// A disc image on its way to the server, a piece a call. A thread sends the piece while the caller's own
+// thread takes it into the digest of the image.
+#include "Operation.h"
+
+#include <system_error>
+#include <thread>
+
+namespace {
+
+/// Takes the piece into the digest of the image, which the first piece begins. 0, or the digest's failure.
+DWORD DigestPiece(ST_NCL* pNCL, const NCLUpload& piece)
+{
+    if (pNCL->m_pMD == nullptr) {
+        pNCL->m_pMD = std::make_unique<MessageDigest>(BCH_HASH_TYPE_SHA1);
+    }
+    pNCL->m_strImageFileName = piece.pszFileName;
+    return pNCL->m_pMD->Update(piece.pData, piece.dwSize);
+}
+
+/// Sends the piece and, unless the server is an old one, takes it into the digest meanwhile.
+DWORD SendPiece(ST_NCL* pNCL, const NCLUpload& piece, ULONGLONG total)
+{
+    DWORD result = NCL_ERR_PROCESS_CREATE;
+    DWORD digestFailure = 0;
+    const auto upload = [&] {
+        result = UploadFile(pNCL, COMM_TYPE_SELECT, piece.nServerJobID, piece.userName.c_str(),
+                            piece.password.c_str(), piece.pszFileName, piece.pData, piece.dwSize,
+                            pNCL->m_ullDiscImageOfs, total, &pNCL->m_bDiscImageCancelSending);
+    };
+    std::jthread thread;
+    try {
+        thread = std::jthread(upload);
+    } catch (const std::system_error&) { // the system gives no thread: the result says so
+    }
+    if (pNCL->m_dwCompatiMode != 1) {
+        digestFailure = DigestPiece(pNCL, piece);
+    }
+    if (thread.joinable()) {
+        thread.join();
+    }
+    if (digestFailure != 0) {
+        LogDigestFailure("SendDiscImage", digestFailure);
+        if (result == NCL_SUCCESS) {
+            return NCL_ERR_CANCEL_SENDING;
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+DWORD SendHashOfImage(ST_NCL* pNCL, int nServerJobID)
+{
+    const DWORD result =
+        SendHash(pNCL, COMM_TYPE_HTTP, nServerJobID, pNCL->m_strImageFileName.c_str(), *pNCL->m_pMD);
+    pNCL->m_pMD.reset();
+    pNCL->m_strImageFileName.clear();
+    return result;
+}
+
+DWORD SendDiscImage(DWORD dwHandle, int nServerJobID, const BYTE* pDiscImage, DWORD dwSendSize,
+                    DWORD dwTotalDiscSizeLow, DWORD dwTotalDiscSizeHigh, const char* pszImageName)
+{
+    NCLOperation operation(dwHandle, "SendDiscImage", NCLOperation::ACTION, nServerJobID);
+    DWORD result = operation.Enter(pDiscImage == nullptr || pszImageName != nullptr);
+    if (result == NCL_SUCCESS) {
+        result = CheckServerJobID(operation.Object(), nServerJobID, "SendDiscImage");
+    }
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    ST_NCL* pNCL = operation.Object();
+    const bool isCancel = pDiscImage == nullptr;
+    std::atomic_ref(pNCL->m_bDiscImageCancelSending)
+        .store(isCancel ? TRUE : FALSE, std::memory_order_relaxed);
+    if (isCancel) {
+        return operation.End();
+    }
+
+    const std::string name = std::string("DiscImage_") + pszImageName;
+    const ULONGLONG total = ULONGLONG{dwTotalDiscSizeHigh} << 32 | dwTotalDiscSizeLow;
+    const bool isOldServer = pNCL->m_dwCompatiMode == 1;
+    result = SendPiece(pNCL, UploadOfJob(pNCL, name.c_str(), pDiscImage, dwSendSize), total);
+    if (result != NCL_SUCCESS) {
+        operation.Trace("UploadFile()", result);
+        if (!isOldServer) {
+            SendHashOfImage(pNCL, nServerJobID);
+        }
+        return result;
+    }
+
+    pNCL->m_ullDiscImageOfs += dwSendSize;
+    if (pNCL->m_ullDiscImageOfs == total) {
+        pNCL->m_ullDiscImageOfs = 0;
+        if (!isOldServer && pNCL->m_pMD != nullptr) {
+            result = SendHashOfImage(pNCL, nServerJobID);
+            if (result != NCL_SUCCESS) {
+                return operation.Trace("SendHash()", result);
+            }
+        }
+    }
+    return operation.End();
+}

@@ -1,0 +1,168 @@
+// A small HTTP client: one request at a time over one connection, which it keeps while the server allows.
+#pragma once
+
+#include "Internet.h"
+
+#include <string>
+
+struct ST_HTTP_RESPONSE;
+
+/// What the servlets of a publisher server need: a request line, a few headers, a body in memory, and a reply
+/// with its length told or in chunks. All results are internet results (InternetResult.h); an HTTP status is
+/// none, whatever it says. One exchange at a time.
+class CHttp
+{
+public:
+    enum METHOD
+    {
+        METHOD_GET = 0,
+        METHOD_HEAD = 1,
+        METHOD_POST = 2,
+        METHOD_PUT = 3,
+        METHOD_DELETE = 4,
+        METHOD_OPTIONS = 5,
+        METHOD_TRACE = 6,
+        METHOD_CONNECT = 7,
+        METHOD_PATCH = 8,
+        METHOD_LINK = 9,
+        METHOD_UPLINK = 10,
+        METHOD_PROPFIND = 11,
+        METHOD_PROPPATCH = 12,
+        METHOD_MKCOL = 13,
+        METHOD_COPY = 14,
+        METHOD_MOVE = 15,
+        METHOD_LOCK = 16,
+        METHOD_UNLOCK = 17,
+        EMPTY = 18
+    };
+
+    enum VERSION
+    {
+        VERSION_1_0 = 0,
+        VERSION_1_1 = 1
+    };
+
+    enum STATUS
+    {
+        STATUS_EMPTY = 0,
+        STATUS_CONTINUE = 1,
+        STATUS_SWITCHING_PROTOCOLS = 2,
+        STATUS_OK = 3,
+        STATUS_CREATED = 4,
+        STATUS_ACCEPTED = 5,
+        STATUS_NON_AUTHORITATIVE_INFOMATION = 6,
+        STATUS_NO_CONTENT = 7,
+        STATUS_RESET_CONTENT = 8,
+        STATUS_PARTIAL_CONTENT = 9,
+        STATUS_MULTIPLE_CHOICES = 10,
+        STATUS_MOVED_PERMANENTLY = 11,
+        STATUS_MOVED_TEMPORARILY = 12,
+        STATUS_SEE_OTHER = 13,
+        STATUS_NOT_MODIFIED = 14,
+        STATUS_USE_PROXY = 15,
+        STATUS_BAD_REQUEST = 16,
+        STATUS_UNAUTHORIZED = 17,
+        STATUS_PAYMENT_REQUIRED = 18, ///< no code is known for it, so no reply gives it
+        STATUS_FORBIDDEN = 19,
+        STATUS_NOT_FOUND = 20,
+        STATUS_METHOD_NOT_ALLOWED = 21,
+        STATUS_NOT_ACCEPTABLE = 22,
+        STATUS_PROXY_AUTHENTICATION_REQUIRED = 23,
+        STATUS_REQUEST_TIME_OUT = 24,
+        STATUS_CONFLICT = 25,
+        STATUS_GONE = 26,
+        STATUS_LENGTH_REQUIRED = 27,
+        STATUS_RRECONDITION_FAILED = 28,
+        STATUS_REQUEST_ENTITY_TOO_LARGE = 29,
+        STATUS_REQUEST_URI_TOO_LARGE = 30,
+        STATUS_UNSUPPORTED_MEDIA_TYPE = 31,
+        STATUS_INTERNAL_SERVER_ERROR = 32,
+        STATUS_NOT_IMPLEMENTED = 33,
+        STATUS_BAD_GATEWAY = 34,
+        STATUS_SERVICE_UNAVAILABLE = 35,
+        STATUS_GATEWAY_TIME_OUT = 36,
+        STATUS_HTTP_VERSION_NO_SUPPORTED = 37,
+        STATUS_VARIANT_ALSO_NEGOTIATES = 38,
+        STATUS_INSUFFICIENT_STORAGE = 39,
+        STATUS_NO_EXTENDED = 40
+    };
+
+    CHttp() = default;
+    CHttp(const CHttp&) = delete;
+    CHttp& operator=(const CHttp&) = delete;
+    virtual ~CHttp() = default;
+
+    /// As CInternetCon does; no network is touched before the first request.
+    int Open(const char* pszServerAddress, WORD wPort, BOOL bSSL);
+    int Close();
+    /// Milliseconds for a connect.
+    int SetTimeout(DWORD dwMilliSec);
+    /// Milliseconds of silence before each read. 0 always.
+    int SetNoCommTimeout(DWORD dwMilliSec);
+
+    /// The whole exchange. One that fails is made once more from the head on, unless it timed out.
+    /// `pszHost` is the text of the Host line. Without both user and password no authorisation is sent.
+    /// `pszAddHeader`, which may be null, holds whole lines, each with its CR LF. Nothing is escaped.
+    /// After a failure the response holds what was parsed before it.
+    int SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
+                    const char* pszUser, const char* pszPassword, const char* pszAddHeader,
+                    const char* pMsgBody, DWORD dwMsgSize, ST_HTTP_RESPONSE* pstHttpRes);
+
+    // The stages of the exchange. Each but a failed connect closes the connection when it fails.
+
+    /// Connects if need be, and sends the head.
+    int SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
+                   const char* pszUser, const char* pszPassword, const char* pszAddHeader);
+    int SendMessage(const char* pData, DWORD dwSize);
+    /// The next final response; interim ones are passed over. There is no limit to their number or to that
+    /// of header lines: only the silence before each byte, and the length of each line, are bounded.
+    int RecvResponse(ST_HTTP_RESPONSE* pstHttpRes);
+
+    static const char* GetMethodStringPtr(METHOD eMethod);
+    /// The number of a status; 0 for those without.
+    static int GetStatusCode(STATUS eStatus);
+
+protected:
+    CInternetCon m_Con;
+
+private:
+    /// One line without its end, of at most `dwBufSize` bytes with it. On a line feed the byte before is
+    /// dropped, whatever it is.
+    int RecvLine(char* pBuf, DWORD dwBufSize);
+    int ParseHeaderLine(char* pszData, ST_HTTP_RESPONSE* pstHttpRes);
+    int RecvHeader(char* pBuf, DWORD dwBufSize, ST_HTTP_RESPONSE* pstHttpRes);
+    int RecvMessage(ST_HTTP_RESPONSE* pstHttpRes);
+    int RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes);
+    /// ReadToCount for what a DWORD counts.
+    int RecvBytes(char* pBuf, DWORD dwSize);
+
+    /// The text behind the prefix; null when `pszData` starts otherwise.
+    static char* StrCmp(char* pszData, const char* pszPrefix);
+    static const char* GetVersionStringPtr(VERSION eVersion);
+    /// The first known code, in the order of the statuses, that stands anywhere in the text.
+    static STATUS GetStatusCode(char* pszData);
+    static int ConvertBase64Error(int nValue);
+    /// True for a timeout, which it logs.
+    static bool IsNetworkTimeoutError(int nValue);
+};
+
+/// One response. It owns its body.
+struct ST_HTTP_RESPONSE
+{
+    ST_HTTP_RESPONSE() = default;
+    ST_HTTP_RESPONSE(const ST_HTTP_RESPONSE&) = delete;
+    ST_HTTP_RESPONSE& operator=(const ST_HTTP_RESPONSE&) = delete;
+    ~ST_HTTP_RESPONSE();
+
+    /// Makes it ready for the next response.
+    void Init();
+
+    CHttp::VERSION m_eVersion = CHttp::VERSION_1_0; ///< says nothing before the first status line
+    CHttp::STATUS m_eStatus = CHttp::STATUS_OK;
+    char* m_pContent = nullptr; ///< the body, not ended by a zero byte; null when there is none
+    DWORD m_dwContentLength = 0;
+    BOOL m_bConActive = TRUE; ///< the connection may stay open
+    std::string m_strCookie;  ///< what follows "Set-Cookie:" on the last such line
+    BOOL m_bChunked = FALSE;
+    CHttp::METHOD m_eMethod = CHttp::EMPTY; ///< of the request, once the exchange has succeeded
+};

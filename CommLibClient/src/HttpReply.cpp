@@ -1,0 +1,249 @@
+#include "Http.h"
+
+#include "InternetResult.h"
+#include "LogManager.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
+
+namespace {
+
+constexpr DWORD HEADER_LINE_SIZE = 1024; ///< the longest status or header line, its end included
+constexpr DWORD CHUNK_LINE_SIZE = 12;    ///< the longest line around a chunk, its end included
+constexpr size_t VERSION_LENGTH = 8;     ///< of "HTTP/1.1", behind which the code is looked for
+
+/// The whole text as a number that a DWORD holds. Leading blanks and a sign pass, as strtoul has it; so does
+/// no digit at all, which is 0. errno is left to the caller: ERANGE there from before makes any text fail.
+bool ParseNumber(const char* text, int base, DWORD* value)
+{
+    char* end = nullptr;
+    const unsigned long number = strtoul(text, &end, base);
+    if (errno == ERANGE || *end != '\0' || number > UINT32_MAX) {
+        return false;
+    }
+    *value = static_cast<DWORD>(number);
+    return true;
+}
+
+bool Holds(const char* text, const char* part)
+{
+    return strstr(text, part) != nullptr;
+}
+
+} // namespace
+
+ST_HTTP_RESPONSE::~ST_HTTP_RESPONSE()
+{
+    delete[] m_pContent;
+}
+
+void ST_HTTP_RESPONSE::Init()
+{
+    m_eStatus = CHttp::STATUS_EMPTY;
+    delete[] m_pContent;
+    m_pContent = nullptr;
+    m_dwContentLength = 0;
+    m_bConActive = TRUE;
+    m_strCookie.clear();
+    m_bChunked = FALSE;
+    m_eMethod = CHttp::EMPTY;
+}
+
+int CHttp::RecvResponse(ST_HTTP_RESPONSE* pstHttpRes)
+{
+    assert(pstHttpRes != nullptr);
+    CLogManager log;
+    char buffer[HEADER_LINE_SIZE] = {};
+    int result = RecvHeader(buffer, sizeof buffer, pstHttpRes);
+    if (result < 0) {
+        log.LOG_WARN("CHttp::RecvResponse RecvHeader() error");
+        m_Con.Shutdown();
+        return result;
+    }
+    result = RecvMessage(pstHttpRes);
+    if (result < 0) {
+        log.LOG_WARN("CHttp::RecvResponse RecvMessage() error");
+        m_Con.Shutdown();
+        return result;
+    }
+    if (!pstHttpRes->m_bConActive) {
+        m_Con.Shutdown();
+    }
+    return 0;
+}
+
+int CHttp::RecvHeader(char* pBuf, DWORD dwBufSize, ST_HTTP_RESPONSE* pstHttpRes)
+{
+    assert(pBuf != nullptr);
+    assert(pstHttpRes != nullptr);
+    CLogManager log;
+    pstHttpRes->Init();
+    do {
+        memset(pBuf, 0, dwBufSize);
+        int result = RecvLine(pBuf, dwBufSize);
+        if (result < 0) {
+            log.LOG_ERR("CHttp::RecvHeader Start 1");
+            return result;
+        }
+        if (StrCmp(pBuf, GetVersionStringPtr(VERSION_1_0)) != nullptr) {
+            pstHttpRes->m_eVersion = VERSION_1_0;
+        } else if (StrCmp(pBuf, GetVersionStringPtr(VERSION_1_1)) != nullptr) {
+            pstHttpRes->m_eVersion = VERSION_1_1;
+        } else {
+            return INTERNET_ERR_MALFORMED;
+        }
+        const STATUS status = GetStatusCode(pBuf + VERSION_LENGTH);
+        if (status == STATUS_EMPTY) {
+            return INTERNET_ERR_MALFORMED;
+        }
+        pstHttpRes->m_eStatus = status;
+
+        while (true) {
+            memset(pBuf, 0, dwBufSize);
+            result = RecvLine(pBuf, dwBufSize);
+            if (result < 0) {
+                log.LOG_ERR("CHttp::RecvHeader Start 2");
+                return result;
+            }
+            if (pBuf[0] == '\0') {
+                break;
+            }
+            result = ParseHeaderLine(pBuf, pstHttpRes);
+            if (result < 0) {
+                return result;
+            }
+        }
+    } while (pstHttpRes->m_eStatus == STATUS_CONTINUE);
+    return 0;
+}
+
+int CHttp::RecvLine(char* pBuf, DWORD dwBufSize)
+{
+    for (DWORD offset = 0; offset < dwBufSize; ++offset) {
+        const int result = m_Con.ReadToCount(pBuf + offset, 1);
+        if (result < 0) {
+            CLogManager log;
+            log.LOG_WARN("CHttp::RecvLine Count = %u", offset);
+            return result;
+        }
+        if (pBuf[offset] == '\n') {
+            pBuf[offset > 0 ? offset - 1 : 0] = '\0';
+            return 0;
+        }
+    }
+    return INTERNET_ERR_LINE_TOO_LONG;
+}
+
+int CHttp::ParseHeaderLine(char* pszData, ST_HTTP_RESPONSE* pstHttpRes)
+{
+    if (const char* length = StrCmp(pszData, "Content-Length:")) {
+        if (!ParseNumber(length, 10, &pstHttpRes->m_dwContentLength)) {
+            pstHttpRes->m_dwContentLength = 0;
+            return INTERNET_ERR_MALFORMED;
+        }
+        return 0;
+    }
+    if (const char* coding = StrCmp(pszData, "Transfer-Encoding:")) {
+        if (Holds(coding, "chunked")) {
+            pstHttpRes->m_bChunked = TRUE;
+        }
+        return 0;
+    }
+    if (const char* connection = StrCmp(pszData, "Connection:")) {
+        pstHttpRes->m_bConActive = Holds(connection, "keep-alive") && !Holds(connection, "close");
+        return 0;
+    }
+    if (const char* cookie = StrCmp(pszData, "Set-Cookie:")) {
+        pstHttpRes->m_strCookie = cookie;
+    }
+    return 0;
+}
+
+char* CHttp::StrCmp(char* pszData, const char* pszPrefix)
+{
+    const size_t length = strlen(pszPrefix);
+    return strncmp(pszData, pszPrefix, length) == 0 ? pszData + length : nullptr;
+}
+
+int CHttp::RecvMessage(ST_HTTP_RESPONSE* pstHttpRes)
+{
+    if (pstHttpRes->m_bChunked) {
+        return RecvChunkData(pstHttpRes);
+    }
+    const DWORD size = pstHttpRes->m_dwContentLength;
+    if (size == 0) {
+        return 0;
+    }
+    std::unique_ptr<char[]> content(new (std::nothrow) char[size]);
+    if (content == nullptr) {
+        return INTERNET_ERR_MEMORY;
+    }
+    const int result = RecvBytes(content.get(), size);
+    if (result < 0) {
+        return result;
+    }
+    pstHttpRes->m_pContent = content.release();
+    return 0;
+}
+
+int CHttp::RecvBytes(char* pBuf, DWORD dwSize)
+{
+    DWORD received = 0;
+    while (received < dwSize) { // the transport counts with an int
+        const int piece = static_cast<int>(std::min<DWORD>(dwSize - received, INT_MAX));
+        const int result = m_Con.ReadToCount(pBuf + received, piece);
+        if (result < 0) {
+            return result;
+        }
+        received += static_cast<DWORD>(piece);
+    }
+    return 0;
+}
+
+int CHttp::RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes)
+{
+    std::unique_ptr<char[]> content;
+    DWORD total = 0;
+    while (true) {
+        char line[CHUNK_LINE_SIZE] = {};
+        int result = RecvLine(line, sizeof line);
+        if (result < 0) {
+            return result;
+        }
+        DWORD size = 0;
+        errno = 0;
+        if (!ParseNumber(line, 16, &size) || size > UINT32_MAX - total) {
+            return INTERNET_ERR_MALFORMED;
+        }
+        if (size == 0) {
+            result = RecvLine(line, sizeof line);
+            if (result < 0) {
+                return result;
+            }
+            break;
+        }
+        std::unique_ptr<char[]> grown(new (std::nothrow) char[size_t{total} + size]);
+        if (grown == nullptr) {
+            return INTERNET_ERR_MEMORY;
+        }
+        std::copy_n(content.get(), total, grown.get());
+        content = std::move(grown);
+        result = RecvBytes(content.get() + total, size);
+        if (result < 0) {
+            return result;
+        }
+        total += size;
+        result = RecvLine(line, sizeof line);
+        if (result < 0) {
+            return result;
+        }
+    }
+    pstHttpRes->m_pContent = content.release();
+    pstHttpRes->m_dwContentLength = total;
+    return 0;
+}

@@ -1,0 +1,149 @@
+#include "Http.h"
+
+#include "Base64.h"
+#include "InternetResult.h"
+#include "LogManager.h"
+
+#include <algorithm>
+#include <climits>
+
+namespace {
+
+const char* OrNull(const char* text)
+{
+    return text != nullptr ? text : "null";
+}
+
+} // namespace
+
+int CHttp::Open(const char* pszServerAddress, WORD wPort, BOOL bSSL)
+{
+    return m_Con.Open(pszServerAddress, wPort, bSSL);
+}
+
+int CHttp::Close()
+{
+    return m_Con.Close();
+}
+
+int CHttp::SetTimeout(DWORD dwMilliSec)
+{
+    return m_Con.SetTimeout(dwMilliSec);
+}
+
+int CHttp::SetNoCommTimeout(DWORD dwMilliSec)
+{
+    m_Con.SetNoCommTimeout(dwMilliSec);
+    return 0;
+}
+
+int CHttp::SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
+                       const char* pszUser, const char* pszPassword, const char* pszAddHeader,
+                       const char* pMsgBody, DWORD dwMsgSize, ST_HTTP_RESPONSE* pstHttpRes)
+{
+    assert(pszPath != nullptr);
+    assert(pszHost != nullptr);
+    assert(pstHttpRes != nullptr);
+    if (pszPath == nullptr || pszHost == nullptr || pstHttpRes == nullptr) {
+        return INTERNET_ERR_ARGUMENT;
+    }
+    std::string header = pszAddHeader != nullptr ? pszAddHeader : "";
+    if (pMsgBody != nullptr && dwMsgSize != 0) {
+        header += "Content-Length: " + std::to_string(dwMsgSize) + "\r\n";
+    }
+
+    for (int nRetryNum = 0;; ++nRetryNum) {
+        const char* stage = "SendHeader";
+        int result = SendHeader(eMethod, pszPath, eVersion, pszHost, pszUser, pszPassword, header.c_str());
+        if (result >= 0 && pMsgBody != nullptr) {
+            stage = "SendMessage";
+            result = SendMessage(pMsgBody, dwMsgSize);
+        }
+        if (result >= 0) {
+            stage = "RecvResponse";
+            result = RecvResponse(pstHttpRes);
+        }
+        if (result >= 0) {
+            pstHttpRes->m_eMethod = eMethod;
+            return 0;
+        }
+
+        CLogManager log;
+        if (IsNetworkTimeoutError(result)) {
+            log.LOG_WARN("CHttp::SendRequest %s() Method = %s Path = %s, Add Header = %s", stage,
+                         GetMethodStringPtr(eMethod), OrNull(pszPath), OrNull(pszAddHeader));
+            return result;
+        }
+        if (nRetryNum > 0) {
+            return result;
+        }
+        log.LOG_WARN("CHttp::SendRequest %s() retry", stage);
+    }
+}
+
+int CHttp::SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
+                      const char* pszUser, const char* pszPassword, const char* pszAddHeader)
+{
+    assert(pszPath != nullptr);
+    assert(pszHost != nullptr);
+    std::string head = GetMethodStringPtr(eMethod);
+    head.append(" ").append(pszPath).append(" ").append(GetVersionStringPtr(eVersion)).append("\r\n");
+    head.append("Host:").append(pszHost).append("\r\n");
+    if (pszUser != nullptr && pszPassword != nullptr) {
+        const std::string credentials = std::string(pszUser) + ":" + pszPassword;
+        CBase64 base64;
+        const int result = base64.Encode(credentials.c_str());
+        if (result < 0) {
+            return ConvertBase64Error(result);
+        }
+        head.append("Authorization:Basic ").append(base64.GetData()).append("\r\n");
+    }
+    if (pszAddHeader != nullptr) {
+        head.append(pszAddHeader);
+    }
+    head.append("\r\n");
+
+    int result = m_Con.Connect();
+    if (result < 0) {
+        return result;
+    }
+    result = m_Con.WriteToCount(head.data(), static_cast<int>(head.size()));
+    if (result < 0) {
+        m_Con.Shutdown();
+        return result;
+    }
+    return 0;
+}
+
+int CHttp::SendMessage(const char* pData, DWORD dwSize)
+{
+    DWORD sent = 0;
+    do { // the transport counts with an int
+        const int piece = static_cast<int>(std::min<DWORD>(dwSize - sent, INT_MAX));
+        const int result = m_Con.WriteToCount(pData + sent, piece);
+        if (result < 0) {
+            m_Con.Shutdown();
+            return result;
+        }
+        sent += static_cast<DWORD>(piece);
+    } while (sent < dwSize);
+    return 0;
+}
+
+bool CHttp::IsNetworkTimeoutError(int nValue)
+{
+    CLogManager log;
+    switch (nValue) {
+    case INTERNET_ERR_NO_COMM:
+        log.LOG_ERR("[CommLib(HTTP)] Network Timeout (No Comm)");
+        return true;
+    case INTERNET_ERR_RECV_TIMEOUT:
+        log.LOG_ERR("[CommLib(HTTP)] Network Timeout (recv)");
+        return true;
+    case INTERNET_ERR_SEND_TIMEOUT:
+        log.LOG_ERR("[CommLib(HTTP)] Network Timeout (send)");
+        return true;
+    default:
+        return false;
+    }
+}

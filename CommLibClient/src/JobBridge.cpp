@@ -1,0 +1,54 @@
+// Job control under the id that the submitter gave to a job. Nobody counts these operations, and a connection
+// that is being closed does not refuse them.
+#include "LogManager.h"
+#include "Operation.h"
+
+namespace {
+
+// Both operations log their failures under the name of the first.
+constexpr char TRACE_NAME[] = "CancelJobForBridge";
+
+DWORD ControlForBridge(const char* pszOperation, const char* pszAction, DWORD dwHandle, const char* pszJobID)
+{
+    ST_NCL* pNCL = GetNCLObj(dwHandle);
+    CLogManager log;
+    log.LOG_INFO("%s , %s , Start", GetNCLHostName(pNCL), pszOperation);
+    if (pNCL == nullptr || pszJobID == nullptr) {
+        return ReturnErrParam();
+    }
+    const std::string body = std::string("action=") + pszAction + "&jobid=" + pszJobID;
+    ST_HTTP_RESPONSE response;
+    DWORD result = SendRequest(pNCL,
+                               {.path = "/webapp2/JobControllerExt",
+                                .method = CHttp::METHOD_POST,
+                                .body = body.data(),
+                                .bodySize = static_cast<DWORD>(body.size()),
+                                .type = COMM_TYPE_HTTP,
+                                .option = SEND_OPTION_FORM},
+                               &response);
+    if (result != NCL_SUCCESS) {
+        return LogTrace(TRACE_NAME, "SendRequest()", result);
+    }
+    if (pNCL->m_dwNPType == NCL_NPTYPE_UNKNOWN) {
+        pNCL->m_dwNPType = NCL_NPTYPE_300NII;
+    }
+    std::list<ST_COMM_REPLY> items;
+    result = ParseCommReply(response.m_pContent, response.m_dwContentLength, items, 1);
+    if (result != NCL_SUCCESS) {
+        return LogTrace(TRACE_NAME, "ParseCommReply()", result);
+    }
+    log.LOG_INFO("%s , %s , End", GetNCLHostName(pNCL), pszOperation);
+    return NCL_SUCCESS;
+}
+
+} // namespace
+
+DWORD CancelJobForBridge(DWORD dwHandle, const char* pszJobID, const char*, const char*)
+{
+    return ControlForBridge("CancelJobForBridge", "0", dwHandle, pszJobID);
+}
+
+DWORD ChangeJobPriorityForBridge(DWORD dwHandle, const char* pszJobID, const char*, const char*)
+{
+    return ControlForBridge("ChangeJobPriorityForBridge", "1", dwHandle, pszJobID);
+}

@@ -1,0 +1,119 @@
+// How many jobs a server holds, and how they stand.
+#include "BigEndian.h"
+#include "Operation.h"
+
+#include <cstring>
+
+namespace {
+
+const char* const jobNumberQueryValues[] = {"0", "1", "2"};      ///< by NCL_JNT_
+const char* const jobStatusQueryValues[] = {"1", "2", "0", "3"}; ///< by NCL_JST_
+
+/// Asks for a list and fills the records with it, `*pdwCount` of them. Before that it clears `clearSize`
+/// bytes of each, side by side from the array's begin on. `unpack` fills one record from an item.
+template <class Record, class Unpack>
+DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLength, size_t clearSize,
+               DWORD* pdwCount, Unpack unpack)
+{
+    *pdwCount = 0;
+    const DWORD result =
+        operation.Exchange({.path = std::string("/webapp2/JobInfoGetter?ifversion=02000000&type=") +
+                                    jobStatusQueryValues[dwType]},
+                           0);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    const std::list<ST_COMM_REPLY>& items = operation.Items();
+    if (items.empty() || items.front().m_dwDataSize == 0) {
+        return NCL_SUCCESS; // no jobs
+    }
+    if (items.size() > dwJobCountMaxCost[dwType]) {
+        return operation.Invalid(1);
+    }
+    std::memset(static_cast<void*>(pJobs), 0, clearSize * dwLength);
+    DWORD count = 0;
+    for (const ST_COMM_REPLY& item : items) {
+        if (count == dwLength) {
+            break;
+        }
+        const JobRecordCheck check = unpack(item, &pJobs[count]);
+        if (check == JOB_RECORD_BAD_PUBLISH_MODE) {
+            return NCL_ERR_BAD_PUBLISH_MODE;
+        }
+        if (check != JOB_RECORD_GOOD) {
+            return operation.Invalid(check);
+        }
+        ++count;
+    }
+    *pdwCount = count;
+    return NCL_SUCCESS;
+}
+
+} // namespace
+
+DWORD GetJobNumber(DWORD dwHandle, DWORD dwType, DWORD* pdwJobNum)
+{
+    NCLOperation operation(dwHandle, "GetJobNumber", NCLOperation::QUERY);
+    DWORD result = operation.Enter(dwType <= NCL_JNT_FINISH_JOB && pdwJobNum != nullptr);
+    if (result == NCL_SUCCESS) {
+        result = operation.Exchange(
+            {.path = std::string("/webapp2/JobNumGetter?type=") + jobNumberQueryValues[dwType]}, 1);
+    }
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (operation.Item().m_dwDataSize != sizeof(WORD)) {
+        return operation.Invalid(1);
+    }
+    *pdwJobNum = BigEndian16(operation.Item().m_pData);
+    return operation.End(static_cast<int>(*pdwJobNum));
+}
+
+DWORD GetPrnPossibilityNumber(DWORD dwHandle, DWORD* pdwNum)
+{
+    NCLOperation operation(dwHandle, "GetPrnPossibilityNumber", NCLOperation::QUERY);
+    DWORD result = operation.Enter(pdwNum != nullptr);
+    if (result == NCL_SUCCESS) {
+        result = operation.Exchange({.path = "/webapp2/PrnPosNumGetter"}, 1);
+    }
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (operation.Item().m_dwDataSize != sizeof(DWORD)) {
+        return operation.Invalid(1);
+    }
+    *pdwNum = BigEndian32(operation.Item().m_pData);
+    return operation.End(static_cast<int>(*pdwNum));
+}
+
+DWORD GetJobStatus(DWORD dwHandle, DWORD dwType, JobStatus* pJobStatusArrayOut, DWORD dwLength,
+                   DWORD* pdwGetLengthOut)
+{
+    NCLOperation operation(dwHandle, "GetJobStatus", NCLOperation::QUERY);
+    DWORD result = operation.Enter(dwType <= NCL_JST_ALL_JOB && pJobStatusArrayOut != nullptr &&
+                                   pdwGetLengthOut != nullptr);
+    if (result == NCL_SUCCESS) {
+        result = ListJobs(operation, dwType, pJobStatusArrayOut, dwLength, sizeof(JobStatus), pdwGetLengthOut,
+                          [](const ST_COMM_REPLY& item, JobStatus* pJob) {
+                              return UnpackJobStatus(item.m_pData, item.m_dwDataSize, pJob);
+                          });
+    }
+    return result == NCL_SUCCESS ? operation.End(static_cast<int>(*pdwGetLengthOut)) : result;
+}
+
+DWORD GetJobStatusEx(DWORD dwHandle, DWORD dwType, JobStatusEx* pJobStatusArrayOut, DWORD dwLength,
+                     DWORD* pdwGetLengthOut)
+{
+    NCLOperation operation(dwHandle, "GetJobStatusEx", NCLOperation::QUERY);
+    DWORD result = operation.Enter(dwType <= NCL_JST_PROCESS_JOB_EX && pJobStatusArrayOut != nullptr &&
+                                   pdwGetLengthOut != nullptr);
+    if (result == NCL_SUCCESS) {
+        // Callers rely on it: what lies behind the smaller records is theirs.
+        const size_t clearSize = dwType == NCL_JST_PROCESS_JOB_EX ? sizeof(JobStatusEx) : sizeof(JobStatus);
+        result = ListJobs(operation, dwType, pJobStatusArrayOut, dwLength, clearSize, pdwGetLengthOut,
+                          [dwType](const ST_COMM_REPLY& item, JobStatusEx* pJob) {
+                              return UnpackJobStatusEx(item.m_pData, item.m_dwDataSize, dwType, pJob);
+                          });
+    }
+    return result == NCL_SUCCESS ? operation.End() : result;
+}

@@ -1,0 +1,198 @@
+// A job on its way to the server, file by file. The disc image has a file of its own.
+#include "BigEndian.h"
+#include "LogManager.h"
+#include "Operation.h"
+
+#include <cstdio>
+
+namespace {
+
+constexpr DWORD PRN_INDEX_LIMIT = 1000; ///< file names have room for three digits
+
+/// Registers a job and makes its folder.
+DWORD RegisterJob(NCLOperation& operation, const NCLRequest& request, int* pnServerJobID,
+                  std::string& rstrUserName, std::string& rstrPassword)
+{
+    DWORD result = operation.Exchange(request, 1);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (operation.Item().m_dwDataSize != sizeof(DWORD)) {
+        return operation.Invalid(1);
+    }
+    const int id = static_cast<int>(BigEndian32(operation.Item().m_pData));
+    ST_NCL* pNCL = operation.Object();
+    result = GetFileUploadAuthInfo(pNCL, id, rstrUserName, rstrPassword);
+    if (result != NCL_SUCCESS) {
+        return operation.Trace("GetFileUploadAuthInfo()", result);
+    }
+    result = MakeUploadDir(pNCL, id, rstrUserName.c_str(), rstrPassword.c_str(), COMM_TYPE_SELECT);
+    if (result != NCL_SUCCESS) {
+        operation.Trace("MakeUploadDir()", result);
+        if (pNCL->m_dwCompatiMode == 1) {
+            return result;
+        }
+    }
+    *pnServerJobID = id;
+    return NCL_SUCCESS;
+}
+
+/// One more file of print data. The end line tells the result, also a failure.
+DWORD SendOnePrnData(const char* pszOperation, DWORD dwHandle, int nServerJobID, const BYTE* pPrnData,
+                     DWORD dwSendSize, std::optional<DWORD> index)
+{
+    NCLOperation operation(dwHandle, pszOperation, NCLOperation::ACTION, nServerJobID);
+    DWORD result = operation.Enter(pPrnData != nullptr && index.value_or(0) < PRN_INDEX_LIMIT);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    ST_NCL* pNCL = operation.Object();
+    result = SendPrnDataBase(pNCL, nServerJobID, pPrnData, dwSendSize, index.value_or(pNCL->m_unPrnIndex));
+    if (result != NCL_SUCCESS) {
+        operation.Trace("SendPrnDataBase()", result);
+    }
+    operation.End(static_cast<int>(result));
+    return result;
+}
+
+} // namespace
+
+DWORD SendJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwSendSize, int* pnServerJobIDOut)
+{
+    NCLOperation operation(dwHandle, "SendJobData", NCLOperation::ACTION);
+    DWORD result = operation.Enter(pJobData != nullptr && pnServerJobIDOut != nullptr);
+    std::string userName;
+    std::string password;
+    int id = 0;
+    if (result == NCL_SUCCESS) {
+        result = RegisterJob(operation,
+                             {.path = "/webapp2/NormalJobSetter",
+                              .method = CHttp::METHOD_POST,
+                              .body = reinterpret_cast<const char*>(pJobData),
+                              .bodySize = dwSendSize,
+                              .type = COMM_TYPE_SELECT,
+                              .option = SEND_OPTION_COOKIE},
+                             &id, userName, password);
+    }
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    ST_NCL* pNCL = operation.Object();
+    pNCL->m_ullDiscImageOfs = 0;
+    pNCL->m_unPrnIndex = 0;
+    pNCL->m_strUploadUserName = userName;
+    pNCL->m_strUploadPassword = password;
+    pNCL->m_nServerJobID = id;
+    *pnServerJobIDOut = id;
+    return operation.End(id);
+}
+
+DWORD SendDiscInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscInfo, DWORD dwSendSize)
+{
+    NCLOperation operation(dwHandle, "SendDiscInfo", NCLOperation::ACTION, nServerJobID);
+    DWORD result = operation.Enter(pDiscInfo != nullptr);
+    if (result == NCL_SUCCESS) {
+        result = CheckServerJobID(operation.Object(), nServerJobID, "SendDiscInfo");
+    }
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    ST_NCL* pNCL = operation.Object();
+    result = ControlJob(pNCL, operation.Response(), operation.Items(), nServerJobID,
+                        JOB_CONTROL_TYPE_PRE_COMMIT_EMPTY_DISC_INFO, FALSE);
+    if (result != NCL_SUCCESS) {
+        return operation.Trace("ControlJob() 1", result);
+    }
+    result = UploadWithHash(pNCL, UploadOfJob(pNCL, "DiscInfo.xml", pDiscInfo, dwSendSize), "SendDiscInfo");
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    result = ControlJob(pNCL, operation.Response(), operation.Items(), nServerJobID,
+                        JOB_CONTROL_TYPE_COMMIT_DISC_INFO, FALSE);
+    return result == NCL_SUCCESS ? operation.End() : operation.Trace("ControlJob() 2", result);
+}
+
+DWORD SendDiscWriteInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscWriteInfo, DWORD dwSendSize)
+{
+    NCLOperation operation(dwHandle, "SendDiscWriteInfo", NCLOperation::ACTION, nServerJobID);
+    DWORD result = operation.Enter(pDiscWriteInfo != nullptr);
+    if (result == NCL_SUCCESS) {
+        result = CheckServerJobID(operation.Object(), nServerJobID, "SendDiscWriteInfo");
+    }
+    if (result == NCL_SUCCESS) {
+        ST_NCL* pNCL = operation.Object();
+        result = UploadWithHash(pNCL, UploadOfJob(pNCL, "DiscWriteInfo", pDiscWriteInfo, dwSendSize),
+                                "SendDiscWriteInfo");
+    }
+    return result == NCL_SUCCESS ? operation.End() : result;
+}
+
+DWORD SendPrnData(DWORD dwHandle, int nServerJobID, const BYTE* pPrnData, DWORD dwSendSize)
+{
+    return SendOnePrnData("SendPrnData", dwHandle, nServerJobID, pPrnData, dwSendSize, std::nullopt);
+}
+
+DWORD SendPrnDataExt(DWORD dwHandle, int nServerJobID, const BYTE* pPrnData, DWORD dwSendSize, DWORD dwIndex)
+{
+    return SendOnePrnData("SendPrnDataExt", dwHandle, nServerJobID, pPrnData, dwSendSize, dwIndex);
+}
+
+DWORD SendPrnDataBase(ST_NCL* pNCL, int nServerJobID, const BYTE* pPrnData, DWORD dwSendSize, DWORD dwIndex)
+{
+    NCLUpload upload{.nServerJobID = nServerJobID, .pData = pPrnData, .dwSize = dwSendSize};
+    const DWORD result = GetFileUploadAuthInfo(pNCL, nServerJobID, upload.userName, upload.password);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    char name[32]; // ten digits at the most
+    snprintf(name, sizeof name, "PrnData_%03u.prn", dwIndex);
+    upload.pszFileName = name;
+    ++pNCL->m_unPrnIndex;
+    return UploadWithHash(pNCL, upload, "SendPrnDataBase");
+}
+
+DWORD SendSpecialJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwJobDataSize, const BYTE* pPrnData,
+                         DWORD dwPrnDataSize, int* pnServerJobIDOut)
+{
+    NCLOperation operation(dwHandle, "SendSpecialJobData", NCLOperation::ACTION);
+    DWORD result = operation.Enter(pJobData != nullptr && pPrnData != nullptr && pnServerJobIDOut != nullptr);
+    NCLUpload upload{
+        .nServerJobID = 0, .pszFileName = "PrnData_Special.prn", .pData = pPrnData, .dwSize = dwPrnDataSize};
+    if (result == NCL_SUCCESS) {
+        result = RegisterJob(operation,
+                             {.path = "/webapp2/SpecialJobSetter",
+                              .method = CHttp::METHOD_POST,
+                              .body = reinterpret_cast<const char*>(pJobData),
+                              .bodySize = dwJobDataSize,
+                              .type = COMM_TYPE_HTTP,
+                              .option = 0},
+                             &upload.nServerJobID, upload.userName, upload.password);
+    }
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+
+    ST_NCL* pNCL = operation.Object();
+    result = UploadFile(pNCL, COMM_TYPE_HTTP, upload.nServerJobID, upload.userName.c_str(),
+                        upload.password.c_str(), upload.pszFileName, pPrnData, dwPrnDataSize, 0, 0, nullptr);
+    if (pNCL->m_dwCompatiMode == 1) {
+        if (result != NCL_SUCCESS) {
+            return operation.Trace("FileUpload()", result);
+        }
+    } else {
+        MessageDigest md(BCH_HASH_TYPE_SHA1);
+        // Its digest is logged under the name of another operation, which whoever reads the log looks for.
+        result = SendHashOfUpload(pNCL, upload, md, result, "SendSpecialJobData", "SendDiscInfo");
+        if (result != NCL_SUCCESS) {
+            return result;
+        }
+    }
+
+    result = ControlJob(pNCL, operation.Response(), operation.Items(), upload.nServerJobID,
+                        JOB_CONTROL_TYPE_COMMIT, TRUE);
+    if (result != NCL_SUCCESS) {
+        return operation.Trace("ControlJob()", result);
+    }
+    *pnServerJobIDOut = upload.nServerJobID;
+    return operation.End(upload.nServerJobID);
+}

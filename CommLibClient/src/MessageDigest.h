@@ -1,0 +1,86 @@
+// The digests that go with uploaded files. The hash functions are those of libmd.
+#pragma once
+
+#include "NW_Com_LibConst.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <md5.h>
+#include <sha1.h>
+#include <sha2.h>
+
+/// A digest in progress: any number of Update, then one Final or End, which finishes it.
+class MessageDigestIF
+{
+public:
+    MessageDigestIF() = default;
+    MessageDigestIF(const MessageDigestIF&) = delete;
+    MessageDigestIF& operator=(const MessageDigestIF&) = delete;
+
+    /// 0 always.
+    virtual DWORD Update(const uint8_t* input, size_t len) = 0;
+    /// 0 always.
+    virtual DWORD Final(std::vector<unsigned char>& vHash) = 0;
+    /// Final, as Encode writes it.
+    virtual std::string End();
+    /// The name under which the server knows the hash.
+    virtual std::string GetTypeName() = 0;
+    virtual ~MessageDigestIF() = default;
+
+    /// Two lower-case hexadecimal digits a byte.
+    std::string Encode(const std::vector<unsigned char>& vHash);
+};
+
+class MessageDigest_MD5 : public MessageDigestIF
+{
+public:
+    MessageDigest_MD5();
+    DWORD Update(const uint8_t* input, size_t len) override;
+    DWORD Final(std::vector<unsigned char>& vHash) override;
+    std::string GetTypeName() override;
+
+protected:
+    MD5_CTX m_ctx;
+};
+
+class MessageDigest_SHA1 : public MessageDigestIF
+{
+public:
+    MessageDigest_SHA1();
+    DWORD Update(const uint8_t* input, size_t len) override;
+    DWORD Final(std::vector<unsigned char>& vHash) override;
+    std::string GetTypeName() override;
+
+protected:
+    SHA1_CTX m_ctx;
+};
+
+class MessageDigest_SHA256 : public MessageDigestIF
+{
+public:
+    MessageDigest_SHA256();
+    DWORD Update(const uint8_t* input, size_t len) override;
+    DWORD Final(std::vector<unsigned char>& vHash) override;
+    std::string GetTypeName() override;
+
+protected:
+    SHA2_CTX m_ctx;
+};
+
+/// The digest of a BCH_HASH_TYPE_ value: SHA-1 and SHA-256 by theirs, MD5 by any other.
+class MessageDigest : public MessageDigestIF
+{
+public:
+    explicit MessageDigest(DWORD nHashType);
+    /// Starts anew, with this kind.
+    void Init(DWORD nHashType);
+    DWORD Update(const uint8_t* input, size_t len) override;
+    DWORD Final(std::vector<unsigned char>& vHash) override;
+    std::string End() override;
+    std::string GetTypeName() override;
+
+protected:
+    std::unique_ptr<MessageDigestIF> ptr;
+};

@@ -1,0 +1,313 @@
+// What the sources of the network client library share among themselves.
+#pragma once
+
+#include "Http.h"
+#include "MessageDigest.h"
+#include "NW_Com_Lib.h"
+
+#include <atomic>
+#include <list>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Replies of a servlet: items of a status byte, a length of 16 bits (big-endian) and that many bytes of data.
+
+/// One item. It points into the response's body and lives as long as that.
+struct ST_COMM_REPLY
+{
+    const char* m_pData = nullptr; ///< null when there is no data
+    DWORD m_dwServerStatus = NCL_SUCCESS;
+    DWORD m_dwDataSize = 0;
+};
+
+/// Takes a body apart. The first item that is not good decides for the whole reply; after a failure the list
+/// is empty. `dwCheckReplyCount` is the number of items expected, 0 for any.
+DWORD ParseCommReply(const char* pContent, DWORD dwContentLen, std::list<ST_COMM_REPLY>& rliReply,
+                     DWORD dwCheckReplyCount);
+
+/// A place to dump replies; it does nothing.
+void DEBUG_HTTP_REPLY(const char* pszMsg, DWORD dwSize);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Result codes
+
+extern const char* const NCL_ERROR_STRING[15];        ///< from NCL_SUCCESS on
+extern const char* const NCL_SERVER_ERROR_STRING[13]; ///< from NCL_ERR_SERVER_OTHER on
+extern const DWORD SERVLET_ERR[14];                   ///< by a servlet's status byte
+extern const char* const SERVLET_ERR_STRING[14];      ///< by a servlet's status byte; none for 0
+
+/// What ConvertInternetError gives for internet results that have no code of their own.
+constexpr DWORD NCL_ERR_UNNAMED = 10000;
+
+/// The code of an internet result (InternetResult.h).
+DWORD ConvertInternetError(int nValue);
+
+/// The code of a servlet's status byte; known failures are logged.
+DWORD ConvertServerStatus(DWORD dwValue);
+
+/// The code of an HTTP status. All but good ones are logged, with the request's method and `pszPath`.
+DWORD CheckHttpResponseStatus(ST_HTTP_RESPONSE* pstHttpRes, const char* pszPath);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Jobs: the numbers of the server in the client's own.
+
+extern const DWORD dwJobCountMaxCost[4];     ///< by NCL_JST_: how many jobs a list may have
+extern const DWORD dwSpecialJobTypeConst[6]; ///< NCL_JOB_TYPE_ by the print modes from 4 on
+
+// -1 is a value that no record may have. Where -1 does not arise, 13 is what values beyond the table read as.
+
+int ConvertJobStatus(DWORD dwValue);                    ///< NCL_JOB_STATUS_, never -1
+int ConvertJobStatusFactor(DWORD dwValue);              ///< NCL_JOB_STATUS_FACTOR_, never -1
+int ConvertJobType(DWORD dwJobType, DWORD dwPrintMode); ///< NCL_JOB_TYPE_; 13 too
+int ConvertLoadStacker(WORD wValue);                    ///< a set of stackers
+int ConvertEjectStacker(WORD wValue);                   ///< a set of stackers
+int ConvertPublishMode(DWORD dwValue);
+
+/// What a list of jobs gives when one of them has a publish mode that there is not.
+constexpr DWORD NCL_ERR_BAD_PUBLISH_MODE = 0xFFFFFFFF;
+
+/// What UnpackJobStatus and UnpackJobStatusEx found. The values from 2 on are the numbers under which they
+/// are logged, in the order in which they are looked for; 3 and 9 belong to conversions that cannot fail.
+enum JobRecordCheck
+{
+    JOB_RECORD_GOOD = 0,
+    JOB_RECORD_BAD_PUBLISH_MODE = 1, ///< the one that is not logged
+    JOB_RECORD_BAD_SIZE = 2,
+    JOB_RECORD_BAD_PERSON_SIZE = 4,
+    JOB_RECORD_BAD_JOB_TYPE = 5,
+    JOB_RECORD_BAD_LOAD_STACKER = 6,
+    JOB_RECORD_BAD_EJECT_STACKER = 7,
+    JOB_RECORD_BAD_NAME_SIZE = 8
+};
+
+/// Fills a record, which was cleared before, from a job of `dwSize` bytes as the server sends it. After a
+/// failure the fields before the bad one are filled. The texts go through toUTF8.
+JobRecordCheck UnpackJobStatus(const char* pData, DWORD dwSize, JobStatus* pJob);
+/// The same; with `dwType` NCL_JST_PROCESS_JOB_EX the job has four bytes more, its remaining time.
+JobRecordCheck UnpackJobStatusEx(const char* pData, DWORD dwSize, DWORD dwType, JobStatusEx* pJob);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Connections
+
+/// Which connection a request takes.
+enum CommType
+{
+    COMM_TYPE_HTTP = 0,
+    COMM_TYPE_HTTPS = 1, ///< there is none in this system
+    COMM_TYPE_SELECT = 2 ///< the secured one for a server in a secure mode, else the plain one
+};
+
+/// What stands behind a handle. One operation at a time; what another thread touches meanwhile is reached
+/// through std::atomic_ref.
+struct ST_NCL
+{
+    BOOL m_bDiscImageCancelSending = FALSE; ///< the upload of a disc image is to stop; atomic_ref
+    BOOL m_bEndConnection = FALSE;          ///< no new operation may start; atomic_ref
+    BOOL m_bFinishStartConnection = FALSE;  ///< StartConnection got through
+    int m_nServerJobID = 0;                 ///< of the job being submitted
+    unsigned int m_unPrnIndex = 0;          ///< running number of the next file of print data
+    DWORD m_dwServerMode = 0;               ///< an NCL_MODE_ value
+    DWORD m_dwNPType = NCL_NPTYPE_UNKNOWN;
+    ULONGLONG m_ullDiscImageOfs = 0; ///< bytes of the disc image sent so far
+    CHttp* m_pHttp = nullptr;        ///< owned
+    CHttp* m_pHttpSecure = nullptr;  ///< owned; nothing creates it
+    std::string m_strServerAddress;
+    std::string m_strUploadUserName; ///< of the current job
+    std::string m_strUploadPassword;
+    std::string m_strPublishID;             ///< kept for a second call of GetPublishID
+    std::string m_strJSessionID;            ///< nothing fills it
+    std::atomic<int> m_refCount = 0;        ///< operations in progress
+    std::string m_strImageFileName;         ///< of the disc image being uploaded
+    std::unique_ptr<MessageDigestIF> m_pMD; ///< of the disc image being uploaded
+    DWORD m_dwCompatiMode = 0;              ///< 1: an old server, which takes no hashes
+};
+
+/// Counts its scope in an atomic counter.
+template <typename Counter>
+class CAutoRefCounter
+{
+public:
+    explicit CAutoRefCounter(Counter& counter) : m_counter(counter)
+    {
+        ++m_counter;
+    }
+    ~CAutoRefCounter()
+    {
+        --m_counter;
+    }
+    CAutoRefCounter(const CAutoRefCounter&) = delete;
+    CAutoRefCounter& operator=(const CAutoRefCounter&) = delete;
+
+private:
+    Counter& m_counter;
+};
+
+/// The table behind the handles: a handle is an index plus 1. It grows to 100 entries and never shrinks; a
+/// free entry is null. Readers take no lock, so entries are reached through std::atomic_ref and the storage
+/// never moves.
+extern std::vector<ST_NCL*> g_pvarrNCL;
+extern std::mutex g_csNCLArray; ///< held by SetNCLObj alone
+
+/// The handle of the object, which takes the first free entry; 0 when there is none, and for null.
+DWORD SetNCLObj(ST_NCL* pstNCL);
+/// Null when the handle names nothing.
+ST_NCL* GetNCLObj(DWORD dwHandle);
+/// Frees the entry, not the object. 0. A handle beyond the table is a programming error.
+DWORD DeleteNCLObj(DWORD dwHandle);
+/// The server's address for the log; null for a null object.
+const char* GetNCLHostName(ST_NCL* pNCL);
+
+/// Logs that a parameter is bad. NCL_ERR_PARAMETER.
+DWORD ReturnErrParam();
+
+// What `dwOption` of SendRequest is made of.
+constexpr DWORD SEND_OPTION_FORM = 1;   ///< the body is a form
+constexpr DWORD SEND_OPTION_COOKIE = 2; ///< with the session's cookie, if there is one
+
+/// Every request of the library goes through here; it tells of failures in the log. Once a connection is
+/// open, whatever loses it reads as NCL_ERR_CONNECTION_CLOSE; the next request connects anew. After success
+/// the HTTP status was good.
+DWORD SendRequest(ST_NCL* pNCL, CHttp::METHOD eMethod, const char* pszPath, CHttp::VERSION eVersion,
+                  const char* pszHost, const char* pszUser, const char* pszPassword, const char* pszAddHeader,
+                  const char* pMsgBody, DWORD dwMsgSize, ST_HTTP_RESPONSE* pstHttpRes, CommType eCommType,
+                  DWORD dwOption);
+
+/// Asks the server whether it accepts this version of the interface; NCL_ERR_APP_VERSION when not.
+DWORD CheckIFVersion(ST_NCL* pNCL, const char* pszAppVersion);
+/// True for the modes in which a server talks over a secured connection alone.
+BOOL CheckSecureMode(DWORD dwMode);
+
+/// A version text as a number: what stands before the point in the upper 16 bits, what stands behind it in
+/// the lower.
+DWORD ServerVersionNumber(const char* pszVersion);
+/// 2.0 to 2.29 and 3.0 to 3.29: such a server is served in compatibility mode alone.
+bool IsOldServer(DWORD dwVersion);
+
+/// The publisher kind in the setting file of a server. True when there is a file for the address, also one
+/// without a kind, which is 0 then.
+bool ReadNPType(unsigned int* uiNPType, const char* pszServerAddress);
+/// Stores it. True when there is a file for the address that can be read and written.
+bool WriteNPType(unsigned int uiNPType, const char* pszServerAddress);
+/// A number of the registry. False, with 0, when there is none.
+bool GetRegistryIntValue(HKEY hKeyRoot, LPCSTR lpstrKeyName, LPCSTR lpstrValueName, DWORD& dwData);
+
+/// UTF-16 in the machine's byte order as UTF-8. It sets the locale of the whole process to "en_US.utf8",
+/// for good: without that locale on the system all but ASCII is lost. What cannot be converted is left out.
+std::string toUTF8(const char16_t* utf16buf, size_t utf16len);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Device status: the request of the family, and the meaning of the bits
+
+/// Asks for the status of one part of the device. Null arguments are programming errors.
+DWORD GetDeviceStatus(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_REPLY>& rliReply,
+                      DeviceStatusType eType);
+
+/// The largest value that GetDeviceInfoInt takes, by information type.
+extern const DWORD dwCommValueMaxConst[9];
+
+// Words of the wire as values of the public records. 0, or -1 for a word that means nothing, which stackers
+// alone know.
+int ConvertStackerStatus(DWORD dwValue, StackerStatusBase* pStatus);
+int ConvertDrvStatus(DWORD dwValue, DWORD* pStatus);
+int ConvertPrnStatus(DWORD dwValue, PrnStatus* pStatus);
+int ConvertInkCartridgeStatus(DWORD dwValue, InkStatusBase* pStatus);
+int ConvertDeviceFatalError(DWORD dwValue, DeviceFatalError* pStatus);
+
+// Reply items of the sizes below as records. 0, or the number of the check that failed: the size is number 1,
+// the conversions follow. Fields before that of the failed check are filled.
+constexpr DWORD ALD_STATUS_SIZE = 16;
+constexpr DWORD STACKER_STATUS_SIZE = 16;
+constexpr DWORD DRV_STATUS_SIZE = 8;
+constexpr DWORD DRV_STATUS_EX_SIZE = 16;
+constexpr DWORD PRN_STATUS_SIZE = 4;
+constexpr DWORD INK_STATUS_SIZE = 24;
+constexpr DWORD DEVICE_FATAL_ERROR_SIZE = 4;
+constexpr DWORD NOTIFY_STATUS_SIZE = 32;
+constexpr DWORD MAINTENANCE_INFO_SIZE = 52;
+constexpr DWORD MAINTENANCE_INFO_EX_SIZE = 68;
+
+int UnpackALDStatus(const char* pData, ALDStatus* pStatus);
+int UnpackStackerStatus(const char* pData, StackerStatus* pStatus);
+int UnpackDrvStatus(const char* pData, DrvStatus* pStatus);
+int UnpackDrvStatusEx(const char* pData, DrvStatusEx* pStatus);
+int UnpackPrnStatus(const char* pData, PrnStatus* pStatus);
+int UnpackInkStatus(const char* pData, InkStatus* pStatus);
+int UnpackDeviceFatalError(const char* pData, DeviceFatalError* pStatus);
+/// Which stackers are full depends on the mode of the server.
+int UnpackNotifyStatus(const char* pData, DWORD dwServerMode, NotifyStatus* pStatus);
+int UnpackMaintenanceInfo(const char* pData, MaintenanceInfo* pStatus);
+int UnpackMaintenanceInfoEx(const char* pData, MaintenanceInfoEx* pStatus);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Jobs: control
+
+extern const char* const pszJobControlQueryValueConst[7]; ///< by JobControlType
+
+/// A job id as the server takes it: eight hexadecimal digits.
+std::string ServerJobIDText(int nServerJobID);
+
+/// `bSpecial`: over the plain connection, for jobs of maintenance. Null pointers are programming errors.
+DWORD ControlJob(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_REPLY>& rliReply,
+                 int nServerJobID, JobControlType eControlType, BOOL bSpecial);
+/// The user name and the password go no further; null pointers are programming errors.
+DWORD ControlJobForMonitor(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_REPLY>& rliReply,
+                           int nServerJobID, JobControlType eType, const char* pszUserName,
+                           const char* pszPassword);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Jobs: uploads
+
+/// The account of a job's folder: its user is the job id as text.
+DWORD GetFileUploadAuthInfo(ST_NCL* pNCL, int nServerJobID, std::string& rstrUserName,
+                            std::string& rstrPassword);
+/// The place of a file in a job's folder. NCL_SUCCESS.
+DWORD GetFileUploadPath(int nServerJobID, const char* pszFileName, std::string& rstrPath);
+/// Makes a job's folder.
+DWORD MakeUploadDir(ST_NCL* pNCL, int nServerJobID, const char* pszUserName, const char* pszPassword,
+                    CommType eCommType);
+
+/// Sends a part of a file, in requests of at most 10 MiB, straight from `pData`. A total of 0 bytes stands
+/// for `dwDataSize`. A flag that another thread sets to 1 (through std::atomic_ref; it may be null) stops it
+/// before the next request with NCL_ERR_CANCEL_SENDING. A null `pNCL`, `szFileName` or `pData` is a
+/// programming error.
+DWORD UploadFile(ST_NCL* pNCL, CommType eCommType, int nServerJobID, const char* pszUserName,
+                 const char* pszPassword, const char* szFileName, const BYTE* pData, DWORD dwDataSize,
+                 ULONGLONG ullFileOffset, ULONGLONG ullTotalFileSize, BOOL* pbCancelFlag);
+/// Ends the digest and tells it to the server. A null `pNCL` or `szFileName` is a programming error.
+DWORD SendHash(ST_NCL* pNCL, CommType eCommType, int nServerJobID, const char* szFileName,
+               MessageDigestIF& md);
+
+/// A file of a job that goes up in one call, and who sends it.
+struct NCLUpload
+{
+    int nServerJobID = 0;
+    const char* pszFileName = nullptr;
+    const BYTE* pData = nullptr;
+    DWORD dwSize = 0;
+    std::string userName = {};
+    std::string password = {};
+};
+
+/// NCL_ERR_SERVER_JOB_ID, logged, unless the job is the one that is being submitted.
+DWORD CheckServerJobID(const ST_NCL* pNCL, int nServerJobID, const char* pszOperation);
+/// A file of the job that is being submitted, sent with the account that SendJobData was given.
+NCLUpload UploadOfJob(const ST_NCL* pNCL, const char* pszFileName, const BYTE* pData, DWORD dwSize);
+
+/// Uploads the file, and its digest unless the server is an old one. The digest goes out after a failed
+/// upload too, whose code is the result then. Failures are logged under the name of the operation.
+DWORD UploadWithHash(ST_NCL* pNCL, const NCLUpload& upload, const char* pszOperation);
+/// The second half of it: the digest `md` of the file, and the result of both. A digest that fails counts as
+/// NCL_ERR_CANCEL_SENDING; it is logged under a name of its own.
+DWORD SendHashOfUpload(ST_NCL* pNCL, const NCLUpload& upload, MessageDigestIF& md, DWORD dwUploadResult,
+                       const char* pszOperation, const char* pszDigestOperation);
+/// Logs that a digest failed with the value.
+void LogDigestFailure(const char* pszOperation, DWORD dwFailure);
+
+/// Ends the digest of the disc image that is being uploaded, which there must be, and tells it to the server.
+DWORD SendHashOfImage(ST_NCL* pNCL, int nServerJobID);
+
+/// Sends print data as the file of this index, and counts it as a file of the job.
+DWORD SendPrnDataBase(ST_NCL* pNCL, int nServerJobID, const BYTE* pPrnData, DWORD dwSendSize, DWORD dwIndex);

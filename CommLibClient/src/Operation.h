@@ -1,0 +1,135 @@
+// What all operations on a handle share, from the start line in the log to the end line.
+//
+//     NCLOperation operation(dwHandle, "GetSomething", NCLOperation::QUERY);
+//     DWORD result = operation.Enter(pOut != nullptr);
+//     if (result == NCL_SUCCESS) {
+//         result = operation.Exchange({.path = "/webapp2/SomethingGetter"}, 1);
+//     }
+//     if (result != NCL_SUCCESS) {
+//         return result;
+//     }
+//     if (operation.Item().m_dwDataSize != 4) {
+//         return operation.Invalid(1);
+//     }
+//     *pOut = BigEndian32(operation.Item().m_pData);
+//     return operation.End();
+#pragma once
+
+#include "NW_Com_Lib_internal.h"
+
+#include <optional>
+
+/// Finds the object behind a handle, and keeps EndConnection from destroying it meanwhile.
+class NCLGuard
+{
+public:
+    explicit NCLGuard(DWORD dwHandle);
+
+    /// Null when the handle names nothing.
+    ST_NCL* Object() const
+    {
+        return m_pNCL;
+    }
+
+private:
+    ST_NCL* m_pNCL;
+    std::optional<CAutoRefCounter<std::atomic<int>>> m_counter;
+};
+
+/// Lets no new operation start on the object, and waits until none is in progress. It does not sleep: the
+/// wait is meant to be short.
+void StopOperations(ST_NCL& ncl);
+/// Closes and destroys an object on which no operation starts any more, and frees its entry.
+void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL);
+
+/// A request to the server. The body belongs to the caller.
+struct NCLRequest
+{
+    std::string path;
+    CHttp::METHOD method = CHttp::METHOD_GET;
+    const char* body = nullptr;
+    DWORD bodySize = 0;
+    CommType type = COMM_TYPE_HTTP;
+    DWORD option = 0; ///< a set of SEND_OPTION_ values
+};
+
+/// Sends the request in the one form that the servlets know, without credentials or further headers.
+DWORD SendRequest(ST_NCL* pNCL, const NCLRequest& request, ST_HTTP_RESPONSE* pstHttpRes);
+
+/// Logs "\t## trace ## OPERATION CALLEE TEXT", where the text is that of the code, which is the result.
+/// `pszCallee` has its parentheses: "ControlJob() 1".
+DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode);
+
+/// One call of a public operation.
+class NCLOperation
+{
+public:
+    enum Level
+    {
+        QUERY, ///< start and end lines at LOG_DEBUG
+        ACTION ///< at LOG_INFO
+    };
+
+    /// Logs the start line, with the value if there is one. `pszName` outlives the object.
+    NCLOperation(DWORD dwHandle, const char* pszName, Level eLevel, std::optional<int> value = std::nullopt);
+    NCLOperation(const NCLOperation&) = delete;
+    NCLOperation& operator=(const NCLOperation&) = delete;
+
+    /// NCL_SUCCESS when there is an object that is not being closed and the operation's own arguments are
+    /// good; otherwise the result for bad parameters, logged. Nothing below may be called without it.
+    /// (Here, so that the static analysis sees what it promises of the arguments.)
+    DWORD Enter(bool areArgumentsGood)
+    {
+        if (!areArgumentsGood || !MayStart()) {
+            ReturnErrParam();
+            return NCL_ERR_PARAMETER;
+        }
+        return NCL_SUCCESS;
+    }
+
+    /// Null when the handle names nothing.
+    ST_NCL* Object() const
+    {
+        return m_guard.Object();
+    }
+
+    /// Sends a request and takes its reply apart into `dwItemCount` items, 0 for any number. A failure is
+    /// logged. A server of unknown kind that answers counts as NCL_NPTYPE_300NII from then on.
+    DWORD Exchange(const NCLRequest& request, DWORD dwItemCount);
+
+    /// The reply, good as long as the operation.
+    std::list<ST_COMM_REPLY>& Items()
+    {
+        return m_items;
+    }
+    /// The first item, which there must be.
+    const ST_COMM_REPLY& Item() const
+    {
+        return m_items.front();
+    }
+    ST_HTTP_RESPONSE* Response()
+    {
+        return &m_response;
+    }
+
+    /// A callee failed with the code, which is the result.
+    DWORD Trace(const char* pszCallee, DWORD dwCode) const
+    {
+        return LogTrace(m_pszName, pszCallee, dwCode);
+    }
+    /// The check of this number, counted from 1, found a reply that is not as agreed.
+    DWORD Invalid(int nCheck) const;
+
+    /// Logs the end line, with the value if there is one. NCL_SUCCESS.
+    DWORD End(std::optional<int> value = std::nullopt) const;
+
+private:
+    bool MayStart() const;
+    void LogLine(const char* pszWhat, std::optional<int> value) const;
+
+    NCLGuard m_guard;
+    const char* m_pszName;
+    Level m_eLevel;
+    ST_HTTP_RESPONSE m_response;
+    std::list<ST_COMM_REPLY> m_items;
+};

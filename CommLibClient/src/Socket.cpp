@@ -1,0 +1,329 @@
+#include "Socket.h"
+
+#include "InternetResult.h"
+#include "LogManager.h"
+#include "SystemCalls.h"
+
+#include <cstring>
+#include <vector>
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int SEND_BUFFER_SIZE = 32768;
+constexpr int LARGEST_PIECE = SEND_BUFFER_SIZE - 1;
+
+// What puts a descriptor into the three sets of select.
+constexpr short IN_READ_SET = POLLIN | POLLRDNORM | POLLRDBAND | POLLHUP | POLLERR;
+constexpr short IN_WRITE_SET = POLLOUT | POLLWRNORM | POLLWRBAND | POLLERR;
+constexpr short IN_EXCEPT_SET = POLLPRI;
+
+/// select on one descriptor, in the sets of `sets`: its result, and in `found` what is in which. It is ppoll
+/// that waits: select takes no descriptor above 1023, and a program with many open files has them.
+int Select(SOCKET descriptor, short sets, DWORD milliseconds, short* found)
+{
+    pollfd entry{descriptor, sets, 0};
+    const timespec limit{milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000};
+    const int ready = ppoll(&entry, 1, &limit, nullptr);
+    *found = static_cast<short>(entry.revents & sets);
+    if (ready > 0 && (entry.revents & POLLNVAL) != 0) {
+        errno = EBADF;
+        return -1;
+    }
+    if (ready > 0 && *found == 0) {
+        // A lost connection, which ppoll reports unasked and the exception set does not know.
+        return ppoll(nullptr, 0, &limit, nullptr);
+    }
+    return ready;
+}
+
+/// The first IPv4 address of a name; false, with the system's error, when there is none.
+bool FindHost(const char* name, in_addr* address)
+{
+    const int before = errno;
+    std::vector<char> buffer(1024);
+    hostent entry{};
+    hostent* found = nullptr;
+    int reason = 0;
+    // Several connections look up names at the same time.
+    while (gethostbyname_r(name, &entry, buffer.data(), buffer.size(), &found, &reason) == ERANGE) {
+        buffer.resize(buffer.size() * 2);
+    }
+    if (found == nullptr || found->h_addrtype != AF_INET || found->h_addr_list[0] == nullptr) {
+        return false;
+    }
+    memcpy(address, found->h_addr_list[0], sizeof *address);
+    errno = before; // a buffer that was too small at first left its mark
+    return true;
+}
+
+/// A failure means no more than that a small write waits for its turn.
+void SendAtOnce(SOCKET descriptor)
+{
+    const ErrnoKeeper keeper;
+    const int on = 1;
+    setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+}
+
+} // namespace
+
+CSocket::~CSocket()
+{
+    CSocket::Close();
+}
+
+int CSocket::Open(int nSocketFamily, int nSocketType)
+{
+    CLogManager log;
+    if (m_Sock != -1) {
+        log.LOG_WARN("CSocket::Open ALREADY OPEN");
+        return INTERNET_ERR_ALREADY_OPEN;
+    }
+    m_Sock = AboveStandardStreams(socket(nSocketFamily, nSocketType | SOCK_CLOEXEC, 0));
+    if (m_Sock < 0) {
+        log.LOG_WARN("CSocket::Open socket() error = %d", errno);
+        m_Sock = -1;
+        return INTERNET_ERR_SOCKET;
+    }
+    return 0;
+}
+
+int CSocket::Close()
+{
+    if (m_Sock == -1) {
+        return 0;
+    }
+    if (close(m_Sock) < 0) {
+        CLogManager log;
+        log.LOG_WARN("CSocket::Close closesocket() error = %d", errno);
+    }
+    m_Sock = -1;
+    return 0;
+}
+
+int CSocket::Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec)
+{
+    assert(pszServerAddress != nullptr);
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    CLogManager log;
+    if (setsockopt(m_Sock, SOL_SOCKET, SO_SNDBUF, &SEND_BUFFER_SIZE, sizeof SEND_BUFFER_SIZE) < 0) {
+        log.LOG_WARN("CSocket::Connect setsockopt() error = %d", errno);
+        return INTERNET_ERR_CONNECT;
+    }
+    const int flags = fcntl(m_Sock, F_GETFL);
+    if (flags < 0 || fcntl(m_Sock, F_SETFL, flags | O_NONBLOCK) < 0) {
+        return INTERNET_ERR_ARGUMENT;
+    }
+
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(wPort);
+    address.sin_addr.s_addr = inet_addr(pszServerAddress);
+    if (address.sin_addr.s_addr == INADDR_NONE && !FindHost(pszServerAddress, &address.sin_addr)) {
+        // house-rule: banned: this is a text
+        log.LOG_WARN("CSocket::Connect gethostbyname() error = %d", errno);
+        return INTERNET_ERR_CONNECT;
+    }
+
+    if (connect(m_Sock, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0) {
+        const int error = errno;
+        if (error == EINPROGRESS) {
+            errno = 0;
+        } else if (error != EAGAIN) {
+            fcntl(m_Sock, F_SETFL, flags);
+            log.LOG_WARN("CSocket::Connect connect() error = %d", error);
+            return INTERNET_ERR_CONNECT;
+        }
+    }
+    fcntl(m_Sock, F_SETFL, flags);
+
+    short found = 0;
+    const int ready = Select(m_Sock, IN_READ_SET | IN_WRITE_SET | IN_EXCEPT_SET, dwMilliSec, &found);
+    if (ready == 0) {
+        return INTERNET_ERR_NO_COMM;
+    }
+    // A failed wait leaves the sets as they were filled: whether there is a connection, the socket knows.
+    if (ready > 0 && (found & (IN_READ_SET | IN_WRITE_SET)) == 0) {
+        return INTERNET_ERR_CONNECT;
+    }
+    int error = 0;
+    socklen_t size = sizeof error;
+    if (getsockopt(m_Sock, SOL_SOCKET, SO_ERROR, &error, &size) < 0 || error != 0) {
+        return INTERNET_ERR_CONNECT;
+    }
+    SendAtOnce(m_Sock);
+    return 0;
+}
+
+int CSocket::Shutdown(int nHow)
+{
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    if (shutdown(m_Sock, nHow) < 0) {
+        CLogManager log;
+        log.LOG_WARN("CSocket::Shutdown shutdown() error = %d", errno);
+        return INTERNET_ERR_CLOSED;
+    }
+    return 0;
+}
+
+int CSocket::Read(char* pBuf, int nSize)
+{
+    assert(pBuf != nullptr);
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    const ssize_t count = recv(m_Sock, pBuf, static_cast<size_t>(nSize), 0);
+    if (count > 0) {
+        return static_cast<int>(count);
+    }
+    CLogManager log;
+    if (count == 0) {
+        log.LOG_WARN("CSocket::Read recv() shutdown");
+        return INTERNET_ERR_CLOSED;
+    }
+    if (errno == EAGAIN) {
+        // The words and the result of a failed connect: that is how this line is known.
+        log.LOG_WARN("CSocket::Connect connect() error = %d", errno);
+        return INTERNET_ERR_CONNECT;
+    }
+    log.LOG_WARN("CSocket::Read recv() error = %d", errno);
+    return INTERNET_ERR_RECV;
+}
+
+int CSocket::ReadToCount(char* pBuf, int nCount)
+{
+    assert(pBuf != nullptr);
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    int total = 0;
+    while (total < nCount) {
+        const int ready = PollRead(m_dwNoCommTimeoutMilliSec);
+        if (ready < 0) {
+            return ready;
+        }
+        const int count = Read(pBuf + total, nCount - total);
+        if (count < 0) {
+            return count;
+        }
+        total += count;
+    }
+    return total;
+}
+
+int CSocket::Write(const char* pData, int nSize)
+{
+    assert(pData != nullptr);
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    const ssize_t count = send(m_Sock, pData, static_cast<size_t>(nSize), 0);
+    if (count >= 0) {
+        return static_cast<int>(count);
+    }
+    CLogManager log;
+    if (errno == EAGAIN) {
+        log.LOG_WARN("CSocket::Write send() timeout");
+        return INTERNET_ERR_SEND_TIMEOUT;
+    }
+    log.LOG_WARN("CSocket::Write send() error = %d", errno);
+    return INTERNET_ERR_SEND;
+}
+
+int CSocket::WriteToCount(const char* pData, int nCount)
+{
+    assert(pData != nullptr);
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    int total = 0;
+    while (total < nCount) {
+        const int left = nCount - total;
+        const int count = WriteToCountBase(pData + total, left > LARGEST_PIECE ? LARGEST_PIECE : left);
+        if (count < 0) {
+            return count;
+        }
+        total += count;
+    }
+    return total;
+}
+
+int CSocket::WriteToCountBase(const char* pData, int nCount)
+{
+    int total = 0;
+    while (total < nCount) {
+        const int count = Write(pData + total, nCount - total);
+        if (count < 0) {
+            return count;
+        }
+        total += count;
+    }
+    return total;
+}
+
+int CSocket::PollRead(DWORD dwTimeoutMilliSec)
+{
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    return Poll(SELECT_READ, dwTimeoutMilliSec);
+}
+
+int CSocket::Poll(SelectType eType, DWORD dwTimeoutMilliSec)
+{
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    short set = IN_EXCEPT_SET;
+    if (eType == SELECT_READ) {
+        set = IN_READ_SET;
+    } else if (eType == SELECT_WRITE) {
+        set = IN_WRITE_SET;
+    }
+    short found = 0;
+    const int ready = Select(m_Sock, set, dwTimeoutMilliSec, &found);
+    if (ready > 0) {
+        return 0;
+    }
+    CLogManager log;
+    if (ready < 0) {
+        log.LOG_WARN("CSocket::Poll select() error = %d", errno);
+        return INTERNET_ERR_SELECT;
+    }
+    log.LOG_WARN("CSocket::Poll select() timeout");
+    return INTERNET_ERR_NO_COMM;
+}
+
+int CSocket::SetSockOpt(int nLevel, int nOptName, const char* pOptVal, int nOptLen)
+{
+    if (m_Sock == -1) {
+        return INTERNET_ERR_NOT_OPEN;
+    }
+    if (setsockopt(m_Sock, nLevel, nOptName, pOptVal, static_cast<socklen_t>(nOptLen)) < 0) {
+        return INTERNET_ERR_OPTION;
+    }
+    return 0;
+}
+
+int CSocket::SetNoCommTimeout(DWORD dwMilliSec)
+{
+    m_dwNoCommTimeoutMilliSec = dwMilliSec;
+    return 0;
+}
+
+int CSocket::GetFD() const
+{
+    return m_Sock;
+}

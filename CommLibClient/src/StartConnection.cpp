@@ -1,0 +1,169 @@
+// The opening of a connection, with its checks of the server's mode, kind and version.
+#include "LogManager.h"
+#include "Operation.h"
+#include "PubMgrConst.h"
+
+#include <array>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+constexpr WORD SERVER_PORT = 80;
+constexpr DWORD CONNECT_TIMEOUT = 5000;   ///< milliseconds
+constexpr DWORD SILENCE_TIMEOUT = 120000; ///< milliseconds
+
+constexpr char INTERFACE_VERSION[] = "02000000";
+
+void LogError(const char* line)
+{
+    CLogManager log;
+    log.LOG_ERR("%s", line);
+}
+
+std::string WithoutFolders(const std::string& address)
+{
+    return address.substr(address.rfind('\\') + 1);
+}
+
+/// The old kind as this computer knows it, and 0 for a server that it does not know.
+DWORD RememberedKind(const std::string& address)
+{
+    unsigned int kind = NCL_NPTYPE_UNKNOWN;
+    return ReadNPType(&kind, address.c_str()) ? kind : NCL_NPTYPE_UNKNOWN;
+}
+
+/// Whether the server writes discs of three and more layers. An older one does not know the question.
+DWORD LearnKind(DWORD dwHandle, ST_NCL& ncl)
+{
+    if (ncl.m_dwNPType == NCL_NPTYPE_300N) {
+        return NCL_SUCCESS;
+    }
+    DWORD support = NCL_SUPPORT_BDXL_NO;
+    const DWORD result = GetDeviceInfoInt(dwHandle, NCL_DIT_SUPPORT_BDXL, &support);
+    if (result == NCL_ERR_SERVER_OTHER) {
+        if (ncl.m_dwNPType == NCL_NPTYPE_300NII_BDXL) {
+            ncl.m_dwNPType = NCL_NPTYPE_300NII;
+        }
+        return NCL_SUCCESS;
+    }
+    if (result != NCL_SUCCESS) {
+        return LogTrace("StartConnection", "GetDeviceInfoInt()", result);
+    }
+    ncl.m_dwNPType = support == NCL_SUPPORT_BDXL_YES ? NCL_NPTYPE_300NII_BDXL : NCL_NPTYPE_300NII;
+    return NCL_SUCCESS;
+}
+
+/// An old server is served only where the user has allowed the compatibility mode.
+DWORD CheckServerVersion(DWORD dwHandle, ST_NCL& ncl)
+{
+    std::array<char, 256> version = {}; // stays empty when the server does not tell: then it counts as new
+    GetDeviceInfo(dwHandle, NCL_DIT_VERSION_OF_SERVER_APP, version.data(), DWORD{version.size()});
+    if (!IsOldServer(ServerVersionNumber(version.data()))) {
+        return NCL_SUCCESS;
+    }
+    DWORD allowed = 0;
+    if (!GetRegistryIntValue(HKEY_LOCAL_MACHINE, REG_PUB_KEY_ROOT, REG_PUB_OPTION_COMPATIMODE, allowed) ||
+        allowed != 1) {
+        LogError("\t## trace ## StartConnection CompatiMode not allowed");
+        return NCL_ERR_APP_VERSION;
+    }
+    ncl.m_dwCompatiMode = 1;
+    LogError("\t## trace ## StartConnection CompatiMode ");
+    return NCL_SUCCESS;
+}
+
+/// Everything that is asked of the server, in this order.
+DWORD MeetServer(DWORD dwHandle, ST_NCL& ncl, DWORD oldKind)
+{
+    DWORD result = GetServerMode(dwHandle, &ncl.m_dwServerMode);
+    if (result != NCL_SUCCESS) {
+        return LogTrace("StartConnection", "GetServerMode()", result);
+    }
+    result = LearnKind(dwHandle, ncl);
+    if (result != NCL_SUCCESS) {
+        return result;
+    }
+    if (ncl.m_dwNPType != oldKind) {
+        WriteNPType(ncl.m_dwNPType, ncl.m_strServerAddress.c_str());
+    }
+    result = CheckIFVersion(&ncl, INTERFACE_VERSION);
+    if (result != NCL_SUCCESS) {
+        return LogTrace("StartConnection", "CheckIFVersion()", result);
+    }
+    return CheckServerVersion(dwHandle, ncl);
+}
+
+/// Makes the HTTP client, which touches no network yet.
+DWORD OpenHttp(ST_NCL& ncl)
+{
+    std::unique_ptr<CHttp> http(new (std::nothrow) CHttp);
+    if (http == nullptr) {
+        LogError("[CommLib] StartConnection Get Memory error 2");
+        return NCL_ERR_GET_MEMORY;
+    }
+    const DWORD result = ConvertInternetError(http->Open(ncl.m_strServerAddress.c_str(), SERVER_PORT, FALSE));
+    if (result != NCL_SUCCESS) {
+        CLogManager log;
+        log.LOG_ERR("[CommLib] StartConnection pHttp->Open() %s", GetNCLErrorString(result));
+        return result;
+    }
+    http->SetTimeout(CONNECT_TIMEOUT);
+    http->SetNoCommTimeout(SILENCE_TIMEOUT);
+    ncl.m_pHttp = http.release();
+    return NCL_SUCCESS;
+}
+
+} // namespace
+
+DWORD StartConnection(DWORD /*dwAppVersion*/, const char* pszServerAddress, DWORD* pdwHandleOut)
+{
+    if (pszServerAddress == nullptr || pdwHandleOut == nullptr) {
+        return ReturnErrParam();
+    }
+    *pdwHandleOut = 0;
+    auto* const ncl = new (std::nothrow) ST_NCL;
+    if (ncl == nullptr) {
+        LogError("[CommLib] StartConnection Get Memory error 1");
+        return NCL_ERR_GET_MEMORY;
+    }
+    ncl->m_strServerAddress = WithoutFolders(pszServerAddress); // before another thread can find the object
+    const DWORD handle = SetNCLObj(ncl);
+    if (handle == 0) {
+        LogError("[CommLib] StartConnection Get Memory error 4");
+        return NCL_ERR_GET_MEMORY; // the object is not freed on this way out
+    }
+    const DWORD oldKind = RememberedKind(ncl->m_strServerAddress);
+    ncl->m_dwNPType = oldKind;
+
+    DWORD result = OpenHttp(*ncl);
+    if (result == NCL_SUCCESS) {
+        result = MeetServer(handle, *ncl, oldKind);
+    }
+    if (result != NCL_SUCCESS) {
+        StopOperations(*ncl);
+        DestroyNCL(handle, ncl);
+        return result;
+    }
+    if (CheckSecureMode(ncl->m_dwServerMode) != FALSE) {
+        return NCL_ERR_SSL_INITIALIZATION; // the object stays in the table, with its connection open
+    }
+    ncl->m_bFinishStartConnection = TRUE;
+    *pdwHandleOut = handle;
+    return NCL_SUCCESS;
+}
+
+DWORD ServerVersionNumber(const char* pszVersion)
+{
+    const std::string text = pszVersion;
+    const size_t point = text.find('.');
+    const auto number = [](const std::string& part) { return static_cast<WORD>(std::atoi(part.c_str())); };
+    const DWORD high = number(text.substr(0, point));
+    const DWORD low = point == std::string::npos ? WORD{0} : number(text.substr(point + 1));
+    return high << 16 | low;
+}
+
+bool IsOldServer(DWORD dwVersion)
+{
+    return (dwVersion >= 0x20000 && dwVersion <= 0x2001D) || (dwVersion >= 0x30000 && dwVersion <= 0x3001D);
+}

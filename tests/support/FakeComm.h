@@ -1,0 +1,147 @@
+// A transport without a network: it plays prepared connections to the client and keeps what the client did.
+#pragma once
+
+#include "Http.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+/// One connection, from the opening of the socket to the next.
+struct FakeConnection
+{
+    std::string reply = {}; ///< what the peer sends
+    int readEnd = -11;      ///< what a read gives that finds no more of it
+    int connectResult = 0;  ///< negative: the connect fails so
+    int goodWrites = 1000;  ///< how many writes succeed
+    int writeEnd = -10;     ///< what the next one gives
+    int openResult = 0;     ///< negative: there is no socket
+};
+
+class FakeComm : public IInternetComm
+{
+public:
+    explicit FakeComm(std::vector<FakeConnection> connections) : m_connections(std::move(connections)) {}
+
+    std::vector<std::string> writes;  ///< each write's bytes
+    std::vector<std::string> calls;   ///< the operations that touch a network, in order
+    std::vector<std::string> options; ///< level, name and value of each socket option
+    std::string address;              ///< of the last connect
+    int port = 0;
+    DWORD connectTimeout = 0;
+    DWORD noCommTimeout = 0;
+    int family = 0; ///< of the last socket
+    int type = 0;
+
+    /// What the client has not read of the present connection.
+    std::string Unread() const
+    {
+        return m_present.reply.substr(m_read);
+    }
+
+    int Open(int nSocketFamily, int nSocketType) override
+    {
+        calls.emplace_back("Open");
+        family = nSocketFamily;
+        type = nSocketType;
+        m_present = m_opened < m_connections.size() ? m_connections[m_opened] : FakeConnection{"", -11, -14};
+        ++m_opened;
+        m_read = 0;
+        return m_present.openResult;
+    }
+    int Close() override
+    {
+        calls.emplace_back("Close");
+        return 0;
+    }
+    int Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec) override
+    {
+        calls.emplace_back("Connect");
+        address = pszServerAddress;
+        port = wPort;
+        connectTimeout = dwMilliSec;
+        return m_present.connectResult;
+    }
+    int Shutdown(int) override
+    {
+        calls.emplace_back("Shutdown");
+        return 0;
+    }
+    int Read(char* pBuf, int nSize) override
+    {
+        return ReadToCount(pBuf, nSize);
+    }
+    int ReadToCount(char* pBuf, int nCount) override
+    {
+        if (nCount <= 0) {
+            return 0; // as a socket does, which reads while it has less
+        }
+        const size_t count = std::min(static_cast<size_t>(nCount), m_present.reply.size() - m_read);
+        m_present.reply.copy(pBuf, count, m_read);
+        m_read += count;
+        return count == static_cast<size_t>(nCount) ? nCount : m_present.readEnd;
+    }
+    int Write(const char* pData, int nSize) override
+    {
+        return WriteToCount(pData, nSize);
+    }
+    int WriteToCount(const char* pData, int nCount) override
+    {
+        if (m_present.goodWrites-- <= 0) {
+            return m_present.writeEnd;
+        }
+        writes.emplace_back(pData, static_cast<size_t>(nCount));
+        return nCount;
+    }
+    int PollRead(DWORD) override
+    {
+        return m_read < m_present.reply.size() ? 0 : -6;
+    }
+    int SetSockOpt(int nLevel, int nOptName, const char* pOptVal, int nOptLen) override
+    {
+        std::string option = std::to_string(nLevel) + " " + std::to_string(nOptName);
+        for (int index = 0; index < nOptLen; ++index) {
+            option += " " + std::to_string(pOptVal[index]);
+        }
+        options.push_back(option);
+        return -15;
+    }
+    int SetNoCommTimeout(DWORD dwMilliSec) override
+    {
+        noCommTimeout = dwMilliSec;
+        return 0;
+    }
+
+private:
+    std::vector<FakeConnection> m_connections;
+    FakeConnection m_present;
+    size_t m_opened = 0;
+    size_t m_read = 0;
+};
+
+/// A connection object that stands on a fake transport, and owns it.
+class FakeCon : public CInternetCon
+{
+public:
+    explicit FakeCon(FakeComm* comm)
+    {
+        m_pComm = comm;
+    }
+    using CInternetCon::m_bConActive;
+    using CInternetCon::m_dwConTimeoutMilliSec;
+    using CInternetCon::m_pComm;
+};
+
+/// An HTTP client that stands on a fake transport, and owns it.
+class FakeHttp : public CHttp
+{
+public:
+    explicit FakeHttp(FakeComm* comm)
+    {
+        m_Con.*& FakeCon::m_pComm = comm;
+    }
+    bool IsConnected() const
+    {
+        return m_Con.*&FakeCon::m_bConActive != FALSE;
+    }
+};

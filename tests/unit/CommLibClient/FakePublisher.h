@@ -1,0 +1,80 @@
+// An open connection to a publisher server that exists in memory alone, and the requests that it got.
+#pragma once
+
+#include "Servlets.h"
+
+/// A good reply of one item without data.
+inline std::string Done()
+{
+    return GoodReply("");
+}
+
+/// A request as the server saw it.
+struct FakeRequest
+{
+    std::string head; ///< with its closing empty line
+    std::string body;
+
+    /// "GET /path"
+    std::string Line() const
+    {
+        return head.substr(0, head.find(" HTTP/1.1\r\n"));
+    }
+    /// Behind "Name:", an optional blank left out; "(none)" when there is no such line.
+    std::string Header(const std::string& name) const
+    {
+        const size_t place = head.find("\r\n" + name + ":");
+        if (place == std::string::npos) {
+            return "(none)";
+        }
+        size_t begin = place + 2 + name.size() + 1;
+        begin += head[begin] == ' ' ? 1 : 0;
+        return head.substr(begin, head.find("\r\n", begin) - begin);
+    }
+};
+
+/// It tells the requests apart. What a test left unfinished of a disc image does not go out at its end.
+class FakePublisher : public FakeServer
+{
+public:
+    using FakeServer::FakeServer;
+    ~FakePublisher()
+    {
+        Object().m_pMD.reset();
+    }
+
+    ST_NCL* operator->()
+    {
+        return &Object();
+    }
+
+    std::vector<FakeRequest> Requests()
+    {
+        std::vector<FakeRequest> requests;
+        bool isBodyNext = false;
+        for (const std::string& bytes : Comm().writes) {
+            if (isBodyNext) {
+                requests.back().body = bytes;
+                isBodyNext = false;
+            } else {
+                requests.push_back({bytes, ""});
+                isBodyNext = requests.back().Header("Content-Length") != "(none)";
+            }
+        }
+        return requests;
+    }
+    /// "METHOD /path" of each request.
+    std::vector<std::string> Lines()
+    {
+        std::vector<std::string> lines;
+        for (const FakeRequest& request : Requests()) {
+            lines.push_back(request.Line());
+        }
+        return lines;
+    }
+    /// What is left of the prepared replies.
+    std::string Unread()
+    {
+        return Comm().Unread();
+    }
+};
