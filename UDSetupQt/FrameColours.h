@@ -1,0 +1,10 @@
+// Frames that can be seen around the boxes and fields on tabs.
+#pragma once
+
+class QTabWidget;
+
+/// The style draws the frames of boxes, fields and buttons in the colour of windows, darkened. On pages in
+/// the colour of fields that stands out little, and not at all when the desktop is dark. Gives all of them on
+/// the pages a colour between the application's fields and their texts to start from. To be called again
+/// when the application's palette changes; replaces palettes that they were given one by one.
+void setFrameColours(const QTabWidget& tabs);
