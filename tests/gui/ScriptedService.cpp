@@ -22,7 +22,15 @@ constexpr size_t idSize = 129;
 constexpr size_t jobSize = 1088;
 constexpr size_t jobStatusOffset = 512;
 constexpr uint64_t getJobStatus = 4;
+constexpr uint64_t getPublishMode = 18;
 constexpr uint64_t getFatalCode = 22;
+
+/// The records of a device that the properties show; all zero until the script says more.
+constexpr struct
+{
+    uint64_t control;
+    size_t size;
+} deviceRecords[] = {{10, 128}, {11, 320}, {12, 128}, {28, 344}}; // autoloader, drives, printer, wear
 
 void append(std::string& bytes, const void* value, size_t size)
 {
@@ -51,6 +59,9 @@ ScriptedService::ScriptedService()
         ::bind(m_listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         ::listen(m_listener, 128) != 0) {
         throw std::runtime_error(std::string("ScriptedService: ") + std::strerror(errno));
+    }
+    for (const auto& record : deviceRecords) {
+        m_payloads[record.control] = std::string(record.size, '\0');
     }
     m_thread = std::thread([this] { serve(); });
 }
@@ -83,6 +94,18 @@ void ScriptedService::setJobsResult(const std::string& id, uint64_t result)
 {
     const std::lock_guard lock(m_mutex);
     m_publishers[id].jobsResult = result;
+}
+
+void ScriptedService::setPublishMode(const std::string& id, uint32_t mode)
+{
+    const std::lock_guard lock(m_mutex);
+    m_publishers[id].publishMode = mode;
+}
+
+void ScriptedService::setPayload(uint64_t control, const std::string& payload)
+{
+    const std::lock_guard lock(m_mutex);
+    m_payloads[control] = payload;
 }
 
 void ScriptedService::stall(const std::string& id)
@@ -159,10 +182,16 @@ void ScriptedService::handle(int descriptor)
 
 std::string ScriptedService::reply(uint64_t control, const std::string& id)
 {
+    const auto scripted = m_payloads.find(control);
+    if (scripted != m_payloads.end()) {
+        return frame(control, 0, scripted->second);
+    }
     const Publisher& publisher = m_publishers[id];
     std::string payload;
     if (control == getFatalCode) {
         append(payload, &publisher.fatalCode, sizeof publisher.fatalCode);
+    } else if (control == getPublishMode && publisher.publishMode) {
+        append(payload, &*publisher.publishMode, sizeof *publisher.publishMode);
     } else if (control == getJobStatus) {
         if (publisher.jobsResult != 0) {
             return frame(control, publisher.jobsResult, "");

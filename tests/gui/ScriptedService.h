@@ -1,11 +1,14 @@
-// The control service, played by a thread that answers by a script. It knows the two questions of the list
-// window: the fatal error code of a publisher and its unfinished jobs.
+// The control service, played by a thread that answers by a script. It knows the questions of the list
+// window, the fatal error code of a publisher and its unfinished jobs, and the one before its properties
+// open: its publish mode. Wear and versions are all zero, and anything else succeeds with an empty payload,
+// unless the script says more.
 #pragma once
 
 #include <condition_variable>
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <string>
 #include <thread>
@@ -25,6 +28,10 @@ public:
     void setJobs(const std::string& id, const std::vector<uint64_t>& jobStates);
     /// The job list is answered with this result code.
     void setJobsResult(const std::string& id, uint64_t result);
+    /// Until it is set, the service has no publish mode to give.
+    void setPublishMode(const std::string& id, uint32_t mode);
+    /// Every request with this control id is answered with success and this payload.
+    void setPayload(uint64_t control, const std::string& payload);
 
     /// From here on a request for this publisher is read and not answered.
     void stall(const std::string& id);
@@ -41,6 +48,7 @@ private:
         uint32_t fatalCode = 0;
         std::vector<uint64_t> jobStates;
         uint64_t jobsResult = 0;
+        std::optional<uint32_t> publishMode;
         bool stalled = false;
     };
     struct Stalled
@@ -59,6 +67,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::map<std::string, Publisher> m_publishers;
+    std::map<uint64_t, std::string> m_payloads; ///< by control id
     std::map<std::string, int> m_counts;
     std::vector<Stalled> m_stalled;
     std::thread m_thread;

@@ -1,0 +1,76 @@
+#include "MaintenanceSequences.h"
+
+#include "FerroJob.h"
+#include "SharpPictures.h"
+
+#include "ui_printerMaintHeadCleaning1.h"
+#include "ui_printerMaintHeadCleaning2.h"
+#include "ui_printerMaintNozzleCheck1.h"
+#include "ui_printerMaintNozzleCheck2.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QLayout>
+
+#include <algorithm>
+
+namespace {
+
+/// adjustSize stops at two thirds of the screen, which would cut the text of a large font on a small screen.
+void fixToContents(QDialog& dialog)
+{
+    dialog.adjustSize();
+    const QSize size = dialog.size();
+    const int heightOfContents = dialog.layout()->totalHeightForWidth(size.width());
+    dialog.setFixedSize(size.width(), std::max(size.height(), heightOfContents));
+}
+
+/// Shows one of the forms and waits for its answer: true when it was accepted.
+template <class Form>
+bool isAccepted()
+{
+    QDialog dialog;
+    Form form;
+    form.setupUi(&dialog);
+    showSharpPictures(dialog);
+    dialog.setModal(true);
+    fixToContents(dialog);
+    dialog.show();
+    return dialog.exec() == QDialog::Accepted;
+}
+
+/// True when the user goes on to a head cleaning.
+bool checkNozzles(const PUBLISHERINFO& info)
+{
+    if (!isAccepted<Ui::printerMaintNozzleCheck1>()) {
+        return false;
+    }
+    CFerroJob().SubmitNozzleCheckJob(
+        info, QCoreApplication::translate("propertyDialogEx", "Nozzle Check").toUtf8().constData());
+    return !isAccepted<Ui::printerMaintNozzleCheck2>();
+}
+
+/// True when the user goes on to a nozzle check.
+bool cleanHead(const PUBLISHERINFO& info)
+{
+    if (!isAccepted<Ui::printerMaintHeadCleaning1>()) {
+        return false;
+    }
+    CFerroJob().SubmitHeadCleaningJob(
+        info, QCoreApplication::translate("propertyDialogEx", "Cleaning").toUtf8().constData());
+    return !isAccepted<Ui::printerMaintHeadCleaning2>();
+}
+
+} // namespace
+
+void runNozzleCheckSequence(const PUBLISHERINFO& info)
+{
+    while (checkNozzles(info) && cleanHead(info)) {
+    }
+}
+
+void runHeadCleaningSequence(const PUBLISHERINFO& info)
+{
+    while (cleanHead(info) && checkNozzles(info)) {
+    }
+}

@@ -1,0 +1,361 @@
+#include "propertyDialog.h"
+
+#include "ComboValues.h"
+#include "FrameColours.h"
+#include "MaintenanceSequences.h"
+#include "PubMgrConst.h"
+#include "RowTexts.h"
+#include "StoredSettings.h"
+#include "WearFigures.h"
+
+#include <QFile>
+#include <QGraphicsPixmapItem>
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace {
+
+void setValues(QComboBox* box, std::initializer_list<UINT> values)
+{
+    int index = 0;
+    for (const UINT value : values) {
+        box->setItemData(index++, value);
+    }
+}
+
+void hideAll(std::initializer_list<QWidget*> widgets)
+{
+    for (QWidget* widget : widgets) {
+        widget->hide();
+    }
+}
+
+/// A box keeps the size that it worked out before it had its items until it is shown; setting its policy lets
+/// it forget. The policy that follows the contents would do so by itself, but it resizes a box past its
+/// layout.
+void forgetSizeHint(QComboBox* box)
+{
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
+}
+
+QString nameAndVersion(const CString& name, const CString& version)
+{
+    return QString::fromStdString(name + " " + version);
+}
+
+} // namespace
+
+propertyDialogEx::propertyDialogEx(QDialog* parent) : QDialog(parent), m_cPubMgr(true)
+{
+    setupUi(this);
+    setFrameColours(*propertyTab);
+    m_info.Clear();
+    setUpItemValues();
+    connectAll();
+    viewStackerSequence->viewport()->setAutoFillBackground(false);
+    textPublisherName->setFocus();
+    settleSize();
+}
+
+void propertyDialogEx::setUpItemValues()
+{
+    setValues(selectPublishMode,
+              {PUBMGR_PUBLISHMODE_NORMAL, PUBMGR_PUBLISHMODE_OUTPUT, PUBMGR_PUBLISHMODE_BATCH});
+    for (QComboBox* box : {selectStacker1, selectStacker2}) {
+        // The last is the output stacker, which the first box does not offer.
+        setValues(box,
+                  {PUBMGR_STACKERDISCTYPE_CDR, PUBMGR_STACKERDISCTYPE_DVDR, PUBMGR_STACKERDISCTYPE_DVDRDL,
+                   PUBMGR_STACKERDISCTYPE_BDR, PUBMGR_STACKERDISCTYPE_BDRDL, PUBMGR_STACKERDISCTYPE_BDRTL,
+                   PUBMGR_STACKERDISCTYPE_BDRQL, PUBMGR_STACKERDISCTYPE_OUTPUT});
+    }
+    setValues(selectStacker3, {PUBMGR_STACKERDISCTYPE_OUTPUT, PUBMGR_STACKERDISCTYPE_NOTUSE});
+}
+
+void propertyDialogEx::connectAll()
+{
+    constexpr auto indexChanged = qOverload<int>(&QComboBox::currentIndexChanged);
+    connect(okButton, &QPushButton::clicked, this, &propertyDialogEx::saveAndExit);
+    connect(applyButton, &QPushButton::clicked, this, &propertyDialogEx::saveAndContinue);
+    connect(cancelButton, &QPushButton::clicked, this, &propertyDialogEx::close);
+    connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::setChanged);
+    connect(selectPublishMode, indexChanged, this, &propertyDialogEx::changeStackerPub);
+    // The index is no argument of the slot.
+    connect(selectStacker1, indexChanged, this, [this] { changeStacker(); });
+    connect(selectStacker2, indexChanged, this, &propertyDialogEx::setChanged);
+    connect(selectStacker3, indexChanged, this, &propertyDialogEx::changeStacker3);
+    connect(selectUseDrive, indexChanged, this, &propertyDialogEx::setChanged);
+    connect(spinRetryCount, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            &propertyDialogEx::setChanged);
+    connect(checkErrorMark, &QCheckBox::clicked, this, &propertyDialogEx::setChanged);
+    connect(btnNozzleCheck, &QPushButton::clicked, this, &propertyDialogEx::nozzleCheckSequence);
+    connect(btnHeadCleaning, &QPushButton::clicked, this, &propertyDialogEx::headCleaningSequence);
+}
+
+/// The labels of all groups are as wide as the widest, so that what they name stands in one column. A page
+/// tells the tabs of a change of its size only through the event loop, which is too late for a first showing.
+void propertyDialogEx::settleSize()
+{
+    int widest = 0;
+    for (const QLabel* label : {labelPublishMode, labelStacker1, labelStacker2, labelStacker3, labelUseDrive,
+                                labelRetry, labelErrorMark}) {
+        widest = label->isHidden() ? widest : std::max(widest, label->sizeHint().width());
+    }
+    for (QGridLayout* grid : {gridStacker, gridDrive, gridPrinter}) {
+        grid->setColumnMinimumWidth(0, widest);
+    }
+    const int indent = groupDrive->contentsMargins().left() + gridDrive->contentsMargins().left();
+    gridName->setColumnMinimumWidth(0, indent + widest);
+
+    for (QComboBox* box : propertyTab->findChildren<QComboBox*>()) {
+        forgetSizeHint(box);
+    }
+    const QList<QWidget*> outermostFirst = propertyTab->findChildren<QWidget*>();
+    std::for_each(outermostFirst.rbegin(), outermostFirst.rend(), [](const QWidget* widget) {
+        if (widget->layout()) {
+            widget->layout()->activate();
+        }
+    });
+    propertyTab->updateGeometry();
+    adjustSize();
+}
+
+void propertyDialogEx::fillContent(const PUBLISHERINFO& info, BOOL bConnection)
+{
+    m_info = info;
+    propertyTab->setCurrentIndex(0);
+    m_modelType = static_cast<int>(m_cPubMgr.GetPublisherDevType(m_info.strPublisherRegistID.c_str()));
+    if (m_modelType == PUBMGR_PUBLISHERTYPE_300III_DVD) {
+        m_modelType = PUBMGR_PUBLISHERTYPE_300III_BD;
+    }
+    adaptToModel();
+    fillIdentity();
+    selectStoredStackers();
+    selectStoredPublishMode();
+    spinRetryCount->setValue(m_info.uiRetryCount);
+    textRetryCount->setText(spinRetryCount->text());
+    checkErrorMark->setChecked(m_info.bAddErrorMark);
+    textErrorMark->setText(m_info.bAddErrorMark ? tr("Print") : tr("Do not print"));
+    fillDeviceFigures(bConnection);
+
+    m_isChanged = false;
+    applyButton->setEnabled(false);
+    if (m_info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK) {
+        showAsTexts();
+    } else {
+        hideTexts();
+    }
+    settleSize();
+}
+
+void propertyDialogEx::adaptToModel()
+{
+    const ModelFamily family = modelFamily(m_modelType);
+    if (family != ModelFamily::network) {
+        hideAll({labelSSSVersionLabel, labelSSSVersionValue, labelUDNAVersionLabel, labelUDNAVersionValue});
+    }
+    if (family == ModelFamily::network || family == ModelFamily::rt30) {
+        hideAll({labelCompleteDiscNumName, labelCompleteDiscNum, labelCompleteDiscNumUnit,
+                 labelMainteBoxLifeName, labelMainteBoxLife, labelMainteBoxLifeUnit});
+    }
+    if (family == ModelFamily::rt30) {
+        hideAll({labelStacker3, selectStacker3, labelUseDrive, selectUseDrive, textUseDrive,
+                 labelDrive2LifeName, labelDrive2Life, labelDrive2LifeUnit, labelDrive2VersionLabel,
+                 labelDrive2VersionValue});
+        m_info.uiStacker3DiscType = PUBMGR_STACKERDISCTYPE_NOTUSE;
+        labelDrive1LifeName->setText(tr("Service life of Drive:"));
+        labelDrive1VersionLabel->setText(tr("Drive:"));
+        removeValue(selectPublishMode, PUBMGR_PUBLISHMODE_BATCH);
+        if (m_info.uiPublishMode == PUBMGR_PUBLISHMODE_BATCH) {
+            m_info.uiPublishMode = PUBMGR_PUBLISHMODE_NORMAL;
+        }
+    }
+    if (!writesBdXl(m_modelType, m_info.uiNetPublisherType)) {
+        for (QComboBox* box : {selectStacker1, selectStacker2}) {
+            removeValue(box, PUBMGR_STACKERDISCTYPE_BDRTL);
+            removeValue(box, PUBMGR_STACKERDISCTYPE_BDRQL);
+        }
+    }
+}
+
+void propertyDialogEx::fillIdentity()
+{
+    const QString name = QString::fromStdString(m_info.strPublisherName);
+    setWindowTitle(tr("Properties - ") + name + QLatin1Char('(') +
+                   modelText(m_modelType, m_info.uiNetPublisherType) + QLatin1Char(')'));
+    textPublisherName->setMaxLength(
+        std::max(textPublisherName->maxLength(), name.size())); // cuts nothing stored
+    textPublisherName->setText(name);
+    const bool known = m_info.uiUseDrive <= PUBMGR_USEDRIVE_DRIVE2;
+    selectUseDrive->setCurrentIndex(known ? static_cast<int>(m_info.uiUseDrive) : -1);
+}
+
+void propertyDialogEx::selectStoredStackers()
+{
+    m_info.uiStacker1DiscType = correctedMedia(m_info.uiStacker1DiscType);
+    selectValue(selectStacker1, m_info.uiStacker1DiscType);
+    m_info.uiStacker2DiscType = correctedMedia(m_info.uiStacker2DiscType);
+    selectValue(selectStacker2, m_info.uiStacker2DiscType);
+    m_info.uiStacker3DiscType = correctedStacker3(m_info.uiStacker3DiscType);
+    selectValue(selectStacker3, m_info.uiStacker3DiscType);
+}
+
+/// The boxes stand at the stored stackers already; choosing the mode has rearranged them by the rules for a
+/// user who chooses it. What is stored wins where the mode leaves a choice.
+void propertyDialogEx::selectStoredPublishMode()
+{
+    const ModelFamily family = modelFamily(m_modelType);
+    ASSERT(family != ModelFamily::unknown);
+    m_info.uiPublishMode = correctedPublishMode(m_info.uiPublishMode);
+    selectValue(selectPublishMode, m_info.uiPublishMode);
+    switch (m_info.uiPublishMode) {
+    case PUBMGR_PUBLISHMODE_NORMAL:
+        m_info.uiStacker2DiscType = PUBMGR_STACKERDISCTYPE_OUTPUT;
+        selectValue(selectStacker2, PUBMGR_STACKERDISCTYPE_OUTPUT);
+        selectStacker2->setEnabled(false);
+        selectStacker3->setEnabled(family != ModelFamily::rt30);
+        if (family == ModelFamily::rt30) {
+            selectValue(selectStacker3, PUBMGR_STACKERDISCTYPE_NOTUSE);
+        }
+        break;
+    case PUBMGR_PUBLISHMODE_BATCH:
+        selectStacker2->setEnabled(false);
+        m_info.uiStacker3DiscType = PUBMGR_STACKERDISCTYPE_OUTPUT;
+        selectValue(selectStacker3, PUBMGR_STACKERDISCTYPE_OUTPUT);
+        selectStacker3->setEnabled(false);
+        break;
+    case PUBMGR_PUBLISHMODE_OUTPUT:
+        selectValue(selectStacker1, m_info.uiStacker1DiscType);
+        selectValue(selectStacker2, m_info.uiStacker2DiscType);
+        if (family != ModelFamily::rt30) {
+            selectValue(selectStacker3, m_info.uiStacker3DiscType); // in use or not, by its correction
+        }
+        break;
+    default:
+        for (QComboBox* box : {selectStacker1, selectStacker2, selectStacker3}) {
+            box->setCurrentIndex(-1);
+        }
+        break;
+    }
+    showSequence();
+}
+
+void propertyDialogEx::setStackerSequenceImage(const char* path)
+{
+    if (path == nullptr) {
+        scene.clear();
+        viewStackerSequence->setScene(&scene);
+        return;
+    }
+    const QString plain = QString::fromLatin1(path);
+    const QString twice = QString(plain).replace(QLatin1String(".png"), QLatin1String("@2x.png"));
+    const bool sharp = devicePixelRatioF() > 1 && QFile::exists(twice);
+    QImage image(sharp ? twice : plain);
+    image.setDevicePixelRatio(sharp ? 2 : 1);
+    scene.addItem(new QGraphicsPixmapItem(QPixmap::fromImage(image)));
+    viewStackerSequence->setScene(&scene);
+    viewStackerSequence->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewStackerSequence->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void propertyDialogEx::fillDeviceFigures(BOOL bConnection)
+{
+    const char* id = m_info.strPublisherRegistID.c_str();
+    PUBLISHERMAINTENANCEINFO infoMaint;
+    PUBLISHERVERSIONINFO infoVersion;
+    const bool bMaint = bConnection && m_cPubMgr.GetPublisherMaintenanceInfo(id, &infoMaint, nullptr);
+    const bool bVersion = bConnection && m_cPubMgr.GetPublisherVersionInfo(id, &infoVersion, nullptr);
+    updateMaintenance(bMaint, infoMaint);
+    updateVersion(bMaint, infoMaint, bVersion, infoVersion);
+}
+
+void propertyDialogEx::updateMaintenance(bool bMaint, const PUBLISHERMAINTENANCEINFO& infoMaint)
+{
+    if (!bMaint) {
+        hideAll({labelCompleteDiscNum, labelCompleteDiscNumUnit, labelPrintCount, labelPrintCountUnit,
+                 labelMainteBoxLife, labelMainteBoxLifeUnit, labelDrive1Life, labelDrive1LifeUnit,
+                 labelDrive2Life, labelDrive2LifeUnit});
+        return;
+    }
+    labelCompleteDiscNum->setText(countText(infoMaint.uiCompleteDiscNum));
+    labelPrintCount->setText(countText(infoMaint.uiPrintCount));
+    labelMainteBoxLife->setText(mainteBoxText(infoMaint.uiMainteBoxCount, infoMaint.uiMainteBoxLife));
+    labelDrive1Life->setText(driveLifeText(infoMaint.midrvDrive1));
+    labelDrive2Life->setText(driveLifeText(infoMaint.midrvDrive2));
+}
+
+void propertyDialogEx::updateVersion(bool bMaint, const PUBLISHERMAINTENANCEINFO& infoMaint, bool bVersion,
+                                     const PUBLISHERVERSIONINFO& infoVersion)
+{
+    if (bMaint) {
+        labelSerialNo->setText(QString::fromStdString(infoMaint.strSerialNo));
+    } else {
+        labelSerialNo->hide();
+    }
+    if (!bVersion) {
+        hideAll({labelAutoLoaderVersionValue, labelPrinterVersionValue, labelDrive1VersionValue,
+                 labelDrive2VersionValue, labelSSSVersionValue, labelUDNAVersionValue});
+        return;
+    }
+    labelAutoLoaderVersionValue->setText(QString::fromStdString(infoVersion.strAutoLoaderVersion));
+    labelPrinterVersionValue->setText(
+        nameAndVersion(infoVersion.strPrinterModelName, infoVersion.strPrinterVersion));
+    labelDrive1VersionValue->setText(
+        nameAndVersion(infoVersion.strDrive1ModelName, infoVersion.strDrive1Version));
+    labelSSSVersionValue->setText(QString::fromStdString(infoVersion.strSSSVersion));
+    labelUDNAVersionValue->setText(QString::fromStdString(infoVersion.strUDNAVersion));
+    if (m_modelType != PUBMGR_PUBLISHERTYPE_30II) {
+        labelDrive2VersionValue->setText(
+            nameAndVersion(infoVersion.strDrive2ModelName, infoVersion.strDrive2Version));
+    }
+}
+
+/// A network publisher: everything but its name is set at its server, and only looked at here.
+void propertyDialogEx::showAsTexts()
+{
+    cancelButton->setEnabled(false);
+    textHostName->setText(QString::fromStdString(m_info.strHostName));
+    textPublishMode->setText(selectPublishMode->currentText());
+    textStacker1->setText(selectStacker1->currentText());
+    textStacker2->setText(selectStacker2->currentText());
+    textStacker3->setText(selectStacker3->currentText());
+    textUseDrive->setText(selectUseDrive->currentText());
+    hideAll({selectPublishMode, selectStacker1, selectStacker2, selectStacker3, selectUseDrive,
+             spinRetryCount, checkErrorMark});
+}
+
+void propertyDialogEx::hideTexts()
+{
+    hideAll({labelHostName, textHostName, textPublishMode, textStacker1, textStacker2, textStacker3,
+             textUseDrive, textRetryCount, labelErrorMark, textErrorMark});
+}
+
+void propertyDialogEx::nozzleCheckSequence()
+{
+    runNozzleCheckSequence(m_info);
+}
+
+void propertyDialogEx::headCleaningSequence()
+{
+    runHeadCleaningSequence(m_info);
+}
+
+bool propertyDialogEx::event(QEvent* e)
+{
+    if (e->type() == QEvent::ApplicationPaletteChange) {
+        propertyTab->setStyleSheet(propertyTab->styleSheet()); // works out palette(base) afresh
+        setFrameColours(*propertyTab);
+    }
+    return QWidget::event(e);
+}
+
+bool propertyDialogEx::CalcDriveLifeValue(PUBMAINTINFODRIVE miDrive, double* pdProductLife)
+{
+    return calcDriveLifeValue(miDrive, pdProductLife);
+}
+
+bool propertyDialogEx::CalcProductLife(UINT uiPresentValue, UINT uiUpperLimit, double* pdProductLife)
+{
+    return calcProductLife(uiPresentValue, uiUpperLimit, pdProductLife);
+}

@@ -1,0 +1,141 @@
+// Saving: the device takes the publish mode first, the stored settings follow, and the service is told last.
+// What was done before a failure stays done.
+#include "ComboValues.h"
+#include "StoredSettings.h"
+#include "UnfinishedJobs.h"
+#include "propertyDialog.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace {
+
+/// A name is one line of the setting file; a pasted one may bring a line end along.
+QString oneLine(QString name)
+{
+    return name.remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
+}
+
+} // namespace
+
+void propertyDialogEx::setChanged()
+{
+    m_isChanged = true;
+    applyButton->setEnabled(true);
+}
+
+void propertyDialogEx::saveAndExit()
+{
+    if (savePublisherInfo()) {
+        accept();
+    }
+}
+
+void propertyDialogEx::saveAndContinue()
+{
+    if (savePublisherInfo()) {
+        m_isChanged = false;
+        applyButton->setEnabled(false);
+        setResult(1);
+    }
+}
+
+bool propertyDialogEx::savePublisherInfo()
+{
+    if (!m_isChanged) {
+        return true;
+    }
+    if (hasUnfinishedJobs(m_cPubMgr, m_info.strPublisherRegistID.c_str())) {
+        return refuseWhileBusy();
+    }
+    if (!saveName()) {
+        return false;
+    }
+    return m_info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK || saveSettings();
+}
+
+/// The names are compared as they are shown: a stored one with bytes that no text has stays as it is unless
+/// it is edited.
+bool propertyDialogEx::saveName()
+{
+    const QString shown = oneLine(textPublisherName->text());
+    if (shown == oneLine(QString::fromStdString(m_info.strPublisherName))) {
+        return true;
+    }
+    if (shown.isEmpty()) {
+        return refuseName(tr("Please type a name for the output device."));
+    }
+    if (shown.contains(QLatin1Char('\\'))) {
+        return refuseName(tr("\"\\\" cannot be used in the output device name."));
+    }
+    const CString name = shown.toStdString();
+    if (isNameTaken(name)) {
+        return refuseName(tr("The same name is already registered.\nPlease use a different name."));
+    }
+    m_info.strPublisherName = name;
+    return storeAndNotify();
+}
+
+bool propertyDialogEx::isNameTaken(const CString& name)
+{
+    CStringArray ids;
+    m_cPubMgr.EnumRegistedPublisher(&ids);
+    return std::any_of(ids.begin(), ids.end(), [this, &name](const CString& id) {
+        PUBLISHERINFO info;
+        return m_cPubMgr.GetPublisherInfo(id.c_str(), &info, 0) && info.strPublisherName == name;
+    });
+}
+
+bool propertyDialogEx::saveSettings()
+{
+    SettingChoices choices;
+    choices.publishMode = selectedValue(selectPublishMode);
+    choices.stacker1 = selectedValue(selectStacker1);
+    choices.stacker2 = selectedValue(selectStacker2);
+    choices.stacker3 = selectedValue(selectStacker3);
+    choices.useDrive = static_cast<UINT>(selectUseDrive->currentIndex()); // none is PUBMGR_USEDRIVE_ERROR
+    choices.retryCount = static_cast<UINT>(spinRetryCount->value());
+    choices.errorMark = checkErrorMark->isChecked();
+    storeChoices(choices, modelFamily(m_modelType), m_info);
+
+    long result = 0;
+    if (!m_cPubMgr.SetServicePublishMode(m_info.strPublisherRegistID.c_str(), m_info.uiPublishMode,
+                                         &result)) {
+        return refuse(
+            tr("The settings could not be changed because registration of the Publish Mode in the "
+               "output device settings failed.\nPlease change the settings after checking the power "
+               "supply of the output device and the connection."));
+    }
+    return storeAndNotify();
+}
+
+bool propertyDialogEx::storeAndNotify()
+{
+    if (!m_cPubMgr.UpdatePublisherInfo(m_info)) {
+        return refuse(tr("Failed to change setting."));
+    }
+    return m_cPubMgr.SetServiceNotifyChange(m_info.strPublisherRegistID.c_str(), nullptr) ||
+           refuseWhileBusy();
+}
+
+bool propertyDialogEx::refuseWhileBusy()
+{
+    return refuse(tr("This output device is processing jobs and the settings could not be changed.\nPlease "
+                     "change it after all jobs are completed."));
+}
+
+bool propertyDialogEx::refuse(const QString& why)
+{
+    QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"), why);
+    return false;
+}
+
+bool propertyDialogEx::refuseName(const QString& why)
+{
+    QMessageBox::information(this, tr("ARVEN Ulmar Disc Setup"), why);
+    propertyTab->setCurrentWidget(pageGeneral);
+    textPublisherName->setFocus();
+    textPublisherName->selectAll();
+    return false;
+}

@@ -1,0 +1,57 @@
+// Goes through modal dialogs as a user does: waits until the next one is on the screen, looks, and answers.
+#pragma once
+
+#include <QApplication>
+#include <QDialog>
+#include <QStringList>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+/// Answers the dialogs that come up while it lives, each with the next of its answers. A dialog that nobody
+/// expected, or that an answer left open, is rejected: the test sees it in what was seen.
+class DialogWalk : public QObject
+{
+public:
+    using Answer = std::function<void(QDialog&)>;
+
+    explicit DialogWalk(std::vector<Answer> answers) : m_answers(std::move(answers))
+    {
+        connect(&m_timer, &QTimer::timeout, this, &DialogWalk::look);
+        m_timer.start(5);
+    }
+
+    /// The object names of the dialogs so far; one that was left open is marked.
+    const QStringList& seen() const
+    {
+        return m_seen;
+    }
+
+private:
+    void look()
+    {
+        auto dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible()) {
+            return;
+        }
+        m_timer.stop();
+        const size_t number = m_count++;
+        m_seen.append(dialog->objectName());
+        if (number < m_answers.size()) {
+            m_answers[number](*dialog);
+        }
+        if (dialog->isVisible()) {
+            m_seen.last() += QStringLiteral(" (left open)");
+            dialog->reject();
+        }
+        m_timer.start(5);
+    }
+
+    std::vector<Answer> m_answers;
+    size_t m_count = 0;
+    QStringList m_seen;
+    QTimer m_timer;
+};
+
+Q_DECLARE_METATYPE(DialogWalk::Answer)
