@@ -1,31 +1,42 @@
 #include "PubSetup.h"
 
+#include "BusyIndicator.h"
+#include "LogCollection.h"
 #include "MyTreeWidgetItem.h"
 #include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
 #include "RegistIDKey.h"
 #include "RowTexts.h"
 #include "SelectionRules.h"
+#include "SharpPictures.h"
+#include "UnfinishedJobs.h"
+#include "propertyDialog.h"
+#include "settingDialog.h"
 
 #include "ui_aboutDialog.h"
 
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHash>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSet>
 #include <QStyle>
+#include <QThread>
 
-#include <algorithm>
+#include <atomic>
+#include <system_error>
+#include <thread>
 
 #include <unistd.h>
 
 namespace {
 
 constexpr QSize startSize(800, 300);
-constexpr int pollInterval = 5000;         // milliseconds, as are the two below
+constexpr int pollInterval = 5000;         // milliseconds, as are the three below
 constexpr int localPollPatience = 10000;   // how long closing waits for the local query
 constexpr int networkPollPatience = 60000; // and for the query of each network publisher
+constexpr unsigned long busyStep = 100;    // how long the busy indicator stands still
 constexpr Qt::Alignment numberAlignment = Qt::AlignRight | Qt::AlignVCenter;
 
 QString keyOf(const QTreeWidgetItem* row)
@@ -74,9 +85,9 @@ PubSetup::PubSetup(QWidget* parent) : QMainWindow(parent)
         showSetting->setEnabled(false);
         collectAndSaveLogs->setEnabled(false);
     }
+    addPublisher->setEnabled(false); // for everybody, until there is a dialog that adds a publisher
     showPublisherProperty->setEnabled(false);
     deletePublisher->setEnabled(false);
-    disableUnfinishedActions();
 
     setUpColumns();
     connectAll();
@@ -106,6 +117,7 @@ void PubSetup::setUpImages()
 void PubSetup::setUpColumns()
 {
     QHeaderView* header = treePublisherList->header();
+    header->setTextElideMode(Qt::ElideRight); // a cut head keeps its beginning
     if (m_bSupportNetworkModel) {
         treePublisherList->setHeaderLabels({tr("Name"), tr("Model name"), tr("Host Name"), tr("Status"),
                                             tr("Waiting"), tr("Transmitting"), tr("Available Space")});
@@ -146,6 +158,52 @@ void PubSetup::connectAll()
 bool PubSetup::getPublisherInfo(const char* id, PUBLISHERINFO& info, BOOL& bConnection, long& lResultCommLib)
 {
     return readPublisher(m_cPubMgr, id, info, bConnection, lResultCommLib);
+}
+
+void PubSetup::doWithProgress(std::function<void()> f, QWidget* parent)
+{
+    BusyIndicator progress(parent);
+    std::atomic<bool> done = false;
+    std::thread t;
+    try {
+        t = std::thread([&f, &done] {
+            f();
+            done = true;
+        });
+    } catch (const std::system_error&) {
+        f(); // no thread to be had: the callers count on the work, so the interface stands still for once
+        return;
+    }
+    while (!done) {
+        progress.setValue(progress.value() + 1); // serves the event loop
+        QThread::msleep(busyStep);
+    }
+    t.join();
+    progress.reset();
+}
+
+void PubSetup::doWithProgress(std::function<void()> f)
+{
+    doWithProgress(std::move(f), this);
+}
+
+bool PubSetup::readForProperties(CPublisherMgr& publisherMgr, const CString& id, QWidget* parent,
+                                 PUBLISHERINFO& info, BOOL& bConnection)
+{
+    bool bGetPublisherInfo = false;
+    bool bGetServicePublishMode = false;
+    doWithProgress(
+        [&] {
+            long lResultCommLib = 0;
+            bGetPublisherInfo = getPublisherInfo(id.c_str(), info, bConnection, lResultCommLib);
+            ULONG mode = 0;
+            bGetServicePublishMode = publisherMgr.GetServicePublishMode(id.c_str(), &mode, nullptr);
+        },
+        parent);
+    if (bGetPublisherInfo && !bGetServicePublishMode) {
+        showWariningBeforeProperty(parent);
+    }
+    return bGetPublisherInfo;
 }
 
 void PubSetup::showWariningBeforeProperty(QWidget* parent)
@@ -202,7 +260,6 @@ void PubSetup::updateMenu()
     const SelectionActions actions = selectionActions(treePublisherList->selectedItems().size());
     showPublisherProperty->setEnabled(actions.showPublisherProperty);
     deletePublisher->setEnabled(actions.deletePublisher);
-    disableUnfinishedActions();
 }
 
 void PubSetup::updateList()
@@ -275,17 +332,6 @@ void PubSetup::updateStatusOneDevice(QString strPublisherRegistID, QString strDe
     }
 }
 
-bool PubSetup::hasUnfinishedJobs(const CString& id)
-{
-    JobStatusArray jobs;
-    long result = 0;
-    m_cPubMgr.GetServiceJobStatusUnfinish(id.c_str(), &jobs, &result);
-    // A list that cannot be fetched does not stand in the way of a removal.
-    return result == 0 && std::any_of(jobs.rbegin(), jobs.rend(), [](const ST_PC_JOB_STATUS& job) {
-               return job.ulJobStatus != ARV_PC_JOB_CANCELLED && job.ulJobStatus != ARV_PC_JOB_FINISHED;
-           });
-}
-
 void PubSetup::showDeleteDialog()
 {
     if (QMessageBox::question(this, tr("ARVEN Ulmar Disc Setup"), tr("Do you want to delete it?"),
@@ -301,7 +347,7 @@ void PubSetup::showDeleteDialog()
             delete row;
             continue;
         }
-        if (info.uiPublisherType == PUBMGR_CONNECTTYPE_LOCAL && hasUnfinishedJobs(id)) {
+        if (info.uiPublisherType == PUBMGR_CONNECTTYPE_LOCAL && hasUnfinishedJobs(m_cPubMgr, id.c_str())) {
             QMessageBox::information(
                 this, tr("ARVEN Ulmar Disc Setup"),
                 tr("There are jobs in the output device, so it could not be deleted.\nPlease delete it after "
@@ -318,11 +364,76 @@ void PubSetup::showDeleteDialog()
     }
 }
 
+void PubSetup::showAddDialog()
+{
+    // There is none yet: the constructor keeps the action disabled.
+}
+
+void PubSetup::showPropertyDialog()
+{
+    const QTreeWidgetItem* row = treePublisherList->currentItem();
+    ASSERT(row != nullptr);
+    // From here on the row may go at any time: the list follows the registered publishers behind every
+    // dialog.
+    const CString strPublisherRegistID = registIDFromKey(keyOf(row));
+    PUBLISHERINFO info;
+    BOOL bConnection = 0;
+    if (!readForProperties(m_cPubMgr, strPublisherRegistID, this, info, bConnection)) {
+        return;
+    }
+    propertyDialogEx dialog(nullptr);
+    dialog.fillContent(info, bConnection);
+    dialog.setModal(true);
+    dialog.show();
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    if (QTreeWidgetItem* current = treePublisherList->currentItem()) {
+        m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, FALSE);
+        current->setText(colName, QString::fromStdString(info.strPublisherName));
+        repaint();
+    }
+}
+
+void PubSetup::showSettingDialog()
+{
+    settingDialogEx dialog(nullptr);
+    dialog.setModal(true);
+    dialog.show();
+    dialog.exec();
+}
+
+void PubSetup::doCollectAndSaveLogs()
+{
+    if (QMessageBox::question(
+            this, tr("ARVEN Ulmar Disc Setup"),
+            tr("ARVEN Ulmar Disc Setup collects logs about CD/DVD/BD Publisher, and then saves them in local "
+               "PC.\nRefer to the documentation for what kind of information is collected.\nARVEN Ulmar Disc "
+               "Setup does not send information.\nWould you like to continue?"),
+            QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        return;
+    }
+    const QString archive = QFileDialog::getSaveFileName(this, tr("Save as"), homeOfCallingUser(),
+                                                         tr("Archive file to save (*.tgz)"));
+    if (archive.isEmpty()) {
+        return;
+    }
+    int result = -1;
+    doWithProgress([&] { result = packServiceLogs(archive); });
+    const LogCollectionReport report = logCollectionReport(result);
+    if (report.success) {
+        QMessageBox::information(this, tr("ARVEN Ulmar Disc Setup"), report.text);
+    } else {
+        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"), report.text);
+    }
+}
+
 void PubSetup::showAboutDialog()
 {
     auto dialog = new QDialog;
     Ui::aboutDialog ui;
     ui.setupUi(dialog);
+    showSharpPictures(*dialog);
     dialog->setModal(true);
     dialog->adjustSize();
     dialog->setFixedSize(dialog->size());

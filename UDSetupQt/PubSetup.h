@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 class PubSetup : public QMainWindow, public Ui::MainWindow
@@ -24,6 +25,18 @@ public:
     /// Reads a publisher's record as readPublisher does, through the window's manager. Any thread.
     static bool getPublisherInfo(const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                                  long& lResultCommLib);
+    /// Runs `f` on a thread of its own behind a busy indicator that keeps the interface alive, and returns
+    /// when it has ended, up to a tenth of a second late. `f` must not throw, touches no widget, and leaves
+    /// its results in variables of the caller. `parent`, which may be null, takes no input meanwhile.
+    /// User-interface thread; there is no time-out.
+    static void doWithProgress(std::function<void()> f, QWidget* parent);
+    /// The same with the window as parent.
+    void doWithProgress(std::function<void()> f);
+    /// Reads, behind a busy indicator, what the properties open with, and says so when the publish mode among
+    /// it is the stored one: `publisherMgr` is asked whether the device's own can be had. False, without a
+    /// message, when the publisher cannot be read.
+    static bool readForProperties(CPublisherMgr& publisherMgr, const CString& id, QWidget* parent,
+                                  PUBLISHERINFO& info, BOOL& bConnection);
     /// Says that the publish mode about to be shown is the stored one. `parent` may be null.
     static void showWariningBeforeProperty(QWidget* parent);
 
@@ -61,8 +74,6 @@ private:
     void setUpImages();
     void setUpColumns();
     void connectAll();
-    void disableUnfinishedActions();
-    bool hasUnfinishedJobs(const CString& id);
 
     bool m_bSupportNetworkModel = true;
     int colName = 0;

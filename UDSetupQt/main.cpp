@@ -1,3 +1,4 @@
+#include "DirectStart.h"
 #include "EnvArguments.h"
 #include "InstallPaths.h"
 #include "MyRunnable.h"
@@ -13,6 +14,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iterator>
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -76,12 +78,15 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "INSTALL_DIR = %s\n", INSTALL_DIR);
     }
 
-    int result = 0;
-    {
+    std::optional<int> result;
+    if (argc > 1) {
+        result = startWithPublisher(argv[1]);
+    }
+    if (!result) {
         PubSetup ui(nullptr);
         ui.show();
         result = QApplication::exec();
     }
-    endDespiteHangingTasks(result);
-    return result;
+    endDespiteHangingTasks(*result);
+    return *result;
 }

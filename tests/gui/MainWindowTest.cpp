@@ -12,6 +12,8 @@
 #include <QScreen>
 #include <QTest>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int rightCentre = 0x0082; // Qt::AlignRight and Qt::AlignVCenter
@@ -39,7 +41,9 @@ private slots:
     void widgetsHaveAccessibleNames();
     void imagesExistInEverySize();
     void emptyListLeavesSelectionActionsDisabled();
-    void actionsWithoutADialogStayDisabled();
+    void commonSettingAndLogsAreForRootAlone();
+    void actionsForEverybodyAreEnabled();
+    void addStaysDisabledUntilItHasADialog();
     void pollTimerRuns();
     void slotsStandInOrder();
     void exitClosesTheWindow();
@@ -260,15 +264,31 @@ void MainWindowTest::emptyListLeavesSelectionActionsDisabled()
     QVERIFY(!m_window->showPublisherProperty->isEnabled());
 }
 
-void MainWindowTest::actionsWithoutADialogStayDisabled()
+void MainWindowTest::commonSettingAndLogsAreForRootAlone()
 {
-    for (const QAction* action : {m_window->addPublisher, m_window->showPublisherProperty,
-                                  m_window->showSetting, m_window->collectAndSaveLogs}) {
-        QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
+    for (const QAction* action : {m_window->showSetting, m_window->collectAndSaveLogs}) {
+        QVERIFY2(action->isEnabled() == (getuid() == 0), qPrintable(action->text()));
     }
+    m_window->updateMenu();
+    for (const QAction* action : {m_window->showSetting, m_window->collectAndSaveLogs}) {
+        QVERIFY2(action->isEnabled() == (getuid() == 0), qPrintable(action->text()));
+    }
+}
+
+void MainWindowTest::actionsForEverybodyAreEnabled()
+{
     for (const QAction* action : {m_window->exitProgram, m_window->showAbout, m_window->udmMenu}) {
         QVERIFY2(action->isEnabled(), qPrintable(action->text()));
     }
+}
+
+void MainWindowTest::addStaysDisabledUntilItHasADialog()
+{
+    QVERIFY(!m_window->addPublisher->isEnabled());
+    m_window->updateMenu();
+    QVERIFY(!m_window->addPublisher->isEnabled());
+    m_window->showAddDialog(); // opens nothing
+    QCOMPARE(QApplication::activeModalWidget(), nullptr);
 }
 
 void MainWindowTest::pollTimerRuns()

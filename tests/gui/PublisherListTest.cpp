@@ -43,7 +43,6 @@ private slots:
     void selectionAndScrollPositionSurvive();
     void selectionSurvivesAChangeOfOrder();
     void twoSelectedRowsLeaveRemoveEnabled();
-    void doubleClickDoesNothingYet();
     void findsARowByItsExactKey();
     void currentPublisherCanBeRead();
     void withoutACurrentRowThereIsNothingToRead();
@@ -301,18 +300,6 @@ void PublisherListTest::twoSelectedRowsLeaveRemoveEnabled()
     Installation::remove("s1");
     m_window->updateList();
     QVERIFY2(!m_window->deletePublisher->isEnabled(), "the selected row is gone");
-}
-
-void PublisherListTest::doubleClickDoesNothingYet()
-{
-    m_installation.addLocal("dbl", "Double");
-    m_window->updateList();
-    QTreeWidget* tree = m_window->treePublisherList;
-    const QPoint place = tree->visualItemRect(row("Double")).center();
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QCOMPARE(QApplication::activeModalWidget(), nullptr);
-    QCOMPARE(names(), QStringList{"Double"});
 }
 
 void PublisherListTest::findsARowByItsExactKey()

@@ -1,0 +1,32 @@
+#include "DirectStart.h"
+
+#include "PubSetup.h"
+#include "propertyDialog.h"
+
+#include <QApplication>
+
+std::optional<int> startWithPublisher(const char* strPublisherName)
+{
+    CPublisherMgr publisherMgr(true);
+    CString strFirstMatch; // readable or not: the search below decides
+    publisherMgr.GetPublisherRegistIDFromName(strPublisherName, &strFirstMatch);
+
+    CStringArray ids;
+    publisherMgr.EnumRegistedPublisher(&ids);
+    for (const CString& id : ids) {
+        PUBLISHERINFO info;
+        if (!publisherMgr.GetPublisherInfo(id.c_str(), &info, TRUE) ||
+            info.strPublisherName.Compare(strPublisherName) != 0) {
+            continue;
+        }
+        BOOL bConnection = 0;
+        if (!PubSetup::readForProperties(publisherMgr, id, nullptr, info, bConnection)) {
+            continue;
+        }
+        propertyDialogEx dialog(nullptr);
+        dialog.fillContent(info, bConnection);
+        dialog.show();
+        return QApplication::exec();
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,400 @@
+// The ways to the dialogs, what stands before them, and what goes on behind them.
+#include "Boxes.h"
+#include "Installation.h"
+#include "MyRunnable.h"
+#include "PubSetup.h"
+#include "ScriptedService.h"
+#include "Shown.h"
+#include "propertyDialog.h"
+#include "settingDialog.h"
+
+#include <QItemSelectionModel>
+#include <QProgressDialog>
+#include <QTest>
+
+#include <optional>
+
+class OpenDialogsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void propertiesOpenFromEveryPlace_data();
+    void propertiesOpenFromEveryPlace();
+    void selectionDecidesTheActions();
+    void doubleClickTakesTheCurrentRowOfSeveral();
+    void publisherThatCannotBeReadOpensNothing();
+    void publishModeThatCannotBeHadIsSaidFirst();
+    void stalledServiceShowsTheIndicator();
+    void impatientDoubleClicksOpenOneDialog();
+    void rowFollowsASavedName();
+    void rowStaysAfterCancel();
+    void rowStaysAfterApplyAndCancel();
+    void savedNameGoesToWhateverRowIsCurrent();
+    void noRowIsLeftForASavedName();
+    void publisherVanishesBehindItsDialog();
+    void pollsGoOnBehindTheDialog();
+    void commonSettingOpens();
+
+private:
+    QTreeWidgetItem* row(const QString& name) const;
+    void doubleClick(const QString& name, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    Installation m_installation;
+    std::optional<ScriptedService> m_service;
+    std::unique_ptr<PubSetup> m_window;
+};
+
+void OpenDialogsTest::init()
+{
+    m_installation = Installation();
+    m_service.emplace();
+    for (const char* id : {"a", "b", "c"}) {
+        m_installation.addLocal(id, QByteArray(id).toUpper().toStdString());
+        m_service->setPublishMode(id, 0);
+    }
+    m_window = std::make_unique<PubSetup>(nullptr);
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 3);
+}
+
+void OpenDialogsTest::cleanup()
+{
+    m_window.reset();
+    m_service.reset();
+    QVERIFY(waitForTasks(10000));
+    QCOMPARE(shownWindow<propertyDialogEx>(), nullptr);
+}
+
+QTreeWidgetItem* OpenDialogsTest::row(const QString& name) const
+{
+    return m_window->treePublisherList->findItems(name, Qt::MatchExactly, 0).value(0);
+}
+
+void OpenDialogsTest::doubleClick(const QString& name, Qt::KeyboardModifiers modifiers)
+{
+    QTreeWidget* tree = m_window->treePublisherList;
+    const QPoint place = tree->visualItemRect(row(name)).center();
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, modifiers, place);
+    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, modifiers, place);
+}
+
+void OpenDialogsTest::propertiesOpenFromEveryPlace_data()
+{
+    QTest::addColumn<QString>("place");
+    for (const char* place : {"action", "tool bar", "menu", "double click"}) {
+        QTest::newRow(place) << place;
+    }
+}
+
+void OpenDialogsTest::propertiesOpenFromEveryPlace()
+{
+    QFETCH(QString, place);
+    bool modal = false, warned = false;
+    QWidget* parent = m_window.get();
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        modal = shown.isModal() && QApplication::activeModalWidget() == &shown;
+        parent = shown.parentWidget();
+        shown.reject();
+    });
+    WhenShown<QMessageBox> warning([&](QMessageBox& box) {
+        warned = true;
+        box.reject();
+    });
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    QVERIFY(m_window->showPublisherProperty->isEnabled());
+    if (place == "action") {
+        m_window->showPublisherProperty->trigger();
+    } else if (place == "tool bar") {
+        QTest::mouseClick(m_window->toolBar->widgetForAction(m_window->showPublisherProperty),
+                          Qt::LeftButton);
+    } else if (place == "menu") {
+        QTimer::singleShot(0, this, [this] {
+            QTest::mouseClick(m_window->editMenu, Qt::LeftButton, Qt::NoModifier,
+                              m_window->editMenu->actionGeometry(m_window->showPublisherProperty).center());
+        });
+        m_window->editMenu->exec(m_window->mapToGlobal(QPoint(10, 10)));
+    } else {
+        doubleClick("B");
+    }
+    QTRY_VERIFY(dialog.seen());
+    QVERIFY(modal);
+    QCOMPARE(parent, nullptr);
+    QVERIFY(!warned);
+    QCOMPARE(m_service->count("18 b"), 1);
+}
+
+void OpenDialogsTest::selectionDecidesTheActions()
+{
+    const struct
+    {
+        QStringList rows;
+        bool properties;
+        bool remove;
+    } table[] = {
+        {{}, false, false}, {{"B"}, true, true}, {{"A", "B"}, false, true}, {{"A", "B", "C"}, false, true}};
+    for (const auto& selection : table) {
+        m_window->treePublisherList->clearSelection();
+        for (const QString& name : selection.rows) {
+            row(name)->setSelected(true);
+        }
+        QCOMPARE(m_window->showPublisherProperty->isEnabled(), selection.properties);
+        QCOMPARE(m_window->deletePublisher->isEnabled(), selection.remove);
+    }
+}
+
+void OpenDialogsTest::doubleClickTakesTheCurrentRowOfSeveral()
+{
+    QTreeWidget* tree = m_window->treePublisherList;
+    tree->selectAll();
+    int selected = 0;
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        selected = tree->selectedItems().size();
+        shown.reject();
+    });
+    doubleClick("B", Qt::ControlModifier);
+    QTRY_VERIFY(dialog.seen());
+    QVERIFY2(selected >= 2, qPrintable(QString::number(selected)));
+    QCOMPARE(tree->currentItem(), row("B"));
+    QCOMPARE(m_service->count("18 b"), 1);
+    QCOMPARE(m_service->count("18 a") + m_service->count("18 c"), 0);
+}
+
+void OpenDialogsTest::publisherThatCannotBeReadOpensNothing()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    Installation::remove("b");
+    Boxes boxes({});
+    bool opened = false;
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        opened = true;
+        shown.reject();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(!opened);
+    QVERIFY(boxes.seen().empty());
+}
+
+void OpenDialogsTest::publishModeThatCannotBeHadIsSaidFirst()
+{
+    m_service.reset(); // nobody to ask
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    QWidget* parent = nullptr;
+    bool before = false;
+    Boxes boxes({QMessageBox::Ok});
+    boxes.onBox = [&](QMessageBox& box) {
+        parent = box.parentWidget();
+        before = shownWindow<propertyDialogEx>() == nullptr;
+    };
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) { shown.reject(); });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QVERIFY(boxes.allAnswered());
+    QCOMPARE(boxes.seen()[0].text,
+             "The Publish Mode registered in the output device could not be obtained, so the previously "
+             "displayed  value is displayed.\nThe displayed Publish Mode and stacker settings may be "
+             "different from the values that are actually registered.");
+    QCOMPARE(boxes.seen()[0].icon, QMessageBox::Warning);
+    QVERIFY(before);
+    QCOMPARE(parent, m_window.get());
+}
+
+void OpenDialogsTest::stalledServiceShowsTheIndicator()
+{
+    m_service->stall("b");
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    int served = 0;
+    bool early = false;
+    QTimer ticks;
+    connect(&ticks, &QTimer::timeout, this, [&] {
+        auto indicator = shownWindow<QProgressDialog>();
+        if (indicator && m_service->count("18 b") == 1 && ++served == 5) {
+            early = shownWindow<propertyDialogEx>() != nullptr;
+            m_service->release("b");
+        }
+    });
+    ticks.start(20);
+    bool indicatorGone = false;
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        indicatorGone = shownWindow<QProgressDialog>() == nullptr;
+        shown.reject();
+    });
+    m_window->showPublisherProperty->trigger();
+    QVERIFY(dialog.seen());
+    QVERIFY2(served >= 5, "the window was served while the service said nothing");
+    QVERIFY2(!early, "the dialog waits for the answer");
+    QVERIFY(indicatorGone);
+}
+
+void OpenDialogsTest::impatientDoubleClicksOpenOneDialog()
+{
+    m_service->stall("b");
+    int clicks = 0, opened = 0;
+    QTimer impatience;
+    connect(&impatience, &QTimer::timeout, this, [&] {
+        if (m_service->count("18 b") == 0 || !shownWindow<QProgressDialog>()) {
+            return;
+        }
+        QTreeWidget* tree = m_window->treePublisherList;
+        const QPoint place = tree->viewport()->mapTo(m_window.get(), tree->visualItemRect(row("B")).center());
+        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::keyClick(shownWindow<QProgressDialog>(), Qt::Key_Escape);
+        if (++clicks == 3) {
+            m_service->release("b");
+        }
+    });
+    impatience.start(20);
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        if (auto shown = shownWindow<propertyDialogEx>()) {
+            opened += countShown<propertyDialogEx>();
+            shown->reject();
+        }
+    });
+    watch.start(50);
+    doubleClick("B");
+    QTRY_COMPARE(opened, 1);
+    QCOMPARE(clicks, 3);
+    QCoreApplication::processEvents();
+    QCOMPARE(opened, 1);
+    QCOMPARE(m_service->count("18 b"), 1);
+}
+
+void OpenDialogsTest::rowFollowsASavedName()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        m_installation.addLocal("b", "New name");
+        shown.accept();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QCOMPARE(m_window->treePublisherList->currentItem()->text(0), "New name");
+    QCOMPARE(m_window->treePublisherList->currentItem(), row("New name"));
+    QVERIFY(!row("B") && row("A") && row("C"));
+}
+
+void OpenDialogsTest::rowStaysAfterCancel()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        m_installation.addLocal("b", "Other");
+        shown.reject();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QVERIFY(row("B") && !row("Other"));
+}
+
+void OpenDialogsTest::rowStaysAfterApplyAndCancel()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        QTest::keyClicks(shown.textPublisherName, "2"); // in place of the whole name, which is selected
+        QTest::mouseClick(shown.applyButton, Qt::LeftButton);
+        QTest::mouseClick(shown.cancelButton, Qt::LeftButton);
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QCOMPARE(QString::fromStdString(CPublisherMgr(true).GetPublisherName("b")), "2");
+    QVERIFY(row("B") && !row("2"));
+}
+
+void OpenDialogsTest::savedNameGoesToWhateverRowIsCurrent()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        m_installation.addLocal("b", "New");
+        m_window->treePublisherList->setCurrentItem(row("C"));
+        shown.accept();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QVERIFY(row("A") && row("B") && row("New") && !row("C"));
+}
+
+void OpenDialogsTest::noRowIsLeftForASavedName()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        for (const char* id : {"a", "b", "c"}) {
+            Installation::remove(id);
+        }
+        m_window->updateList();
+        shown.accept();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
+}
+
+void OpenDialogsTest::publisherVanishesBehindItsDialog()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    bool rowGone = false, staysOpen = false;
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        Installation::remove("b");
+        m_window->updateList();
+        rowGone = row("B") == nullptr;
+        staysOpen = shown.isVisible();
+        shown.reject();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QVERIFY(rowGone);
+    QVERIFY(staysOpen);
+    QVERIFY(row("A") && row("C"));
+}
+
+void OpenDialogsTest::pollsGoOnBehindTheDialog()
+{
+    QVERIFY(m_service->waitFor("22 a", 1));
+    m_window->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly).at(0)->setInterval(50);
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    int before = 0;
+    QPointer<QDialog> open;
+    QTimer end;
+    connect(&end, &QTimer::timeout, this, [&] {
+        if (row("A") && row("A")->text(3) == "Error" && row("D") && m_service->count("22 a") >= before + 3) {
+            open->accept();
+        }
+    });
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        open = &shown;
+        before = m_service->count("22 a");
+        m_service->setFatalCode("a", 19);
+        m_installation.addLocal("d", "D");
+        end.start(20);
+        QTimer::singleShot(15000, &shown, &QDialog::reject);
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QCOMPARE(row("A")->text(3), "Error");
+    QVERIFY2(row("D"), "a new publisher has its row");
+    QVERIFY(m_service->count("22 a") >= before + 3);
+}
+
+void OpenDialogsTest::commonSettingOpens()
+{
+    bool modal = false;
+    QWidget* parent = m_window.get();
+    WhenShown<settingDialogEx> dialog([&](settingDialogEx& shown) {
+        modal = shown.isModal() && QApplication::activeModalWidget() == &shown;
+        parent = shown.parentWidget();
+        shown.reject();
+    });
+    m_window->showSetting->trigger();
+    QVERIFY(dialog.seen());
+    QVERIFY(modal);
+    QCOMPARE(parent, nullptr);
+    QCOMPARE(shownWindow<settingDialogEx>(), nullptr);
+}
+
+QTEST_MAIN(OpenDialogsTest)
+#include "OpenDialogsTest.moc"

@@ -1,0 +1,147 @@
+// The program started with a publisher's name: the properties without the list.
+#include "RunningProgram.h"
+
+namespace {
+
+class DirectStartTest : public RunningProgram
+{
+protected:
+    void SetUp() override
+    {
+        RunningProgram::SetUp();
+        m_installation.addLocal("a", "Studio A");
+        m_service.setPublishMode("a", 0);
+    }
+
+    /// The ids of the program's visible windows.
+    QStringList windows()
+    {
+        return xdotool({"search", "--onlyvisible", "--class", "UDSetup"}).split('\n', Qt::SkipEmptyParts);
+    }
+
+    /// The id of the one visible window that is not titled like the list, the indicator and the boxes.
+    QString properties()
+    {
+        QElapsedTimer time;
+        time.start();
+        while (time.elapsed() < programPatience && m_program.state() == QProcess::Running) {
+            for (const QString& id : windows()) {
+                if (xdotool({"getwindowname", id}) != mainTitle) {
+                    return id;
+                }
+            }
+            m_program.waitForFinished(50); // or a while
+        }
+        ADD_FAILURE() << "no properties; the program said: "
+                      << m_program.readAllStandardError().toStdString();
+        return QString();
+    }
+
+    /// Presses Escape until the program ends.
+    void closeByKey(const QString& window)
+    {
+        QElapsedTimer time;
+        time.start();
+        while (time.elapsed() < programPatience && m_program.state() == QProcess::Running) {
+            xdotool({"windowfocus", window});
+            xdotool({"key", "Escape"});
+            m_program.waitForFinished(300); // the key arrives in a while, and nothing tells when
+        }
+    }
+
+    bool listIsShown()
+    {
+        return !xdotool({"search", "--onlyvisible", "--name", "^" + mainTitle + "$"}).isEmpty();
+    }
+
+    ScriptedService m_service;
+};
+
+TEST_F(DirectStartTest, ShowsThePropertiesAndEndsWithThem)
+{
+    start({"Studio A"});
+    const QString id = properties();
+    ASSERT_FALSE(id.isEmpty());
+    EXPECT_FALSE(listIsShown());
+    EXPECT_EQ(windows().size(), 1);
+    closeByKey(id);
+    expectEnd();
+    EXPECT_EQ(m_service.count("18 a"), 1);
+    EXPECT_EQ(m_service.count("22 a"), 0) << "no polling without a list";
+}
+
+TEST_F(DirectStartTest, TheToolkitTakesItsOwnOptionsFirst)
+{
+    start({"-platform", "xcb", "Studio A", "and more"});
+    const QString id = properties();
+    ASSERT_FALSE(id.isEmpty());
+    closeByKey(id);
+    expectEnd();
+}
+
+TEST_F(DirectStartTest, AnEnvironmentArgumentInFrontHidesTheName)
+{
+    start({"-envFOO=bar", "Studio A"});
+    const QString id = window(mainTitle);
+    ASSERT_FALSE(id.isEmpty());
+    EXPECT_EQ(m_service.count("18 a"), 0);
+    choose(id, "f", "x");
+    expectEnd();
+}
+
+TEST_F(DirectStartTest, ANameInAnotherCaseLeadsToTheList)
+{
+    start({"studio a"});
+    const QString id = window(mainTitle);
+    ASSERT_FALSE(id.isEmpty());
+    EXPECT_EQ(m_service.count("18 a"), 0);
+    choose(id, "f", "x");
+    expectEnd();
+}
+
+TEST_F(DirectStartTest, AnEnvironmentArgumentBehindTheNameDoesNoHarm)
+{
+    m_environment.remove("FOO");
+    start({"Studio A", "-envFOO=bar"});
+    const QString id = properties();
+    ASSERT_FALSE(id.isEmpty());
+    closeByKey(id);
+    expectEnd();
+    EXPECT_EQ(m_program.readAllStandardOutput(), "FOO: \"(null)\"\n");
+}
+
+TEST_F(DirectStartTest, AStalledServiceShowsTheIndicatorMeanwhile)
+{
+    m_service.stall("a");
+    start({"Studio A"});
+    const QString indicator = window(mainTitle);
+    ASSERT_FALSE(indicator.isEmpty());
+    EXPECT_TRUE(m_service.waitFor("18 a", 1));
+    EXPECT_FALSE(xdotool({"getwindowgeometry", indicator}).contains("Geometry: 800x300")) << "not the list";
+    m_service.release("a");
+    const QString id = properties();
+    ASSERT_FALSE(id.isEmpty());
+    closeByKey(id);
+    expectEnd();
+}
+
+TEST_F(DirectStartTest, AModeThatCannotBeHadIsSaidFirst)
+{
+    m_installation.addLocal("b", "Studio B"); // for which the service has no publish mode
+    start({"Studio B"});
+    const QString warning = window(mainTitle);
+    ASSERT_FALSE(warning.isEmpty());
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < programPatience && windows().contains(warning)) {
+        xdotool({"windowfocus", warning});
+        xdotool({"key", "Return"});
+        m_program.waitForFinished(300); // the key arrives in a while, and nothing tells when
+    }
+    const QString id = properties();
+    ASSERT_FALSE(id.isEmpty());
+    closeByKey(id);
+    expectEnd();
+}
+
+} // namespace

@@ -1,0 +1,120 @@
+// The program as users have it, on a display of its own: started, seen, driven by keys.
+#pragma once
+
+#include "Installation.h"
+#include "ScriptedService.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QProcess>
+
+constexpr int programPatience = 20000; // milliseconds, for what has to happen soon
+
+/// A virtual screen without a window manager.
+class Screen
+{
+public:
+    Screen()
+    {
+        // Without -noreset the server starts anew, and refuses connections, whenever its last client leaves.
+        m_server.start("Xvfb",
+                       {"-displayfd", "1", "-screen", "0", "1024x600x24", "-nolisten", "tcp", "-noreset"});
+        if (m_server.waitForReadyRead(programPatience)) {
+            m_name = ":" + QString::fromLatin1(m_server.readLine()).trimmed();
+        }
+    }
+    ~Screen()
+    {
+        m_server.terminate();
+        m_server.waitForFinished(programPatience);
+    }
+    QString name() const
+    {
+        return m_name;
+    }
+
+private:
+    QProcess m_server;
+    QString m_name;
+};
+
+/// The program on a screen of its own.
+class RunningProgram : public testing::Test
+{
+protected:
+    /// The sanitizers have to be told about the libraries that show the window.
+    void SetUp() override
+    {
+        const QString notes = SANITIZER_NOTES;
+        m_environment.insert("ASAN_OPTIONS", "fast_unwind_on_malloc=0");
+        m_environment.insert("LSAN_OPTIONS", "suppressions=" + notes + "/lsan.supp:print_suppressions=0");
+        m_environment.insert("TSAN_OPTIONS", "suppressions=" + notes + "/tsan.supp");
+    }
+
+    void start(const QStringList& arguments = {}, const QString& locale = "C.UTF-8")
+    {
+        ASSERT_FALSE(m_screen.name().isEmpty()) << "no virtual screen";
+        m_environment.insert("DISPLAY", m_screen.name());
+        m_environment.insert("LC_ALL", locale);
+        m_environment.insert("XDG_RUNTIME_DIR", "/tmp");
+        m_environment.remove("QT_QPA_PLATFORM");
+        m_program.setProcessEnvironment(m_environment);
+        m_program.start(UDSETUP_PROGRAM, arguments);
+        ASSERT_TRUE(m_program.waitForStarted(programPatience));
+    }
+
+    QString xdotool(const QStringList& arguments)
+    {
+        QProcess tool;
+        tool.setProcessEnvironment(m_environment);
+        tool.start("xdotool", arguments);
+        tool.waitForFinished(programPatience);
+        return QString::fromLatin1(tool.readAllStandardOutput()).trimmed();
+    }
+
+    /// The id of the visible window of that title; empty when none came up.
+    QString window(const QString& title)
+    {
+        QElapsedTimer time;
+        time.start();
+        while (time.elapsed() < programPatience && m_program.state() == QProcess::Running) {
+            const QString id = xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"});
+            if (!id.isEmpty()) {
+                return id;
+            }
+            m_program.waitForFinished(50); // or a while
+        }
+        m_program.waitForReadyRead(0);
+        ADD_FAILURE() << "no window; the program said: " << m_program.readAllStandardError().toStdString();
+        return QString();
+    }
+
+    /// Opens the first menu by its key and presses the key of an entry, again until the program notices.
+    void choose(const QString& window, const QString& menuKey, const QString& entryKey)
+    {
+        QElapsedTimer time;
+        time.start();
+        while (time.elapsed() < programPatience &&
+               !xdotool({"search", "--onlyvisible", "--name", mainTitle}).isEmpty()) {
+            xdotool({"windowfocus", "--sync", window});
+            xdotool({"key", "alt+" + menuKey});
+            m_program.waitForFinished(300); // the menu opens in a while, and nothing tells when
+            xdotool({"key", entryKey});
+            m_program.waitForFinished(300);
+        }
+    }
+
+    void expectEnd(int within = programPatience)
+    {
+        ASSERT_TRUE(m_program.state() == QProcess::NotRunning || m_program.waitForFinished(within));
+        EXPECT_EQ(m_program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(m_program.exitCode(), 0);
+    }
+
+    const QString mainTitle = QStringLiteral("ARVEN Ulmar Disc Setup");
+    Installation m_installation;
+    Screen m_screen;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    QProcess m_program;
+};
