@@ -142,6 +142,36 @@ Bitte löschen Sie es, wenn alle Aufträge abgeschlossen sind.</translation>
         <source>Ready</source>
         <translation>Bereit</translation>
     </message>
+    <message>
+        <source>Log collection has finished.</source>
+        <translation>Die Protokolle wurden gesammelt und gespeichert.</translation>
+    </message>
+    <message>
+        <source>Failed to execute tar command. Check that installation has been performed correctly.</source>
+        <translation>Der Befehl „tar“ konnte nicht ausgeführt werden. Prüfen Sie, ob die Installation korrekt durchgeführt wurde.</translation>
+    </message>
+    <message>
+        <source>Failed to execute tar command. Check that installation has been performed correctly. (%d)</source>
+        <translation>Der Befehl „tar“ konnte nicht ausgeführt werden. Prüfen Sie, ob die Installation korrekt durchgeführt wurde. (%d)</translation>
+    </message>
+    <message>
+        <source>ARVEN Ulmar Disc Setup collects logs about CD/DVD/BD Publisher, and then saves them in local PC.
+Refer to the documentation for what kind of information is collected.
+ARVEN Ulmar Disc Setup does not send information.
+Would you like to continue?</source>
+        <translation>ARVEN Ulmar Disc Setup sammelt Protokolle zu den CD/DVD/BD-Publishern und speichert sie auf dem lokalen PC.
+Welche Informationen gesammelt werden, erfahren Sie in der Dokumentation.
+ARVEN Ulmar Disc Setup sendet keine Informationen.
+Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Archive file to save (*.tgz)</source>
+        <translation>Zu speichernde Archivdatei (*.tgz)</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -160,6 +190,502 @@ Bitte löschen Sie es, wenn alle Aufträge abgeschlossen sind.</translation>
     <message>
         <source>Registers disc publishers, shows their status and changes their settings.</source>
         <translation>Registriert Disc-Publisher, zeigt ihren Status und ändert ihre Einstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>printerMaintHeadCleaning1</name>
+    <message>
+        <source>Head Cleaning</source>
+        <translation>Druckkopfreinigung</translation>
+    </message>
+    <message>
+        <source>Head cleaning</source>
+        <translation>Druckkopfreinigung</translation>
+    </message>
+    <message>
+        <source>Only clean the print head when faint areas or gaps appear in your printout, because cleaning consumes ink.
+If there is not enough ink to perform a head cleaning, replace the ink cartridge first.</source>
+        <translation>Reinigen Sie den Druckkopf nur, wenn im Ausdruck blasse Stellen oder Lücken auftreten, da die Reinigung Tinte verbraucht.
+Reicht die Tinte für eine Druckkopfreinigung nicht aus, tauschen Sie zuerst die Tintenpatrone aus.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+</context>
+<context>
+    <name>printerMaintHeadCleaning2</name>
+    <message>
+        <source>Head Cleaning</source>
+        <translation>Druckkopfreinigung</translation>
+    </message>
+    <message>
+        <source>Head cleaning</source>
+        <translation>Druckkopfreinigung</translation>
+    </message>
+    <message>
+        <source>Cleaning takes a couple of minutes.  Cleaning is finished when the power light on the printer&apos;s control panel stops flashing. To check the effectiveness of the cleaning, click the Print Nozzle Check Pattern.</source>
+        <translation>Die Reinigung dauert einige Minuten. Sie ist abgeschlossen, wenn die Betriebsanzeige am Bedienfeld des Druckers nicht mehr blinkt. Um die Wirkung der Reinigung zu prüfen, klicken Sie auf „Düsentestmuster drucken“.</translation>
+    </message>
+    <message>
+        <source>Nozzle check pattern</source>
+        <translation>Düsentestmuster drucken</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>printerMaintNozzleCheck1</name>
+    <message>
+        <source>Nozzle Check</source>
+        <translation>Düsentest</translation>
+    </message>
+    <message>
+        <source>Nozzle check</source>
+        <translation>Düsentest</translation>
+    </message>
+    <message>
+        <source>Nozzle check pattern</source>
+        <translation>Düsentestmuster</translation>
+    </message>
+    <message>
+        <source>Print a pattern in order to check that the print head nozzles are not blocked.
+
+Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
+        <translation>Drucken Sie ein Muster, um zu prüfen, ob die Düsen des Druckkopfs frei sind.
+
+Prüfen Sie die Kabelverbindung, und schalten Sie das Gerät ein. Legen Sie unbedingt Discs mit einem äußeren Druckdurchmesser von mindestens 116 mm in Stacker 1 ein.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>printerMaintNozzleCheck2</name>
+    <message>
+        <source>Nozzle Check</source>
+        <translation>Düsentest</translation>
+    </message>
+    <message>
+        <source>Nozzle check</source>
+        <translation>Düsentest</translation>
+    </message>
+    <message>
+        <source>Pattern without missing segments</source>
+        <translation>Muster ohne fehlende Segmente</translation>
+    </message>
+    <message>
+        <source>Pattern with missing segments</source>
+        <translation>Muster mit fehlenden Segmenten</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message>
+        <source>Cleaning needed</source>
+        <translation>Reinigung erforderlich</translation>
+    </message>
+    <message>
+        <source>Compare the printed pattern with the sample above. If any segments are missing in the printed pattern, click the Clean button. Otherwise, click the Finish button to quit.</source>
+        <translation>Vergleichen Sie das gedruckte Muster mit der Vorlage oben. Fehlen im gedruckten Muster Segmente, klicken Sie auf „Reinigen“. Andernfalls klicken Sie auf „Fertig“, um den Düsentest zu beenden.</translation>
+    </message>
+    <message>
+        <source>Cleaning</source>
+        <translation>Reinigen</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>propertyDialog</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Host name</source>
+        <translation>Hostname</translation>
+    </message>
+    <message>
+        <source>Stacker Settings</source>
+        <translation>Stacker-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Publish Mode</source>
+        <translation>Produktionsmodus</translation>
+    </message>
+    <message>
+        <source>Standard mode</source>
+        <translation>Standardmodus</translation>
+    </message>
+    <message>
+        <source>External Output / Low-volume mode</source>
+        <translation>Externe Ausgabe / Kleinserienmodus</translation>
+    </message>
+    <message>
+        <source>Batch mode</source>
+        <translation>Batchmodus</translation>
+    </message>
+    <message>
+        <source>Stacker 1</source>
+        <translation>Stacker 1</translation>
+    </message>
+    <message>
+        <source>Stacker 2</source>
+        <translation>Stacker 2</translation>
+    </message>
+    <message>
+        <source>Output Stacker</source>
+        <translation>Ausgabe-Stacker</translation>
+    </message>
+    <message>
+        <source>Stacker 3</source>
+        <translation>Stacker 3</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Do not use</source>
+        <translation>Nicht verwenden</translation>
+    </message>
+    <message>
+        <source>Way of the discs</source>
+        <translation>Weg der Discs</translation>
+    </message>
+    <message>
+        <source>Drive Settings</source>
+        <translation>Laufwerkseinstellungen</translation>
+    </message>
+    <message>
+        <source>Drive to Use</source>
+        <translation>Zu verwendendes Laufwerk</translation>
+    </message>
+    <message>
+        <source>Use Both</source>
+        <translation>Beide verwenden</translation>
+    </message>
+    <message>
+        <source>Use Drive 1 Only</source>
+        <translation>Nur Laufwerk 1 verwenden</translation>
+    </message>
+    <message>
+        <source>Use Drive 2 Only</source>
+        <translation>Nur Laufwerk 2 verwenden</translation>
+    </message>
+    <message>
+        <source>Number of write retries</source>
+        <translation>Anzahl der Schreibwiederholungen</translation>
+    </message>
+    <message>
+        <source>Printer Settings</source>
+        <translation>Druckereinstellungen</translation>
+    </message>
+    <message>
+        <source>Show &amp;error mark on discs that experience errors</source>
+        <translation>&amp;Fehlermarkierung auf fehlerhafte Discs drucken</translation>
+    </message>
+    <message>
+        <source>Failure error mark</source>
+        <translation>Fehlermarkierung</translation>
+    </message>
+    <message>
+        <source>Printer Maintenance</source>
+        <translation>Druckerwartung</translation>
+    </message>
+    <message>
+        <source>Nozzle Check</source>
+        <translation>Düsentest</translation>
+    </message>
+    <message>
+        <source>Use this utility if gaps or faint areas appear in your printout.</source>
+        <translation>Verwenden Sie diese Funktion, wenn im Ausdruck Lücken oder blasse Stellen auftreten.</translation>
+    </message>
+    <message>
+        <source>Head Cleaning</source>
+        <translation>Druckkopfreinigung</translation>
+    </message>
+    <message>
+        <source>Use this utility if your print quality declines or the Nozzle Check indicates clogged nozzles.</source>
+        <translation>Verwenden Sie diese Funktion, wenn die Druckqualität nachlässt oder der Düsentest verstopfte Düsen anzeigt.</translation>
+    </message>
+    <message>
+        <source>Maintenance Info</source>
+        <translation>Wartungsinfo</translation>
+    </message>
+    <message>
+        <source>Total discs published:</source>
+        <translation>Produzierte Discs insgesamt:</translation>
+    </message>
+    <message>
+        <source>[discs]</source>
+        <translation>[Discs]</translation>
+    </message>
+    <message>
+        <source>Number of printed discs:</source>
+        <translation>Anzahl der bedruckten Discs:</translation>
+    </message>
+    <message>
+        <source>Maintenance Box free space:</source>
+        <translation>Freier Platz in der Wartungsbox:</translation>
+    </message>
+    <message>
+        <source>[%]</source>
+        <translation>[%]</translation>
+    </message>
+    <message>
+        <source>Service life of Drive 1:</source>
+        <translation>Lebensdauer von Laufwerk 1:</translation>
+    </message>
+    <message>
+        <source>Service life of Drive 2:</source>
+        <translation>Lebensdauer von Laufwerk 2:</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Serial number:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Version Information</source>
+        <translation>Versionsinformationen</translation>
+    </message>
+    <message>
+        <source>Autoloader:</source>
+        <translation>Autoloader:</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Drucker:</translation>
+    </message>
+    <message>
+        <source>Drive 1:</source>
+        <translation>Laufwerk 1:</translation>
+    </message>
+    <message>
+        <source>Drive 2:</source>
+        <translation>Laufwerk 2:</translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <translation>Server:</translation>
+    </message>
+    <message>
+        <source>Ulmar Disc Net Administrator:</source>
+        <translation>Ulmar Disc Net Administrator:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>propertyDialogEx</name>
+    <message>
+        <source>Nozzle Check</source>
+        <translation>Düsentest</translation>
+    </message>
+    <message>
+        <source>Cleaning</source>
+        <translation>Druckkopfreinigung</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Do not print</source>
+        <translation>Nicht drucken</translation>
+    </message>
+    <message>
+        <source>Service life of Drive:</source>
+        <translation>Lebensdauer des Laufwerks:</translation>
+    </message>
+    <message>
+        <source>Drive:</source>
+        <translation>Laufwerk:</translation>
+    </message>
+    <message>
+        <source>Properties - </source>
+        <translation>Eigenschaften - </translation>
+    </message>
+    <message>
+        <source>Please type a name for the output device.</source>
+        <translation>Bitte geben Sie einen Namen für das Ausgabegerät ein.</translation>
+    </message>
+    <message>
+        <source>&quot;\&quot; cannot be used in the output device name.</source>
+        <translation>„\“ kann im Namen des Ausgabegeräts nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The same name is already registered.
+Please use a different name.</source>
+        <translation>Derselbe Name ist bereits registriert.
+Bitte verwenden Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The settings could not be changed because registration of the Publish Mode in the output device settings failed.
+Please change the settings after checking the power supply of the output device and the connection.</source>
+        <translation>Die Einstellungen konnten nicht geändert werden, weil der Produktionsmodus nicht im Ausgabegerät registriert werden konnte.
+Bitte prüfen Sie die Stromversorgung des Ausgabegeräts und die Verbindung, und ändern Sie die Einstellungen danach.</translation>
+    </message>
+    <message>
+        <source>Failed to change setting.</source>
+        <translation>Die Einstellung konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>This output device is processing jobs and the settings could not be changed.
+Please change it after all jobs are completed.</source>
+        <translation>Das Ausgabegerät verarbeitet Aufträge, daher konnten die Einstellungen nicht geändert werden.
+Bitte ändern Sie sie, wenn alle Aufträge abgeschlossen sind.</translation>
+    </message>
+    <message>
+        <source>ARVEN Ulmar Disc Setup</source>
+        <translation>ARVEN Ulmar Disc Setup</translation>
+    </message>
+    <message>
+        <source>Output Stacker</source>
+        <translation>Ausgabe-Stacker</translation>
+    </message>
+</context>
+<context>
+    <name>settingDialog</name>
+    <message>
+        <source>Common Setting for Publishing</source>
+        <translation>Gemeinsame Einstellungen für die Produktion</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Working Folder</source>
+        <translation>Arbeitsordner</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Notification Settings</source>
+        <translation>Benachrichtigung</translation>
+    </message>
+    <message>
+        <source>Notification Method</source>
+        <translation>Art der Benachrichtigung</translation>
+    </message>
+    <message>
+        <source>Beep when a job is finished, or when the source stacker is empty (RT-300III)</source>
+        <translation>Signalton, wenn ein Auftrag abgeschlossen oder der Eingabe-Stacker leer ist (RT-300III)</translation>
+    </message>
+    <message>
+        <source>Notification when a job is finished</source>
+        <translation>Benachrichtigung bei Abschluss eines Auftrags</translation>
+    </message>
+    <message>
+        <source>Notify after each job is finished</source>
+        <translation>Nach Abschluss jedes Auftrags benachrichtigen</translation>
+    </message>
+    <message>
+        <source>Notify after all jobs are finished</source>
+        <translation>Nach Abschluss aller Aufträge benachrichtigen</translation>
+    </message>
+    <message>
+        <source>Network CD/DVD/BD Publisher</source>
+        <translation>Netzwerk-CD/DVD/BD-Publisher</translation>
+    </message>
+    <message>
+        <source>Compatibility Approval Settings</source>
+        <translation>Einstellungen zur Kompatibilitätsfreigabe</translation>
+    </message>
+    <message>
+        <source>Allow security risks and approve the use of older versions of network CD/DVD/BD publishers</source>
+        <translation>Sicherheitsrisiken zulassen und ältere Versionen von Netzwerk-CD/DVD/BD-Publishern freigeben</translation>
+    </message>
+    <message>
+        <source>When this is selected, you can use the following devices.</source>
+        <translation>Wenn diese Option ausgewählt ist, können Sie die folgenden Geräte verwenden.</translation>
+    </message>
+    <message>
+        <source>RT-300NII:</source>
+        <translation>RT-300NII:</translation>
+    </message>
+    <message>
+        <source>Server versions older than 3.30</source>
+        <translation>Serverversionen vor 3.30</translation>
+    </message>
+    <message>
+        <source>It is strongly recommended that you upgrade to the latest software version to handle vulnerabilities.</source>
+        <translation>Es wird dringend empfohlen, auf die neueste Softwareversion zu aktualisieren, um Sicherheitslücken zu schließen.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>settingDialogEx</name>
+    <message>
+        <source>Select working folder.</source>
+        <translation>Arbeitsordner auswählen</translation>
+    </message>
+    <message>
+        <source>ARVEN Ulmar Disc Setup</source>
+        <translation>ARVEN Ulmar Disc Setup</translation>
+    </message>
+    <message>
+        <source>The working folder could not be changed because there is a job being processed on this computer.
+Please change the working folder after all jobs are finished.</source>
+        <translation>Der Arbeitsordner konnte nicht geändert werden, da auf diesem Computer ein Auftrag verarbeitet wird.
+Bitte ändern Sie den Arbeitsordner, wenn alle Aufträge abgeschlossen sind.</translation>
+    </message>
+    <message>
+        <source>The specified folder cannot be set as the working folder.
+Specify a different folder.</source>
+        <translation>Der angegebene Ordner kann nicht als Arbeitsordner festgelegt werden.
+Bitte geben Sie einen anderen Ordner an.</translation>
+    </message>
+    <message>
+        <source>Failed to change setting.</source>
+        <translation>Die Einstellung konnte nicht geändert werden.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,188 @@
+// Every window that the program can show, each opened as the program opens it. A new dialog gets a line in
+// allWindows(), and with it every test that goes over all of them.
+#pragma once
+
+#include "BusyIndicator.h"
+#include "Installation.h"
+#include "MaintenanceSequences.h"
+#include "PubSetup.h"
+#include "Room.h"
+#include "propertyDialog.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+/// Called with a window that is on the screen and has the keyboard. It may close the window.
+using Visit = std::function<void(QWidget&)>;
+
+/// A machine of each local model, as the simulated service has it, and a publisher behind a server.
+inline constexpr struct
+{
+    const char* model;
+    const char* id;
+} machines[] = {
+    {"RT-300III DVD", "a"}, {"RT-300III BD", "b"}, {"RT-300III BDXL", "c"},
+    {"RT-30II", "d"},       {"RT-30II BDXL", "e"},
+};
+
+/// The computer that the windows open on: its publishers, and the service behind them.
+inline udsim::Scenario scenarioOfMachines()
+{
+    std::string text;
+    for (const auto& machine : machines) {
+        text += std::string("[publisher ") + machine.id + "]\nname = Studio " + machine.id +
+                "\nmodel = " + machine.model + "\nid = " + machine.id + "\njobs = 2\nprint-count = 123456\n";
+    }
+    std::string error;
+    const auto scenario = udsim::Scenario::parse(text, error);
+    if (!scenario) {
+        qFatal("%s", error.c_str());
+    }
+    return *scenario;
+}
+
+/// Meets the dialogs that a call of the program shows one after the other: accepts those ahead of one, visits
+/// that one, and sends it and all others away.
+class ModalDialogs : public QObject
+{
+public:
+    ModalDialogs(int ahead, Visit visit) : m_ahead(ahead), m_visit(std::move(visit))
+    {
+        connect(&m_timer, &QTimer::timeout, this, &ModalDialogs::look);
+        m_timer.start(5);
+    }
+
+private:
+    void look()
+    {
+        const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible() || dialog->inherits("QProgressDialog")) {
+            return;
+        }
+        m_timer.stop();
+        const int place = m_seen++;
+        if (place < m_ahead) {
+            dialog->accept();
+        } else {
+            if (place == m_ahead && QTest::qWaitForWindowActive(dialog)) {
+                m_visit(*dialog);
+            }
+            if (dialog && dialog->isVisible()) {
+                dialog->reject();
+            }
+        }
+        m_timer.start(5);
+    }
+
+    int m_ahead;
+    int m_seen = 0;
+    Visit m_visit;
+    QTimer m_timer;
+};
+
+inline void visitShown(QWidget& window, const Visit& visit)
+{
+    window.show();
+    window.activateWindow();
+    if (QTest::qWaitForWindowActive(&window)) {
+        visit(window);
+    }
+}
+
+inline PUBLISHERINFO recordOf(const char* id)
+{
+    PUBLISHERINFO info;
+    BOOL connection = 0;
+    long result = 0;
+    if (!PubSetup::getPublisherInfo(id, info, connection, result)) {
+        qFatal("publisher %s cannot be read", id);
+    }
+    return info;
+}
+
+/// As its server told it. The server is out of reach for wear and versions.
+inline PUBLISHERINFO networkRecord()
+{
+    Installation::addNetwork("net", "Server room", "studio-3.example.org");
+    PUBLISHERINFO info;
+    info.strPublisherRegistID = "net";
+    info.strPublisherName = "Server room";
+    info.strHostName = "studio-3.example.org";
+    info.uiPublisherType = PUBMGR_CONNECTTYPE_NETWORK;
+    info.uiPublisherDevType = PUBMGR_PUBLISHERTYPE_NETWORK;
+    info.uiNetPublisherType = 3;
+    return info;
+}
+
+inline void visitProperties(const PUBLISHERINFO& info, BOOL connection, const Visit& visit)
+{
+    propertyDialogEx dialog(nullptr);
+    dialog.fillContent(info, connection);
+    dialog.setModal(true);
+    visitShown(dialog, visit);
+}
+
+struct AppWindow
+{
+    const char* name;
+    bool isDialog; ///< Enter accepts it and Escape rejects it
+    std::function<void(const Visit&)> show;
+};
+
+/// Needs a running room with the machines.
+inline std::vector<AppWindow> allWindows()
+{
+    std::vector<AppWindow> windows = {
+        {"list", false,
+         [](const Visit& visit) {
+             PubSetup window(nullptr);
+             visitShown(window, visit);
+         }},
+        {"about", true,
+         [](const Visit& visit) {
+             const ModalDialogs dialogs(0, visit);
+             PubSetup(nullptr).showAboutDialog();
+         }},
+        {"busy", false,
+         [](const Visit& visit) {
+             BusyIndicator window(nullptr);
+             visitShown(window, visit);
+         }},
+        {"settings", true,
+         [](const Visit& visit) {
+             const ModalDialogs dialogs(0, visit);
+             PubSetup(nullptr).showSettingDialog();
+         }},
+        {"properties of a network publisher", true,
+         [](const Visit& visit) { visitProperties(networkRecord(), 0, visit); }},
+    };
+    for (const auto& machine : machines) {
+        windows.push_back({machine.model, true, [id = machine.id](const Visit& visit) {
+                               visitProperties(recordOf(id), 1, visit);
+                           }});
+    }
+    const struct
+    {
+        const char* name;
+        void (*run)(const PUBLISHERINFO&);
+        int ahead;
+    } steps[] = {
+        {"nozzle check", runNozzleCheckSequence, 0},
+        {"nozzle check, result", runNozzleCheckSequence, 1},
+        {"head cleaning", runHeadCleaningSequence, 0},
+        {"head cleaning, end", runHeadCleaningSequence, 1},
+    };
+    for (const auto& step : steps) {
+        windows.push_back({step.name, true, [step](const Visit& visit) {
+                               const ModalDialogs dialogs(step.ahead, visit);
+                               step.run(recordOf("a"));
+                           }});
+    }
+    return windows;
+}
