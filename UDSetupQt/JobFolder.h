@@ -1,8 +1,9 @@
 // Where jobs live. All programs of the suite use one fixed path for them, JOB_DIR: a folder of its own by
 // default, or a link to a folder in the place that somebody chose. The link itself is the setting.
 //
-// What goes wrong is told on the standard error. The functions follow what other programs do to the same path
-// meanwhile only as far as one call sees it. Main thread: changeJobFolder may switch the user for a moment.
+// What goes wrong is told on the standard error. Nothing is locked: a job that another program adds between
+// the look for jobs and the move of the link is not noticed. Main thread: changeJobFolder may switch the user
+// for a moment.
 #pragma once
 
 #include <string>

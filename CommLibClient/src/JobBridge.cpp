@@ -29,9 +29,7 @@ DWORD ControlForBridge(const char* pszOperation, const char* pszAction, DWORD dw
     if (result != NCL_SUCCESS) {
         return LogTrace(TRACE_NAME, "SendRequest()", result);
     }
-    if (pNCL->m_dwNPType == NCL_NPTYPE_UNKNOWN) {
-        pNCL->m_dwNPType = NCL_NPTYPE_300NII;
-    }
+    NoteAnswer(*pNCL);
     std::list<ST_COMM_REPLY> items;
     result = ParseCommReply(response.m_pContent, response.m_dwContentLength, items, 1);
     if (result != NCL_SUCCESS) {

@@ -3,6 +3,7 @@
 #include "Operation.h"
 
 #include <cassert>
+#include <cstdio>
 #include <iterator>
 
 const char* const pszJobControlQueryValueConst[7] = {"0", "1", "2", "3", "6", "4", "5"};

@@ -9,6 +9,13 @@ DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode)
     return dwCode;
 }
 
+void NoteAnswer(ST_NCL& ncl)
+{
+    if (ncl.m_dwNPType == NCL_NPTYPE_UNKNOWN) {
+        ncl.m_dwNPType = NCL_NPTYPE_300NII;
+    }
+}
+
 NCLOperation::NCLOperation(DWORD dwHandle, const char* pszName, Level eLevel, std::optional<int> value)
     : m_guard(dwHandle), m_pszName(pszName), m_eLevel(eLevel)
 {
@@ -26,9 +33,7 @@ DWORD NCLOperation::Exchange(const NCLRequest& request, DWORD dwItemCount)
     if (result != NCL_SUCCESS) {
         return Trace("SendRequest()", result);
     }
-    if (Object()->m_dwNPType == NCL_NPTYPE_UNKNOWN) {
-        Object()->m_dwNPType = NCL_NPTYPE_300NII;
-    }
+    NoteAnswer(*Object());
     result = ParseCommReply(m_response.m_pContent, m_response.m_dwContentLength, m_items, dwItemCount);
     return result == NCL_SUCCESS ? result : Trace("ParseCommReply()", result);
 }

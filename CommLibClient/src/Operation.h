@@ -42,6 +42,12 @@ void StopOperations(ST_NCL& ncl);
 /// Closes and destroys an object on which no operation starts any more, and frees its entry.
 void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL);
 
+/// A server of unknown kind that answers counts as NCL_NPTYPE_300NII from then on.
+void NoteAnswer(ST_NCL& ncl);
+
+/// What every request calls its server, whatever its address.
+inline constexpr char HOST_OF_REQUESTS[] = "localhost";
+
 /// A request to the server. The body belongs to the caller.
 struct NCLRequest
 {
@@ -94,7 +100,7 @@ public:
     }
 
     /// Sends a request and takes its reply apart into `dwItemCount` items, 0 for any number. A failure is
-    /// logged. A server of unknown kind that answers counts as NCL_NPTYPE_300NII from then on.
+    /// logged.
     DWORD Exchange(const NCLRequest& request, DWORD dwItemCount);
 
     /// The reply, good as long as the operation.

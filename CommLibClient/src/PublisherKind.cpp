@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The profile functions take both spellings for the same section.
+/// Whoever reads finds this section and "Common" alike; whoever writes keeps them apart by their case.
 constexpr char NPTYPE_SECTION[] = "COMMON";
 
 /// Calls `visit` with the path of each setting file, until it gives true, which is the result.

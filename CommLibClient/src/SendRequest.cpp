@@ -55,8 +55,8 @@ DWORD SendRequest(ST_NCL* pNCL, CHttp::METHOD eMethod, const char* pszPath, CHtt
 
 DWORD SendRequest(ST_NCL* pNCL, const NCLRequest& request, ST_HTTP_RESPONSE* pstHttpRes)
 {
-    return SendRequest(pNCL, request.method, request.path.c_str(), CHttp::VERSION_1_1, "localhost", nullptr,
-                       nullptr, nullptr, request.body, request.bodySize, pstHttpRes, request.type,
+    return SendRequest(pNCL, request.method, request.path.c_str(), CHttp::VERSION_1_1, HOST_OF_REQUESTS,
+                       nullptr, nullptr, nullptr, request.body, request.bodySize, pstHttpRes, request.type,
                        request.option);
 }
 

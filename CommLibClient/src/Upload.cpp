@@ -9,7 +9,6 @@
 namespace {
 
 constexpr DWORD LARGEST_PIECE = 0xA00000; ///< bytes of a file in one request: a cancel waits for one piece
-constexpr char HOST[] = "localhost";      ///< what every request calls its server
 
 constexpr char HASH_PATH[] = "/webapp2/FileHashSetter";
 constexpr char HASH_PATH_300N[] = "/webapp/FileHashSetter";
@@ -55,8 +54,8 @@ DWORD MakeUploadDir(ST_NCL* pNCL, int nServerJobID, const char* pszUserName, con
     std::string path;
     GetFileUploadPath(nServerJobID, "", path); // the folder's own name ends with the slash
     ST_HTTP_RESPONSE response;
-    return SendRequest(pNCL, CHttp::METHOD_MKCOL, path.c_str(), CHttp::VERSION_1_1, HOST, pszUserName,
-                       pszPassword, nullptr, nullptr, 0, &response, eCommType, 0);
+    return SendRequest(pNCL, CHttp::METHOD_MKCOL, path.c_str(), CHttp::VERSION_1_1, HOST_OF_REQUESTS,
+                       pszUserName, pszPassword, nullptr, nullptr, 0, &response, eCommType, 0);
 }
 
 DWORD CheckServerJobID(const ST_NCL* pNCL, int nServerJobID, const char* pszOperation)
@@ -99,9 +98,10 @@ DWORD UploadFile(ST_NCL* pNCL, CommType eCommType, int nServerJobID, const char*
         const std::string range = "Content-Range: bytes " + std::to_string(first) + "-" +
                                   std::to_string(first + piece - 1) + "/" + std::to_string(total) + "\r\n";
         ST_HTTP_RESPONSE response;
-        const DWORD result = SendRequest(
-            pNCL, CHttp::METHOD_PUT, path.c_str(), CHttp::VERSION_1_1, HOST, pszUserName, pszPassword,
-            range.c_str(), reinterpret_cast<const char*>(pData) + offset, piece, &response, eCommType, 0);
+        const DWORD result =
+            SendRequest(pNCL, CHttp::METHOD_PUT, path.c_str(), CHttp::VERSION_1_1, HOST_OF_REQUESTS,
+                        pszUserName, pszPassword, range.c_str(),
+                        reinterpret_cast<const char*>(pData) + offset, piece, &response, eCommType, 0);
         if (result != NCL_SUCCESS) {
             CLogManager log;
             log.LOG_ERR("\t## trace ## UploadFile SendRequest() Range Header = %s", range.c_str());
