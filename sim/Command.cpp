@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "Nearest.h"
 #include "Protocol.h"
 #include "Text.h"
 
@@ -93,6 +94,15 @@ std::optional<JobSetup> parseJob(const std::string& text, std::string& error)
     return job;
 }
 
+std::vector<std::string> Command::words()
+{
+    std::vector<std::string> words{"error", "add-job", "ink", "stacker", "service", "server"};
+    for (const auto& [name, kind] : PLAIN) {
+        words.emplace_back(name);
+    }
+    return words;
+}
+
 std::optional<Command> Command::parse(const std::string& text, std::string& error)
 {
     const auto [word, argument] = splitFirstWord(text);
@@ -129,7 +139,9 @@ std::optional<Command> Command::parse(const std::string& text, std::string& erro
     if (word == "server" && (argument == "on" || argument == "off")) {
         return Command{Kind::server, 0, argument == "on" ? 1U : 0U, {}};
     }
-    error = "unknown command \"" + text + "\"";
+    error = word == "service" || word == "server"
+                ? "\"" + word + "\" needs on or off"
+                : "unknown command \"" + text + "\"" + suggestion(word, words());
     return std::nullopt;
 }
 

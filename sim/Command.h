@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "Publisher.h"
 
@@ -37,6 +38,8 @@ struct Command
         return kind == Kind::service;
     }
 
+    /// The first words of all commands.
+    static std::vector<std::string> words();
     /// Reads a command's text; nothing, and the reason in `error`, when it is none.
     static std::optional<Command> parse(const std::string& text, std::string& error);
 };

@@ -1,8 +1,11 @@
 #include "Fault.h"
 
 #include <array>
+#include <iterator>
 #include <utility>
+#include <vector>
 
+#include "Nearest.h"
 #include "Protocol.h"
 #include "Text.h"
 
@@ -39,7 +42,12 @@ std::optional<Fault> Fault::parse(const std::string& text, std::string& error)
         }
     }
     if (!known) {
-        error = "unknown fault \"" + word + "\"";
+        std::vector<std::string> names;
+        names.reserve(std::size(WORDS));
+        for (const auto& [name, kind] : WORDS) {
+            names.emplace_back(name);
+        }
+        error = "unknown fault \"" + word + "\"" + suggestion(word, names);
         return std::nullopt;
     }
     const bool takesNumber = fault.kind == Kind::result || fault.kind == Kind::delay;

@@ -1,7 +1,6 @@
 #include "HttpExchange.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <memory>
 
@@ -9,6 +8,7 @@
 #include <sys/socket.h>
 
 #include "HttpServer.h"
+#include "Sockets.h"
 
 namespace udsim {
 
@@ -39,23 +39,6 @@ bool waitOn(int socket, int milliseconds)
 {
     pollfd entry{socket, POLLRDHUP, 0};
     return ::poll(&entry, 1, milliseconds) == 0;
-}
-
-/// False when the connection has ended.
-bool sendAll(int socket, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t count = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (count > 0) {
-            bytes.remove_prefix(static_cast<size_t>(count));
-        } else if (errno == EAGAIN) {
-            pollfd entry{socket, POLLOUT, 0};
-            ::poll(&entry, 1, -1);
-        } else if (errno != EINTR) {
-            return false;
-        }
-    }
-    return true;
 }
 
 bool sendRaw(int socket, const HttpDelivery& delivery)

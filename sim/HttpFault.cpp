@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
+#include <vector>
 
+#include "Nearest.h"
 #include "ServletRecords.h"
 #include "Text.h"
 
@@ -89,7 +92,12 @@ std::optional<HttpFault> HttpFault::parse(const std::string& text, std::string& 
     const auto* const known =
         std::find_if(WORDS.begin(), WORDS.end(), [name = word](const Word& one) { return name == one.name; });
     if (known == WORDS.end()) {
-        error = "unknown fault \"" + word + "\" of a server";
+        std::vector<std::string> names;
+        names.reserve(std::size(WORDS));
+        for (const Word& one : WORDS) {
+            names.emplace_back(one.name);
+        }
+        error = "unknown fault \"" + word + "\" of a server" + suggestion(word, names);
         return std::nullopt;
     }
     HttpFault fault;

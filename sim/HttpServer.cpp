@@ -1,8 +1,6 @@
 #include "HttpServer.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 
 #include <arpa/inet.h>
 #include <microhttpd.h>
@@ -13,22 +11,13 @@
 
 #include "HttpExchange.h"
 #include "ServletNumbers.h"
+#include "Sockets.h"
 
 namespace udsim {
 
 namespace {
 
-constexpr int BACKLOG = 128;
 constexpr size_t HEAD_MEMORY = 64U << 10; ///< of a connection, for the request's head and a piece of its body
-
-sockaddr_in addressOf(const std::string& text)
-{
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(HTTP_PORT);
-    ::inet_pton(AF_INET, text.c_str(), &address.sin_addr);
-    return address;
-}
 
 void onConnection(void* server, MHD_Connection* connection, void** /*context*/,
                   MHD_ConnectionNotificationCode code)
@@ -114,13 +103,8 @@ void HttpServer::stop()
 
 bool HttpServer::openListener(const std::string& address, std::string& error)
 {
-    const sockaddr_in wanted = addressOf(address);
-    const int on = 1;
-    Descriptor listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    if (!listener.isOpen() || ::setsockopt(listener.get(), SOL_SOCKET, SO_REUSEADDR, &on, sizeof on) != 0 ||
-        ::bind(listener.get(), reinterpret_cast<const sockaddr*>(&wanted), sizeof wanted) != 0 ||
-        ::listen(listener.get(), BACKLOG) != 0) {
-        error = address + " port " + std::to_string(HTTP_PORT) + ": " + std::strerror(errno);
+    Descriptor listener = listenTcp({address, HTTP_PORT}, error);
+    if (!listener.isOpen()) {
         return false;
     }
     m_listeners[address] = std::move(listener);

@@ -11,6 +11,8 @@ inline constexpr char AGENT_SOCKET[] = "/var/run/arvenUlmarDiscControlLog.socket
 
 inline constexpr size_t REQUEST_SIZE = 408;
 inline constexpr size_t HEADER_SIZE = 24;
+inline constexpr size_t RESULT_AT = 8;          ///< in a reply's header
+inline constexpr size_t PAYLOAD_LENGTH_AT = 16; ///< in a reply's header
 inline constexpr size_t JOB_STATUS_SIZE = 1088;
 inline constexpr size_t PUBLISHER_NAME_FIELD = 129;
 inline constexpr size_t JOB_ID_FIELD = 256;

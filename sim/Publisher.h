@@ -108,9 +108,9 @@ class Publisher
 public:
     static constexpr uint32_t STACKER_CAPACITY = 100;
     static constexpr uint32_t FULL_INK = 100; ///< percent
-    /// Of a local machine. A list this long and its header arrive in one piece on a stream socket; a longer
-    /// one may not.
-    static constexpr size_t MAX_JOBS = 40;
+    /// Of a local machine. The system passes 36 KB on in one piece on a stream socket, which is a list this
+    /// long with its header; a reader may be there between the pieces of a longer one.
+    static constexpr size_t MAX_JOBS = 33;
     static constexpr size_t MAX_ENDED_JOBS = 20; ///< older ones are forgotten
 
     explicit Publisher(const PublisherSetup& setup);

@@ -13,7 +13,6 @@
 #include "JobFolder.h"
 #include "Protocol.h"
 #include "Server.h"
-#include "World.h"
 
 namespace udsim {
 
@@ -412,8 +411,11 @@ bool Room::tell(const std::string& publisher, const std::string& command, std::s
     const auto parsed = Command::parse(command, reason);
     bool done = false;
     if (parsed) {
-        m_state->alter([&] { done = m_state->world.apply(publisher, *parsed); });
-        reason = done ? "" : "no such publisher, or its job list is full";
+        m_state->alter([&] {
+            reason = m_state->world.refusalOf(publisher, *parsed);
+            done = m_state->world.apply(publisher, *parsed);
+        });
+        reason = done || !reason.empty() ? reason : "the publisher's job list is full";
     }
     if (error != nullptr) {
         *error = reason;
@@ -461,6 +463,18 @@ std::vector<Job> Room::jobs(const std::string& publisher) const
 {
     const auto found = look(publisher);
     return found ? found->jobs() : std::vector<Job>();
+}
+
+std::vector<MachineState> Room::states() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->world.states();
+}
+
+std::vector<JobProgress> Room::progress() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->world.progress();
 }
 
 std::vector<Request> Room::requests() const

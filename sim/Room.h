@@ -17,6 +17,7 @@
 #include "PublisherServer.h"
 #include "Scenario.h"
 #include "Wire.h"
+#include "World.h"
 
 namespace udsim {
 
@@ -52,8 +53,8 @@ public:
     /// Lets simulated time pass at once. Equal sums of time lead to equal states.
     void advance(uint64_t milliseconds);
     /// Carries out a command of the scenario's language ("offline", "error 19", "add-job copies=2" ...). An
-    /// empty publisher addresses the service itself ("service off", "service on"). False: not understood, see
-    /// `error`.
+    /// empty publisher addresses the service itself ("service off", "service on"). False: not understood or
+    /// not to be done, see `error`.
     bool tell(const std::string& publisher, const std::string& command, std::string* error = nullptr);
     /// The new job's id; empty when the publisher does not exist or its list is full.
     std::string addJob(const std::string& publisher, const JobSetup& setup = {});
@@ -68,6 +69,10 @@ public:
     std::optional<Publisher> look(const std::string& publisher) const;
     /// Its jobs, in order; none when there is no such publisher.
     std::vector<Job> jobs(const std::string& publisher) const;
+    /// How every machine stands.
+    std::vector<MachineState> states() const;
+    /// The jobs under way, one a machine at most.
+    std::vector<JobProgress> progress() const;
     /// Every request that arrived whole, in order (the last 10,000).
     std::vector<Request> requests() const;
     /// Every record that the log agent took, in order (the last 10,000).

@@ -2,11 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <sstream>
 
+#include "Nearest.h"
 #include "Protocol.h"
 #include "ScenarioEntries.h"
 #include "ScenarioNetwork.h"
@@ -27,6 +24,39 @@ constexpr std::array<std::pair<const char*, uint32_t>, 8> MEDIA{{
     {"BD-R QL", 11},
     {"not used", media::NOT_USED},
 }};
+
+constexpr uint64_t LARGEST_SCENARIO = 16U << 20;
+// Only what an unknown key may have been meant for.
+const std::vector<std::string> MACHINE_KEYS{"model",
+                                            "name",
+                                            "guid",
+                                            "id",
+                                            "serial",
+                                            "registered",
+                                            "connected",
+                                            "mode",
+                                            "error",
+                                            "disc-time",
+                                            "cleaning-time",
+                                            "jobs",
+                                            "job",
+                                            "stacker1",
+                                            "stacker2",
+                                            "stacker3",
+                                            "stacker4",
+                                            "stacker1.media",
+                                            "stacker2.media",
+                                            "stacker3.media",
+                                            "stacker4.media",
+                                            "ink.cyan",
+                                            "ink.magenta",
+                                            "ink.yellow",
+                                            "ink.light-cyan",
+                                            "ink.light-magenta",
+                                            "ink.black",
+                                            "maintenance-box",
+                                            "print-count",
+                                            "usb"};
 
 std::string setMedia(const Entry& entry, uint32_t& target)
 {
@@ -79,7 +109,7 @@ std::string setSupply(const Entry& entry, PublisherSetup& setup)
 
 } // namespace
 
-std::string applyToMachine(const Entry& entry, PublisherSetup& setup)
+std::string applyToMachine(const Entry& entry, PublisherSetup& setup, const std::vector<std::string>& others)
 {
     const std::string& key = entry.key;
     if (key == "model" || key == "mode") {
@@ -128,10 +158,12 @@ std::string applyToMachine(const Entry& entry, PublisherSetup& setup)
         key[7] <= '4') {
         return setMedia(entry, setup.stackers[static_cast<size_t>(key[7] - '1')].media);
     }
-    if (key.starts_with("ink.") || key.starts_with("stacker")) {
+    if (key.starts_with("ink.") || (key.starts_with("stacker") && key.find('.') == std::string::npos)) {
         return setSupply(entry, setup);
     }
-    return "unknown key \"" + key + "\" of a publisher";
+    std::vector<std::string> known = MACHINE_KEYS;
+    known.insert(known.end(), others.begin(), others.end());
+    return unknownKey(key, "a publisher", known);
 }
 
 namespace {
@@ -141,11 +173,15 @@ std::string addPublisher(const Section& section, Scenario& scenario)
 {
     const Entry* const model = find(section, "model");
     if (model == nullptr) {
-        return at(section.line, "the publisher \"" + section.name + "\" needs a model");
+        return modelIsMissing(section, "the publisher");
     }
     const Model* const known = findModel(model->value);
     if (known == nullptr) {
-        return at(model->line, "unknown model \"" + model->value + "\"");
+        std::vector<std::string> names;
+        for (const Model& one : models()) {
+            names.emplace_back(one.name);
+        }
+        return at(model->line, "unknown model \"" + model->value + "\"" + suggestion(model->value, names));
     }
     PublisherSetup setup = PublisherSetup::ofModel(*known);
     const size_t number = scenario.publishers.size() + 1;
@@ -194,12 +230,11 @@ std::string addEvent(const Section& section, Scenario& scenario)
             mistake = setTime(entry, event.every);
         } else if (entry.key == "publisher") {
             event.publisher = entry.value;
-            mistake =
-                isKnownPublisher(scenario, entry.value) ? "" : "unknown publisher \"" + entry.value + "\"";
+            mistake = unknownPublisher(scenario, entry.value);
         } else if (entry.key == "do") {
             event.command = Command::parse(entry.value, mistake).value_or(Command{});
         } else {
-            mistake = "unknown key \"" + entry.key + "\" of an event";
+            mistake = unknownKey(entry.key, "an event", {"do", "at", "every", "publisher"});
         }
         if (!mistake.empty()) {
             return at(entry.line, mistake);
@@ -240,10 +275,9 @@ std::string addFault(const Section& section, Scenario& scenario)
             mistake = setNumber(entry, UINT32_MAX, fault.times);
         } else if (entry.key == "publisher") {
             fault.publisher = entry.value;
-            mistake =
-                isKnownPublisher(scenario, entry.value) ? "" : "unknown publisher \"" + entry.value + "\"";
+            mistake = unknownPublisher(scenario, entry.value);
         } else if (entry.key != "do") {
-            mistake = "unknown key \"" + entry.key + "\" of a fault";
+            mistake = unknownKey(entry.key, "a fault", {"do", "control", "publisher", "times"});
         }
         if (mistake.empty() && fault.kind == Fault::Kind::refuse && entry.key != "do") {
             mistake =
@@ -292,17 +326,10 @@ std::optional<Scenario> Scenario::parse(const std::string& text, std::string& er
 
 std::optional<Scenario> Scenario::load(const std::string& path, std::string& error)
 {
-    std::ifstream file(path, std::ios::binary);
-    file.peek(); // a folder opens, and fails here
-    if (!file.is_open() || file.bad()) {
-        error = path + ": " + std::strerror(errno);
-        return std::nullopt;
-    }
-    std::ostringstream text;
-    text << file.rdbuf();
-    auto scenario = parse(text.str(), error);
-    if (!scenario) {
-        error = path + ": " + error;
+    const auto text = readFile(path, LARGEST_SCENARIO, error);
+    auto scenario = text ? parse(*text, error) : std::nullopt;
+    if (text && !scenario) {
+        error = atLineOf(path, error);
     }
     return scenario;
 }

@@ -1,12 +1,51 @@
 #include "ScenarioEntries.h"
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <string_view>
+
+#include "Nearest.h"
 
 namespace udsim {
+
+namespace {
+
+const std::vector<std::string> SECTIONS{"publisher", "network", "event", "fault", "network-fault"};
+
+} // namespace
 
 std::string at(size_t line, const std::string& what)
 {
     return "line " + std::to_string(line) + ": " + what;
+}
+
+std::string atLineOf(const std::string& path, const std::string& mistake)
+{
+    constexpr std::string_view LINE = "line ";
+    return path + (mistake.starts_with(LINE) ? ":" + mistake.substr(LINE.size()) : ": " + mistake);
+}
+
+std::optional<std::string> readFile(const std::string& path, uint64_t most, std::string& error)
+{
+    std::ifstream file(path, std::ios::binary);
+    file.peek(); // a folder opens, and fails here
+    if (!file.is_open() || file.bad()) {
+        error = path + ": " + std::strerror(errno);
+        return std::nullopt;
+    }
+    std::string text;
+    std::array<char, 65'536> piece{};
+    while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
+        text.append(piece.data(), static_cast<size_t>(file.gcount()));
+        if (text.size() > most) {
+            error = path + ": larger than " + std::to_string(most) + " bytes";
+            return std::nullopt;
+        }
+    }
+    return text;
 }
 
 bool isPlainText(const std::string& text, size_t longest)
@@ -38,7 +77,7 @@ std::optional<std::vector<Section>> readSections(const std::string& text, std::s
             }
             const auto [kind, name] = splitFirstWord(line.substr(1, line.size() - 2));
             const bool isPublisher = kind == "publisher" || kind == "network";
-            if (!isPublisher && kind != "event" && kind != "fault" && kind != "network-fault") {
+            if (std::find(SECTIONS.begin(), SECTIONS.end(), kind) == SECTIONS.end()) {
                 error = at(number, "unknown section \"" + kind +
                                        "\" (publisher NAME, network NAME, event, fault or network-fault)");
                 return std::nullopt;
@@ -90,6 +129,37 @@ bool isKnownPublisher(const Scenario& scenario, const std::string& name)
     return isNetworkPublisher(scenario, name) ||
            std::any_of(scenario.publishers.begin(), scenario.publishers.end(),
                        [&](const PublisherSetup& setup) { return setup.name == name; });
+}
+
+std::string unknownKey(const std::string& key, const std::string& owner,
+                       const std::vector<std::string>& known)
+{
+    return "unknown key \"" + key + "\" of " + owner + suggestion(key, known);
+}
+
+std::string modelIsMissing(const Section& section, const std::string& owner)
+{
+    for (const Entry& entry : section.entries) {
+        if (const std::string meant = suggestion(entry.key, {"model"}); !meant.empty()) {
+            return at(entry.line, "unknown key \"" + entry.key + "\"" + meant);
+        }
+    }
+    return at(section.line, owner + " \"" + section.name + "\" needs a model");
+}
+
+std::string unknownPublisher(const Scenario& scenario, const std::string& name)
+{
+    if (isKnownPublisher(scenario, name)) {
+        return {};
+    }
+    std::vector<std::string> names;
+    for (const PublisherSetup& setup : scenario.publishers) {
+        names.push_back(setup.name);
+    }
+    for (const ServerSetup& setup : scenario.servers) {
+        names.push_back(setup.machine.name);
+    }
+    return "unknown publisher \"" + name + "\"" + suggestion(name, names);
 }
 
 bool isTaken(const Scenario& scenario, const PublisherSetup& setup)

@@ -32,6 +32,10 @@ inline constexpr size_t LONGEST_SERIAL = 31;
 
 /// "line 7: ..."
 std::string at(size_t line, const std::string& what);
+/// The same of a file, as editors and terminals open it: "room.udsim:7: ..."
+std::string atLineOf(const std::string& path, const std::string& mistake);
+/// All of a file; nothing, with the reason, when it cannot be read or is larger than `most` bytes.
+std::optional<std::string> readFile(const std::string& path, uint64_t most, std::string& error);
 /// A text that can stand in a setting file and in the registry file, and as a file name.
 bool isPlainText(const std::string& text, size_t longest);
 /// With leading zeros.
@@ -63,7 +67,17 @@ std::string setNumber(const Entry& entry, uint64_t highest, Number& target)
     return {};
 }
 
-/// What is wrong with an entry about the machine itself; empty when it was taken.
-std::string applyToMachine(const Entry& entry, PublisherSetup& setup);
+/// `unknown key "disk-time" of a publisher (did you mean "disc-time"?)`
+std::string unknownKey(const std::string& key, const std::string& owner,
+                       const std::vector<std::string>& known);
+/// That the section, "the publisher", has no model, or the key that was meant to be it; with the line.
+std::string modelIsMissing(const Section& section, const std::string& owner);
+/// `unknown publisher "Stdio A" (did you mean "Studio A"?)`; empty when the room has it.
+std::string unknownPublisher(const Scenario& scenario, const std::string& name);
+
+/// What is wrong with an entry about the machine itself; empty when it was taken. `others` are the keys that
+/// its section may have besides.
+std::string applyToMachine(const Entry& entry, PublisherSetup& setup,
+                           const std::vector<std::string>& others = {});
 
 } // namespace udsim

@@ -4,6 +4,8 @@
 
 #include <arpa/inet.h>
 
+#include "Nearest.h"
+
 namespace udsim {
 
 namespace {
@@ -11,6 +13,10 @@ namespace {
 constexpr uint64_t MOST_SPACE = 1'000'000; // MiB
 constexpr size_t FIRST_ADDRESS = 11;       // 127.0.0.11
 constexpr size_t LONGEST_VERSION = 31;
+// Only what an unknown key may have been meant for.
+const std::vector<std::string> NETWORK_KEYS{
+    "host",       "listening",     "server-mode", "server-version", "web-version", "interface-version",
+    "disc-space", "third-stacker", "drives-used", "retries",        "error-mark",  "known-kind"};
 
 /// An address of the loopback network.
 std::string setHost(const Entry& entry, std::string& target)
@@ -72,9 +78,9 @@ std::string apply(const Entry& entry, ServerSetup& setup)
         return setNumber(entry, UINT32_MAX, setup.retries);
     }
     if (key == "guid" || key == "mode" || key == "usb" || key == "maintenance-box") {
-        return "unknown key \"" + key + "\" of a network publisher";
+        return unknownKey(key, "a network publisher", NETWORK_KEYS);
     }
-    return applyToMachine(entry, setup.machine);
+    return applyToMachine(entry, setup.machine, NETWORK_KEYS);
 }
 
 } // namespace
@@ -83,11 +89,16 @@ std::string addNetwork(const Section& section, Scenario& scenario)
 {
     const Entry* const model = find(section, "model");
     if (model == nullptr) {
-        return at(section.line, "the network publisher \"" + section.name + "\" needs a model");
+        return modelIsMissing(section, "the network publisher");
     }
     const NetworkModel* const known = findNetworkModel(model->value);
     if (known == nullptr) {
-        return at(model->line, "unknown network model \"" + model->value + "\"");
+        std::vector<std::string> names;
+        for (const NetworkModel& one : networkModels()) {
+            names.emplace_back(one.machine.name);
+        }
+        return at(model->line,
+                  "unknown network model \"" + model->value + "\"" + suggestion(model->value, names));
     }
     ServerSetup setup = ServerSetup::ofModel(*known);
     const size_t number = scenario.servers.size() + 1;
@@ -149,7 +160,8 @@ std::string addNetworkFault(const Section& section, Scenario& scenario)
                           ? ""
                           : "unknown network publisher \"" + entry.value + "\"";
         } else if (entry.key != "do") {
-            mistake = "unknown key \"" + entry.key + "\" of a network fault";
+            mistake = unknownKey(entry.key, "a network fault",
+                                 {"do", "method", "path", "publisher", "times", "after"});
         }
         if (!mistake.empty()) {
             return at(entry.line, mistake);

@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
 
 #include "Protocol.h"
+#include "Sockets.h"
 
 namespace udsim {
 
@@ -21,41 +19,7 @@ constexpr std::chrono::milliseconds TICK{50};
 constexpr std::chrono::milliseconds ACCEPT_PAUSE{100};
 constexpr size_t MOST_CONNECTIONS = 512;
 constexpr size_t MOST_INPUT = 16 * REQUEST_SIZE; ///< of one connection, unanswered
-constexpr int BACKLOG = 128;
-
-sockaddr_un addressOf(const char* path)
-{
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, path, sizeof address.sun_path - 1);
-    return address;
-}
-
-bool isServed(int type, const char* path)
-{
-    const sockaddr_un address = addressOf(path);
-    const Descriptor probe(::socket(AF_UNIX, type | SOCK_CLOEXEC, 0));
-    return ::connect(probe.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-}
-
-/// A socket bound to the path, which every user may reach; not open, with the reason, when that fails.
-Descriptor bindSocket(int type, const char* path, std::string& error)
-{
-    if (isServed(type, path)) {
-        error = std::string(path) + ": another service is running";
-        return {};
-    }
-    ::unlink(path); // what a service that did not end in good order left behind
-    const sockaddr_un address = addressOf(path);
-    Descriptor bound(::socket(AF_UNIX, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    if (!bound.isOpen() ||
-        ::bind(bound.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        ::chmod(path, 0666) != 0 || (type == SOCK_STREAM && ::listen(bound.get(), BACKLOG) != 0)) {
-        error = std::string(path) + ": " + std::strerror(errno);
-        return {};
-    }
-    return bound;
-}
+constexpr unsigned RIGHTS = 0666;                ///< of the sockets: every user may reach them
 
 } // namespace
 
@@ -70,7 +34,7 @@ bool Server::start(bool listening, std::string& error)
 {
     const std::lock_guard lock(m_mutex);
     m_wake = Descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    m_agent = bindSocket(SOCK_DGRAM, AGENT_SOCKET, error);
+    m_agent = bindUnix(SOCK_DGRAM, AGENT_SOCKET, RIGHTS, error);
     if (!m_wake.isOpen() || !m_agent.isOpen() || (listening && !openListener(error))) {
         if (m_agent.isOpen()) {
             ::unlink(AGENT_SOCKET);
@@ -85,7 +49,7 @@ bool Server::start(bool listening, std::string& error)
 
 bool Server::openListener(std::string& error)
 {
-    m_listener = bindSocket(SOCK_STREAM, CONTROL_SOCKET, error);
+    m_listener = bindUnix(SOCK_STREAM, CONTROL_SOCKET, RIGHTS, error);
     m_listening = m_listener.isOpen();
     return m_listening;
 }

@@ -12,6 +12,14 @@ constexpr size_t PUBLISHER_NAME_AT = 8;
 constexpr size_t JOB_ID_AT = 137;
 constexpr size_t PARAMETER_AT = 400;
 
+std::string readText(std::string_view frame, size_t at, size_t size)
+{
+    const std::string_view field = frame.substr(at, size);
+    return std::string(field.substr(0, field.find('\0')));
+}
+
+} // namespace
+
 uint64_t readU64(std::string_view frame, size_t at)
 {
     uint64_t value = 0;
@@ -21,19 +29,18 @@ uint64_t readU64(std::string_view frame, size_t at)
     return value;
 }
 
-std::string readText(std::string_view frame, size_t at, size_t size)
-{
-    const std::string_view field = frame.substr(at, size);
-    return std::string(field.substr(0, field.find('\0')));
-}
-
-} // namespace
-
 Request decodeRequest(std::string_view frame)
 {
     assert(frame.size() == REQUEST_SIZE);
     return {readU64(frame, 0), readText(frame, PUBLISHER_NAME_AT, PUBLISHER_NAME_FIELD),
             readText(frame, JOB_ID_AT, JOB_ID_FIELD), readU64(frame, PARAMETER_AT)};
+}
+
+std::string inWords(const Request& request)
+{
+    return "control " + std::to_string(request.control) + " of \"" + request.publisher + "\"" +
+           (request.job.empty() ? "" : ", job \"" + request.job + "\"") +
+           (request.parameter == 0 ? "" : ", parameter " + std::to_string(request.parameter));
 }
 
 std::string encodeReply(const Reply& reply)

@@ -26,9 +26,13 @@ struct Reply
     std::string payload;
 };
 
+/// The little-endian number at a place; its eight bytes have to be there.
+uint64_t readU64(std::string_view frame, size_t at);
 /// Reads a frame of exactly `REQUEST_SIZE` bytes. A text that fills its field without a NUL ends with the
 /// field.
 Request decodeRequest(std::string_view frame);
+/// `control 3 of "R", job "J"`, with all that a request says.
+std::string inWords(const Request& request);
 /// The header, and the payload behind it.
 std::string encodeReply(const Reply& reply);
 

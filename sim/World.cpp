@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Nearest.h"
 #include "Protocol.h"
 
 namespace udsim {
@@ -13,13 +14,13 @@ constexpr uint64_t STEP = 50;
 /// A machine's state as a person would put it; progress of a disc is no change.
 std::string describe(const Publisher& publisher)
 {
-    std::string text = publisher.state().shownName + ": ";
+    std::string text;
     if (!publisher.connected()) {
-        text += "not connected";
+        text = "not connected";
     } else if (publisher.hindrance() != 0) {
-        text += "error " + std::to_string(publisher.hindrance());
+        text = "error " + std::to_string(publisher.hindrance());
     } else {
-        text += "ready";
+        text = "ready";
     }
     size_t waiting = 0;
     for (const Job& job : publisher.jobs()) {
@@ -114,19 +115,18 @@ void World::fireDueEvents()
 
 bool World::apply(const std::string& publisher, const Command& command)
 {
+    if (!refusalOf(publisher, command).empty()) {
+        return false;
+    }
     if (command.isForService()) {
         m_serviceOn = command.number != 0;
-        return publisher.empty();
+        return true;
     }
     if (command.kind == Command::Kind::server) {
-        PublisherServer* const server = serverByName(publisher);
-        if (server != nullptr) {
-            server->setListening(command.number != 0);
-        }
-        return server != nullptr;
+        serverByName(publisher)->setListening(command.number != 0);
+        return true;
     }
-    Publisher* const target = byName(publisher);
-    return target != nullptr && befall(*target, command);
+    return befall(*byName(publisher), command);
 }
 
 Publisher* World::byName(const std::string& name)
@@ -173,6 +173,53 @@ std::string World::clock() const
     return std::to_string(seconds / 60) + ":" + (rest.size() < 2 ? "0" : "") + rest;
 }
 
+std::vector<MachineState> World::states() const
+{
+    std::vector<MachineState> states;
+    for (const Publisher& publisher : m_publishers) {
+        states.push_back({publisher.state().name, publisher.state().shownName, describe(publisher)});
+    }
+    for (const PublisherServer& server : m_servers) {
+        const Publisher& machine = server.machine();
+        states.push_back({machine.state().name, machine.state().shownName,
+                          server.listening() ? describe(machine) : "no server"});
+    }
+    return states;
+}
+
+std::vector<JobProgress> World::progress() const
+{
+    std::vector<JobProgress> jobs;
+    const auto add = [&jobs](const Publisher& machine) {
+        if (auto progress = progressOf(machine)) {
+            jobs.push_back(std::move(*progress));
+        }
+    };
+    std::for_each(m_publishers.begin(), m_publishers.end(), add);
+    for (const PublisherServer& server : m_servers) {
+        add(server.machine());
+    }
+    return jobs;
+}
+
+std::string World::refusalOf(const std::string& publisher, const Command& command) const
+{
+    if (command.isForService()) {
+        return publisher.empty() ? "" : "the service takes no publisher";
+    }
+    std::vector<std::string> names;
+    for (const MachineState& state : states()) {
+        names.push_back(state.name);
+    }
+    const auto found = std::find(names.begin(), names.end(), publisher);
+    if (found == names.end()) {
+        return "no such publisher \"" + publisher + "\"" + suggestion(publisher, names) +
+               "; there are: " + quotedList(names);
+    }
+    const bool hasServer = static_cast<size_t>(found - names.begin()) >= m_publishers.size();
+    return command.kind == Command::Kind::server && !hasServer ? "only a network publisher has a server" : "";
+}
+
 std::vector<std::string> World::takeNotes()
 {
     std::vector<std::string> notes;
@@ -181,22 +228,17 @@ std::vector<std::string> World::takeNotes()
         m_notedService = m_serviceOn;
         notes.push_back(prefix + (m_serviceOn ? "the service listens again" : "the service is stopped"));
     }
-    std::vector<std::string> texts;
-    for (const Publisher& publisher : m_publishers) {
-        texts.push_back(describe(publisher));
-    }
     for (PublisherServer& server : m_servers) {
-        texts.push_back(server.listening() ? describe(server.machine())
-                                           : server.machine().state().shownName + ": no server");
         const std::string who = prefix + server.machine().state().shownName + ": ";
         for (const std::string& note : server.takeNotes()) {
             notes.push_back(who + note);
         }
     }
-    for (size_t i = 0; i < texts.size(); ++i) {
-        if (texts[i] != m_noted[i]) {
-            notes.push_back(prefix + texts[i]);
-            m_noted[i] = std::move(texts[i]);
+    const std::vector<MachineState> now = states();
+    for (size_t i = 0; i < now.size(); ++i) {
+        if (std::string text = now[i].shownName + ": " + now[i].state; text != m_noted[i]) {
+            notes.push_back(prefix + text);
+            m_noted[i] = std::move(text);
         }
     }
     return notes;

@@ -6,9 +6,18 @@
 #include <string>
 #include <vector>
 
+#include "Progress.h"
 #include "Scenario.h"
 
 namespace udsim {
+
+/// How a machine stands, as a person would put it.
+struct MachineState
+{
+    std::string name;      ///< as the scenario calls it
+    std::string shownName; ///< as users see it
+    std::string state;     ///< "ready, 2 waiting"
+};
 
 class World
 {
@@ -18,9 +27,15 @@ public:
     /// Lets time pass in steps of 50 ms; a rest waits for the next call. Events that are due befall their
     /// machines.
     void advance(uint64_t milliseconds);
-    /// Befalls the named machine, or the service. False when there is none of that name, or its job list is
-    /// full.
+    /// Befalls the named machine, or the service. False when it is refused, or the job list is full.
     bool apply(const std::string& publisher, const Command& command);
+    /// Why the command does not go with this publisher: there is none of that name, or it has no server.
+    /// Empty when it does.
+    std::string refusalOf(const std::string& publisher, const Command& command) const;
+    /// Of every machine: the publishers, and then the servers.
+    std::vector<MachineState> states() const;
+    /// The jobs under way, one a machine at most.
+    std::vector<JobProgress> progress() const;
 
     std::vector<Publisher>& publishers()
     {

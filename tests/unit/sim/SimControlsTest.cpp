@@ -509,11 +509,11 @@ TEST_F(SimControls, RequestsAreRecorded)
 
 TEST_F(SimControls, TheLongestListArrivesInOnePiece)
 {
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 33; ++i) {
         EXPECT_NE(m_open.room.addJob("Small"), "");
     }
     EXPECT_EQ(m_open.room.addJob("Small"), "") << "the list is full";
     for (int i = 0; i < 50; ++i) {
-        EXPECT_EQ(ask(4, "small", "", 1).length, 40 * 1088U);
+        EXPECT_EQ(ask(4, "small", "", 1).length, 33 * 1088U);
     }
 }

@@ -230,9 +230,9 @@ TEST(SimJobFile, WhereANozzleCheckMayEject)
 
 TEST(SimJobFile, AFullListTakesNoJob)
 {
-    OpenRoom open(std::string(PUBLISHER) + "jobs = 40\n");
+    OpenRoom open(std::string(PUBLISHER) + "jobs = 33\n");
     EXPECT_EQ(refusalIn(open, NOZZLE_CHECK), "the publisher's job list is full");
-    EXPECT_EQ(open.room.jobs("A").size(), 40U);
+    EXPECT_EQ(open.room.jobs("A").size(), 33U);
 }
 
 TEST(SimJobFile, WhatIsWhole)

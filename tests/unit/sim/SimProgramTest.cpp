@@ -1,6 +1,5 @@
 // The program udsim, from outside, and the scenario of the demo.
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
 #include <fstream>
 #include <set>
@@ -8,13 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
+#include "ProgramProcess.h"
 #include "RawClient.h"
 #include "World.h"
 
@@ -22,78 +17,10 @@ namespace {
 
 constexpr char SCENARIO[] = "/tmp/room.udsim";
 
-/// udsim with these arguments; what it prints on both channels comes through a pipe.
-class Udsim
+class Udsim : public ProgramProcess
 {
 public:
-    explicit Udsim(std::vector<std::string> arguments)
-    {
-        int ends[2] = {-1, -1};
-        EXPECT_EQ(::pipe2(ends, O_CLOEXEC), 0);
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
-        posix_spawn_file_actions_adddup2(&actions, ends[1], STDERR_FILENO);
-        arguments.insert(arguments.begin(), "udsim");
-        std::vector<char*> argv;
-        for (std::string& argument : arguments) {
-            argv.push_back(argument.data());
-        }
-        argv.push_back(nullptr);
-        EXPECT_EQ(::posix_spawn(&m_pid, UDSIM, &actions, nullptr, argv.data(), environ), 0);
-        posix_spawn_file_actions_destroy(&actions);
-        ::close(ends[1]);
-        m_output = ends[0];
-    }
-    Udsim(const Udsim&) = delete;
-    Udsim& operator=(const Udsim&) = delete;
-    ~Udsim()
-    {
-        if (m_pid > 0) {
-            ::kill(m_pid, SIGKILL);
-            ::waitpid(m_pid, nullptr, 0);
-        }
-        ::close(m_output);
-    }
-
-    /// Reads until the text has come; everything up to then. The end of the output, too, ends it.
-    std::string readUntil(const std::string& text)
-    {
-        while (text.empty() || m_read.find(text) == std::string::npos) {
-            pollfd entry{m_output, POLLIN, 0};
-            char piece[4096];
-            if (::poll(&entry, 1, RawClient::PATIENCE) <= 0) {
-                ADD_FAILURE() << "waited in vain for \"" << text << "\" behind: " << m_read;
-                break;
-            }
-            const ssize_t count = ::read(m_output, piece, sizeof piece);
-            if (count <= 0) {
-                break;
-            }
-            m_read.append(piece, static_cast<size_t>(count));
-        }
-        return m_read;
-    }
-    std::string readToTheEnd()
-    {
-        return readUntil("");
-    }
-    void signal(int number) const
-    {
-        ::kill(m_pid, number);
-    }
-    /// The exit code, or 1000 and the signal that ended it.
-    int wait()
-    {
-        int status = 0;
-        ::waitpid(std::exchange(m_pid, -1), &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
-    }
-
-private:
-    pid_t m_pid = -1;
-    int m_output = -1;
-    std::string m_read;
+    explicit Udsim(std::vector<std::string> arguments) : ProgramProcess(UDSIM, std::move(arguments)) {}
 };
 
 void putScenario(const std::string& text)
@@ -106,39 +33,105 @@ void putScenario(const std::string& text)
 TEST(SimProgram, Help)
 {
     Udsim udsim({"--help"});
-    EXPECT_EQ(udsim.readToTheEnd().find("usage: udsim SCENARIO [--speed N] [--requests]\n"), 0U);
+    EXPECT_EQ(udsim.readToTheEnd().find("usage: udsim SCENARIO [--speed N] [--requests] [--control PATH]\n"),
+              0U);
+    EXPECT_EQ(udsim.wait(), 0);
+    const std::string help = runProgram(UDSIM, {"--help"}).output;
+    for (const std::vector<std::string>& arguments : std::initializer_list<std::vector<std::string>>{
+             {"-h"}, {"tell", "--help"}, {"record", "--help"}, {"replay", "--help"}, {"--check", "--help"}}) {
+        const Ended ended = runProgram(UDSIM, arguments);
+        EXPECT_EQ(ended.output, help);
+        EXPECT_EQ(ended.status, 0) << arguments.front();
+    }
+}
+
+TEST(SimProgram, Version)
+{
+    Udsim udsim({"--version"});
+    EXPECT_EQ(udsim.readToTheEnd(), "udsim " PRODUCT_VERSION "\n");
     EXPECT_EQ(udsim.wait(), 0);
 }
 
 TEST(SimProgram, WrongArguments)
 {
     putScenario("");
-    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-             {},
-             {SCENARIO, SCENARIO},
-             {"--fast"},
-             {SCENARIO, "--speed"},
-             {SCENARIO, "--speed", "0"},
-             {SCENARIO, "--speed", "-1"},
-             {SCENARIO, "--speed", "1001"},
-             {SCENARIO, "--speed", "2x"},
-             {SCENARIO, "--speed", "nan"},
-         }) {
-        Udsim udsim(arguments);
-        EXPECT_EQ(udsim.readToTheEnd().find("usage: udsim "), 0U);
-        EXPECT_EQ(udsim.wait(), 64);
+    const std::pair<std::vector<std::string>, std::string> table[] = {
+        {{}, "which scenario?"},
+        {{SCENARIO, SCENARIO}, "one scenario at a time"},
+        {{"--fast"}, "unknown option \"--fast\""},
+        {{SCENARIO, "--spede", "2"}, "unknown option \"--spede\" (did you mean \"--speed\"?)"},
+        {{SCENARIO, "--speed"}, "\"--speed\" needs a value"},
+        {{SCENARIO, "--speed", "0"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--speed", "-1"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--speed", "1001"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--speed", "2x"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--speed", "nan"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{"--check"}, "--check takes one scenario"},
+        {{"--check", SCENARIO, SCENARIO}, "--check takes one scenario"},
+        {{"--help", "me"}, "--help stands alone"},
+        {{"--version", "1"}, "--version stands alone"},
+        {{"tell"}, "tell needs a publisher and a command, such as: udsim tell \"Studio A\" offline"},
+        {{"tell", "A"}, "tell needs a publisher and a command, such as: udsim tell \"Studio A\" offline"},
+        {{"tell", "--list", "A"}, "\"--list\" takes no publisher and no command"},
+        {{"tell", "A\tB", "online"}, "a publisher and a command stand on one line"},
+        {{"tell", "A", "add-job X\nY"}, "a publisher and a command stand on one line"},
+        {{"tel", "A", "offline"}, "\"tel\" is neither a scenario nor a command (did you mean \"tell\"?)"},
+        {{"recrod", "--service", "x"},
+         "\"recrod\" is neither a scenario nor a command (did you mean \"record\"?)"},
+        {{"help"}, "\"help\" is neither a scenario nor a command (did you mean \"--help\"?)"},
+        {{"--hlep"}, "\"--hlep\" is neither a scenario nor a command (did you mean \"--help\"?)"},
+        {{"record", "--server", "127.0.0.1", "x"},
+         "the server itself is at 127.0.0.1; \"--listen\" needs another address"},
+        {{"record", "--server", "h:8080", "--listen", "h:8080", "x"},
+         "the server itself is at h:8080; \"--listen\" needs another address"},
+        {{"record"}, "record needs either --service or --server HOST"},
+        {{"record", "x"}, "record needs either --service or --server HOST"},
+        {{"record", "--service", "--server", "h", "x"}, "record needs either --service or --server HOST"},
+        {{"record", "--service"}, "record needs one file to write"},
+        {{"record", "--service", "--listen", "127.0.0.1", "x"}, "\"--listen\" goes with --server only"},
+        {{"record", "--server", "h:0", "x"}, "\"h:0\" is no HOST[:PORT]"},
+        {{"record", "--server", "h", "--listen", ":80", "x"}, "\":80\" is no ADDRESS[:PORT]"},
+        {{"replay"}, "replay needs one recording"},
+        {{"replay", "--listen", "a:b", "x"}, "\"a:b\" is no ADDRESS[:PORT]"},
+    };
+    for (const auto& [arguments, expected] : table) {
+        const Ended ended = runProgram(UDSIM, arguments);
+        EXPECT_EQ(ended.output, "udsim: " + expected + "\nTry \"udsim --help\".\n");
+        EXPECT_EQ(ended.status, 64) << expected;
     }
 }
 
 TEST(SimProgram, ABadScenario)
 {
     putScenario("[publisher A]\nmodel = RT-1\n");
-    Udsim udsim({SCENARIO});
-    EXPECT_EQ(udsim.readToTheEnd(), "udsim: /tmp/room.udsim: line 2: unknown model \"RT-1\"\n");
-    EXPECT_EQ(udsim.wait(), 1);
-    Udsim without({"/tmp/none.udsim"});
-    EXPECT_EQ(without.readToTheEnd(), "udsim: /tmp/none.udsim: No such file or directory\n");
-    EXPECT_EQ(without.wait(), 1);
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{SCENARIO}, std::vector<std::string>{"--check", SCENARIO}}) {
+        const Ended ended = runProgram(UDSIM, arguments);
+        EXPECT_EQ(ended.output, "udsim: /tmp/room.udsim:2: unknown model \"RT-1\"\n");
+        EXPECT_EQ(ended.status, 1);
+    }
+    const Ended without = runProgram(UDSIM, {"/tmp/none.udsim"});
+    EXPECT_EQ(without.output, "udsim: /tmp/none.udsim: No such file or directory\n");
+    EXPECT_EQ(without.status, 1);
+}
+
+TEST(SimProgram, ChecksAScenarioAndRunsNothing)
+{
+    putScenario(
+        "[publisher A]\nmodel = RT-30\n[network B]\nmodel = RT-300N\n"
+        "[event]\nat = 1s\npublisher = A\ndo = offline\n[fault]\ndo = stall\n[network-fault]\ndo = stall\n");
+    const Ended ended = runProgram(UDSIM, {"--check", SCENARIO});
+    EXPECT_EQ(ended.output, "/tmp/room.udsim: 1 local and 1 network publishers, 1 events, 2 faults\n");
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_FALSE(std::ifstream("/opt/arven/Ulmar Disc Maker/conf/registry.txt").is_open());
+}
+
+TEST(SimProgram, ChecksEveryScenarioOfTheProject)
+{
+    for (const char* const name : {"demo.udsim", "first.udsim", "network.udsim"}) {
+        const Ended ended = runProgram(UDSIM, {"--check", std::string(SCENARIOS) + "/" + name});
+        EXPECT_EQ(ended.status, 0) << ended.output;
+    }
 }
 
 TEST(SimProgram, RunsUntilItIsEnded)
@@ -216,7 +209,8 @@ TEST(SimDemo, AMachineOfEachFamilyIsIdle)
     world.advance(16'000);
     for (int second = 16; second < 1800; ++second) {
         for (const auto& [name, model] :
-             {std::pair("Studio 10", "RT-300III DVD"), std::pair("Archive", "RT-30II BDXL")}) {
+             {std::pair("Studio 10", "RT-300III DVD"), std::pair("Archive", "RT-30II BDXL"),
+              std::pair("Library", "RT-300NII BD-XL")}) {
             const udsim::Publisher& machine = *world.byName(name);
             ASSERT_STREQ(machine.model().name, model);
             ASSERT_EQ(machine.hindrance(), 0U) << name << " at " << second;

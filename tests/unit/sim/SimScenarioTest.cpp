@@ -254,7 +254,7 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
         {machine + "connected", "line 3: neither a section nor \"key = value\""},
         {machine + "model = RT-30", "line 3: \"model\" stands twice"},
         {"[publisher A]\n", "line 1: the publisher \"A\" needs a model"},
-        {"[publisher A]\nmodel = RT-31\n", "line 2: unknown model \"RT-31\""},
+        {"[publisher A]\nmodel = RT-31\n", "line 2: unknown model \"RT-31\" (did you mean \"RT-30\"?)"},
         {machine + "colour = red", "line 3: unknown key \"colour\" of a publisher"},
         {machine + "connected = maybe", "line 3: \"connected\" needs yes or no"},
         {machine + "registered = 1", "line 3: \"registered\" needs yes or no"},
@@ -270,8 +270,8 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
         {machine + "stacker5 = 8",
          "line 3: \"stacker\" needs a stacker from 1 to 4 and a number of discs up to 100"},
         {machine + "stacker1.media = vinyl", "line 3: \"vinyl\" is no disc type"},
-        {machine + "jobs = 41", "line 3: \"jobs\" needs a number up to 40"},
-        {machine + "jobs = 40\njob = X", "line 1: more than 40 jobs"},
+        {machine + "jobs = 34", "line 3: \"jobs\" needs a number up to 33"},
+        {machine + "jobs = 33\njob = X", "line 1: more than 33 jobs"},
         {machine + "job = X, copies=0", "line 3: \"copies=0\" is no part of a job (a name, copies=1 to 1000, "
                                         "type=write, print or write+print)"},
         {machine + "name = a;b",
@@ -293,6 +293,22 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
         {machine + "[event]\nat = 1s\npublisher = A\ndo = service on",
          "line 3: an event needs a publisher, unless it concerns the service itself"},
         {"[fault]\ncontrol = 22", "line 1: a fault needs \"do\""},
+        {machine + "disk-time = 8s",
+         "line 3: unknown key \"disk-time\" of a publisher (did you mean \"disc-time\"?)"},
+        {machine + "stacker1.meda = CD-R",
+         "line 3: unknown key \"stacker1.meda\" of a publisher (did you mean \"stacker1.media\"?)"},
+        {machine + "box = 8",
+         "line 3: unknown key \"box\" of a publisher (did you mean \"maintenance-box\"?)"},
+        {"[publisher Studio A]\nmodel = RT-30\n[event]\npublisher = Stdio A",
+         "line 4: unknown publisher \"Stdio A\" (did you mean \"Studio A\"?)"},
+        {machine + "[event]\ndo = Offline",
+         "line 4: unknown command \"Offline\" (did you mean \"offline\"?)"},
+        {machine + "[event]\ndo = service", "line 4: \"service\" needs on or off"},
+        {machine + "[event]\nevry = 3s",
+         "line 4: unknown key \"evry\" of an event (did you mean \"every\"?)"},
+        {"[fault]\ndo = stall\ncontorl = 3",
+         "line 3: unknown key \"contorl\" of a fault (did you mean \"control\"?)"},
+        {"[fault]\ndo = short", "line 2: unknown fault \"short\" (did you mean \"short-header\"?)"},
         {"[fault]\ndo = sing", "line 2: unknown fault \"sing\""},
         {"[fault]\ndo = result", "line 2: the fault \"result\" needs a number up to 3600000"},
         {"[fault]\ndo = stall 5", "line 2: the fault \"stall\" takes no argument"},
@@ -310,12 +326,45 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
     }
 }
 
+TEST(SimScenario, EveryKeyThatIsSuggestedExists)
+{
+    // A key is offered for itself with a letter too many; the key itself has to be known then.
+    const std::pair<std::string, std::string> sections[] = {
+        {"[publisher A]\nmodel = RT-30\n", "name guid id serial registered connected mode error disc-time "
+                                           "cleaning-time jobs job stacker1 stacker4.media ink.cyan "
+                                           "ink.light-magenta ink.black maintenance-box print-count usb"},
+        {"[network A]\nmodel = RT-300N\n",
+         "host listening server-mode server-version web-version interface-version disc-space third-stacker "
+         "drives-used retries error-mark known-kind name connected disc-time stacker2.media ink.yellow"},
+        {"[event]\n", "do at every publisher"},
+        {"[fault]\ndo = stall\n", "control publisher times"},
+        {"[network-fault]\ndo = stall\n", "method path publisher times after"},
+    };
+    for (const auto& [start, keys] : sections) {
+        for (const std::string& key : udsim::split(keys, ' ')) {
+            std::string error;
+            Scenario::parse(start + key + " = \x01", error);
+            EXPECT_EQ(error.find("unknown key"), std::string::npos) << key << ": " << error;
+            // A shorter one forgives no slip, or is near another; supplies say by themselves what they need.
+            if (key.size() >= 6 && !key.starts_with("stacker") && !key.starts_with("ink.")) {
+                EXPECT_FALSE(Scenario::parse(start + key + "x = 1", error));
+                EXPECT_NE(error.find("unknown key \"" + key + "x\""), std::string::npos) << error;
+                EXPECT_NE(error.find("(did you mean \"" + key + "\"?)"), std::string::npos) << error;
+            }
+        }
+    }
+}
+
 TEST(SimScenario, Files)
 {
     std::string error;
     EXPECT_FALSE(Scenario::load("/tmp/none.udsim", error));
     EXPECT_EQ(error, "/tmp/none.udsim: No such file or directory");
     EXPECT_FALSE(Scenario::load("/tmp", error));
+    EXPECT_EQ(error, "/tmp: Is a directory");
+    std::ofstream("/tmp/bad.udsim") << "\n[publisher A]\nmodle = RT-30\n";
+    EXPECT_FALSE(Scenario::load("/tmp/bad.udsim", error));
+    EXPECT_EQ(error, "/tmp/bad.udsim:3: unknown key \"modle\" (did you mean \"model\"?)");
     std::ofstream("/tmp/one.udsim") << "[publisher A]\nmodel = RT-30";
     EXPECT_TRUE(Scenario::load("/tmp/one.udsim", error)) << error;
     std::ofstream("/tmp/empty.udsim").flush();

@@ -1,0 +1,144 @@
+#include "Control.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include <sys/socket.h>
+
+#include "Sockets.h"
+
+namespace udsim {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr unsigned RIGHTS = 0600; ///< whoever runs the room
+constexpr size_t LONGEST_LINE = 4096;
+constexpr size_t LONGEST_ANSWER = 1U << 20;
+constexpr std::chrono::seconds LINE_TIME{5};
+constexpr std::chrono::seconds ANSWER_TIME{10};
+constexpr char LIST[] = "list";
+constexpr char TELL[] = "tell\t";
+constexpr char DONE[] = "done\n";
+constexpr char REFUSED[] = "refused\n";
+
+/// Reads until `isWhole`, the end, the time or the size; whether it is whole.
+template <class IsWhole>
+bool receiveWhole(int socket, std::chrono::milliseconds time, size_t longest, std::string& bytes,
+                  IsWhole&& isWhole)
+{
+    const Clock::time_point end = Clock::now() + time;
+    while (!isWhole(bytes) && bytes.size() <= longest) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+        if (left <= 0 || !receiveMore(socket, static_cast<int>(left), bytes)) {
+            break;
+        }
+    }
+    return isWhole(bytes);
+}
+
+} // namespace
+
+std::string Order::line() const
+{
+    return list ? LIST : TELL + publisher + "\t" + command;
+}
+
+std::optional<Order> Order::parse(const std::string& line)
+{
+    if (line == LIST) {
+        return Order{true, {}, {}};
+    }
+    const size_t name = sizeof TELL - 1;
+    const size_t tab = line.starts_with(TELL) ? line.find('\t', name) : std::string::npos;
+    if (tab == std::string::npos) {
+        return std::nullopt;
+    }
+    return Order{false, line.substr(name, tab - name), line.substr(tab + 1)};
+}
+
+Answer carryOut(Room& room, const Order& order)
+{
+    if (!order.list) {
+        Answer answer;
+        answer.done = room.tell(order.publisher, order.command, &answer.text);
+        return answer;
+    }
+    const std::vector<MachineState> states = room.states();
+    size_t widest = 0;
+    for (const MachineState& one : states) {
+        widest = std::max(widest, columnsOf(one.name));
+    }
+    Answer answer{true, {}};
+    for (const MachineState& one : states) {
+        answer.text += fit(one.name, widest) + "  " + one.state + "\n";
+    }
+    return answer;
+}
+
+ControlServer::ControlServer(Room& room)
+    : m_room(room), m_conversations([this](int socket, unsigned) { serve(socket); })
+{
+}
+
+ControlServer::~ControlServer()
+{
+    stop();
+}
+
+bool ControlServer::start(const std::string& path, std::string& error)
+{
+    if (isServed(SOCK_STREAM, path)) {
+        error = path + ": another udsim takes commands there";
+        return false;
+    }
+    Descriptor listener = bindUnix(SOCK_STREAM, path, RIGHTS, error);
+    if (!listener.isOpen()) {
+        return false;
+    }
+    m_path = path;
+    return m_conversations.start(std::move(listener), error);
+}
+
+void ControlServer::stop()
+{
+    m_conversations.stop();
+    if (!m_path.empty()) {
+        ::unlink(m_path.c_str());
+        m_path.clear();
+    }
+}
+
+void ControlServer::serve(int socket)
+{
+    std::string line;
+    const auto hasEnd = [](const std::string& bytes) { return bytes.find('\n') != std::string::npos; };
+    if (!receiveWhole(socket, LINE_TIME, LONGEST_LINE, line, hasEnd)) {
+        return;
+    }
+    const auto order = Order::parse(line.substr(0, line.find('\n')));
+    const Answer answer = order ? carryOut(m_room, *order) : Answer{false, "not understood"};
+    sendAll(socket, (answer.done ? DONE : REFUSED) + answer.text);
+}
+
+std::optional<Answer> sendOrder(const std::string& path, const Order& order, std::string& error)
+{
+    const Descriptor socket = connectUnix(path, error);
+    if (!socket.isOpen()) {
+        error = "no udsim takes commands at " + error + " (--control names another place)";
+        return std::nullopt;
+    }
+    sendAll(socket.get(), order.line() + "\n");
+    std::string answer;
+    receiveWhole(socket.get(), ANSWER_TIME, LONGEST_ANSWER, answer, [](const std::string&) { return false; });
+    for (const auto& [word, done] : {std::pair(DONE, true), std::pair(REFUSED, false)}) {
+        if (answer.starts_with(word)) {
+            return Answer{done, answer.substr(std::char_traits<char>::length(word))};
+        }
+    }
+    error = "the udsim at " + path + " does not answer";
+    return std::nullopt;
+}
+
+} // namespace udsim

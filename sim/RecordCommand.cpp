@@ -1,0 +1,223 @@
+// udsim record and udsim replay: sessions with a real service or server, kept and played back.
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "Protocol.h"
+#include "Relay.h"
+#include "Replay.h"
+#include "ServletNumbers.h"
+#include "Sockets.h"
+#include "Subcommands.h"
+
+namespace udsim {
+
+namespace {
+
+constexpr unsigned RIGHTS = 0666;
+constexpr char DEFAULT_LISTEN[] = "127.0.0.1";
+
+/// Stands in the place of the service's socket, which is reached under another name meanwhile.
+class ServicePlace
+{
+public:
+    ServicePlace() = default;
+    ServicePlace(const ServicePlace&) = delete;
+    ServicePlace& operator=(const ServicePlace&) = delete;
+    ~ServicePlace()
+    {
+        leave();
+    }
+
+    /// A socket in the service's place; not open, with the reason, when it cannot be taken.
+    Descriptor take(std::string& error)
+    {
+        if (isServed(SOCK_STREAM, CONTROL_SOCKET)) {
+            if (::rename(CONTROL_SOCKET, aside().c_str()) != 0) {
+                error = std::string(CONTROL_SOCKET) + ": " + std::strerror(errno);
+                return {};
+            }
+        } else if (!isServed(SOCK_STREAM, aside())) { // a recorder that was killed leaves it there
+            error = "no service listens at " + std::string(CONTROL_SOCKET);
+            return {};
+        }
+        m_taken = true;
+        Descriptor bound = bindUnix(SOCK_STREAM, CONTROL_SOCKET, RIGHTS, error);
+        m_ours = whatIsThere();
+        return bound;
+    }
+
+    /// Gives the place back, unless a service that was started anew has taken it.
+    void leave()
+    {
+        if (!m_taken) {
+            return;
+        }
+        m_taken = false;
+        if (const auto there = whatIsThere(); there && there != m_ours) {
+            if (!isServed(SOCK_STREAM, aside())) {
+                ::unlink(aside().c_str());
+            }
+            return;
+        }
+        ::unlink(CONTROL_SOCKET);
+        if (!isServed(SOCK_STREAM, aside())) {
+            ::unlink(aside().c_str()); // the service has ended meanwhile
+        } else if (::rename(aside().c_str(), CONTROL_SOCKET) != 0) {
+            failure("the service's socket stays at " + aside() + ": " + std::strerror(errno));
+        }
+    }
+
+    static std::string aside()
+    {
+        return std::string(CONTROL_SOCKET) + ".recorded";
+    }
+
+private:
+    using File = std::pair<dev_t, ino_t>;
+
+    /// Which file stands in the place.
+    static std::optional<File> whatIsThere()
+    {
+        struct stat found
+        {
+        };
+        return ::lstat(CONTROL_SOCKET, &found) == 0 ? std::optional(File(found.st_dev, found.st_ino))
+                                                    : std::nullopt;
+    }
+
+    bool m_taken = false;
+    std::optional<File> m_ours;
+};
+
+/// What a recording is made of.
+struct Source
+{
+    std::optional<Address> server; ///< left out: the service
+    Address listen;
+};
+
+std::string mistakeIn(const CommandLine& line, Source& source)
+{
+    const auto server = line.value("--server");
+    if (line.has("--service") == server.has_value()) {
+        return "record needs either --service or --server HOST";
+    }
+    if (line.has("--service") && line.value("--listen")) {
+        return "\"--listen\" goes with --server only";
+    }
+    const std::string listen = line.value("--listen").value_or(DEFAULT_LISTEN);
+    const auto address = Address::parse(listen, HTTP_PORT);
+    if (!address) {
+        return "\"" + listen + "\" is no ADDRESS[:PORT]";
+    }
+    source.listen = *address;
+    source.server = server ? Address::parse(*server, HTTP_PORT) : std::nullopt;
+    if (server && !source.server) {
+        return "\"" + *server + "\" is no HOST[:PORT]";
+    }
+    return source.server && source.server->text() == source.listen.text()
+               ? "the server itself is at " + listen + "; \"--listen\" needs another address"
+               : "";
+}
+
+void note(const std::string& text)
+{
+    printLine("udsim: " + text);
+}
+
+void waitForASignal(const sigset_t& signals)
+{
+    int received = 0;
+    sigwait(&signals, &received);
+}
+
+} // namespace
+
+int recordSession(const Arguments& arguments)
+{
+    const CommandLine line(arguments, {"--server", "--listen"}, {"--service"});
+    Source source;
+    std::string error = line.mistake().empty() ? mistakeIn(line, source) : line.mistake();
+    if (error.empty() && line.words().size() != 1) {
+        error = "record needs one file to write";
+    }
+    if (!error.empty()) {
+        return wrongUsage(error);
+    }
+    const sigset_t signals = holdSignals();
+    const std::string& path = line.words().front();
+    ServicePlace place;
+    Descriptor listener = source.server ? listenTcp(source.listen, error) : place.take(error);
+    Recorder recorder(note);
+    if (!listener.isOpen() ||
+        !recorder.open(path, source.server ? Recording::Of::server : Recording::Of::service, error)) {
+        return failure(error);
+    }
+    Relay relay(
+        recorder,
+        [&source](int client, std::string& reason) {
+            return source.server ? connectTcp(*source.server, client, reason)
+                                 : connectUnix(ServicePlace::aside(), reason);
+        },
+        note);
+    if (!relay.start(std::move(listener), error)) {
+        return failure(error);
+    }
+    note("recording " +
+         (source.server ? source.server->text() + " for clients of " + source.listen.text() : "the service") +
+         " in " + path + "; Ctrl-C ends it");
+    waitForASignal(signals);
+    relay.stop();
+    place.leave();
+    if (!recorder.isComplete()) {
+        return failure("recorded in " + path + ", but not to the end");
+    }
+    note("recorded in " + path);
+    return EXIT_DONE;
+}
+
+int replaySession(const Arguments& arguments)
+{
+    const CommandLine line(arguments, {"--listen"}, {});
+    const std::string listen = line.value("--listen").value_or(DEFAULT_LISTEN);
+    const auto address = Address::parse(listen, HTTP_PORT);
+    if (!line.mistake().empty() || !address || line.words().size() != 1) {
+        return wrongUsage(!line.mistake().empty() ? line.mistake()
+                          : !address              ? "\"" + listen + "\" is no ADDRESS[:PORT]"
+                                                  : "replay needs one recording");
+    }
+    std::string error;
+    const auto recording = Recording::load(line.words().front(), error);
+    if (!recording) {
+        return failure(error);
+    }
+    if (!recording->remark.empty()) {
+        note(recording->remark);
+    }
+    const bool ofServer = recording->of == Recording::Of::server;
+    if (!ofServer && line.value("--listen")) {
+        return wrongUsage("\"--listen\" is for recordings of a server; this one is of a service");
+    }
+    const sigset_t signals = holdSignals();
+    Descriptor listener =
+        ofServer ? listenTcp(*address, error) : bindUnix(SOCK_STREAM, CONTROL_SOCKET, RIGHTS, error);
+    Replay replay(*recording, printLine);
+    if (!listener.isOpen() || !replay.start(std::move(listener), error)) {
+        return failure(error);
+    }
+    note("replaying at " + (ofServer ? address->text() : std::string(CONTROL_SOCKET)) + "; Ctrl-C ends it");
+    waitForASignal(signals);
+    replay.stop();
+    if (!ofServer) {
+        ::unlink(CONTROL_SOCKET);
+    }
+    note(replay.summary());
+    return EXIT_DONE;
+}
+
+} // namespace udsim

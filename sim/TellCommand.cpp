@@ -1,0 +1,62 @@
+// udsim tell: commands for a room that runs.
+#include <algorithm>
+#include <cstdio>
+
+#include "Control.h"
+#include "Subcommands.h"
+
+namespace udsim {
+
+namespace {
+
+/// "service off" concerns no publisher; all others do.
+Order orderOf(const Arguments& words)
+{
+    const bool forService =
+        words.size() == 2 && words[0] == "service" && (words[1] == "on" || words[1] == "off");
+    Order order;
+    order.publisher = forService ? "" : words.front();
+    for (size_t i = forService ? 0 : 1; i < words.size(); ++i) {
+        order.command += (order.command.empty() ? "" : " ") + words[i];
+    }
+    return order;
+}
+
+bool fitsALine(const std::string& word)
+{
+    return word.find_first_of("\t\n") == std::string::npos;
+}
+
+} // namespace
+
+int tellRoom(const Arguments& arguments)
+{
+    const CommandLine line(arguments, {"--control"}, {"--list"}, true);
+    const Arguments& words = line.words();
+    if (!line.mistake().empty()) {
+        return wrongUsage(line.mistake());
+    }
+    const bool list = line.has("--list");
+    if (list ? !words.empty() : words.size() < 2) {
+        return wrongUsage(
+            list ? "\"--list\" takes no publisher and no command"
+                 : "tell needs a publisher and a command, such as: udsim tell \"Studio A\" offline");
+    }
+    if (!std::all_of(words.begin(), words.end(), fitsALine)) {
+        return wrongUsage("a publisher and a command stand on one line");
+    }
+    const std::string path = line.value("--control").value_or(DEFAULT_CONTROL);
+    std::string error;
+    const auto answer = sendOrder(path, list ? Order{true, {}, {}} : orderOf(words), error);
+    if (!answer) {
+        failure(error);
+        return EXIT_NOBODY;
+    }
+    if (!answer->done) {
+        return failure(answer->text);
+    }
+    std::fputs(answer->text.c_str(), stdout);
+    return EXIT_DONE;
+}
+
+} // namespace udsim

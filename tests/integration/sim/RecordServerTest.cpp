@@ -1,0 +1,208 @@
+// The network library at a publisher server, recorded; and again, with the recording in the server's place.
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ProgramProcess.h"
+#include "Room.h"
+#include "TcpPeer.h"
+#include "TextFiles.h"
+
+namespace {
+
+constexpr char RECORDER[] = "127.0.0.99";
+constexpr char REPLAY[] = "127.0.0.98";
+constexpr char FILE_NAME[] = "/tmp/session.udrec";
+
+Ended probe(std::vector<std::string> arguments)
+{
+    return runProgram(PROBE, std::move(arguments));
+}
+
+class RecordServer : public testing::Test
+{
+protected:
+    RecordServer()
+    {
+        std::string error;
+        const auto scenario = udsim::Scenario::load(NETWORK_SCENARIO, error);
+        EXPECT_TRUE(scenario) << error;
+        m_room.emplace(scenario.value_or(udsim::Scenario{}));
+        EXPECT_TRUE(m_room->start(error)) << error;
+    }
+
+    std::optional<udsim::Room> m_room;
+};
+
+} // namespace
+
+TEST_F(RecordServer, TheClientGetsTheSameAnswers)
+{
+    const std::vector<std::vector<std::string>> sessions[] = {
+        {{}}, // everything that can be asked
+        {{"--job", "Recorded", "--copies", "2", "--image", PROBE, "--print", NETWORK_SCENARIO}},
+        {{"--special", "cleaning", NETWORK_SCENARIO}},
+        {{"--do", "stop", "00000002"}, {"--do", "restart", "00000002"}, {"--do", "stop", "000000ff"}},
+    };
+    for (const char* const host : {"127.0.0.11", "127.0.0.12", "127.0.0.13"}) {
+        for (const auto& session : sessions) {
+            std::filesystem::remove(FILE_NAME);
+            std::vector<Ended> live;
+            ProgramProcess recorder(UDSIM, {"record", "--server", host, "--listen", RECORDER, FILE_NAME});
+            recorder.readUntil("Ctrl-C ends it\n");
+            for (std::vector<std::string> arguments : session) {
+                arguments.insert(arguments.begin(), RECORDER);
+                live.push_back(probe(arguments));
+            }
+            EXPECT_EQ(recorder.end(),
+                      "udsim: recording " + std::string(host) +
+                          ":80 for clients of 127.0.0.99:80 in /tmp/session.udrec; Ctrl-C ends it\n"
+                          "udsim: recorded in /tmp/session.udrec\n");
+            ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+            player.readUntil("Ctrl-C ends it\n");
+            for (size_t i = 0; i < session.size(); ++i) {
+                std::vector<std::string> arguments = session[i];
+                arguments.insert(arguments.begin(), REPLAY);
+                const Ended again = probe(arguments);
+                EXPECT_EQ(again.output, live[i].output) << host;
+                EXPECT_EQ(again.status, live[i].status) << host;
+                EXPECT_NE(again.output, "");
+            }
+            const std::string output = player.end();
+            EXPECT_NE(output.find(" 0 not in the recording; "), std::string::npos) << output;
+            EXPECT_NE(output.find(" answers 0 were not asked for\n"), std::string::npos) << output;
+        }
+    }
+}
+
+TEST_F(RecordServer, PasswordsAreNotInIt)
+{
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, FILE_NAME});
+    recorder.readUntil("Ctrl-C ends it\n");
+    const Ended sent = probe({RECORDER, "--job", "Secret", "--image", NETWORK_SCENARIO});
+    EXPECT_EQ(sent.status, 0) << sent.output;
+    recorder.end();
+    std::string authorization;
+    for (const udsim::HttpRequest& request : m_room->httpRequests()) {
+        if (!request.header("Authorization").empty()) {
+            authorization = request.header("Authorization");
+        }
+    }
+    ASSERT_EQ(authorization.find("Basic "), 0U) << "the server did get it";
+    const std::string text = ReadText(FILE_NAME);
+    EXPECT_NE(text.find("Authorization:**"), std::string::npos);
+    EXPECT_EQ(text.find(authorization.substr(6)), std::string::npos);
+    const auto server = m_room->lookAtServer("Studio NII");
+    ASSERT_TRUE(server);
+    const std::string password = udsim::sha1Of("password of 00000003").substr(0, 12);
+    EXPECT_EQ(udsim::basicCredentials("00000003", password), authorization) << "this is the password";
+    EXPECT_EQ(text.find(password), std::string::npos);
+}
+
+TEST_F(RecordServer, ALargeUploadGoesThroughWholeAndIsKeptInPart)
+{
+    const std::string large = "/tmp/large.iso";
+    std::ofstream(large, std::ios::binary) << std::string(8U << 20, 'i') << "end";
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, FILE_NAME});
+    recorder.readUntil("Ctrl-C ends it\n");
+    const Ended sent = probe({RECORDER, "--job", "Large", "--image", large, "--piece", "4000000"});
+    EXPECT_EQ(sent.status, 0) << sent.output;
+    recorder.end();
+    EXPECT_LT(std::filesystem::file_size(FILE_NAME), 500'000U);
+    EXPECT_NE(ReadText(FILE_NAME).find("Content-Range: bytes 0-3999999/8388611"), std::string::npos);
+}
+
+TEST_F(RecordServer, WhatIsNotInTheRecordingIsTold)
+{
+    std::ofstream(FILE_NAME) << "udsim-recording 1 server\n";
+    ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+    player.readUntil("Ctrl-C ends it\n");
+    EXPECT_EQ(probe({REPLAY}).status, 1);
+    const std::string output = player.end();
+    EXPECT_NE(output.find("GET /webapp2/ServerModeGetter: not in the recording\n"), std::string::npos)
+        << output;
+    EXPECT_NE(output.find("udsim: 0 requests answered, "), std::string::npos) << output;
+}
+
+TEST_F(RecordServer, AServerThatIsNotThere)
+{
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.77", "--listen", RECORDER, FILE_NAME});
+    recorder.readUntil("Ctrl-C ends it\n");
+    EXPECT_EQ(probe({RECORDER}).status, 1);
+    const std::string output = recorder.end();
+    EXPECT_NE(output.find("udsim: cannot be connected: 127.0.0.77:80: Connection refused\n"),
+              std::string::npos)
+        << output;
+    EXPECT_NE(ReadText(FILE_NAME).find(" 1 cannot be connected: 127.0.0.77:80: Connection refused\n"),
+              std::string::npos);
+}
+
+TEST_F(RecordServer, TheRecorderItselfIsNoServer)
+{
+    // What listens everywhere is not seen to be the same.
+    ProgramProcess recorder(UDSIM,
+                            {"record", "--server", "127.0.0.99:8080", "--listen", "0.0.0.0:8080", FILE_NAME});
+    recorder.readUntil("Ctrl-C ends it\n");
+    EXPECT_EQ(runProgram("/bin/bash", {"-c", "exec 3<>/dev/tcp/127.0.0.99/8080; cat <&3"}).output, "");
+    const std::string output = recorder.end();
+    const std::string told = "udsim: cannot be connected: 127.0.0.99:8080: leads back here\n";
+    const size_t first = output.find(told);
+    EXPECT_NE(first, std::string::npos) << output;
+    EXPECT_EQ(output.find(told, first + 1), std::string::npos) << "not over and over: " << output;
+}
+
+TEST_F(RecordServer, OneClientTooManyIsTold)
+{
+    TcpListener silent("127.0.0.50", 80);
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, FILE_NAME});
+    recorder.readUntil("Ctrl-C ends it\n");
+    ProgramProcess clients(
+        "/bin/bash", {"-c", "for i in {1..65}; do exec {one}<>/dev/tcp/127.0.0.99/80; done; kill -STOP $$"});
+    recorder.readUntil("udsim: a client was turned away: 64 are connected, and no more can be\n");
+    recorder.end();
+    EXPECT_NE(ReadText(FILE_NAME).find(" 0 a client was turned away: 64 are"), std::string::npos);
+}
+
+TEST_F(RecordServer, ItEndsWithConnectionsOpenAndServersSilent)
+{
+    TcpListener silent("127.0.0.50", 80);
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, FILE_NAME});
+    recorder.readUntil("Ctrl-C ends it\n");
+    ProgramProcess client(PROBE, {RECORDER});
+    TcpPeer peer = silent.Accept();
+    EXPECT_NE(peer.ReadHead().find("GET /webapp"), std::string::npos);
+    recorder.end();
+    EXPECT_NE(ReadText(FILE_NAME).find(" 1 ask "), std::string::npos) << "the last message is in it";
+}
+
+TEST(Replay, FilesThatAreNone)
+{
+    const std::pair<std::string, std::string> table[] = {
+        {"", "udsim: /tmp/session.udrec:1: this is no recording of udsim, or one of another version\n"},
+        {"udsim-recording 1 server\nhello\n",
+         "udsim: /tmp/session.udrec:2: neither a comment nor the time and the connection of a message\n"},
+    };
+    for (const auto& [text, expected] : table) {
+        std::ofstream(FILE_NAME) << text;
+        const Ended ended = runProgram(UDSIM, {"replay", FILE_NAME});
+        EXPECT_EQ(ended.output, expected);
+        EXPECT_EQ(ended.status, 1);
+    }
+    std::ofstream(FILE_NAME) << "udsim-recording 1 server\n0.001 1 cl";
+    ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+    player.readUntil("Ctrl-C ends it\n");
+    EXPECT_EQ(player.end().find("udsim: line 2: the recording is cut off here; the line is left out\n"), 0U);
+}
+
+TEST(Record, AnExistingFileStays)
+{
+    std::ofstream(FILE_NAME) << "precious";
+    const Ended ended =
+        runProgram(UDSIM, {"record", "--server", "127.0.0.11", "--listen", RECORDER, FILE_NAME});
+    EXPECT_EQ(ended.output, "udsim: /tmp/session.udrec: File exists\n");
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ReadText(FILE_NAME), "precious");
+}

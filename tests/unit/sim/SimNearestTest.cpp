@@ -1,0 +1,49 @@
+// Which known word somebody meant who wrote another.
+#include <gtest/gtest.h>
+
+#include "Nearest.h"
+
+using udsim::suggestion;
+
+TEST(SimNearest, Suggestions)
+{
+    const std::vector<std::string> known{
+        "online",         "offline",  "disc-time", "maintenance-box", "server-mode", "model",
+        "stacker1.media", "Studio A", "Studio B",  "wrong-id",        "id"};
+    const std::pair<std::string, std::string> table[] = {
+        {"ofline", "offline"},   // a letter missing: nearer by its beginning than "online"
+        {"offlline", "offline"}, // one too many
+        {"offlime", "offline"},  // a wrong one
+        {"offlnie", "offline"},  // two swapped
+        {"OFFLINE", "offline"},  // capitals
+        {"studio a", "Studio A"},
+        {"disk-time", "disc-time"},
+        {"box", "maintenance-box"}, // a part between hyphens
+        {"mode", "server-mode"},    // a part, and not the slip of another
+        {"media", "stacker1.media"},
+        {"wro", "wrong-id"}, // a beginning
+        {"wrong", "wrong-id"},
+        {"maintenence-bocks", "maintenance-box"},
+        {"ID", "id"},
+        {"ie", ""}, // too short for a slip
+        {"wr", ""}, // too short for a beginning
+        {"", ""},
+        {"dance", ""},
+        {"offhand", ""}, // three slips in seven letters
+        {std::string(100'000, 'o'), ""},
+    };
+    for (const auto& [word, expected] : table) {
+        EXPECT_EQ(suggestion(word, known), expected.empty() ? "" : " (did you mean \"" + expected + "\"?)")
+            << word;
+    }
+    EXPECT_EQ(suggestion("online", {}), "");
+    EXPECT_EQ(suggestion("RT-300III", {"RT-30II", "RT-300III DVD"}), " (did you mean \"RT-300III DVD\"?)")
+        << "whole words are nearer than a slip";
+}
+
+TEST(SimNearest, Lists)
+{
+    EXPECT_EQ(udsim::quotedList({}), "");
+    EXPECT_EQ(udsim::quotedList({"A"}), "\"A\"");
+    EXPECT_EQ(udsim::quotedList({"A", "B C", "D"}), "\"A\", \"B C\", \"D\"");
+}
