@@ -1,9 +1,10 @@
 #include "ElidedLabel.h"
 
+#include "WholeText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -11,7 +12,6 @@ namespace {
 
 constexpr int widestHint = 40;   // characters
 constexpr int longestLine = 500; // characters; more than any screen shows
-constexpr int longestTip = 1000; // likewise
 
 bool breaksLine(QChar character)
 {
@@ -60,9 +60,7 @@ QSize ElidedLabel::minimumSizeHint() const
 bool ElidedLabel::event(QEvent* e)
 {
     if (e->type() == QEvent::ToolTip && isElided()) {
-        const QString whole = text().left(longestTip).toHtmlEscaped();
-        QToolTip::showText(static_cast<QHelpEvent*>(e)->globalPos(),
-                           QStringLiteral("<span>%1</span>").arg(whole), this);
+        showWholeText(static_cast<QHelpEvent*>(e)->globalPos(), text(), this);
         return true;
     }
     return QLabel::event(e);

@@ -1,6 +1,7 @@
 #include "FerroJob.h"
 
 #include "InstallPaths.h"
+#include "NW_Com_Lib.h"
 #include "PubMgrConst.h"
 #include "PublisherMgr.h"
 
@@ -8,8 +9,11 @@
 
 #include <cstdio>
 #include <ctime>
+#include <memory>
+#include <new>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -32,16 +36,23 @@ timeb presentTime()
     return time;
 }
 
-/// The connection is opened and closed again: what sends a job and its print data in between is not part of
-/// the program yet. Nor does the facade know network publishers, and so it gives no connection.
-void connectToNetworkPublisher(const PUBLISHERINFO& info)
+/// Sends the job with the whole of its print data, which is read at once; nothing without data. What became
+/// of the job nobody asks.
+void sendWithData(DWORD connection, const std::string& text, int fd)
 {
-    CPublisherMgr publisherMgr(true);
-    DWORD connection = 0;
-    if (!publisherMgr.StartConnection(info.strPublisherRegistID.c_str(), &connection, nullptr)) {
+    struct stat status = {};
+    if (::fstat(fd, &status) != 0 || status.st_size < 1) {
         return;
     }
-    publisherMgr.EndConnection(connection);
+    const auto size = static_cast<size_t>(status.st_size);
+    const std::unique_ptr<BYTE[]> data(new (std::nothrow) BYTE[size]);
+    const ssize_t count = data ? ::read(fd, data.get(), size) : -1;
+    if (count < 1) {
+        return;
+    }
+    int serverJobID = 0;
+    SendSpecialJobData(connection, reinterpret_cast<const BYTE*>(text.data()),
+                       static_cast<DWORD>(text.size()), data.get(), static_cast<DWORD>(count), &serverJobID);
 }
 
 } // namespace
@@ -67,26 +78,42 @@ void CFerroJob::getCurrentTimeForFileName(timeb& time, tm& date)
     localtime_r(&time.time, &date);
 }
 
-void CFerroJob::SubmitHeadCleaningJob(const PUBLISHERINFO& info, const char* /*szJobNameUtf8*/)
+void CFerroJob::SubmitHeadCleaningJob(const PUBLISHERINFO& info, const char* szJobNameUtf8)
 {
-    submit(MaintenanceJob::headCleaning, info);
+    submit(MaintenanceJob::headCleaning, info, szJobNameUtf8);
 }
 
-void CFerroJob::SubmitNozzleCheckJob(const PUBLISHERINFO& info, const char* /*szJobNameUtf8*/)
+void CFerroJob::SubmitNozzleCheckJob(const PUBLISHERINFO& info, const char* szJobNameUtf8)
 {
     std::fputs("CFerroJob::SubmitNozzleCheckJob", stdout);
-    submit(MaintenanceJob::nozzleCheck, info);
+    submit(MaintenanceJob::nozzleCheck, info, szJobNameUtf8);
 }
 
-void CFerroJob::submit(MaintenanceJob job, const PUBLISHERINFO& info)
+void CFerroJob::submit(MaintenanceJob job, const PUBLISHERINFO& info, const char* szJobNameUtf8)
 {
     JobStamp stamp{};
     getCurrentTimeForFileName(stamp.time, stamp.date);
     if (info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK) {
-        connectToNetworkPublisher(info);
+        sendToServer(job, info, stamp, szJobNameUtf8 ? szJobNameUtf8 : "");
+    } else {
+        writeJobFile(info, localJobText(job, info, stamp));
+    }
+}
+
+void CFerroJob::sendToServer(MaintenanceJob job, const PUBLISHERINFO& info, const JobStamp& stamp,
+                             const std::string& jobName)
+{
+    CPublisherMgr publisherMgr(true);
+    DWORD connection = 0;
+    if (!publisherMgr.StartConnection(info.strPublisherRegistID.c_str(), &connection, nullptr)) {
         return;
     }
-    writeJobFile(info, localJobText(job, info, stamp));
+    const int fd = ::open(printDataPath(job), O_RDONLY | O_CLOEXEC);
+    if (fd >= 0) {
+        sendWithData(connection, networkJobText(job, info, stamp, jobName), fd);
+        ::close(fd);
+    }
+    publisherMgr.EndConnection(connection);
 }
 
 void CFerroJob::writeJobFile(const PUBLISHERINFO& info, const std::string& text)

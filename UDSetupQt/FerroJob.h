@@ -14,12 +14,14 @@ public:
     /// The present time and its local date. Each time is later than the one before, by a millisecond at
     /// least.
     void getCurrentTimeForFileName(timeb& time, tm& date);
-    /// Blocks while a connection is made. A network publisher gets no further than its connection yet, and so
-    /// `szJobNameUtf8`, the name that it is to show, is not used.
+    /// `szJobNameUtf8` is the name that a network publisher shows; a local one has its own. Blocks while such
+    /// a publisher is connected to and takes the print data.
     void SubmitHeadCleaningJob(const PUBLISHERINFO& info, const char* szJobNameUtf8);
     void SubmitNozzleCheckJob(const PUBLISHERINFO& info, const char* szJobNameUtf8);
 
 private:
-    void submit(MaintenanceJob job, const PUBLISHERINFO& info);
+    void submit(MaintenanceJob job, const PUBLISHERINFO& info, const char* szJobNameUtf8);
+    void sendToServer(MaintenanceJob job, const PUBLISHERINFO& info, const JobStamp& stamp,
+                      const std::string& jobName);
     void writeJobFile(const PUBLISHERINFO& info, const std::string& text);
 };

@@ -8,9 +8,12 @@
 #include <QPalette>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int darkening = 140; // percent: by so much the style darkens the colour that a frame starts from
+constexpr int darkening = 140;  // percent: by so much the style darkens the colour that a frame starts from
+constexpr int leastLight = 170; // of 255: of the colour that the frame of what has the keyboard starts from
 
 bool hasFrame(const QWidget* widget)
 {
@@ -30,21 +33,36 @@ QColor between(const QColor& one, const QColor& other)
             between(one.blue(), other.blue())};
 }
 
+QColor atLeastAsLight(const QColor& colour, int lightness)
+{
+    return QColor::fromHsl(colour.hslHue(), colour.hslSaturation(), std::max(colour.lightness(), lightness));
+}
+
 } // namespace
 
-void setFrameColours(const QTabWidget& tabs)
+void setFrameColours(QWidget& part)
 {
     QPalette colours; // what is not set here follows the application
     const QPalette application = QApplication::palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        const QColor frame =
-            between(application.color(group, QPalette::Base), application.color(group, QPalette::Text));
-        colours.setColor(group, QPalette::Window, frame.lighter(darkening));
+        const QColor& ground = application.color(group, QPalette::Base);
+        const QColor& text = application.color(group, QPalette::Text);
+        colours.setColor(group, QPalette::Window, between(ground, text).lighter(darkening));
+        if (ground.lightness() < text.lightness()) {
+            const QColor& selection = application.color(group, QPalette::Highlight);
+            colours.setColor(group, QPalette::Highlight, atLeastAsLight(selection, leastLight));
+            colours.setColor(group, QPalette::HighlightedText, ground);
+        }
     }
+    part.setPalette(colours);
+}
+
+void setFrameColours(const QTabWidget& tabs)
+{
     for (int i = 0; i < tabs.count(); ++i) {
         for (QWidget* part : tabs.widget(i)->findChildren<QWidget*>()) {
             if (hasFrame(part)) {
-                part->setPalette(colours);
+                setFrameColours(*part);
             }
         }
     }

@@ -1,6 +1,7 @@
 #include "MaintenanceSequences.h"
 
 #include "FerroJob.h"
+#include "FixToContents.h"
 #include "SharpPictures.h"
 
 #include "ui_printerMaintHeadCleaning1.h"
@@ -10,20 +11,8 @@
 
 #include <QCoreApplication>
 #include <QDialog>
-#include <QLayout>
-
-#include <algorithm>
 
 namespace {
-
-/// adjustSize stops at two thirds of the screen, which would cut the text of a large font on a small screen.
-void fixToContents(QDialog& dialog)
-{
-    dialog.adjustSize();
-    const QSize size = dialog.size();
-    const int heightOfContents = dialog.layout()->totalHeightForWidth(size.width());
-    dialog.setFixedSize(size.width(), std::max(size.height(), heightOfContents));
-}
 
 /// Shows one of the forms and waits for its answer: true when it was accepted.
 template <class Form>

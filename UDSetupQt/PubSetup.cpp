@@ -10,6 +10,8 @@
 #include "SelectionRules.h"
 #include "SharpPictures.h"
 #include "UnfinishedJobs.h"
+#include "WholeText.h"
+#include "addPublisherDialog.h"
 #include "propertyDialog.h"
 #include "settingDialog.h"
 
@@ -85,7 +87,6 @@ PubSetup::PubSetup(QWidget* parent) : QMainWindow(parent)
         showSetting->setEnabled(false);
         collectAndSaveLogs->setEnabled(false);
     }
-    addPublisher->setEnabled(false); // for everybody, until there is a dialog that adds a publisher
     showPublisherProperty->setEnabled(false);
     deletePublisher->setEnabled(false);
 
@@ -136,6 +137,7 @@ void PubSetup::setUpColumns()
     for (const int column : {colJobWaiting, colJobSending, colHDDAvail}) {
         treePublisherList->headerItem()->setTextAlignment(column, numberAlignment);
     }
+    treePublisherList->setItemDelegate(new WholeTextDelegate(treePublisherList));
     treePublisherList->sortByColumn(colName, Qt::AscendingOrder);
 }
 
@@ -301,7 +303,7 @@ void PubSetup::fetchStatusAsync()
     emit updateListSignal();
 
     CStringArray ids;
-    m_cPubMgr.EnumRegistedPublisher(&ids);
+    StatusPoll::makeRoom(m_cPubMgr.EnumRegistedPublisher(&ids));
     m_statusPoll->startLocal(ids);
     if (m_bSupportNetworkModel) {
         for (const CString& id : ids) {
@@ -366,7 +368,10 @@ void PubSetup::showDeleteDialog()
 
 void PubSetup::showAddDialog()
 {
-    // There is none yet: the constructor keeps the action disabled.
+    addPublisherDialog dialog(nullptr);
+    dialog.setModal(true);
+    dialog.show();
+    dialog.exec();
 }
 
 void PubSetup::showPropertyDialog()

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int mostPollThreads = 96;
+
 /// Jobs that wait in the publisher's queue; 0 when the list cannot be fetched.
 int countWaitingJobs(CPublisherMgr& publisherMgr, const CString& id)
 {
@@ -41,9 +43,20 @@ bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& i
     return publisherMgr.GetPublisherInfo(id, &info, bConnection == 0);
 }
 
+int pollThreads(int registered, int leastThreads)
+{
+    return std::max(leastThreads, std::min(registered, mostPollThreads - 1) + 1);
+}
+
 StatusPoll::StatusPoll(CPublisherMgr& publisherMgr, bool bSupportNetworkModel, Report report)
     : m_cPubMgr(publisherMgr), m_bSupportNetworkModel(bSupportNetworkModel), m_report(std::move(report))
 {
+}
+
+void StatusPoll::makeRoom(int registered)
+{
+    QThreadPool* pool = QThreadPool::globalInstance();
+    pool->setMaxThreadCount(pollThreads(registered, pool->maxThreadCount()));
 }
 
 void StatusPoll::startLocal(const CStringArray& ids)
@@ -94,6 +107,9 @@ void StatusPoll::fetchStatusOneDevice(const CString& id)
     if (facts.reachable) {
         facts.fatal = m_cPubMgr.IsFatalErrorInPublisher(id.c_str(), &facts.fatalCode);
     }
+    if (m_closed) {
+        return; // a server that stalls would keep the closing waiting for each of the questions below
+    }
     const StatusDecision decision = decideStatus(facts);
 
     StatusRow row;
@@ -105,7 +121,7 @@ void StatusPoll::fetchStatusOneDevice(const CString& id)
     if (decision.fetchWaiting) {
         row.nJobWaiting = countWaitingJobs(m_cPubMgr, id);
     }
-    if (m_bSupportNetworkModel && decision.fetchSendingAndSpace) {
+    if (m_bSupportNetworkModel && decision.fetchSendingAndSpace && !m_closed) {
         row.nJobSending = m_cPubMgr.GetCommunicateJobCount(id.c_str());
         row.strHDDAvail =
             spaceText(m_cPubMgr.GetDeviceInfo(id.c_str(), NCL_DIT_REMAINDER_OF_HARD_DISC, nullptr));

@@ -31,6 +31,11 @@ struct StatusRow
 bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                    long& lResultCommLib);
 
+/// How many threads the queries of so many registered publishers need: one for each, so that those that hang
+/// hold back nobody, and one for all local publishers; never fewer than `leastThreads`. No more than 96: the
+/// network library's table holds 100 connections, and the windows need a few of their own.
+int pollThreads(int registered, int leastThreads);
+
 /// Asks publishers for their status on the global thread pool. The tasks share the ownership, so a query that
 /// hangs in a device outlives the window in safety. The start functions, close and waitForQueries belong to
 /// the user-interface thread.
@@ -42,6 +47,9 @@ public:
     /// `publisherMgr` outlives every query. `report` is called on pool threads, until close.
     StatusPoll(CPublisherMgr& publisherMgr, bool bSupportNetworkModel, Report report);
 
+    /// Sees that the thread pool has room for the queries of so many registered publishers. It is never taken
+    /// back: idle threads end by themselves.
+    static void makeRoom(int registered);
     /// One query of all local publishers among `ids`, one after the other, unless such a query is running.
     void startLocal(const CStringArray& ids);
     /// A query of one network publisher, unless such a query is running. Of a local one nothing is asked.

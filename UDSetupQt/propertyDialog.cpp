@@ -6,6 +6,7 @@
 #include "PubMgrConst.h"
 #include "RowTexts.h"
 #include "StoredSettings.h"
+#include "TitleRoom.h"
 #include "WearFigures.h"
 
 #include <QFile>
@@ -50,6 +51,7 @@ QString nameAndVersion(const CString& name, const CString& version)
 propertyDialogEx::propertyDialogEx(QDialog* parent) : QDialog(parent), m_cPubMgr(true)
 {
     setupUi(this);
+    giveTitlesRoom(*this);
     setFrameColours(*propertyTab);
     m_info.Clear();
     setUpItemValues();

@@ -1,6 +1,7 @@
 // Saving: the device takes the publish mode first, the stored settings follow, and the service is told last.
 // What was done before a failure stays done.
 #include "ComboValues.h"
+#include "OneLine.h"
 #include "StoredSettings.h"
 #include "UnfinishedJobs.h"
 #include "propertyDialog.h"
@@ -8,16 +9,6 @@
 #include <QMessageBox>
 
 #include <algorithm>
-
-namespace {
-
-/// A name is one line of the setting file; a pasted one may bring a line end along.
-QString oneLine(QString name)
-{
-    return name.remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
-}
-
-} // namespace
 
 void propertyDialogEx::setChanged()
 {

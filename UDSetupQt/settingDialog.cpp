@@ -3,6 +3,7 @@
 #include "FrameColours.h"
 #include "JobFolder.h"
 #include "PubMgrConst.h"
+#include "TitleRoom.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -28,6 +29,7 @@ void breakLongText(QCheckBox* box)
 settingDialogEx::settingDialogEx(QDialog* parent) : QDialog(parent)
 {
     setupUi(this);
+    giveTitlesRoom(*this);
     setFrameColours(*settingTab);
     describeApproval();
     connectAll();

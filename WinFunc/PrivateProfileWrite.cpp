@@ -1,6 +1,7 @@
 // Writing private profile (ini) files: a splice of text in the whole file, written over the old text in
 // place. The file's length never shrinks, so the end of a longer old text stays behind a shorter new one.
 #include "LockedFile.h"
+#include "TrustedLink.h"
 #include "WinFunc.h"
 
 #include <algorithm>
@@ -126,7 +127,8 @@ try {
     if (!exists && errno != ENOENT) {
         return Step::STAT;
     }
-    const LockedFile file(lpFileName, exists ? O_RDWR : O_RDWR | O_CREAT | O_EXCL, mode);
+    const int how = exists ? O_RDWR | NoFollowUnlessTrusted(info) : O_RDWR | O_CREAT | O_EXCL;
+    const LockedFile file(lpFileName, how, mode);
     if (!file.IsOpen()) {
         return exists ? Step::OPEN_EXISTING_FILE : Step::OPEN_NEW_FILE;
     }

@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>&amp;Add...</source>
-        <translation>&amp;Hinzufügen...</translation>
+        <translation>&amp;Hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
-        <translation>&amp;Entfernen...</translation>
+        <translation>&amp;Entfernen…</translation>
     </message>
     <message>
         <source>&amp;Properties...</source>
-        <translation>Ei&amp;genschaften...</translation>
+        <translation>Ei&amp;genschaften…</translation>
     </message>
     <message>
         <source>Common &amp;Setting for Publishing…</source>
@@ -105,8 +105,8 @@
     <message>
         <source>The Publish Mode registered in the output device could not be obtained, so the previously displayed  value is displayed.
 The displayed Publish Mode and stacker settings may be different from the values that are actually registered.</source>
-        <translation>Der im Ausgabegerät registrierte Produktionsmodus konnte nicht abgerufen werden, daher wird der zuletzt angezeigte Wert angezeigt.
-Der angezeigte Produktionsmodus und die Einstellungen der Stacker können von den tatsächlich registrierten Werten abweichen.</translation>
+        <translation>Der im Ausgabegerät registrierte Produktionsmodus konnte nicht abgerufen werden, daher wird weiterhin der zuletzt bekannte Wert angezeigt.
+Der angezeigte Produktionsmodus und die angezeigten Stacker-Einstellungen können von den tatsächlich registrierten Werten abweichen.</translation>
     </message>
     <message>
         <source>Not connected</source>
@@ -114,13 +114,13 @@ Der angezeigte Produktionsmodus und die Einstellungen der Stacker können von de
     </message>
     <message>
         <source>Do you want to delete it?</source>
-        <translation>Möchten Sie den Eintrag löschen?</translation>
+        <translation>Möchten Sie den Eintrag entfernen?</translation>
     </message>
     <message>
         <source>There are jobs in the output device, so it could not be deleted.
 Please delete it after all jobs are finished.</source>
-        <translation>Im Ausgabegerät befinden sich Aufträge, daher konnte es nicht gelöscht werden.
-Bitte löschen Sie es, wenn alle Aufträge abgeschlossen sind.</translation>
+        <translation>Im Ausgabegerät befinden sich Aufträge, daher konnte es nicht entfernt werden.
+Bitte entfernen Sie es, wenn alle Aufträge abgeschlossen sind.</translation>
     </message>
     <message>
         <source>Failed to change setting.</source>
@@ -159,7 +159,7 @@ Bitte löschen Sie es, wenn alle Aufträge abgeschlossen sind.</translation>
 Refer to the documentation for what kind of information is collected.
 ARVEN Ulmar Disc Setup does not send information.
 Would you like to continue?</source>
-        <translation>ARVEN Ulmar Disc Setup sammelt Protokolle zu den CD/DVD/BD-Publishern und speichert sie auf dem lokalen PC.
+        <translation>ARVEN Ulmar Disc Setup sammelt Protokolle zu den CD/DVD/BD-Publishern und speichert sie auf diesem Computer.
 Welche Informationen gesammelt werden, erfahren Sie in der Dokumentation.
 ARVEN Ulmar Disc Setup sendet keine Informationen.
 Möchten Sie fortfahren?</translation>
@@ -190,6 +190,41 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Registers disc publishers, shows their status and changes their settings.</source>
         <translation>Registriert Disc-Publisher, zeigt ihren Status und ändert ihre Einstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>addPublisherDialog</name>
+    <message>
+        <source>Register New CD/DVD/BD Publisher</source>
+        <translation>Neuen CD/DVD/BD-Publisher registrieren</translation>
+    </message>
+    <message>
+        <source>Please specify the IP address or host name for the CD/DVD Publisher on the network you want to register.</source>
+        <translation>Bitte geben Sie die IP-Adresse oder den Hostnamen des CD/DVD-Publishers im Netzwerk an, den Sie registrieren möchten.</translation>
+    </message>
+    <message>
+        <source>Please type the name of a CD/DVD Publisher.</source>
+        <translation>Bitte geben Sie einen Namen für den CD/DVD-Publisher ein.</translation>
+    </message>
+    <message>
+        <source>ARVEN Ulmar Disc Setup</source>
+        <translation>ARVEN Ulmar Disc Setup</translation>
+    </message>
+    <message>
+        <source>The same name is already registered.
+Please use a different name.</source>
+        <translation>Dieser Name ist bereits registriert.
+Bitte verwenden Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The output device could not be found on the network.
+There is a possibility that either the host name or IP address is wrong, or the output device is not connected to the network.</source>
+        <translation>Das Ausgabegerät wurde im Netzwerk nicht gefunden.
+Möglicherweise ist der Hostname oder die IP-Adresse falsch, oder das Ausgabegerät ist nicht mit dem Netzwerk verbunden.</translation>
+    </message>
+    <message>
+        <source>Failed to change setting.</source>
+        <translation>Die Einstellung konnte nicht geändert werden.</translation>
     </message>
 </context>
 <context>
@@ -260,7 +295,7 @@ Reicht die Tinte für eine Druckkopfreinigung nicht aus, tauschen Sie zuerst die
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Drucken Sie ein Muster, um zu prüfen, ob die Düsen des Druckkopfs frei sind.
 
-Prüfen Sie die Kabelverbindung, und schalten Sie das Gerät ein. Legen Sie unbedingt Discs mit einem äußeren Druckdurchmesser von mindestens 116 mm in Stacker 1 ein.</translation>
+Prüfen Sie die Kabelverbindung und schalten Sie das Gerät ein. Legen Sie unbedingt Discs mit einem äußeren Druckdurchmesser von mindestens 116 mm in Stacker 1 ein.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -299,7 +334,7 @@ Prüfen Sie die Kabelverbindung, und schalten Sie das Gerät ein. Legen Sie unbe
     </message>
     <message>
         <source>Compare the printed pattern with the sample above. If any segments are missing in the printed pattern, click the Clean button. Otherwise, click the Finish button to quit.</source>
-        <translation>Vergleichen Sie das gedruckte Muster mit der Vorlage oben. Fehlen im gedruckten Muster Segmente, klicken Sie auf „Reinigen“. Andernfalls klicken Sie auf „Fertig“, um den Düsentest zu beenden.</translation>
+        <translation>Vergleichen Sie das gedruckte Muster mit den Vorlagen oben. Fehlen im gedruckten Muster Segmente, klicken Sie auf „Reinigen“. Andernfalls klicken Sie auf „Fertig“, um den Düsentest zu beenden.</translation>
     </message>
     <message>
         <source>Cleaning</source>
@@ -454,11 +489,11 @@ Prüfen Sie die Kabelverbindung, und schalten Sie das Gerät ein. Legen Sie unbe
     </message>
     <message>
         <source>Service life of Drive 1:</source>
-        <translation>Lebensdauer von Laufwerk 1:</translation>
+        <translation>Verbrauchte Lebensdauer von Laufwerk 1:</translation>
     </message>
     <message>
         <source>Service life of Drive 2:</source>
-        <translation>Lebensdauer von Laufwerk 2:</translation>
+        <translation>Verbrauchte Lebensdauer von Laufwerk 2:</translation>
     </message>
     <message>
         <source>About</source>
@@ -529,7 +564,7 @@ Prüfen Sie die Kabelverbindung, und schalten Sie das Gerät ein. Legen Sie unbe
     </message>
     <message>
         <source>Service life of Drive:</source>
-        <translation>Lebensdauer des Laufwerks:</translation>
+        <translation>Verbrauchte Lebensdauer des Laufwerks:</translation>
     </message>
     <message>
         <source>Drive:</source>
@@ -550,14 +585,14 @@ Prüfen Sie die Kabelverbindung, und schalten Sie das Gerät ein. Legen Sie unbe
     <message>
         <source>The same name is already registered.
 Please use a different name.</source>
-        <translation>Derselbe Name ist bereits registriert.
+        <translation>Dieser Name ist bereits registriert.
 Bitte verwenden Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>The settings could not be changed because registration of the Publish Mode in the output device settings failed.
 Please change the settings after checking the power supply of the output device and the connection.</source>
         <translation>Die Einstellungen konnten nicht geändert werden, weil der Produktionsmodus nicht im Ausgabegerät registriert werden konnte.
-Bitte prüfen Sie die Stromversorgung des Ausgabegeräts und die Verbindung, und ändern Sie die Einstellungen danach.</translation>
+Bitte prüfen Sie die Stromversorgung und die Verbindung des Ausgabegeräts und ändern Sie die Einstellungen danach.</translation>
     </message>
     <message>
         <source>Failed to change setting.</source>
@@ -594,7 +629,7 @@ Bitte ändern Sie sie, wenn alle Aufträge abgeschlossen sind.</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation>Durchsuchen...</translation>
+        <translation>Durchsuchen…</translation>
     </message>
     <message>
         <source>Notification Settings</source>
@@ -674,7 +709,7 @@ Bitte ändern Sie sie, wenn alle Aufträge abgeschlossen sind.</translation>
     <message>
         <source>The working folder could not be changed because there is a job being processed on this computer.
 Please change the working folder after all jobs are finished.</source>
-        <translation>Der Arbeitsordner konnte nicht geändert werden, da auf diesem Computer ein Auftrag verarbeitet wird.
+        <translation>Der Arbeitsordner konnte nicht geändert werden, weil auf diesem Computer ein Auftrag verarbeitet wird.
 Bitte ändern Sie den Arbeitsordner, wenn alle Aufträge abgeschlossen sind.</translation>
     </message>
     <message>

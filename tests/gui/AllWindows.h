@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -39,6 +40,9 @@ inline udsim::Scenario scenarioOfMachines()
         text += std::string("[publisher ") + machine.id + "]\nname = Studio " + machine.id +
                 "\nmodel = " + machine.model + "\nid = " + machine.id + "\njobs = 2\nprint-count = 123456\n";
     }
+    text += "[network Room 3]\nmodel = RT-300NII\nregistered = no\nhost = 127.0.0.11\n";
+    text += "[network server]\nmodel = RT-300NII BD-XL\nid = server\nhost = 127.0.0.12\nserver-mode = "
+            "3\nprint-count = 123456\n";
     std::string error;
     const auto scenario = udsim::Scenario::parse(text, error);
     if (!scenario) {
@@ -128,6 +132,21 @@ inline void visitProperties(const PUBLISHERINFO& info, BOOL connection, const Vi
     visitShown(dialog, visit);
 }
 
+/// With the address of the server entered, so that it can be accepted, as often as one likes.
+inline void visitRegistration(const Visit& visit)
+{
+    for (const auto& entry : std::filesystem::directory_iterator(PUBLISHER_SETTING_DIR)) {
+        if (entry.path().filename().string().starts_with("{ARPUB")) {
+            std::filesystem::remove(entry.path()); // of a visit before
+        }
+    }
+    const ModalDialogs dialogs(0, [&visit](QWidget& window) {
+        window.findChild<QLineEdit*>("textHostName")->setText("127.0.0.11");
+        visit(window);
+    });
+    PubSetup(nullptr).showAddDialog();
+}
+
 struct AppWindow
 {
     const char* name;
@@ -159,8 +178,11 @@ inline std::vector<AppWindow> allWindows()
              const ModalDialogs dialogs(0, visit);
              PubSetup(nullptr).showSettingDialog();
          }},
+        {"registration", true, visitRegistration},
         {"properties of a network publisher", true,
          [](const Visit& visit) { visitProperties(networkRecord(), 0, visit); }},
+        {"properties of a server", true,
+         [](const Visit& visit) { visitProperties(recordOf("server"), 1, visit); }},
     };
     for (const auto& machine : machines) {
         windows.push_back({machine.model, true, [id = machine.id](const Visit& visit) {

@@ -6,13 +6,16 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTranslator>
 #include <QVBoxLayout>
+#include <QXmlStreamReader>
 
 #include <initializer_list>
 #include <utility>
@@ -59,7 +62,7 @@ enum class Desktop
     plain,
     largeFont,
     longTexts,
-    german,
+    translated, ///< into the language that the row names
     dark,
     turnsDark, ///< while the window is open
 };
@@ -67,8 +70,12 @@ enum class Desktop
 class DesktopSetup
 {
 public:
-    explicit DesktopSetup(Desktop desktop) : m_font(QApplication::font()), m_palette(QApplication::palette())
+    /// The desktop of the row.
+    DesktopSetup() : m_font(QApplication::font()), m_palette(QApplication::palette())
     {
+        QFETCH(int, desktopNumber);
+        QFETCH(QString, catalogue);
+        desktop = static_cast<Desktop>(desktopNumber);
         QFont font = m_font;
         if (desktop == Desktop::largeFont) {
             font.setPointSizeF(font.pointSizeF() * 1.5);
@@ -77,11 +84,11 @@ public:
         if (desktop == Desktop::longTexts) {
             QCoreApplication::installTranslator(&m_longTexts);
         }
-        if (desktop == Desktop::german) {
-            if (!m_german.load(GERMAN_CATALOGUE)) {
-                qFatal("no catalogue %s", GERMAN_CATALOGUE);
+        if (desktop == Desktop::translated) {
+            if (!m_catalogue.load(catalogue, CATALOGUES)) {
+                qFatal("no catalogue %s", qPrintable(catalogue));
             }
-            QCoreApplication::installTranslator(&m_german);
+            QCoreApplication::installTranslator(&m_catalogue);
         }
         if (desktop == Desktop::dark) {
             QApplication::setPalette(darkPalette());
@@ -90,18 +97,20 @@ public:
     ~DesktopSetup()
     {
         QCoreApplication::removeTranslator(&m_longTexts);
-        QCoreApplication::removeTranslator(&m_german);
+        QCoreApplication::removeTranslator(&m_catalogue);
         QApplication::setFont(m_font);
         QApplication::setPalette(m_palette);
     }
     DesktopSetup(const DesktopSetup&) = delete;
     DesktopSetup& operator=(const DesktopSetup&) = delete;
 
+    Desktop desktop;
+
 private:
     QFont m_font;
     QPalette m_palette;
     LongTexts m_longTexts;
-    QTranslator m_german;
+    QTranslator m_catalogue;
 };
 
 /// A window with one of each mistake, on two pages.
@@ -168,6 +177,7 @@ private slots:
     void initTestCase();
 
     void theLooksFindWhatIsWrong();
+    void everyFormIsAmongTheWindows();
     void keyboard_data();
     void keyboard();
     void enterAcceptsAndEscapeRejects_data();
@@ -184,6 +194,8 @@ private slots:
 private:
     static void rows(bool dialogsOnly);
     static void rowsOfDesktops(std::initializer_list<std::pair<const char*, Desktop>> desktops);
+    /// A row for each window in each language that the program speaks.
+    static void addRowsOfLanguages();
     /// Shows the window that the row names, and fails with what is wrong with it.
     static void look(const std::function<QStringList(QWidget&)>& findWrong);
     /// The same on a desktop that is light, dark, or turned dark while the window is open, as the row says.
@@ -215,12 +227,30 @@ void DialogFeelTest::rows(bool dialogsOnly)
 void DialogFeelTest::rowsOfDesktops(std::initializer_list<std::pair<const char*, Desktop>> desktops)
 {
     QTest::addColumn<int>("window");
-    QTest::addColumn<int>("desktop");
+    QTest::addColumn<int>("desktopNumber");
+    QTest::addColumn<QString>("catalogue");
     const std::vector<AppWindow> windows = allWindows();
     for (const auto& [name, desktop] : desktops) {
         for (size_t i = 0; i < windows.size(); ++i) {
             QTest::addRow("%s, %s", windows[i].name, name)
-                << static_cast<int>(i) << static_cast<int>(desktop);
+                << static_cast<int>(i) << static_cast<int>(desktop) << QString();
+        }
+    }
+}
+
+void DialogFeelTest::addRowsOfLanguages()
+{
+    if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+        // Letters and their places grow together: what fits at one scale fits at all, as English shows.
+        return;
+    }
+    const std::vector<AppWindow> windows = allWindows();
+    const QStringList catalogues = QDir(CATALOGUES).entryList({"PubSetupQt_*.qm"});
+    QVERIFY(!catalogues.isEmpty());
+    for (const QString& catalogue : catalogues) {
+        for (size_t i = 0; i < windows.size(); ++i) {
+            QTest::addRow("%s, %s", windows[i].name, qPrintable(QFileInfo(catalogue).baseName()))
+                << static_cast<int>(i) << static_cast<int>(Desktop::translated) << catalogue;
         }
     }
 }
@@ -262,20 +292,45 @@ void DialogFeelTest::theLooksFindWhatIsWrong()
     for (const char* frame : {"frame of first ", "frame of box ", "frame of covered "}) {
         QVERIFY2(finds(faintFrames(window), frame), frame);
     }
+    QVERIFY(!finds(faintKeyboardFrames(window), "frame of"));
+    QPalette dim = QApplication::palette();
+    dim.setColor(QPalette::Highlight, dim.color(QPalette::Window));
+    window.setPalette(dim);
+    QVERIFY(finds(faintKeyboardFrames(window), "frame of covered "));
     const QStringList faint = faintTexts(window);
     QVERIFY(finds(faint, "faint"));
     QCOMPARE(faint.size(), 1);
 }
 
+void DialogFeelTest::everyFormIsAmongTheWindows()
+{
+    QSet<QString> seen;
+    for (const AppWindow& window : allWindows()) {
+        window.show([&seen](QWidget& shown) { seen << shown.objectName(); });
+    }
+    const QFileInfoList forms = QDir(FORMS).entryInfoList({"*.ui"});
+    QVERIFY(!forms.isEmpty());
+    for (const QFileInfo& form : forms) {
+        QFile file(form.filePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QXmlStreamReader xml(&file);
+        while (!xml.atEnd() && !(xml.isStartElement() && xml.name() == "widget")) {
+            xml.readNext();
+        }
+        const QString name = xml.attributes().value("name").toString();
+        QVERIFY2(seen.contains(name), qPrintable(form.fileName() + ": no window \"" + name + "\" was shown"));
+    }
+}
+
 void DialogFeelTest::keyboard_data()
 {
-    rowsOfDesktops({{"plain", Desktop::plain}, {"German", Desktop::german}});
+    rowsOfDesktops({{"plain", Desktop::plain}});
+    addRowsOfLanguages();
 }
 
 void DialogFeelTest::keyboard()
 {
-    QFETCH(int, desktop);
-    const DesktopSetup setup(static_cast<Desktop>(desktop));
+    const DesktopSetup setup;
     look([](QWidget& window) {
         if (window.inherits("QProgressDialog")) {
             return QStringList(); // it takes no keys
@@ -308,18 +363,15 @@ void DialogFeelTest::enterAcceptsAndEscapeRejects()
 
 void DialogFeelTest::nothingIsCut_data()
 {
-    rowsOfDesktops({{"plain", Desktop::plain},
-                    {"German", Desktop::german},
-                    {"large font", Desktop::largeFont},
-                    {"long texts", Desktop::longTexts}});
+    rowsOfDesktops(
+        {{"plain", Desktop::plain}, {"large font", Desktop::largeFont}, {"long texts", Desktop::longTexts}});
+    addRowsOfLanguages();
 }
 
 void DialogFeelTest::nothingIsCut()
 {
-    QFETCH(int, desktop);
-    const DesktopSetup setup(static_cast<Desktop>(desktop));
-    const bool shipped =
-        static_cast<Desktop>(desktop) == Desktop::plain || static_cast<Desktop>(desktop) == Desktop::german;
+    const DesktopSetup setup;
+    const bool shipped = setup.desktop == Desktop::plain || setup.desktop == Desktop::translated;
     look([shipped](QWidget& window) {
         const QStringList findings = cutTexts(window) + tooLarge(window, shipped ? smallScreen : screen);
         return shipped ? findings + cutColumnHeads(window) : findings;
@@ -333,9 +385,8 @@ void DialogFeelTest::rowsOfColours()
 
 void DialogFeelTest::lookInItsColours(QStringList (*findWrong)(QWidget&))
 {
-    QFETCH(int, desktop);
-    const DesktopSetup setup(static_cast<Desktop>(desktop));
-    const bool turnsDark = static_cast<Desktop>(desktop) == Desktop::turnsDark;
+    const DesktopSetup setup;
+    const bool turnsDark = setup.desktop == Desktop::turnsDark;
     look([turnsDark, findWrong](QWidget& window) {
         if (turnsDark) {
             QApplication::setPalette(darkPalette());
@@ -366,7 +417,7 @@ void DialogFeelTest::framesStandOut()
         for (QGroupBox* group : window.findChildren<QGroupBox*>()) {
             group->setEnabled(true); // also what the settings leave no choice in
         }
-        return faintFrames(window);
+        return faintFrames(window) + faintKeyboardFrames(window);
     });
 }
 

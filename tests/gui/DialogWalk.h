@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QPushButton>
 #include <QStringList>
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -55,3 +57,13 @@ private:
 };
 
 Q_DECLARE_METATYPE(DialogWalk::Answer)
+
+/// Presses the button of that name.
+inline DialogWalk::Answer click(const char* button)
+{
+    return [button](QDialog& dialog) {
+        auto found = dialog.findChild<QPushButton*>(button);
+        QVERIFY(found != nullptr);
+        QTest::mouseClick(found, Qt::LeftButton);
+    };
+}

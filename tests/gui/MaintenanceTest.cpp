@@ -33,16 +33,6 @@ PUBLISHERINFO publisher(UINT type = PUBMGR_CONNECTTYPE_LOCAL)
     return info;
 }
 
-/// Presses the button of that name.
-DialogWalk::Answer click(const char* button)
-{
-    return [button](QDialog& dialog) {
-        auto found = dialog.findChild<QPushButton*>(button);
-        QVERIFY(found != nullptr);
-        QTest::mouseClick(found, Qt::LeftButton);
-    };
-}
-
 DialogWalk::Answer press(Qt::Key key)
 {
     return [key](QDialog& dialog) { QTest::keyClick(dialog.windowHandle(), key); };

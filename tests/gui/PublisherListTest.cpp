@@ -33,13 +33,13 @@ private slots:
     void newRowShowsWhatIsStored();
     void modelsHaveTheirTexts_data();
     void modelsHaveTheirTexts();
-    void networkPublisherHasNoRowYet();
+    void networkPublisherHasItsRow();
     void namesSortNaturally();
     void otherColumnsSortAsText();
     void rowAppearsAndVanishesWithItsFile();
     void rowVanishesBehindAnOpenBox();
     void nameOfARowIsNotRefreshed();
-    void rowThatCannotBeReadAnyMoreStays();
+    void rowOfAPublisherThatMovesToTheNetworkStays();
     void selectionAndScrollPositionSurvive();
     void selectionSurvivesAChangeOfOrder();
     void twoSelectedRowsLeaveRemoveEnabled();
@@ -138,12 +138,16 @@ void PublisherListTest::modelsHaveTheirTexts()
     QCOMPARE(row("M")->text(1), text);
 }
 
-void PublisherListTest::networkPublisherHasNoRowYet()
+void PublisherListTest::networkPublisherHasItsRow()
 {
     m_installation.addLocal("local", "Local");
     Installation::addNetwork("network", "Network", "192.0.2.1");
     m_window->updateList();
-    QCOMPARE(names(), QStringList{"Local"});
+    QCOMPARE(names(), (QStringList{"Local", "Network"}));
+    const QTreeWidgetItem* network = row("Network");
+    QCOMPARE(network->text(2), "192.0.2.1");
+    QCOMPARE(network->text(3), "Not connected");
+    QCOMPARE(network->text(4), "-");
 }
 
 void PublisherListTest::namesSortNaturally()
@@ -220,23 +224,24 @@ void PublisherListTest::nameOfARowIsNotRefreshed()
     QCOMPARE(names(), QStringList{"Old"});
 }
 
-void PublisherListTest::rowThatCannotBeReadAnyMoreStays()
+/// Its record is read anew for every query, and the row stays what it is.
+void PublisherListTest::rowOfAPublisherThatMovesToTheNetworkStays()
 {
-    m_installation.addLocal("changing", "Changing");
+    m_installation.addLocal("moving", "Moving");
     m_window->updateList();
-    m_window->updateStatusOneDevice("changing", "RT-300III", "", "Ready", 3, -1, "-");
-    const QTreeWidgetItem* kept = row("Changing");
-
-    Installation::addNetwork("changing", "Changing", "192.0.2.1"); // still registered, no longer readable
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();
-    m_window->updateStatusOneDevice("changing", "RT-300III", "", "Ready", 3, -1, "-");
+    const QTreeWidgetItem* kept = row("Moving");
+
+    Installation::addNetwork("moving", "Moving", "192.0.2.1"); // no way leads there
+    m_window->updateStatusOneDevice("moving", "RT-300III", "", "Ready", 3, -1, "-");
     m_window->fetchStatusAsync();
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();
-    QCOMPARE(row("Changing"), kept);
-    QCOMPARE(kept->text(3), "Ready");
-    QCOMPARE(kept->text(4), "3");
+    QCOMPARE(row("Moving"), kept);
+    QCOMPARE(kept->text(2), "192.0.2.1");
+    QCOMPARE(kept->text(3), "Not connected");
+    QCOMPARE(kept->text(4), "-");
 }
 
 void PublisherListTest::selectionAndScrollPositionSurvive()

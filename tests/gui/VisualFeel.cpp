@@ -22,6 +22,7 @@
 #include <QStyleOptionComboBox>
 #include <QStyleOptionGroupBox>
 #include <QTabBar>
+#include <QTextLayout>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QWindow>
@@ -96,10 +97,21 @@ QRect titlePlace(const QGroupBox* group)
     return group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, group);
 }
 
+/// As it is drawn: its letters may stand further apart than each one's own width tells.
+int lineWidth(const QString& text, const QFont& font)
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(QWIDGETSIZE_MAX);
+    layout.endLayout();
+    return static_cast<int>(std::ceil(line.naturalTextWidth()));
+}
+
 QStringList cutTitle(const QGroupBox* group)
 {
     const QRect place = titlePlace(group);
-    const int needed = group->fontMetrics().tightBoundingRect(group->title()).right() + 1;
+    const int needed = lineWidth(group->title().trimmed(), group->font());
     if (place.width() >= needed && group->rect().contains(place)) {
         return {};
     }
@@ -377,6 +389,27 @@ double frameContrast(const QImage& image, QRect frame)
     return least;
 }
 
+/// Where a window's pixel is no whole number of the screen's, frames are smeared over two of those.
+QImage inWholePixels(QWidget& window)
+{
+    const double ratio = window.devicePixelRatioF();
+    return ratio == std::floor(ratio) ? window.grab().toImage() : drawn(window);
+}
+
+/// In a picture of its window.
+QStringList faintFrame(const QWidget* widget, const QImage& image)
+{
+    const QRect frame = framed(widget);
+    if (!widget->isEnabled() || frame.isEmpty()) {
+        return {};
+    }
+    const double found = frameContrast(image, placeOf(widget, frame));
+    if (found >= leastFrameContrast) {
+        return {};
+    }
+    return {QString("the frame of %1 has a contrast of %2").arg(nameOf(widget)).arg(found)};
+}
+
 void takeKeyboardAway(QWidget& window)
 {
     if (window.focusWidget()) {
@@ -498,20 +531,26 @@ QStringList faintFrames(QWidget& window)
     takeKeyboardAway(window);
     QStringList findings;
     forEachPage(window, [&] {
-        // Where a window's pixel is no whole number of the screen's, frames are smeared over two of those.
-        const double ratio = window.devicePixelRatioF();
-        const QImage image = ratio == std::floor(ratio) ? window.grab().toImage() : drawn(window);
+        const QImage image = inWholePixels(window);
         for (const QWidget* widget : shown<QWidget>(window)) {
-            const QRect frame = framed(widget);
-            if (!widget->isEnabled() || frame.isEmpty()) {
-                continue;
-            }
-            const double found = frameContrast(image, placeOf(widget, frame));
-            if (found < leastFrameContrast) {
-                findings << QString("the frame of %1 has a contrast of %2").arg(nameOf(widget)).arg(found);
+            findings << faintFrame(widget, image);
+        }
+    });
+    return findings;
+}
+
+QStringList faintKeyboardFrames(QWidget& window)
+{
+    QStringList findings;
+    forEachPage(window, [&] {
+        for (QWidget* widget : shown<QWidget>(window)) {
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
+                widget->setFocus(Qt::TabFocusReason);
+                findings << faintFrame(widget, inWholePixels(window));
             }
         }
     });
+    takeKeyboardAway(window);
     return findings;
 }
 

@@ -18,5 +18,7 @@ QStringList faintTexts(QWidget& window);
 /// Enabled boxes and fields whose frames do not stand out from what is around them by a ratio of 3, on the
 /// screen as it is. Takes the keyboard away from the window, for a focus frame has colours of its own.
 QStringList faintFrames(QWidget& window);
+/// The same of each while it has the keyboard, which has to be with the window.
+QStringList faintKeyboardFrames(QWidget& window);
 /// Pictures that are not there, and pictures that have fewer pixels than the screen shows.
 QStringList missingPictures(QWidget& window);

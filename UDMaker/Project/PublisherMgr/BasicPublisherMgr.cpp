@@ -4,22 +4,9 @@
 #include "RegUtility.h"
 #include "Win_def_log.h"
 
-#include <string_view>
 #include <utility>
 
 namespace {
-
-/// A value as one line of the file: what stands behind a line end would read as a key of its own.
-std::string LineValue(const std::string& strValue)
-{
-    const std::string strLine = strValue.substr(0, strValue.find_first_of(std::string_view("\r\n\0", 3)));
-    return strLine.empty() ? REG_PUB_SETUP_STRING_DEFAULT : strLine;
-}
-
-std::string LineValue(UINT uiValue)
-{
-    return std::to_string(static_cast<int>(uiValue));
-}
 
 /// Every local model but the one without drives of its own.
 bool HasDriveSettings(UINT uiPublisherDevType)
@@ -134,31 +121,27 @@ void CBasicPublisherMgr::ReadCommonSettings(LPCTSTR szPublisherRegistID, PUBLISH
 bool CBasicPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
 {
     ASSERT(!sPublisherInfo.strPublisherRegistID.empty());
-    std::string strBlock;
-    const auto add = [&strBlock](LPCTSTR szKey, const auto& value) {
-        strBlock += std::string(szKey) + "=" + LineValue(value) + '\0';
-    };
-    add(REG_PUB_SETUP_VAL_GUID, sPublisherInfo.strGUID);
-    add(REG_PUB_SETUP_VAL_PUBLISH_NAME, sPublisherInfo.strPublisherName);
-    add(REG_PUB_SETUP_VAL_PUBLISH_MODE, sPublisherInfo.uiPublishMode);
-    add(REG_PUB_SETUP_VAL_STK1, sPublisherInfo.uiStacker1DiscType);
-    add(REG_PUB_SETUP_VAL_STK2, sPublisherInfo.uiStacker2DiscType);
-    add(REG_PUB_SETUP_VAL_STK3, sPublisherInfo.uiStacker3DiscType);
-    add(REG_PUB_SETUP_VAL_STK4, sPublisherInfo.uiStacker4DiscType);
-    add(REG_PUB_SETUP_VAL_PRINTER_NAME, sPublisherInfo.strPrinterName);
-    add(REG_PUB_SETUP_VAL_TYPE, sPublisherInfo.uiPublisherType);
+    SettingLines lines;
+    lines.Add(REG_PUB_SETUP_VAL_GUID, sPublisherInfo.strGUID);
+    lines.Add(REG_PUB_SETUP_VAL_PUBLISH_NAME, sPublisherInfo.strPublisherName);
+    lines.Add(REG_PUB_SETUP_VAL_PUBLISH_MODE, sPublisherInfo.uiPublishMode);
+    lines.Add(REG_PUB_SETUP_VAL_STK1, sPublisherInfo.uiStacker1DiscType);
+    lines.Add(REG_PUB_SETUP_VAL_STK2, sPublisherInfo.uiStacker2DiscType);
+    lines.Add(REG_PUB_SETUP_VAL_STK3, sPublisherInfo.uiStacker3DiscType);
+    lines.Add(REG_PUB_SETUP_VAL_STK4, sPublisherInfo.uiStacker4DiscType);
+    lines.Add(REG_PUB_SETUP_VAL_PRINTER_NAME, sPublisherInfo.strPrinterName);
+    lines.Add(REG_PUB_SETUP_VAL_TYPE, sPublisherInfo.uiPublisherType);
     if (HasDriveSettings(sPublisherInfo.uiPublisherDevType)) {
-        add(REG_PUB_SETUP_VAL_USEDRIVE, sPublisherInfo.uiUseDrive);
-        add(REG_PUB_SETUP_VAL_RETRYCOUNT, RetryCountInForce(sPublisherInfo));
-        add(REG_PUB_SETUP_VAL_RETRYCOUNT_W, sPublisherInfo.uiRetryCountW);
-        add(REG_PUB_SETUP_VAL_RETRYCOUNT_R, sPublisherInfo.uiRetryCountR);
-        add(REG_PUB_SETUP_VAL_READBACKCONTINUE, UINT{sPublisherInfo.bContinuePublish});
-        add(REG_PUB_SETUP_VAL_ERRORMARK, UINT{sPublisherInfo.bAddErrorMark});
+        lines.Add(REG_PUB_SETUP_VAL_USEDRIVE, sPublisherInfo.uiUseDrive);
+        lines.Add(REG_PUB_SETUP_VAL_RETRYCOUNT, RetryCountInForce(sPublisherInfo));
+        lines.Add(REG_PUB_SETUP_VAL_RETRYCOUNT_W, sPublisherInfo.uiRetryCountW);
+        lines.Add(REG_PUB_SETUP_VAL_RETRYCOUNT_R, sPublisherInfo.uiRetryCountR);
+        lines.Add(REG_PUB_SETUP_VAL_READBACKCONTINUE, UINT{sPublisherInfo.bContinuePublish});
+        lines.Add(REG_PUB_SETUP_VAL_ERRORMARK, UINT{sPublisherInfo.bAddErrorMark});
     }
-    strBlock += '\0';
 
     const SettingFile file = FileOf(sPublisherInfo.strPublisherRegistID.c_str());
-    if (!WritePrivateProfileSectionA(REG_PUB_SETUP_SECTION_COMMON, strBlock.c_str(), file.Path().c_str())) {
+    if (!file.Write(lines)) {
         if (GetLogLevel() >= 2) {
             logViaAgent(4,
                         "CBasicPublisherMgr::UpdatePublisherInfo, WritePrivateProfileSection failed, \"%s\"",

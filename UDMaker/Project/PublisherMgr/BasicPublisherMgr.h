@@ -4,8 +4,8 @@
 
 #include "PublisherMgrIF.h"
 #include "SettingFile.h"
+#include "WireText.h"
 
-#include <cstring>
 #include <initializer_list>
 #include <memory>
 #include <mutex>
@@ -194,10 +194,3 @@ private:
     CString m_strSettingFolder;
     std::mutex m_mtxPipeConnection; // guards m_hPipeConnection: a handle in it is not yet closed
 };
-
-/// The text of a fixed wire field, whose NUL a peer may have left out.
-template <size_t size>
-CString WireText(const char (&field)[size])
-{
-    return std::string(field, strnlen(field, size));
-}

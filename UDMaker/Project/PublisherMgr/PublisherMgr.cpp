@@ -15,18 +15,17 @@
 #include "BasicPublisherMgr.h"
 #include "DeviceKey.h"
 #include "InstallPaths.h"
+#include "NetworkPublisherMgr.h"
 #include "RegUtility.h"
 #include "SDPublisherMgr.h"
 #include "SettingFile.h"
 #include "Win_def_log.h"
 
-#include <cstdlib>
-
 CPublisherMgr::CPublisherMgr(bool) : m_strSettingFolder(PUBLISHER_SETTING_DIR)
 {
     constexpr bool bPublisherIDMode = true;
     m_arrPublisherMgr.Add(new CBasicPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    // The place of CNetworkPublisherMgr: publishers reached over the network have no implementation yet.
+    m_arrPublisherMgr.Add(new CNetworkPublisherMgr(bPublisherIDMode, m_strSettingFolder));
     m_arrPublisherMgr.Add(new CAPPublisherMgr(bPublisherIDMode, m_strSettingFolder));
     m_arrPublisherMgr.Add(new CSDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
     m_arrPublisherMgr.Add(new C30BDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
@@ -146,9 +145,5 @@ UINT CPublisherMgr::GetNPType(LPCTSTR lpszPublisherRegistID)
     if (!file.Exists()) {
         return PUBMGR_NPTYPE_UNKNOWN;
     }
-    char szType[32] = {};
-    GetPrivateProfileStringA(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, "", szType,
-                             sizeof szType, file.Path().c_str());
-    const auto uiType = static_cast<UINT>(std::atoi(szType));
-    return uiType > PUBMGR_NPTYPE_300NII_BDXL ? UINT{PUBMGR_NPTYPE_UNKNOWN} : uiType;
+    return file.ReadNPType();
 }

@@ -164,36 +164,58 @@ TEST(Forwards, ACancelOfAnUnknownPublisherIsLoggedAndNoOtherForwardIs)
                                            "found\nPRIORITY=4\n"});
 }
 
-TEST(Forwards, JobSubmissionNeedsTheNetworkImplementation)
+/// A network publisher whose file is gone, which says so whatever is on the network.
+TEST(Forwards, ConnectionsAreTheNetworkImplementationsWhateverThePublisherIs)
 {
-    WriteLocalPublisher("R", "00000005");
     CPublisherMgr mgr(true);
-    ASSERT_EQ(mgr.GetPublisherMgrIFFromType(1), nullptr);
-    const BYTE data[] = {1};
     DWORD handle = 77;
     DWORD code = 88;
-    int job = 99;
     EXPECT_FALSE(mgr.StartConnection("R", &handle, &code));
-    EXPECT_FALSE(mgr.EndConnection(1));
-    EXPECT_EQ(mgr.GetPublishID(1, &code), "");
-    EXPECT_FALSE(mgr.SendJobData(1, data, 1, &job, &code));
-    EXPECT_FALSE(mgr.SendPRNData(1, 2, data, 1, &code));
-    EXPECT_FALSE(mgr.CommitJob(1, 2, &code));
-    EXPECT_FALSE(mgr.SendDiscInfo(1, 2, data, 1, &code));
     EXPECT_EQ(handle, 77u);
     EXPECT_EQ(code, 88u);
+
+    WriteLocalPublisher("R", "00000005");
+    EXPECT_FALSE(mgr.StartConnection("R", &handle, &code))
+        << "it has no address: the file opens, and reads empty";
+    EXPECT_EQ(handle, 77u);
+    EXPECT_EQ(code, 88u);
+}
+
+TEST(Forwards, JobSubmissionGoesToTheLibrary)
+{
+    CPublisherMgr mgr(true);
+    const BYTE data[] = {1};
+    const DWORD none = 4711; // no connection has this handle
+    int job = 99;
+    const auto refused = [](auto operation) {
+        DWORD code = 88;
+        operation(&code);
+        return code;
+    };
+    EXPECT_TRUE(mgr.EndConnection(none));
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_EQ(mgr.GetPublishID(none, code), ""); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendJobData(none, data, 1, &job, code)); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendPRNData(none, 2, data, 1, code)); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_FALSE(mgr.CommitJob(none, 2, code)); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendDiscInfo(none, 2, data, 1, code)); }), 1u);
     EXPECT_EQ(job, 99);
 }
 
-TEST(Forwards, ANetworkPublisherHasNoImplementationYet)
+/// What a network publisher lacks tells that it was reached: true, where no implementation gives false.
+TEST(Forwards, ANetworkPublisherIsServed)
 {
     WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");
     CPublisherMgr mgr(true);
-    for (const Operation& operation : byId) {
-        long code = 77;
-        EXPECT_TRUE(operation.givesNone(mgr, "R", &code)) << operation.name;
-        EXPECT_EQ(code, 77) << operation.name;
-    }
+    long code = 77;
+    EXPECT_TRUE(mgr.SetServiceNotifyChange("R", &code));
+    EXPECT_TRUE(mgr.SetServiceJobErrorCancel("R", "J", &code));
+    EXPECT_FALSE(mgr.SetServiceJobStop("R", "J", &code));
+    EXPECT_EQ(code, 77);
+    EXPECT_EQ(mgr.GetPublisherGUID("R"), "");
+    EXPECT_FALSE(mgr.IsPossibleCommunicate("R", &code)) << "it has no address";
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(mgr.GetJobCount("R", &code), -1);
+    EXPECT_EQ(code, -1);
 }
 
 TEST(Forwards, ErrorRateCountsNeedAPublisherThatMeasures)

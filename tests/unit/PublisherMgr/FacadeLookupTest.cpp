@@ -1,6 +1,7 @@
 // Which implementation serves a publisher.
 #include "LogAgent.h"
 #include "Models.h"
+#include "NetworkPublisherMgr.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
 #include "Win_def_log.h"
@@ -39,6 +40,7 @@ TEST(PublisherMgrType, EachModelValueHasItsClass)
         std::type_index model;
     } rows[] = {
         {0, typeid(CBasicPublisherMgr)},
+        {1, typeid(CNetworkPublisherMgr)},
         {2, typeid(CAPPublisherMgr)},
         {3, typeid(CSDPublisherMgr)},
         {4, typeid(C30BDPublisherMgr)},
@@ -212,7 +214,7 @@ TEST(ConnectType, ANetworkPublisherIsSoWhateverItsGUIDSays)
     WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");
     CPublisherMgr mgr(true);
     EXPECT_EQ(mgr.GetPublisherDevType("R"), UINT{PUBMGR_PUBLISHERTYPE_NETWORK});
-    EXPECT_EQ(mgr.GetPublisherMgrIFFromID("R"), mgr.GetPublisherMgrIFFromType(1));
+    EXPECT_NE(dynamic_cast<CNetworkPublisherMgr*>(mgr.GetPublisherMgrIFFromID("R")), nullptr);
 }
 
 TEST(NPType, IsAtMostThree)

@@ -1,8 +1,9 @@
-// Maintenance jobs on their way: time stamps, job files, and the connection of a network publisher, which a
-// scripted publisher manager gives.
+// Maintenance jobs on their way: job files, and the connection of a network publisher, which a
+// scripted publisher manager gives and a scripted library takes the job from.
 #include "FerroJob.h"
 
 #include "ChildProcess.h"
+#include "NW_Com_Lib.h"
 #include "OrdinaryRights.h"
 #include "PublisherMgr.h"
 #include "StdoutCapture.h"
@@ -23,10 +24,28 @@
 
 namespace {
 
-std::vector<std::string> calls; // what the publisher manager was asked
+struct SentJob
+{
+    std::string text;
+    std::string data;
+    int serverJobID; ///< before the call
+};
+
+std::vector<std::string> calls; // what the publisher manager and the library were asked
 bool connects = false;
+DWORD sendResult = 0;
+std::vector<SentJob> sent;
 
 } // namespace
+
+DWORD SendSpecialJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwJobDataSize, const BYTE* pPrnData,
+                         DWORD dwPrnDataSize, int* pnServerJobIDOut)
+{
+    calls.push_back("SendSpecialJobData " + std::to_string(dwHandle));
+    sent.push_back({std::string(pJobData, pJobData + dwJobDataSize),
+                    std::string(pPrnData, pPrnData + dwPrnDataSize), *pnServerJobIDOut});
+    return sendResult;
+}
 
 CPublisherMgr::CPublisherMgr(bool bPublisherIDMode)
 {
@@ -103,6 +122,16 @@ void submitBoth(const PUBLISHERINFO& info)
     EXPECT_EQ(output.Stop(), "CFerroJob::SubmitNozzleCheckJob");
 }
 
+constexpr char headCleaningData[] = "/opt/arven/Ulmar Disc Maker/res/prnfile/headCleaning.prn";
+constexpr char nozzleCheckData[] = "/opt/arven/Ulmar Disc Maker/res/prnfile/nozzleCheck.prn";
+
+void writePrintData(const std::string& headCleaning, const std::string& nozzleCheck)
+{
+    std::filesystem::create_directories("/opt/arven/Ulmar Disc Maker/res/prnfile");
+    WriteText(headCleaningData, headCleaning);
+    WriteText(nozzleCheckData, nozzleCheck);
+}
+
 /// Takes the lines of ID and Create out of a job text, for they tell the present time.
 std::string withoutTime(const std::string& text)
 {
@@ -124,91 +153,6 @@ protected:
         std::filesystem::create_directories(jobFolder);
     }
 };
-
-timeb moment(time_t second, unsigned short millisecond)
-{
-    timeb time{};
-    time.time = second;
-    time.millitm = millisecond;
-    return time;
-}
-
-TEST(JobStamp, IsNowOrAMillisecondAfterTheLast)
-{
-    struct StampCase
-    {
-        const char* name;
-        timeb now, last, stamp;
-    };
-    const StampCase stamps[] = {
-        {"the first", moment(1000, 0), moment(0, 0), moment(1000, 0)},
-        {"a millisecond later", moment(1000, 501), moment(1000, 500), moment(1000, 501)},
-        {"much later in the second", moment(1000, 999), moment(1000, 0), moment(1000, 999)},
-        {"the next second, fewer milliseconds", moment(1001, 0), moment(1000, 999), moment(1001, 0)},
-        {"the same millisecond", moment(1000, 500), moment(1000, 500), moment(1000, 501)},
-        {"the same millisecond, the first of a second", moment(1000, 0), moment(1000, 0), moment(1000, 1)},
-        {"an earlier millisecond", moment(1000, 499), moment(1000, 500), moment(1000, 501)},
-        {"the last before the carry", moment(1000, 998), moment(1000, 998), moment(1000, 999)},
-        {"999 again", moment(1000, 999), moment(1000, 999), moment(1001, 0)},
-        {"before 999", moment(1000, 5), moment(1000, 999), moment(1001, 0)},
-        {"an earlier second, more milliseconds", moment(999, 999), moment(1000, 500), moment(1000, 501)},
-        {"a clock set back by a year", moment(1000, 7), moment(31537000, 999), moment(31537001, 0)},
-        {"the end of 32 bits", moment(2147483647, 999), moment(2147483647, 999), moment(2147483648, 0)},
-    };
-    for (const StampCase& row : stamps) {
-        SCOPED_TRACE(row.name);
-        const timeb stamp = risingStamp(row.now, row.last);
-        EXPECT_EQ(stamp.time, row.stamp.time);
-        EXPECT_EQ(stamp.millitm, row.stamp.millitm);
-    }
-}
-
-TEST(JobStamp, StartsAtThePresentTime)
-{
-    timespec before{};
-    timespec after{};
-    timeb time{};
-    tm date{};
-    clock_gettime(CLOCK_REALTIME, &before);
-    CFerroJob().getCurrentTimeForFileName(time, date);
-    clock_gettime(CLOCK_REALTIME, &after);
-    const long long stamp = time.time * 1000LL + time.millitm;
-    EXPECT_GE(stamp, before.tv_sec * 1000LL + before.tv_nsec / 1000000);
-    EXPECT_LE(stamp, after.tv_sec * 1000LL + after.tv_nsec / 1000000);
-}
-
-TEST(JobStamp, RisesWithEachCallOfAnyObjectAndCarriesAtTheSecond)
-{
-    timeb last{};
-    tm date{};
-    CFerroJob().getCurrentTimeForFileName(last, date);
-    for (int i = 0; i < 2500; ++i) { // faster than the clock: some begin a second by the carry
-        timeb time{};
-        CFerroJob().getCurrentTimeForFileName(time, date);
-        ASSERT_LT(time.millitm, 1000);
-        ASSERT_GT(time.time * 1000LL + time.millitm, last.time * 1000LL + last.millitm);
-        ASSERT_EQ(date.tm_sec, time.time % 60);
-        last = time;
-    }
-}
-
-TEST(JobStamp, DateIsLocal)
-{
-    setenv("TZ", "XYZ-5:45", 1);
-    tzset();
-    timeb time{};
-    tm date{};
-    CFerroJob().getCurrentTimeForFileName(time, date);
-    const time_t shifted = time.time + (5 * 60 + 45) * 60;
-    tm expected{};
-    gmtime_r(&shifted, &expected);
-    EXPECT_EQ(date.tm_year, expected.tm_year);
-    EXPECT_EQ(date.tm_mon, expected.tm_mon);
-    EXPECT_EQ(date.tm_mday, expected.tm_mday);
-    EXPECT_EQ(date.tm_hour, expected.tm_hour);
-    EXPECT_EQ(date.tm_min, expected.tm_min);
-    EXPECT_EQ(date.tm_sec, expected.tm_sec);
-}
 
 TEST_F(FerroJob, NewFileTakesTheLowestFreeNumber)
 {
@@ -391,6 +335,7 @@ TEST_F(FerroJob, EveryOtherTypeThanNetworkIsLocal)
 
 TEST_F(FerroJob, NetworkPublisherWithoutConnectionGetsNothing)
 {
+    writePrintData("c", "n");
     connects = false;
     submitBoth(publisher("net", 1));
     EXPECT_THAT(calls, ElementsAre("CPublisherMgr(true)", "StartConnection net", "CPublisherMgr(true)",
@@ -398,12 +343,92 @@ TEST_F(FerroJob, NetworkPublisherWithoutConnectionGetsNothing)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, ConnectionOfANetworkPublisherIsClosedAgain)
+const std::vector<std::string> connectedTwice = {"CPublisherMgr(true)", "StartConnection net",
+                                                 "EndConnection 77",    "CPublisherMgr(true)",
+                                                 "StartConnection net", "EndConnection 77"};
+
+TEST_F(FerroJob, NetworkPublisherIsSentTextAndPrintData)
+{
+    const std::string cleaning("clean\0\n\xff", 8);
+    const std::string check(3 * 1024 * 1024 + 1, 'p');
+    writePrintData(cleaning, check);
+    connects = true;
+    PUBLISHERINFO info = publisher("net", 1);
+    info.uiPublishMode = 1;
+    const size_t descriptors = openDescriptors();
+    submitBoth(info);
+    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_THAT(calls, ElementsAre("CPublisherMgr(true)", "StartConnection net", "SendSpecialJobData 77",
+                                   "EndConnection 77", "CPublisherMgr(true)", "StartConnection net",
+                                   "SendSpecialJobData 77", "EndConnection 77"));
+    ASSERT_EQ(sent.size(), 2U);
+    EXPECT_EQ(withoutTime(sent[0].text),
+              "[Common]\nVersion = 0x01030000\nPublisherID = \nLoad = -1\nEject = -1\nCount = 0\n"
+              "Publisher = @UDSetup\nMode = 2\nJobName = Reinigung\nSaveJobData = 0\nPublishID = \n"
+              "Silent = 0\n\n[Print]\nPrintMode = 4\n"
+              "DataPath = /opt/arven/Ulmar Disc Maker/res/prnfile/headCleaning.prn\n"
+              "DryingTime = 0\nPrintQuality = 0\n");
+    EXPECT_EQ(withoutTime(sent[1].text),
+              "[Common]\nVersion = 0x01030000\nPublisherID = \nLoad = 1\nEject = 0\nCount = 1\n"
+              "Publisher = @UDSetup\nMode = 2\nJobName = Test\nSaveJobData = 0\nPublishID = \n"
+              "Silent = 0\n\n[Print]\nPrintMode = 5\n"
+              "DataPath = /opt/arven/Ulmar Disc Maker/res/prnfile/nozzleCheck.prn\n"
+              "DryingTime = 0\nPrintQuality = 0\n");
+    EXPECT_EQ(sent[0].data, cleaning);
+    EXPECT_EQ(sent[1].data, check);
+    EXPECT_EQ(sent[0].serverJobID, 0);
+    EXPECT_EQ(sent[1].serverJobID, 0);
+    EXPECT_THAT(jobFiles(), IsEmpty());
+}
+
+TEST_F(FerroJob, TextForANetworkPublisherIsAThousandAndTwentyThreeBytesAtMost)
+{
+    writePrintData("c", "n");
+    connects = true;
+    const auto sizeWithName = [](size_t nameSize) {
+        CFerroJob().SubmitHeadCleaningJob(publisher("net", 1), std::string(nameSize, 'x').c_str());
+        return sent.back().text.size();
+    };
+    const size_t fixed = sizeWithName(0);
+    EXPECT_EQ(sizeWithName(1023 - fixed), 1023U);
+    EXPECT_TRUE(sent.back().text.ends_with("PrintQuality = 0\n"));
+    EXPECT_EQ(sizeWithName(1024 - fixed), 1023U);
+    EXPECT_TRUE(sent.back().text.ends_with("PrintQuality = 0"));
+    EXPECT_EQ(sizeWithName(100000), 1023U);
+}
+
+TEST_F(FerroJob, WithoutPrintDataTheConnectionIsClosedAgain)
 {
     connects = true;
+    submitBoth(publisher("net", 1)); // no files
+    EXPECT_EQ(calls, connectedTwice);
+
+    calls.clear();
+    writePrintData("", "");
     submitBoth(publisher("net", 1));
-    EXPECT_THAT(calls, ElementsAre("CPublisherMgr(true)", "StartConnection net", "EndConnection 77",
-                                   "CPublisherMgr(true)", "StartConnection net", "EndConnection 77"));
+    EXPECT_EQ(calls, connectedTwice);
+
+    calls.clear();
+    std::filesystem::remove(headCleaningData);
+    std::filesystem::remove(nozzleCheckData);
+    std::filesystem::create_directories(headCleaningData); // opens, has a size, and cannot be read
+    std::filesystem::create_directories(nozzleCheckData);
+    const size_t descriptors = openDescriptors();
+    submitBoth(publisher("net", 1));
+    EXPECT_EQ(calls, connectedTwice);
+    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_THAT(sent, IsEmpty());
+    EXPECT_THAT(jobFiles(), IsEmpty());
+}
+
+TEST_F(FerroJob, ServerThatRefusesTheJobIsSilent)
+{
+    writePrintData("c", "n");
+    connects = true;
+    sendResult = 8005;
+    submitBoth(publisher("net", 1));
+    EXPECT_EQ(sent.size(), 2U);
+    EXPECT_EQ(calls.back(), "EndConnection 77");
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 

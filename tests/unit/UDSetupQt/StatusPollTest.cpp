@@ -10,6 +10,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <future>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -345,6 +346,52 @@ TEST_F(StatusPollTest, ASlowNetworkPublisherHoldsBackOnlyItself)
     poll->startNetwork("slow");
     ASSERT_TRUE(waitForTasks(10000));
     EXPECT_EQ(m_script.count("IsFatalErrorInPublisher slow"), 2);
+}
+
+TEST(PollThreads, AreOneForEachPublisherAndOneForTheLocalOnesAndNinetySixAtMost)
+{
+    const struct
+    {
+        int registered, least, threads;
+    } rows[] = {{0, 1, 1},     {0, 2, 2},     {1, 1, 2},        {1, 2, 2},
+                {1, 8, 8},     {7, 8, 8},     {8, 8, 9},        {50, 2, 51},
+                {94, 2, 95},   {95, 2, 96},   {96, 2, 96},      {100, 2, 96},
+                {100, 96, 96}, {1, 128, 128}, {1000, 128, 128}, {std::numeric_limits<int>::max(), 2, 96}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(pollThreads(row.registered, row.least), row.threads) << row.registered << ' ' << row.least;
+    }
+}
+
+TEST_F(StatusPollTest, TheRoomOfThePoolRisesWithThePublishersAndIsNotTakenBack)
+{
+    QThreadPool* pool = QThreadPool::globalInstance();
+    pool->setMaxThreadCount(2);
+    for (const auto& [registered, limit] :
+         std::vector<std::pair<int, int>>{{1, 2}, {9, 10}, {3, 10}, {500, 96}}) {
+        StatusPoll::makeRoom(registered);
+        EXPECT_EQ(pool->maxThreadCount(), limit) << registered;
+    }
+}
+
+TEST_F(StatusPollTest, PublishersThatHangHoldBackNoOther)
+{
+    QThreadPool::globalInstance()->setMaxThreadCount(1);
+    constexpr int hanging = 20;
+    const auto poll = makePoll();
+    StatusPoll::makeRoom(hanging + 1);
+    for (int i = 0; i < hanging; ++i) {
+        const std::string id = "hangs" + std::to_string(i);
+        m_script.add(id, networkPublisher());
+        m_script.stall(id);
+        poll->startNetwork(id);
+    }
+    m_script.add("lives", networkPublisher());
+    poll->startNetwork("lives");
+    ASSERT_TRUE(m_reports.waitFor(1));
+    EXPECT_EQ(m_reports.rows()[0].strPublisherRegistID, "lives");
+    for (int i = 0; i < hanging; ++i) {
+        m_script.release("hangs" + std::to_string(i));
+    }
 }
 
 TEST_F(StatusPollTest, ASlowLocalPublisherDoesNotHoldBackANetworkOne)

@@ -4,6 +4,7 @@
 #include "OrdinaryRights.h"
 #include "StdoutCapture.h"
 #include "TextFiles.h"
+#include "TrustedLink.h"
 #include "Win_def.h"
 #include "Win_def_log.h"
 
@@ -208,6 +209,31 @@ TEST(PrivateProfileWrite, ALinkIsFollowed)
     EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "2", FILE_NAME));
     EXPECT_EQ(ReadText("/tmp/target.ini"), "[Common]\nKey=2\nLong=" + std::string(500, 'x') + "\n");
     EXPECT_TRUE(std::filesystem::is_symlink(FILE_NAME));
+}
+
+TEST(PrivateProfileWrite, OnlyLinksOfRootAndOfThisUserAreFollowed)
+{
+    const uid_t self = geteuid();
+    const uid_t somebody = self + 1000;
+    const struct
+    {
+        mode_t kind;
+        uid_t owner;
+        int flags;
+    } rows[] = {
+        {S_IFLNK, 0, 0},
+        {S_IFLNK, self, 0},
+        {S_IFLNK, somebody, O_NOFOLLOW},
+        {S_IFREG, 0, O_NOFOLLOW}, // it may have become a link by the time it is opened
+        {S_IFREG, self, O_NOFOLLOW},
+        {S_IFREG, somebody, O_NOFOLLOW},
+    };
+    for (const auto& row : rows) {
+        struct stat info = {};
+        info.st_mode = row.kind | S_IRUSR;
+        info.st_uid = row.owner;
+        EXPECT_EQ(NoFollowUnlessTrusted(info), row.flags) << row.kind << " of " << row.owner;
+    }
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -1,0 +1,95 @@
+#include "addPublisherDialog.h"
+
+#include "FixToContents.h"
+#include "FrameColours.h"
+#include "NetworkPublisherMgr.h"
+#include "NewPublisher.h"
+#include "OneLine.h"
+#include "PubMgrConst.h"
+
+#include <QGuiApplication>
+#include <QMessageBox>
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+
+addPublisherDialog::addPublisherDialog(QDialog* parent) : QDialog(parent), m_cPubMgr(true)
+{
+    setupUi(this);
+    connectAll();
+    colourFrames();
+    for (QLineEdit* field : {textHostName, textPublisherName}) {
+        field->setMaxLength(std::numeric_limits<int>::max()); // it begins with a limit
+    }
+    textHostName->setFocus();
+    fixToContents(*this);
+    offerName();
+}
+
+void addPublisherDialog::connectAll()
+{
+    connect(buttonBox, &QDialogButtonBox::accepted, this, &addPublisherDialog::addPublisher);
+    connect(buttonBox, &QDialogButtonBox::rejected, this, &addPublisherDialog::reject);
+    connect(qGuiApp, &QGuiApplication::paletteChanged, this, &addPublisherDialog::colourFrames);
+}
+
+void addPublisherDialog::colourFrames()
+{
+    setFrameColours(*textHostName);
+    setFrameColours(*textPublisherName);
+}
+
+void addPublisherDialog::offerName()
+{
+    CStringArray ids;
+    m_cPubMgr.EnumRegistedPublisher(&ids);
+    CStringArray names;
+    for (const CString& id : ids) {
+        const CString name = m_cPubMgr.GetPublisherName(id.c_str());
+        std::printf("addPublisherDialog::addPublisherDialog, %s %s \n", id.c_str(), name.c_str());
+        names.Add(name);
+    }
+    textPublisherName->setText(QString::fromStdString(freeDefaultName(names)));
+}
+
+bool addPublisherDialog::isTaken(const CStringArray& ids, const CString& name, const CString& host)
+{
+    return std::any_of(ids.begin(), ids.end(), [&](const CString& id) {
+        const bool network = m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
+        PUBLISHERINFO info; // as it is stored: no device is asked
+        return m_cPubMgr.GetPublisherInfo(id.c_str(), &info, network) && isTakenBy(info, name, host);
+    });
+}
+
+void addPublisherDialog::addPublisher()
+{
+    SYSTEMTIME today;
+    GetSystemTime(&today);
+    CStringArray ids;
+    m_cPubMgr.EnumRegistedPublisher(&ids);
+    const CString name = oneLine(textPublisherName->text()).toStdString();
+    const CString host = oneLine(textHostName->text()).toStdString();
+
+    if (isTaken(ids, name, host)) {
+        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"),
+                             tr("The same name is already registered.\nPlease use a different name."));
+        return;
+    }
+    if (CNetworkPublisherMgr(true, "").ConnectionTest(host.c_str()) != 0) {
+        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"),
+                             tr("The output device could not be found on the network.\nThere is a "
+                                "possibility that either the host name or IP address is wrong, or the "
+                                "output device is not connected to the network."));
+        return;
+    }
+    const bool added = addUnderFreeID(ids, today, name, host, [this](const PUBLISHERINFO& info) {
+        return m_cPubMgr.AddPublisher(info.strPublisherRegistID.c_str(), info);
+    });
+    if (!added) {
+        QMessageBox::critical(nullptr, tr("ARVEN Ulmar Disc Setup"), tr("Failed to change setting."));
+        reject();
+        return;
+    }
+    accept();
+}

@@ -1,0 +1,376 @@
+// Many network publishers. First fifty whose packets go nowhere, and one that lives: how often is that one
+// refreshed, and how long does the window keep a person waiting. Then a hundred that live, polled by the
+// program for a minute: its processor time, its memory and its descriptors, which must not grow. The servers
+// are a process of their own. Takes about two minutes.
+#include "Installation.h"
+#include "PubSetup.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <thread>
+#include <vector>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr char scenarioFile[] = "/tmp/many.udsim";
+constexpr char requestFile[] = "/tmp/requests";
+
+constexpr int lostPublishers = 50;
+constexpr std::chrono::seconds lostTime(45);
+constexpr std::chrono::milliseconds probeInterval(5);
+constexpr double refreshLimit = 10; // seconds
+constexpr double answerLimit = 100; // milliseconds
+
+constexpr int livingPublishers = 100;
+constexpr int warmUp = 32; // seconds: each thread of the pool has met the largest replies
+constexpr int minute = 60;
+constexpr int sampleInterval = 10; // seconds
+
+double secondsSince(Clock::time_point start)
+{
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// Lets events be served for so long.
+void serveEvents(std::chrono::milliseconds time)
+{
+    QTimer::singleShot(time, QApplication::instance(), &QCoreApplication::quit);
+    QApplication::exec();
+}
+
+/// The publisher servers of a scenario, whose setting files they make. Each request is a line of
+/// `requestFile`.
+class Servers
+{
+public:
+    explicit Servers(const std::string& scenario)
+    {
+        WriteText(scenarioFile, scenario);
+        m_process.setStandardOutputFile(requestFile);
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(UDSIM_PROGRAM, {scenarioFile, "--requests"});
+    }
+    Servers(const Servers&) = delete;
+    Servers& operator=(const Servers&) = delete;
+    ~Servers()
+    {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+
+    bool serve()
+    {
+        const auto start = Clock::now();
+        while (lines("udsim: ready") == 0) {
+            if (m_process.state() == QProcess::NotRunning || secondsSince(start) > 20) {
+                return false;
+            }
+            serveEvents(std::chrono::milliseconds(10));
+        }
+        return true;
+    }
+    /// How many lines of what they print hold the text.
+    static int lines(const std::string& text)
+    {
+        std::ifstream file(requestFile);
+        int count = 0;
+        for (std::string line; std::getline(file, line);) {
+            count += line.find(text) != std::string::npos ? 1 : 0;
+        }
+        return count;
+    }
+
+private:
+    QProcess m_process;
+};
+
+/// A listening socket whose queue is full: the system drops whoever asks for a connection, without a word.
+class LostAddress
+{
+public:
+    explicit LostAddress(const std::string& address)
+    {
+        m_address.sin_family = AF_INET;
+        m_address.sin_port = htons(80);
+        m_address.sin_addr.s_addr = inet_addr(address.c_str());
+        m_sockets.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+        m_good = ::bind(m_sockets[0], where(), sizeof m_address) == 0 && ::listen(m_sockets[0], 0) == 0;
+        for (int i = 0; i < 3; ++i) {
+            m_sockets.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+            ::connect(m_sockets.back(), where(), sizeof m_address);
+        }
+    }
+    LostAddress(const LostAddress&) = delete;
+    LostAddress& operator=(const LostAddress&) = delete;
+    ~LostAddress()
+    {
+        for (const int socket : m_sockets) {
+            ::close(socket);
+        }
+    }
+
+    /// Whether the last one that asked got no answer at all.
+    bool isLost() const
+    {
+        int error = 0;
+        socklen_t size = sizeof error;
+        sockaddr_in peer{};
+        socklen_t peerSize = sizeof peer;
+        return m_good && ::getsockopt(m_sockets.back(), SOL_SOCKET, SO_ERROR, &error, &size) == 0 &&
+               error == 0 &&
+               ::getpeername(m_sockets.back(), reinterpret_cast<sockaddr*>(&peer), &peerSize) != 0;
+    }
+
+private:
+    const sockaddr* where() const
+    {
+        return reinterpret_cast<const sockaddr*>(&m_address);
+    }
+
+    sockaddr_in m_address{};
+    std::vector<int> m_sockets;
+    bool m_good = false;
+};
+
+/// Asks the event loop again and again, as a person would with the mouse, and notes how long it takes.
+class Prober
+{
+public:
+    Prober()
+        : m_thread([this] {
+              while (!m_end) {
+                  const auto asked = Clock::now();
+                  QMetaObject::invokeMethod(
+                      QApplication::instance(),
+                      [this, asked] { m_milliseconds.push_back(secondsSince(asked) * 1000); },
+                      Qt::QueuedConnection);
+                  std::this_thread::sleep_for(probeInterval);
+              }
+          })
+    {
+    }
+    Prober(const Prober&) = delete;
+    Prober& operator=(const Prober&) = delete;
+    ~Prober()
+    {
+        m_end = true;
+        m_thread.join();
+        QApplication::processEvents(); // the last answers
+    }
+
+    const std::vector<double>& milliseconds() const
+    {
+        return m_milliseconds;
+    }
+
+private:
+    std::atomic<bool> m_end = false;
+    std::vector<double> m_milliseconds; // of the user-interface thread
+    std::thread m_thread;
+};
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+bool measureLost()
+{
+    Servers servers("[network Living]\nmodel = RT-300NII\nid = living\n");
+    if (!servers.serve()) {
+        std::fprintf(stderr, "no servers\n");
+        return false;
+    }
+    std::vector<std::unique_ptr<LostAddress>> lost;
+    for (int i = 0; i < lostPublishers; ++i) {
+        const std::string address = "127.0.1." + std::to_string(i + 1);
+        lost.push_back(std::make_unique<LostAddress>(address));
+        if (!lost.back()->isLost()) {
+            std::fprintf(stderr, "%s answers\n", address.c_str());
+            return false;
+        }
+        Installation::addNetwork("lost" + std::to_string(i), "Lost " + std::to_string(i), address);
+    }
+
+    std::vector<double> refreshes; // seconds between two of the living one; from the start to the first
+    int ready = 0;
+    int lostAnswers = 0;
+    auto last = Clock::now();
+    Prober prober;
+    PubSetup window(nullptr);
+    QObject::connect(
+        &window, &PubSetup::updateStatusOneDeviceSignal, QApplication::instance(),
+        [&](const QString& id, const QString&, const QString&, const QString& status) {
+            if (id != "living") {
+                ++lostAnswers;
+                return;
+            }
+            refreshes.push_back(secondsSince(last));
+            ready += status == "Ready" ? 1 : 0;
+            last = Clock::now();
+        },
+        Qt::QueuedConnection);
+    window.show();
+    serveEvents(lostTime);
+    refreshes.push_back(secondsSince(last)); // one that does not come any more counts too
+
+    const std::vector<double> answers = prober.milliseconds();
+    const double longestRefresh = *std::max_element(refreshes.begin(), refreshes.end());
+    const double longestAnswer = *std::max_element(answers.begin(), answers.end());
+    std::printf("%d publishers whose packets go nowhere, and a living one, for %d s\n", lostPublishers,
+                static_cast<int>(lostTime.count()));
+    std::printf("  living one: %d answers, %d of them \"Ready\"; lost ones: %d answers\n",
+                static_cast<int>(refreshes.size()) - 1, ready, lostAnswers);
+    std::printf("  longest time without a refresh of it     %8.2f s    %6.3f x of the %.0f s allowed\n",
+                longestRefresh, longestRefresh / refreshLimit, refreshLimit);
+    std::printf("  longest wait for the window              %8.2f ms   %6.3f x of the %.0f ms allowed\n",
+                longestAnswer, longestAnswer / answerLimit, answerLimit);
+    std::printf("  wait for the window, median of %6zu     %8.3f ms\n", answers.size(), median(answers));
+    return true;
+}
+
+/// What the system tells of a process.
+struct Figures
+{
+    double processorSeconds = 0;
+    double residentMiB = 0;
+    long threads = 0;
+    long descriptors = 0;
+    long sockets = 0; ///< among the descriptors
+};
+
+Figures look(qint64 pid)
+{
+    const std::string folder = "/proc/" + std::to_string(pid);
+    Figures figures;
+    std::ifstream status(folder + "/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with("VmRSS:")) {
+            figures.residentMiB = std::stod(line.substr(6)) / 1024;
+        } else if (line.starts_with("Threads:")) {
+            figures.threads = std::stol(line.substr(8));
+        }
+    }
+    std::string stat;
+    std::getline(std::ifstream(folder + "/stat"), stat);
+    std::istringstream fields(stat.substr(stat.rfind(')') + 1)); // behind the name: state is the third
+    std::string skipped;
+    for (int field = 3; field < 14; ++field) {
+        fields >> skipped;
+    }
+    double user = 0;
+    double system = 0;
+    fields >> user >> system;
+    figures.processorSeconds = (user + system) / static_cast<double>(sysconf(_SC_CLK_TCK));
+    std::error_code gone; // a descriptor may be closed while it is looked at
+    for (const auto& entry : std::filesystem::directory_iterator(folder + "/fd")) {
+        ++figures.descriptors;
+        const std::string target = std::filesystem::read_symlink(entry, gone);
+        figures.sockets += target.starts_with("socket:") ? 1 : 0;
+    }
+    return figures;
+}
+
+/// What is left between two polls: waits for a moment without a connection, but not for ever.
+Figures lookWhenQuiet(qint64 pid)
+{
+    const auto start = Clock::now();
+    Figures figures = look(pid);
+    while (figures.sockets > 0 && secondsSince(start) < 8) {
+        serveEvents(std::chrono::milliseconds(50));
+        figures = look(pid);
+    }
+    return figures;
+}
+
+/// Polls that went through to their last question.
+int polls()
+{
+    return Servers::lines("/webapp2/DevInfoGetter?ifversion=02000000&type=8");
+}
+
+bool measureLiving()
+{
+    std::string scenario;
+    for (int i = 0; i < livingPublishers; ++i) {
+        scenario += "[network Server " + std::to_string(i) + "]\nmodel = RT-300NII\njobs = 3\n";
+    }
+    Servers servers(scenario);
+    QProcess program;
+    program.setStandardErrorFile(QProcess::nullDevice());
+    program.setStandardOutputFile(QProcess::nullDevice());
+    if (!servers.serve()) {
+        std::fprintf(stderr, "no servers\n");
+        return false;
+    }
+    program.start(UDSETUP_PROGRAM, QStringList());
+    if (!program.waitForStarted()) {
+        std::fprintf(stderr, "no program\n");
+        return false;
+    }
+    serveEvents(std::chrono::seconds(warmUp));
+
+    std::printf("%d living publishers, polled by the program for a minute\n", livingPublishers);
+    const Figures before = lookWhenQuiet(program.processId());
+    const int pollsBefore = polls();
+    const auto start = Clock::now();
+    Figures after = before;
+    const auto print = [&](const Figures& figures) {
+        std::printf("  after %4.1f s: %6.2f MiB resident, %ld threads, %ld descriptors (%ld sockets), "
+                    "%5.2f s of processor time\n",
+                    secondsSince(start), figures.residentMiB, figures.threads, figures.descriptors,
+                    figures.sockets, figures.processorSeconds - before.processorSeconds);
+    };
+    print(before);
+    for (int second = sampleInterval; second <= minute; second += sampleInterval) {
+        const auto left = start + std::chrono::seconds(second) - Clock::now();
+        serveEvents(std::chrono::duration_cast<std::chrono::milliseconds>(left));
+        after = lookWhenQuiet(program.processId());
+        print(after);
+    }
+    const double time = secondsSince(start);
+    const int pollsDone = polls() - pollsBefore;
+    const double used = after.processorSeconds - before.processorSeconds;
+    std::printf("  %d polls: %.2f ms of processor time each, %.1f %% of one processor\n", pollsDone,
+                used * 1000 / pollsDone, used * 100 / time);
+    std::printf("  memory at the end against the beginning      %6.3f x (%+.2f MiB)\n",
+                after.residentMiB / before.residentMiB, after.residentMiB - before.residentMiB);
+    std::printf("  descriptors at the end against the beginning %+ld\n",
+                after.descriptors - before.descriptors);
+    program.terminate();
+    program.waitForFinished();
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    {
+        const Installation installation;
+        if (!measureLost()) {
+            return 1;
+        }
+    }
+    const Installation installation;
+    return measureLiving() ? 0 : 1;
+}
