@@ -63,6 +63,7 @@ int main(int argc, char** argv)
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setDesktopFileName("com.arven.UlmarDiscSetup");
     QApplication app(argc, argv);
 
     QTranslator qtTr;

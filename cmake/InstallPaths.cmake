@@ -1,0 +1,10 @@
+# Where the program is installed: the fixed location that the sources know, read from them.
+set(paths_header ${CMAKE_CURRENT_SOURCE_DIR}/Include/InstallPaths.h)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${paths_header})
+file(STRINGS ${paths_header} install_dir_line REGEX "^constexpr char INSTALL_DIR\\[\\]")
+if(NOT install_dir_line MATCHES "= \"(/[^\"]+)\"")
+    message(FATAL_ERROR "Include/InstallPaths.h names no INSTALL_DIR")
+endif()
+set(ULMAR_INSTALL_DIR ${CMAKE_MATCH_1})
+
+include(GNUInstallDirs)
