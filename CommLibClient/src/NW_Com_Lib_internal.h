@@ -23,8 +23,12 @@ struct ST_COMM_REPLY
     DWORD m_dwDataSize = 0;
 };
 
-/// Takes a body apart. The first item that is not good decides for the whole reply; after a failure the list
-/// is empty. `dwCheckReplyCount` is the number of items expected, 0 for any.
+/// The longest list. Servers hold at most 1000 jobs, and no other list is longer.
+constexpr DWORD MAX_REPLY_ITEMS = 10000;
+
+/// Splits a body into its items. The first item with a bad status decides the result, even one beyond the
+/// expected items; after a failure the list is empty. `dwCheckReplyCount` is the number of items expected, 0
+/// for any number up to MAX_REPLY_ITEMS. NCL_ERR_GET_MEMORY for more than that, or if memory runs out.
 DWORD ParseCommReply(const char* pContent, DWORD dwContentLen, std::list<ST_COMM_REPLY>& rliReply,
                      DWORD dwCheckReplyCount);
 

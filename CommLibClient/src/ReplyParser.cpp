@@ -1,28 +1,42 @@
 #include "LogManager.h"
 #include "NW_Com_Lib_internal.h"
 
+#include <new>
+
 namespace {
 
 constexpr DWORD ITEM_HEAD_SIZE = 3;
 
-/// The reply that is not as agreed: it is logged with the number of the check that found it.
-DWORD Invalid(std::list<ST_COMM_REPLY>& items, int check)
+/// Refuses a reply: logs the code and the number of the check that failed.
+DWORD Refuse(std::list<ST_COMM_REPLY>& items, DWORD code, int check)
 {
     CLogManager log;
-    log.LOG_ERR("[CommLib] ParseCommReply %s %d", GetNCLErrorString(NCL_ERR_INVALID_COMM_SPEC), check);
+    log.LOG_ERR("[CommLib] ParseCommReply %s %d", GetNCLErrorString(code), check);
     items.clear();
-    return NCL_ERR_INVALID_COMM_SPEC;
+    return code;
+}
+
+DWORD Invalid(std::list<ST_COMM_REPLY>& items, int check)
+{
+    return Refuse(items, NCL_ERR_INVALID_COMM_SPEC, check);
+}
+
+DWORD OutOfMemory(std::list<ST_COMM_REPLY>& items)
+{
+    return Refuse(items, NCL_ERR_GET_MEMORY, 5);
 }
 
 } // namespace
 
 DWORD ParseCommReply(const char* pContent, DWORD dwContentLen, std::list<ST_COMM_REPLY>& rliReply,
                      DWORD dwCheckReplyCount)
-{
+try {
     rliReply.clear();
     if (pContent == nullptr) {
         return Invalid(rliReply, 1);
     }
+    const DWORD limit = dwCheckReplyCount != 0 ? dwCheckReplyCount : MAX_REPLY_ITEMS;
+    DWORD count = 0;
     DWORD offset = 0;
     while (offset < dwContentLen) {
         const DWORD left = dwContentLen - offset;
@@ -43,13 +57,18 @@ DWORD ParseCommReply(const char* pContent, DWORD dwContentLen, std::list<ST_COMM
         if (item.m_dwDataSize != 0) {
             item.m_pData = pContent + offset + ITEM_HEAD_SIZE;
         }
-        rliReply.push_back(item);
+        if (count < limit) {
+            rliReply.push_back(item);
+        }
+        ++count;
         offset += ITEM_HEAD_SIZE + item.m_dwDataSize;
     }
-    if (dwCheckReplyCount != 0 && rliReply.size() != dwCheckReplyCount) {
+    if (dwCheckReplyCount != 0 && count != dwCheckReplyCount) {
         return Invalid(rliReply, 4);
     }
-    return NCL_SUCCESS;
+    return count > limit ? OutOfMemory(rliReply) : DWORD{NCL_SUCCESS};
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(rliReply);
 }
 
 void DEBUG_HTTP_REPLY(const char*, DWORD) {}

@@ -1,5 +1,6 @@
 #include "NW_Com_Lib_internal.h"
 
+#include "FailingMemory.h"
 #include "SyslogLines.h"
 
 #include <gmock/gmock.h>
@@ -139,6 +140,67 @@ TEST(ReplyParser, RefusesHalfAReplyAtEveryByte)
         std::list<ST_COMM_REPLY> items = OldItems();
         EXPECT_EQ(Parse(body.substr(0, size), items, 3), 13U) << size;
         EXPECT_THAT(items, IsEmpty());
+    }
+}
+
+TEST(ReplyParser, KeepsNoMoreItemsThanAreExpected)
+{
+    const std::string zeros(3U << 20, '\0'); // a million valid items without data
+    SyslogLines lines;
+    std::list<ST_COMM_REPLY> items = OldItems();
+    DWORD result = 0;
+    {
+        const FailingMemory memory(1, 2, FailingMemory::ALL);
+        result = Parse(zeros, items, 2);
+    }
+    EXPECT_EQ(result, 13U);
+    EXPECT_THAT(items, IsEmpty());
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Invalid Comm Spec 4"));
+}
+
+TEST(ReplyParser, FindsABadStatusBeyondTheExpectedItems)
+{
+    const std::string good(3000, '\0');
+    SyslogLines lines;
+    std::list<ST_COMM_REPLY> items = OldItems();
+    EXPECT_EQ(Parse(good + Item(3, ""), items, 1), 8003U);
+    EXPECT_THAT(items, IsEmpty());
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[Servlet] Authentication"));
+    EXPECT_EQ(Parse(good + std::string(1, '\0'), items, 1), 13U);
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Invalid Comm Spec 2"));
+    EXPECT_EQ(Parse(good + Item(0, "x").substr(0, 3), items, 1), 13U);
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Invalid Comm Spec 3"));
+}
+
+TEST(ReplyParser, LimitsListsOfAnyLength)
+{
+    SyslogLines lines;
+    std::list<ST_COMM_REPLY> items = OldItems();
+    EXPECT_EQ(Parse(std::string(3 * 10000, '\0'), items), 0U);
+    EXPECT_EQ(items.size(), 10000U);
+    EXPECT_THAT(lines.Take(), IsEmpty());
+
+    EXPECT_EQ(Parse(std::string(3 * 10001, '\0'), items), 2U);
+    EXPECT_THAT(items, IsEmpty());
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Get Memory 5"));
+
+    EXPECT_EQ(Parse(std::string(3 * 10001, '\0') + Item(2, ""), items), 8002U); // it still decides
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[Servlet] Device Offline"));
+}
+
+TEST(ReplyParser, ReportsThatMemoryRanOut)
+{
+    SyslogLines lines;
+    for (size_t granted = 0; granted < 3; ++granted) {
+        std::list<ST_COMM_REPLY> items = OldItems();
+        DWORD result = 0;
+        {
+            const FailingMemory memory(1, granted, FailingMemory::ALL);
+            result = Parse(Item(0, "a") + Item(0, "b") + Item(0, "c"), items, 3);
+        }
+        EXPECT_EQ(result, 2U);
+        EXPECT_THAT(items, IsEmpty());
+        EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Get Memory 5"));
     }
 }
 
