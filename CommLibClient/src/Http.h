@@ -5,6 +5,7 @@
 
 #include <string>
 
+class ReplyBody;
 struct ST_HTTP_RESPONSE;
 
 /// What the servlets of a publisher server need: a request line, a few headers, a body in memory, and a reply
@@ -87,6 +88,10 @@ public:
         STATUS_NO_EXTENDED = 40
     };
 
+    /// The longest reply in bytes, its head and interim replies included. The largest reply of a publisher
+    /// server, a list of 1000 jobs, has about 1.2 MB.
+    static constexpr DWORD MAX_REPLY_SIZE = 4U << 20;
+
     CHttp() = default;
     CHttp(const CHttp&) = delete;
     CHttp& operator=(const CHttp&) = delete;
@@ -100,10 +105,10 @@ public:
     /// Milliseconds of silence before each read. 0 always.
     int SetNoCommTimeout(DWORD dwMilliSec);
 
-    /// The whole exchange. One that fails is made once more from the head on, unless it timed out.
-    /// `pszHost` is the text of the Host line. Without both user and password no authorisation is sent.
-    /// `pszAddHeader`, which may be null, holds whole lines, each with its CR LF. Nothing is escaped.
-    /// After a failure the response holds what was parsed before it.
+    /// The whole exchange. One that fails is made once more from the head on, unless it timed out or the
+    /// reply exceeded MAX_REPLY_SIZE (-2). `pszHost` is the text of the Host line. Without both user and
+    /// password no authorisation is sent. `pszAddHeader`, which may be null, holds whole lines, each with its
+    /// CR LF. Nothing is escaped. After a failure the response holds what was parsed before it.
     int SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
                     const char* pszUser, const char* pszPassword, const char* pszAddHeader,
                     const char* pMsgBody, DWORD dwMsgSize, ST_HTTP_RESPONSE* pstHttpRes);
@@ -114,8 +119,8 @@ public:
     int SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
                    const char* pszUser, const char* pszPassword, const char* pszAddHeader);
     int SendMessage(const char* pData, DWORD dwSize);
-    /// The next final response; interim ones are passed over. There is no limit to their number or to that
-    /// of header lines: only the silence before each byte, and the length of each line, are bounded.
+    /// The next final response; interim ones are skipped. -2 for a reply beyond MAX_REPLY_SIZE. Time is
+    /// limited only by the silence before each byte.
     int RecvResponse(ST_HTTP_RESPONSE* pstHttpRes);
 
     static const char* GetMethodStringPtr(METHOD eMethod);
@@ -133,8 +138,10 @@ private:
     int RecvHeader(char* pBuf, DWORD dwBufSize, ST_HTTP_RESPONSE* pstHttpRes);
     int RecvMessage(ST_HTTP_RESPONSE* pstHttpRes);
     int RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes);
-    /// ReadToCount for what a DWORD counts.
-    int RecvBytes(char* pBuf, DWORD dwSize);
+    /// Appends that many bytes of the connection to the body.
+    int RecvBytes(ReplyBody& body, DWORD dwSize);
+    /// Adds to the size of the reply; false, logged, if that exceeds MAX_REPLY_SIZE.
+    bool CountReply(DWORD dwSize);
 
     /// The text behind the prefix; null when `pszData` starts otherwise.
     static char* StrCmp(char* pszData, const char* pszPrefix);
@@ -144,6 +151,9 @@ private:
     static int ConvertBase64Error(int nValue);
     /// True for a timeout, which it logs.
     static bool IsNetworkTimeoutError(int nValue);
+
+    DWORD m_dwReplySize = 0;        ///< bytes of the present reply, its announced body included
+    bool m_isReplyTooLarge = false; ///< of the present exchange
 };
 
 /// One response. It owns its body.

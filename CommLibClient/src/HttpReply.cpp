@@ -4,7 +4,6 @@
 #include "LogManager.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -13,9 +12,10 @@
 
 namespace {
 
-constexpr DWORD HEADER_LINE_SIZE = 1024; ///< the longest status or header line, its end included
-constexpr DWORD CHUNK_LINE_SIZE = 12;    ///< the longest line around a chunk, its end included
-constexpr size_t VERSION_LENGTH = 8;     ///< of "HTTP/1.1", behind which the code is looked for
+constexpr DWORD HEADER_LINE_SIZE = 1024;  ///< the longest status or header line, its end included
+constexpr DWORD CHUNK_LINE_SIZE = 12;     ///< the longest line around a chunk, its end included
+constexpr size_t VERSION_LENGTH = 8;      ///< of "HTTP/1.1", behind which the code is looked for
+constexpr DWORD FIRST_BODY_PIECE = 65536; ///< allocated for an announced size before any of it has arrived
 
 /// The whole text as a number that a DWORD holds. Leading blanks and a sign pass, as strtoul has it; so does
 /// no digit at all, which is 0. errno is left to the caller: ERANGE there from before makes any text fail.
@@ -36,6 +36,47 @@ bool Holds(const char* text, const char* part)
 }
 
 } // namespace
+
+/// A body that grows as it arrives: a size that is only announced costs no memory, and many small chunks cost
+/// linear time.
+class ReplyBody
+{
+public:
+    /// Room for `size` more bytes behind those that have arrived; null if there is no memory.
+    char* Room(DWORD size)
+    {
+        if (m_capacity - m_size < size) {
+            const DWORD capacity = std::max(m_size + size, std::min(m_capacity * 2, CHttp::MAX_REPLY_SIZE));
+            std::unique_ptr<char[]> grown(new (std::nothrow) char[capacity]);
+            if (grown == nullptr) {
+                return nullptr;
+            }
+            std::copy_n(m_bytes.get(), m_size, grown.get());
+            m_bytes = std::move(grown);
+            m_capacity = capacity;
+        }
+        return m_bytes.get() + m_size;
+    }
+    void HasArrived(DWORD size)
+    {
+        m_size += size;
+    }
+    DWORD Size() const
+    {
+        return m_size;
+    }
+    /// Gives the bytes to the response; null if there are none.
+    void MoveTo(ST_HTTP_RESPONSE* response)
+    {
+        response->m_pContent = m_bytes.release();
+        response->m_dwContentLength = m_size;
+    }
+
+private:
+    std::unique_ptr<char[]> m_bytes;
+    DWORD m_size = 0;
+    DWORD m_capacity = 0;
+};
 
 ST_HTTP_RESPONSE::~ST_HTTP_RESPONSE()
 {
@@ -58,6 +99,7 @@ int CHttp::RecvResponse(ST_HTTP_RESPONSE* pstHttpRes)
 {
     assert(pstHttpRes != nullptr);
     CLogManager log;
+    m_dwReplySize = 0;
     char buffer[HEADER_LINE_SIZE] = {};
     int result = RecvHeader(buffer, sizeof buffer, pstHttpRes);
     if (result < 0) {
@@ -133,7 +175,7 @@ int CHttp::RecvLine(char* pBuf, DWORD dwBufSize)
         }
         if (pBuf[offset] == '\n') {
             pBuf[offset > 0 ? offset - 1 : 0] = '\0';
-            return 0;
+            return CountReply(offset + 1) ? 0 : INTERNET_ERR_MEMORY;
         }
     }
     return INTERNET_ERR_LINE_TOO_LONG;
@@ -179,36 +221,52 @@ int CHttp::RecvMessage(ST_HTTP_RESPONSE* pstHttpRes)
     if (size == 0) {
         return 0;
     }
-    std::unique_ptr<char[]> content(new (std::nothrow) char[size]);
-    if (content == nullptr) {
-        return INTERNET_ERR_MEMORY;
-    }
-    const int result = RecvBytes(content.get(), size);
+    ReplyBody body;
+    const int result = RecvBytes(body, size);
     if (result < 0) {
         return result;
     }
-    pstHttpRes->m_pContent = content.release();
+    body.MoveTo(pstHttpRes);
     return 0;
 }
 
-int CHttp::RecvBytes(char* pBuf, DWORD dwSize)
+int CHttp::RecvBytes(ReplyBody& body, DWORD dwSize)
 {
-    DWORD received = 0;
-    while (received < dwSize) { // the transport counts with an int
-        const int piece = static_cast<int>(std::min<DWORD>(dwSize - received, INT_MAX));
-        const int result = m_Con.ReadToCount(pBuf + received, piece);
+    if (!CountReply(dwSize)) {
+        return INTERNET_ERR_MEMORY;
+    }
+    DWORD left = dwSize;
+    while (left > 0) {
+        const DWORD piece = std::min(left, std::max(body.Size(), FIRST_BODY_PIECE));
+        char* const room = body.Room(piece);
+        if (room == nullptr) {
+            return INTERNET_ERR_MEMORY;
+        }
+        const int result = m_Con.ReadToCount(room, static_cast<int>(piece));
         if (result < 0) {
             return result;
         }
-        received += static_cast<DWORD>(piece);
+        body.HasArrived(piece);
+        left -= piece;
     }
     return 0;
+}
+
+bool CHttp::CountReply(DWORD dwSize)
+{
+    if (dwSize > MAX_REPLY_SIZE - m_dwReplySize) {
+        CLogManager log;
+        log.LOG_ERR("[CommLib(HTTP)] Reply of more than %u bytes", MAX_REPLY_SIZE);
+        m_isReplyTooLarge = true;
+        return false;
+    }
+    m_dwReplySize += dwSize;
+    return true;
 }
 
 int CHttp::RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes)
 {
-    std::unique_ptr<char[]> content;
-    DWORD total = 0;
+    ReplyBody body;
     while (true) {
         char line[CHUNK_LINE_SIZE] = {};
         int result = RecvLine(line, sizeof line);
@@ -217,7 +275,7 @@ int CHttp::RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes)
         }
         DWORD size = 0;
         errno = 0;
-        if (!ParseNumber(line, 16, &size) || size > UINT32_MAX - total) {
+        if (!ParseNumber(line, 16, &size) || size > UINT32_MAX - body.Size()) {
             return INTERNET_ERR_MALFORMED;
         }
         if (size == 0) {
@@ -227,23 +285,15 @@ int CHttp::RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes)
             }
             break;
         }
-        std::unique_ptr<char[]> grown(new (std::nothrow) char[size_t{total} + size]);
-        if (grown == nullptr) {
-            return INTERNET_ERR_MEMORY;
-        }
-        std::copy_n(content.get(), total, grown.get());
-        content = std::move(grown);
-        result = RecvBytes(content.get() + total, size);
+        result = RecvBytes(body, size);
         if (result < 0) {
             return result;
         }
-        total += size;
         result = RecvLine(line, sizeof line);
         if (result < 0) {
             return result;
         }
     }
-    pstHttpRes->m_pContent = content.release();
-    pstHttpRes->m_dwContentLength = total;
+    body.MoveTo(pstHttpRes);
     return 0;
 }

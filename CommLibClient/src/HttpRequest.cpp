@@ -52,6 +52,7 @@ int CHttp::SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, co
         header += "Content-Length: " + std::to_string(dwMsgSize) + "\r\n";
     }
 
+    m_isReplyTooLarge = false;
     for (int nRetryNum = 0;; ++nRetryNum) {
         const char* stage = "SendHeader";
         int result = SendHeader(eMethod, pszPath, eVersion, pszHost, pszUser, pszPassword, header.c_str());
@@ -74,7 +75,7 @@ int CHttp::SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, co
                          GetMethodStringPtr(eMethod), OrNull(pszPath), OrNull(pszAddHeader));
             return result;
         }
-        if (nRetryNum > 0) {
+        if (nRetryNum > 0 || m_isReplyTooLarge) {
             return result;
         }
         log.LOG_WARN("CHttp::SendRequest %s() retry", stage);

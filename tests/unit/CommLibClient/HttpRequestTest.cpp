@@ -228,6 +228,20 @@ TEST(HttpRequest, IsSentTwiceWhenItsReplyIsNoneThatIsKnown)
     }
 }
 
+TEST(HttpRequest, IsSentOnceWhenItsReplyIsTooLarge)
+{
+    const std::string tooLarge = "HTTP/1.1 200 OK\r\nContent-Length: 67108864\r\n\r\nabc";
+    SyslogLines lines;
+    Client client({{.reply = tooLarge}, {.connectResult = -14}, {.reply = GOOD}});
+    EXPECT_EQ(client.Get(), -2);
+    EXPECT_THAT(client.comm->writes, ElementsAre(HEAD));
+    EXPECT_FALSE(client.http.IsConnected());
+    EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib(HTTP)] Reply of more than 4194304 bytes",
+                                          "<4>CHttp::RecvResponse RecvMessage() error"));
+    EXPECT_EQ(client.Get(), 0); // the next request has its retry again
+    EXPECT_THAT(lines.Take(), ElementsAre("<4>CHttp::SendRequest SendHeader() retry"));
+}
+
 TEST(HttpRequest, IsNeverSentThreeTimes)
 {
     for (const Stage& first : stages) {
