@@ -38,6 +38,16 @@ void Destroy(CHttp* http)
     }
 }
 
+void SendHashAtEnd(ST_NCL& ncl)
+try {
+    const DWORD result = SendHashOfImage(&ncl, ncl.m_nServerJobID);
+    if (result != NCL_SUCCESS) {
+        LogTrace("EndConnection", "SendHash()", result);
+    }
+} catch (const std::bad_alloc&) {
+    OutOfMemory("EndConnection");
+}
+
 } // namespace
 
 std::vector<ST_NCL*> g_pvarrNCL = EmptyTable();
@@ -129,10 +139,7 @@ void EndConnection(DWORD dwHandle)
     }
     StopOperations(*ncl);
     if (ncl->m_pMD != nullptr && ncl->m_dwCompatiMode != 1) {
-        const DWORD result = SendHashOfImage(ncl, ncl->m_nServerJobID);
-        if (result != NCL_SUCCESS) {
-            LogTrace("EndConnection", "SendHash()", result);
-        }
+        SendHashAtEnd(*ncl);
     }
     DestroyNCL(dwHandle, ncl);
 }

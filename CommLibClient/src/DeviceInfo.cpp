@@ -31,7 +31,7 @@ DWORD BadInfoParameter(const char* what)
 } // namespace
 
 DWORD GetDeviceInfo(DWORD dwHandle, DWORD dwInfoType, char* pszBuf, DWORD dwSize)
-{
+try {
     NCLOperation operation(dwHandle, "GetDeviceInfo", NCLOperation::QUERY);
     DWORD result = operation.Enter(pszBuf != nullptr && dwInfoType <= NCL_DIT_NAME_OF_DRV2);
     if (result != NCL_SUCCESS) {
@@ -56,10 +56,12 @@ DWORD GetDeviceInfo(DWORD dwHandle, DWORD dwInfoType, char* pszBuf, DWORD dwSize
     }
     pszBuf[item.m_dwDataSize] = '\0';
     return operation.End();
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetDeviceInfo");
 }
 
 DWORD GetDeviceInfoInt(DWORD dwHandle, DWORD dwInfoType, DWORD* pdwValueOut)
-{
+try {
     NCLOperation operation(dwHandle, "GetDeviceInfoInt", NCLOperation::QUERY);
     DWORD result = operation.Enter(pdwValueOut != nullptr && dwInfoType < std::size(dwCommValueMaxConst));
     if (result != NCL_SUCCESS) {
@@ -80,10 +82,12 @@ DWORD GetDeviceInfoInt(DWORD dwHandle, DWORD dwInfoType, DWORD* pdwValueOut)
     }
     *pdwValueOut = value;
     return operation.End(static_cast<int>(value));
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetDeviceInfoInt");
 }
 
 DWORD GetServerMode(DWORD dwHandle, DWORD* pdwModeOut)
-{
+try {
     NCLOperation operation(dwHandle, "GetServerMode", NCLOperation::QUERY);
     DWORD result = operation.Enter(pdwModeOut != nullptr);
     if (result != NCL_SUCCESS) {
@@ -100,4 +104,6 @@ DWORD GetServerMode(DWORD dwHandle, DWORD* pdwModeOut)
     }
     *pdwModeOut = static_cast<BYTE>(operation.Item().m_pData[0]);
     return operation.End(static_cast<int>(*pdwModeOut));
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetServerMode");
 }

@@ -17,7 +17,7 @@ DWORD AskStatus(NCLOperation& operation, DeviceStatusType eType)
 /// The operation of a status of fixed size. `unpack` gives 0, or the number of the check that failed.
 DWORD GetStatus(DWORD dwHandle, const char* pszName, DeviceStatusType eType, DWORD dwItemSize,
                 bool areArgumentsGood, const std::function<int(const char* pData, const ST_NCL& ncl)>& unpack)
-{
+try {
     NCLOperation operation(dwHandle, pszName, NCLOperation::QUERY);
     DWORD result = operation.Enter(areArgumentsGood);
     if (result != NCL_SUCCESS) {
@@ -32,12 +32,14 @@ DWORD GetStatus(DWORD dwHandle, const char* pszName, DeviceStatusType eType, DWO
     }
     const int check = unpack(operation.Item().m_pData, *operation.Object());
     return check == 0 ? operation.End() : operation.Invalid(check);
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(pszName);
 }
 
 /// The operation of a status that is handed on as it is.
 DWORD GetBlock(DWORD dwHandle, const char* pszName, DeviceStatusType eType, BYTE* pBuf, DWORD dwBufSize,
                DWORD* pdwGetSize)
-{
+try {
     NCLOperation operation(dwHandle, pszName, NCLOperation::QUERY);
     DWORD result = operation.Enter(pBuf != nullptr && pdwGetSize != nullptr);
     if (result != NCL_SUCCESS) {
@@ -55,6 +57,8 @@ DWORD GetBlock(DWORD dwHandle, const char* pszName, DeviceStatusType eType, BYTE
     }
     std::copy_n(item.m_pData, item.m_dwDataSize, pBuf);
     return operation.End();
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(pszName);
 }
 
 } // namespace

@@ -23,9 +23,13 @@ DWORD SendPiece(ST_NCL* pNCL, const NCLUpload& piece, ULONGLONG total)
     DWORD result = NCL_ERR_PROCESS_CREATE;
     DWORD digestFailure = 0;
     const auto upload = [&] {
-        result = UploadFile(pNCL, COMM_TYPE_SELECT, piece.nServerJobID, piece.userName.c_str(),
-                            piece.password.c_str(), piece.pszFileName, piece.pData, piece.dwSize,
-                            pNCL->m_ullDiscImageOfs, total, &pNCL->m_bDiscImageCancelSending);
+        try {
+            result = UploadFile(pNCL, COMM_TYPE_SELECT, piece.nServerJobID, piece.userName.c_str(),
+                                piece.password.c_str(), piece.pszFileName, piece.pData, piece.dwSize,
+                                pNCL->m_ullDiscImageOfs, total, &pNCL->m_bDiscImageCancelSending);
+        } catch (const std::bad_alloc&) {
+            result = OutOfMemory("SendDiscImage");
+        }
     };
     std::jthread thread;
     try {
@@ -60,7 +64,7 @@ DWORD SendHashOfImage(ST_NCL* pNCL, int nServerJobID)
 
 DWORD SendDiscImage(DWORD dwHandle, int nServerJobID, const BYTE* pDiscImage, DWORD dwSendSize,
                     DWORD dwTotalDiscSizeLow, DWORD dwTotalDiscSizeHigh, const char* pszImageName)
-{
+try {
     NCLOperation operation(dwHandle, "SendDiscImage", NCLOperation::ACTION, nServerJobID);
     DWORD result = operation.Enter(pDiscImage == nullptr || pszImageName != nullptr);
     if (result == NCL_SUCCESS) {
@@ -100,4 +104,6 @@ DWORD SendDiscImage(DWORD dwHandle, int nServerJobID, const BYTE* pDiscImage, DW
         }
     }
     return operation.End();
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("SendDiscImage");
 }

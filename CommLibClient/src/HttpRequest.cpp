@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <new>
 
 namespace {
 
@@ -40,7 +41,7 @@ int CHttp::SetNoCommTimeout(DWORD dwMilliSec)
 int CHttp::SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
                        const char* pszUser, const char* pszPassword, const char* pszAddHeader,
                        const char* pMsgBody, DWORD dwMsgSize, ST_HTTP_RESPONSE* pstHttpRes)
-{
+try {
     assert(pszPath != nullptr);
     assert(pszHost != nullptr);
     assert(pstHttpRes != nullptr);
@@ -80,6 +81,9 @@ int CHttp::SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, co
         }
         log.LOG_WARN("CHttp::SendRequest %s() retry", stage);
     }
+} catch (const std::bad_alloc&) {
+    m_Con.Shutdown(); // the next request must not read what is left of this exchange
+    return INTERNET_ERR_MEMORY;
 }
 
 int CHttp::SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,

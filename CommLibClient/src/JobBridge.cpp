@@ -9,7 +9,7 @@ namespace {
 constexpr char TRACE_NAME[] = "CancelJobForBridge";
 
 DWORD ControlForBridge(const char* pszOperation, const char* pszAction, DWORD dwHandle, const char* pszJobID)
-{
+try {
     ST_NCL* pNCL = GetNCLObj(dwHandle);
     CLogManager log;
     log.LOG_INFO("%s , %s , Start", GetNCLHostName(pNCL), pszOperation);
@@ -37,6 +37,8 @@ DWORD ControlForBridge(const char* pszOperation, const char* pszAction, DWORD dw
     }
     log.LOG_INFO("%s , %s , End", GetNCLHostName(pNCL), pszOperation);
     return NCL_SUCCESS;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(pszOperation);
 }
 
 } // namespace

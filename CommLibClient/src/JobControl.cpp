@@ -13,7 +13,7 @@ namespace {
 /// What a submission ends with. A failure is logged as one of `pszCallee`.
 DWORD EndSubmission(const char* pszOperation, const char* pszCallee, DWORD dwHandle, int nServerJobID,
                     JobControlType eType)
-{
+try {
     NCLOperation operation(dwHandle, pszOperation, NCLOperation::ACTION, nServerJobID);
     DWORD result = operation.Enter(true);
     if (result != NCL_SUCCESS) {
@@ -26,12 +26,14 @@ DWORD EndSubmission(const char* pszOperation, const char* pszCallee, DWORD dwHan
     }
     operation.Object()->m_nServerJobID = 0;
     return operation.End();
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(pszOperation);
 }
 
 /// One of the operations of a monitor.
 DWORD ControlForMonitor(const char* pszOperation, DWORD dwHandle, int nServerJobID, JobControlType eType,
                         const char* pszUserName, const char* pszPassword)
-{
+try {
     NCLOperation operation(dwHandle, pszOperation, NCLOperation::ACTION, nServerJobID);
     DWORD result = operation.Enter(pszUserName != nullptr && pszPassword != nullptr);
     if (result != NCL_SUCCESS) {
@@ -40,6 +42,8 @@ DWORD ControlForMonitor(const char* pszOperation, DWORD dwHandle, int nServerJob
     result = ControlJobForMonitor(operation.Object(), operation.Response(), operation.Items(), nServerJobID,
                                   eType, pszUserName, pszPassword);
     return result == NCL_SUCCESS ? operation.End() : operation.Trace("ControlJobForMonitor()", result);
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(pszOperation);
 }
 
 } // namespace
@@ -80,9 +84,11 @@ DWORD CommitJob(DWORD dwHandle, int nServerJobID)
 }
 
 DWORD CancelJob(DWORD dwHandle, int nServerJobID)
-{
+try {
     const std::string callee = "ControlJob(" + std::to_string(nServerJobID) + ")";
     return EndSubmission("CancelJob", callee.c_str(), dwHandle, nServerJobID, JOB_CONTROL_TYPE_CANCEL);
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("CancelJob");
 }
 
 DWORD ControlJobForMonitor(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_REPLY>& rliReply,

@@ -52,7 +52,7 @@ DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLen
 } // namespace
 
 DWORD GetJobNumber(DWORD dwHandle, DWORD dwType, DWORD* pdwJobNum)
-{
+try {
     NCLOperation operation(dwHandle, "GetJobNumber", NCLOperation::QUERY);
     DWORD result = operation.Enter(dwType <= NCL_JNT_FINISH_JOB && pdwJobNum != nullptr);
     if (result == NCL_SUCCESS) {
@@ -67,10 +67,12 @@ DWORD GetJobNumber(DWORD dwHandle, DWORD dwType, DWORD* pdwJobNum)
     }
     *pdwJobNum = BigEndian16(operation.Item().m_pData);
     return operation.End(static_cast<int>(*pdwJobNum));
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetJobNumber");
 }
 
 DWORD GetPrnPossibilityNumber(DWORD dwHandle, DWORD* pdwNum)
-{
+try {
     NCLOperation operation(dwHandle, "GetPrnPossibilityNumber", NCLOperation::QUERY);
     DWORD result = operation.Enter(pdwNum != nullptr);
     if (result == NCL_SUCCESS) {
@@ -84,11 +86,13 @@ DWORD GetPrnPossibilityNumber(DWORD dwHandle, DWORD* pdwNum)
     }
     *pdwNum = BigEndian32(operation.Item().m_pData);
     return operation.End(static_cast<int>(*pdwNum));
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetPrnPossibilityNumber");
 }
 
 DWORD GetJobStatus(DWORD dwHandle, DWORD dwType, JobStatus* pJobStatusArrayOut, DWORD dwLength,
                    DWORD* pdwGetLengthOut)
-{
+try {
     NCLOperation operation(dwHandle, "GetJobStatus", NCLOperation::QUERY);
     DWORD result = operation.Enter(dwType <= NCL_JST_ALL_JOB && pJobStatusArrayOut != nullptr &&
                                    pdwGetLengthOut != nullptr);
@@ -99,11 +103,13 @@ DWORD GetJobStatus(DWORD dwHandle, DWORD dwType, JobStatus* pJobStatusArrayOut, 
                           });
     }
     return result == NCL_SUCCESS ? operation.End(static_cast<int>(*pdwGetLengthOut)) : result;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetJobStatus");
 }
 
 DWORD GetJobStatusEx(DWORD dwHandle, DWORD dwType, JobStatusEx* pJobStatusArrayOut, DWORD dwLength,
                      DWORD* pdwGetLengthOut)
-{
+try {
     NCLOperation operation(dwHandle, "GetJobStatusEx", NCLOperation::QUERY);
     DWORD result = operation.Enter(dwType <= NCL_JST_PROCESS_JOB_EX && pJobStatusArrayOut != nullptr &&
                                    pdwGetLengthOut != nullptr);
@@ -116,4 +122,6 @@ DWORD GetJobStatusEx(DWORD dwHandle, DWORD dwType, JobStatusEx* pJobStatusArrayO
                           });
     }
     return result == NCL_SUCCESS ? operation.End() : result;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetJobStatusEx");
 }

@@ -40,7 +40,7 @@ DWORD RegisterJob(NCLOperation& operation, const NCLRequest& request, int* pnSer
 /// One more file of print data. The end line tells the result, also a failure.
 DWORD SendOnePrnData(const char* pszOperation, DWORD dwHandle, int nServerJobID, const BYTE* pPrnData,
                      DWORD dwSendSize, std::optional<DWORD> index)
-{
+try {
     NCLOperation operation(dwHandle, pszOperation, NCLOperation::ACTION, nServerJobID);
     DWORD result = operation.Enter(pPrnData != nullptr && index.value_or(0) < PRN_INDEX_LIMIT);
     if (result != NCL_SUCCESS) {
@@ -53,12 +53,14 @@ DWORD SendOnePrnData(const char* pszOperation, DWORD dwHandle, int nServerJobID,
     }
     operation.End(static_cast<int>(result));
     return result;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory(pszOperation);
 }
 
 } // namespace
 
 DWORD SendJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwSendSize, int* pnServerJobIDOut)
-{
+try {
     NCLOperation operation(dwHandle, "SendJobData", NCLOperation::ACTION);
     DWORD result = operation.Enter(pJobData != nullptr && pnServerJobIDOut != nullptr);
     std::string userName;
@@ -85,10 +87,12 @@ DWORD SendJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwSendSize, int* p
     pNCL->m_nServerJobID = id;
     *pnServerJobIDOut = id;
     return operation.End(id);
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("SendJobData");
 }
 
 DWORD SendDiscInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscInfo, DWORD dwSendSize)
-{
+try {
     NCLOperation operation(dwHandle, "SendDiscInfo", NCLOperation::ACTION, nServerJobID);
     DWORD result = operation.Enter(pDiscInfo != nullptr);
     if (result == NCL_SUCCESS) {
@@ -110,10 +114,12 @@ DWORD SendDiscInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscInfo, DWOR
     result = ControlJob(pNCL, operation.Response(), operation.Items(), nServerJobID,
                         JOB_CONTROL_TYPE_COMMIT_DISC_INFO, FALSE);
     return result == NCL_SUCCESS ? operation.End() : operation.Trace("ControlJob() 2", result);
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("SendDiscInfo");
 }
 
 DWORD SendDiscWriteInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscWriteInfo, DWORD dwSendSize)
-{
+try {
     NCLOperation operation(dwHandle, "SendDiscWriteInfo", NCLOperation::ACTION, nServerJobID);
     DWORD result = operation.Enter(pDiscWriteInfo != nullptr);
     if (result == NCL_SUCCESS) {
@@ -125,6 +131,8 @@ DWORD SendDiscWriteInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscWrite
                                 "SendDiscWriteInfo");
     }
     return result == NCL_SUCCESS ? operation.End() : result;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("SendDiscWriteInfo");
 }
 
 DWORD SendPrnData(DWORD dwHandle, int nServerJobID, const BYTE* pPrnData, DWORD dwSendSize)
@@ -153,7 +161,7 @@ DWORD SendPrnDataBase(ST_NCL* pNCL, int nServerJobID, const BYTE* pPrnData, DWOR
 
 DWORD SendSpecialJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwJobDataSize, const BYTE* pPrnData,
                          DWORD dwPrnDataSize, int* pnServerJobIDOut)
-{
+try {
     NCLOperation operation(dwHandle, "SendSpecialJobData", NCLOperation::ACTION);
     DWORD result = operation.Enter(pJobData != nullptr && pPrnData != nullptr && pnServerJobIDOut != nullptr);
     NCLUpload upload{
@@ -195,4 +203,6 @@ DWORD SendSpecialJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwJobDataSi
     }
     *pnServerJobIDOut = upload.nServerJobID;
     return operation.End(upload.nServerJobID);
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("SendSpecialJobData");
 }

@@ -9,6 +9,11 @@ DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode)
     return dwCode;
 }
 
+DWORD OutOfMemory(const char* pszOperation)
+{
+    return LogTrace(pszOperation, "allocation", NCL_ERR_GET_MEMORY);
+}
+
 void NoteAnswer(ST_NCL& ncl)
 {
     if (ncl.m_dwNPType == NCL_NPTYPE_UNKNOWN) {

@@ -17,6 +17,7 @@
 
 #include "NW_Com_Lib_internal.h"
 
+#include <new>
 #include <optional>
 
 /// Finds the object behind a handle, and keeps EndConnection from destroying it meanwhile.
@@ -65,6 +66,9 @@ DWORD SendRequest(ST_NCL* pNCL, const NCLRequest& request, ST_HTTP_RESPONSE* pst
 /// Logs "\t## trace ## OPERATION CALLEE TEXT", where the text is that of the code, which is the result.
 /// `pszCallee` has its parentheses: "ControlJob() 1".
 DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode);
+
+/// The result of a public operation in which an allocation failed, logged. No exception leaves the library.
+DWORD OutOfMemory(const char* pszOperation);
 
 /// One call of a public operation.
 class NCLOperation

@@ -20,7 +20,7 @@ bool CopyID(const std::string& id, char* pszOut, DWORD dwSize, DWORD* pdwNeedSiz
 } // namespace
 
 DWORD GetPublishID(DWORD dwHandle, char* pszPublishIDOut, DWORD dwSize, DWORD* pdwNeedSize)
-{
+try {
     NCLOperation operation(dwHandle, "GetPublishID", NCLOperation::ACTION);
     DWORD result = operation.Enter(pszPublishIDOut != nullptr && pdwNeedSize != nullptr);
     if (result != NCL_SUCCESS) {
@@ -49,4 +49,6 @@ DWORD GetPublishID(DWORD dwHandle, char* pszPublishIDOut, DWORD dwSize, DWORD* p
         return NCL_ERR_BUF_SIZE;
     }
     return operation.End();
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("GetPublishID");
 }

@@ -94,7 +94,7 @@ DWORD MeetServer(DWORD dwHandle, ST_NCL& ncl, DWORD oldKind)
     return CheckServerVersion(dwHandle, ncl);
 }
 
-/// Makes the HTTP client, which touches no network yet.
+/// Creates the HTTP client, which touches no network yet.
 DWORD OpenHttp(ST_NCL& ncl)
 {
     std::unique_ptr<CHttp> http(new (std::nothrow) CHttp);
@@ -114,32 +114,39 @@ DWORD OpenHttp(ST_NCL& ncl)
     return NCL_SUCCESS;
 }
 
+/// All that can fail between the entry in the table and the check of the server's mode.
+DWORD Open(DWORD dwHandle, ST_NCL& ncl)
+try {
+    const DWORD oldKind = RememberedKind(ncl.m_strServerAddress);
+    ncl.m_dwNPType = oldKind;
+    const DWORD result = OpenHttp(ncl);
+    return result == NCL_SUCCESS ? MeetServer(dwHandle, ncl, oldKind) : result;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("StartConnection");
+}
+
 } // namespace
 
 DWORD StartConnection(DWORD /*dwAppVersion*/, const char* pszServerAddress, DWORD* pdwHandleOut)
-{
+try {
     if (pszServerAddress == nullptr || pdwHandleOut == nullptr) {
         return ReturnErrParam();
     }
     *pdwHandleOut = 0;
-    auto* const ncl = new (std::nothrow) ST_NCL;
-    if (ncl == nullptr) {
+    std::unique_ptr<ST_NCL> object(new (std::nothrow) ST_NCL);
+    if (object == nullptr) {
         LogError("[CommLib] StartConnection Get Memory error 1");
         return NCL_ERR_GET_MEMORY;
     }
-    ncl->m_strServerAddress = WithoutFolders(pszServerAddress); // before another thread can find the object
-    const DWORD handle = SetNCLObj(ncl);
+    object->m_strServerAddress =
+        WithoutFolders(pszServerAddress); // before another thread can find the object
+    const DWORD handle = SetNCLObj(object.get());
     if (handle == 0) {
         LogError("[CommLib] StartConnection Get Memory error 4");
-        return NCL_ERR_GET_MEMORY; // the object is not freed on this way out
+        return NCL_ERR_GET_MEMORY;
     }
-    const DWORD oldKind = RememberedKind(ncl->m_strServerAddress);
-    ncl->m_dwNPType = oldKind;
-
-    DWORD result = OpenHttp(*ncl);
-    if (result == NCL_SUCCESS) {
-        result = MeetServer(handle, *ncl, oldKind);
-    }
+    ST_NCL* const ncl = object.release(); // the table owns it
+    const DWORD result = Open(handle, *ncl);
     if (result != NCL_SUCCESS) {
         StopOperations(*ncl);
         DestroyNCL(handle, ncl);
@@ -151,6 +158,8 @@ DWORD StartConnection(DWORD /*dwAppVersion*/, const char* pszServerAddress, DWOR
     ncl->m_bFinishStartConnection = TRUE;
     *pdwHandleOut = handle;
     return NCL_SUCCESS;
+} catch (const std::bad_alloc&) {
+    return OutOfMemory("StartConnection");
 }
 
 DWORD ServerVersionNumber(const char* pszVersion)

@@ -296,8 +296,7 @@ TEST(StartConnection, RunsOutOfMemory)
 
 TEST(StartConnection, TheHundredAndFirstFails)
 {
-    // Its object is never freed, which the leak check is told.
-    std::vector<ST_NCL> others(100);
+    std::vector<ST_NCL> others(100); // its own object is freed, or there is a leak
     for (ST_NCL& other : others) {
         SetNCLObj(&other);
     }
@@ -336,7 +335,6 @@ TEST(StartConnection, OpensAHundred)
 
 TEST(StartConnection, LeavesAServerInASecureModeConnected)
 {
-    // Its object stays in the table for good, which the leak check is told.
     for (const char mode : {'\0', '\1'}) {
         Answers answers;
         answers.mode = ModeReply(mode);
