@@ -30,6 +30,9 @@ size_t Index(DWORD dwHandle)
     return dwHandle - DWORD{1};
 }
 
+/// How many objects have been left unclaimed.
+std::atomic<ULONGLONG> unclaimedCount = 0;
+
 void Destroy(CHttp* http)
 {
     if (http != nullptr) {
@@ -128,6 +131,35 @@ void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL)
     }
     StopOperations(*pNCL);
     delete pNCL;
+}
+
+void LeaveUnclaimed(ST_NCL& ncl)
+{
+    ncl.m_ullUnclaimed = ++unclaimedCount;
+}
+
+bool DestroyOldestUnclaimedNCL()
+{
+    DWORD handle = 0;
+    ST_NCL* oldest = nullptr;
+    {
+        const std::lock_guard lock(g_csNCLArray); // no two threads choose the same object
+        const CAutoRefCounter lookup(lookups);    // no object is deleted while it is looked at
+        for (size_t index = 0; index < g_pvarrNCL.size(); ++index) {
+            ST_NCL* const ncl = Entry(index);
+            if (ncl != nullptr && ncl->m_ullUnclaimed != 0 &&
+                (oldest == nullptr || ncl->m_ullUnclaimed < oldest->m_ullUnclaimed)) {
+                handle = static_cast<DWORD>(index + 1);
+                oldest = ncl;
+            }
+        }
+        if (oldest == nullptr) {
+            return false;
+        }
+        oldest->m_ullUnclaimed = 0;
+    }
+    DestroyNCL(handle, oldest);
+    return true;
 }
 
 void EndConnection(DWORD dwHandle)

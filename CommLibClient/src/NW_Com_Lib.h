@@ -19,8 +19,8 @@ const char* GetNCLErrorString(DWORD dwNCLRet);
 
 /// Connects, finds out what kind of server it is and whether it can be served, and remembers its kind in its
 /// setting file. `*pdwHandleOut` becomes 0 before anything else. Of the address only what follows the last
-/// backslash counts. A server in a secure mode cannot be used (NCL_ERR_SSL_INITIALIZATION), and its
-/// connection stays open for good. `dwAppVersion` is not used.
+/// backslash counts. A server in a secure mode cannot be used (NCL_ERR_SSL_INITIALIZATION); its connection
+/// stays open until all 100 connections are in use. `dwAppVersion` is not used.
 DWORD StartConnection(DWORD dwAppVersion, const char* pszServerAddress, DWORD* pdwHandleOut);
 
 /// Lets no new operation start, waits for those in progress, and closes. A disc image that was left

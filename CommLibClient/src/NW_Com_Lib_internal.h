@@ -127,6 +127,8 @@ struct ST_NCL
     std::string m_strImageFileName;         ///< of the disc image being uploaded
     std::unique_ptr<MessageDigestIF> m_pMD; ///< of the disc image being uploaded
     DWORD m_dwCompatiMode = 0;              ///< 1: an old server, which takes no hashes
+    std::atomic<ULONGLONG> m_ullUnclaimed =
+        0; ///< if no caller was given its handle: its place in their order
 };
 
 /// Counts its scope in an atomic counter.

@@ -43,6 +43,12 @@ void StopOperations(ST_NCL& ncl);
 /// Closes and destroys an object on which no operation starts any more, and frees its entry.
 void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL);
 
+/// Leaves an object whose handle no caller was given in the table, with its connection open, until its entry
+/// is needed.
+void LeaveUnclaimed(ST_NCL& ncl);
+/// Destroys the oldest unclaimed object and frees its entry. False if there is none.
+bool DestroyOldestUnclaimedNCL();
+
 /// A server of unknown kind that answers counts as NCL_NPTYPE_300NII from then on.
 void NoteAnswer(ST_NCL& ncl);
 

@@ -140,7 +140,10 @@ try {
     }
     object->m_strServerAddress =
         WithoutFolders(pszServerAddress); // before another thread can find the object
-    const DWORD handle = SetNCLObj(object.get());
+    DWORD handle = SetNCLObj(object.get());
+    while (handle == 0 && DestroyOldestUnclaimedNCL()) {
+        handle = SetNCLObj(object.get());
+    }
     if (handle == 0) {
         LogError("[CommLib] StartConnection Get Memory error 4");
         return NCL_ERR_GET_MEMORY;
@@ -153,7 +156,8 @@ try {
         return result;
     }
     if (CheckSecureMode(ncl->m_dwServerMode) != FALSE) {
-        return NCL_ERR_SSL_INITIALIZATION; // the object stays in the table, with its connection open
+        LeaveUnclaimed(*ncl);
+        return NCL_ERR_SSL_INITIALIZATION;
     }
     ncl->m_bFinishStartConnection = TRUE;
     *pdwHandleOut = handle;

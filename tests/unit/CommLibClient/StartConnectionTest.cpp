@@ -351,6 +351,50 @@ TEST(StartConnection, LeavesAServerInASecureModeConnected)
     EXPECT_EQ(g_pvarrNCL.size(), 2U);
 }
 
+TEST(StartConnection, TakesTheEntriesOfServersInASecureModeOldestFirst)
+{
+    Answers secure;
+    secure.mode = ModeReply(0);
+    std::vector<TcpPeer> peers; // in the order of their connections
+    const auto serve = [&peers](const Answers& answers) {
+        return [&peers, answers](TcpServer& self, TcpPeer& peer) {
+            for (const std::string& answer : answers.All()) {
+                self.TakeRequest(peer);
+                peer.Write(answer);
+            }
+            peers.push_back(std::move(peer));
+        };
+    };
+    std::vector<TcpServer::Script> scripts(102, serve(secure));
+    scripts[1] = serve(Answers{});
+    DWORD claimed = 0;
+    {
+        TcpServer server(scripts, HOST, 80);
+        for (DWORD number = 1; number <= 102; ++number) { // two more than the table holds
+            DWORD handle = 99;
+            ASSERT_EQ(StartConnection(0, HOST, &handle), number == 2 ? 0U : 5U) << number;
+            if (number == 2) {
+                claimed = handle;
+            } else {
+                EXPECT_EQ(handle, 0U);
+            }
+        }
+    }
+    ASSERT_EQ(peers.size(), 102U);
+    for (size_t index = 0; index < peers.size(); ++index) {
+        const bool isFreed = index == 0 || index == 2; // not the one that a caller uses
+        EXPECT_EQ(peers[index].WaitForClose(isFreed ? TcpPeer::patience : 0), isFreed) << index;
+    }
+    EXPECT_EQ(claimed, 2U);
+    ASSERT_NE(GetNCLObj(claimed), nullptr);
+    EXPECT_EQ(GetNCLObj(claimed)->m_bFinishStartConnection, 1);
+
+    Start other(Answers{}, HOST); // and a server that can be used
+    EXPECT_EQ(other.result, 0U);
+    EXPECT_EQ(other.handle, 4U);
+    EndConnection(claimed);
+}
+
 TEST(StartConnection, TakesEveryOtherMode)
 {
     for (const char mode : {'\2', '\3', '\4', '\5', '\x7F'}) {
