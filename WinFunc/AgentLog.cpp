@@ -2,6 +2,8 @@
 #include "SystemCalls.h"
 #include "WinFunc.h"
 
+#include <atomic>
+#include <chrono>
 #include <cstring>
 
 #include <sys/socket.h>
@@ -13,9 +15,19 @@ int g_logLebel = 4;
 
 namespace {
 
+/// How long a line waits for an agent that is behind. The kernel queues about ten lines.
+constexpr timeval AGENT_PATIENCE{0, 200000};
+/// How long no line waits after one has waited in vain, so that a hung agent does not slow the program.
+constexpr std::chrono::seconds AGENT_PAUSE{5};
+
+/// Until when no line waits, as a count of the steady clock.
+std::atomic<std::chrono::steady_clock::rep> agentPauseEnd =
+    std::chrono::steady_clock::time_point::min().time_since_epoch().count();
+
 /// One socket for a line: none stays open that a restart of the service would make stale.
 void SendToAgent(const char* datagram)
 {
+    using std::chrono::steady_clock;
     const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     if (fd < 0) {
         return;
@@ -26,7 +38,15 @@ void SendToAgent(const char* datagram)
     memcpy(address.sun_path, LOG_AGENT_SOCKET, sizeof LOG_AGENT_SOCKET);
     const auto* peer = reinterpret_cast<const sockaddr*>(&address);
     if (connect(fd, peer, sizeof address) == 0) {
-        sendto(fd, datagram, strlen(datagram), MSG_NOSIGNAL | MSG_DONTWAIT, peer, sizeof address);
+        const bool waits =
+            steady_clock::now().time_since_epoch().count() >= agentPauseEnd &&
+            setsockopt(fd, SOL_SOCKET, SO_SNDTIMEO, &AGENT_PATIENCE, sizeof AGENT_PATIENCE) == 0;
+        const int flags = MSG_NOSIGNAL | (waits ? 0 : MSG_DONTWAIT);
+        const ssize_t sent = Uninterrupted(
+            [&] { return sendto(fd, datagram, strlen(datagram), flags, peer, sizeof address); });
+        if (sent < 0 && errno == EAGAIN && waits) {
+            agentPauseEnd = (steady_clock::now() + AGENT_PAUSE).time_since_epoch().count();
+        }
     }
     close(fd);
 }

@@ -3,6 +3,7 @@
 #include "WinFunc.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <regex>
 #include <string>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <unistd.h>
 
 static_assert(std::is_empty_v<_StackDepth>);
@@ -154,6 +156,63 @@ TEST(AgentLog, AnAgentThatLagsBehindLosesLinesAndBlocksNobody)
     for (size_t line = 0; line < received.size(); ++line) {
         EXPECT_EQ(received[line], AgentHead() + "line " + std::to_string(line) + "\nPRIORITY=4\n");
     }
+}
+
+TEST(AgentLog, EveryLineReachesARunningAgent)
+{
+    constexpr size_t lines = 2000;
+    LogAgent agent;
+    std::vector<std::string> received;
+    std::thread reader([&] {
+        while (received.size() < lines) {
+            const std::optional<std::string> datagram = agent.Receive();
+            if (!datagram) {
+                return;
+            }
+            received.push_back(*datagram);
+        }
+    });
+    for (size_t line = 0; line < lines; ++line) {
+        logViaAgent(4, "line %zu", line);
+    }
+    reader.join();
+    ASSERT_EQ(received.size(), lines);
+    for (size_t line = 0; line < lines; ++line) {
+        EXPECT_EQ(received[line], AgentHead() + "line " + std::to_string(line) + "\nPRIORITY=4\n");
+    }
+}
+
+TEST(AgentLog, AHungAgentIsWaitedForOnceInAWhile)
+{
+    using Clock = std::chrono::steady_clock;
+    const LogAgent agent; // reads nothing
+    std::vector<Clock::duration> waits;
+    Clock::time_point firstEnd;
+    Clock::time_point start = Clock::now();
+    while (waits.size() < 2 && Clock::now() - start < std::chrono::seconds(30)) {
+        const Clock::time_point before = Clock::now();
+        logViaAgent(4, "%s", "text");
+        const Clock::time_point after = Clock::now();
+        if (after - before >= std::chrono::milliseconds(190)) {
+            waits.push_back(waits.empty() ? after - before : before - firstEnd);
+            firstEnd = after;
+        }
+        ::poll(nullptr, 0, 5); // the test waits for the program's own pause
+    }
+    ASSERT_EQ(waits.size(), 2U);
+    EXPECT_LT(waits[0], std::chrono::seconds(2));         // the wait itself is 200 ms
+    EXPECT_GE(waits[1], std::chrono::milliseconds(4900)); // from one wait to the next
+}
+
+TEST(AgentLog, AnAgentThatReadsAgainGetsTheNextLine)
+{
+    LogAgent agent;
+    for (size_t line = 0; line < 100; ++line) { // one of them waits in vain
+        logViaAgent(4, "%s", "lost or queued");
+    }
+    agent.TakeAll();
+    logViaAgent(4, "%s", "next");
+    EXPECT_EQ(agent.Receive(), AgentHead() + "next\nPRIORITY=4\n");
 }
 
 TEST(AgentLog, LinesOfManyThreadsArriveWhole)
