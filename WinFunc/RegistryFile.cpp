@@ -2,6 +2,7 @@
 #include "RegistryFile.h"
 
 #include "InstallPaths.h"
+#include "SystemCalls.h"
 #include "WinFunc.h"
 
 #include <algorithm>
@@ -101,6 +102,7 @@ void ReadValueLine(std::string_view line, CRegistryValueStore& store)
     } else if (data.starts_with(numberMark)) {
         // The line lies in a NUL-terminated piece, so the conversion ends inside it.
         const char* digits = data.data() + numberMark.size();
+        const ErrnoKeeper keeper; // a number out of range is no failure of the caller's
         Entry(store.dwordValues, name) = static_cast<uint32_t>(std::strtol(digits, nullptr, 16));
     }
 }

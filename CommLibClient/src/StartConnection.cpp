@@ -2,6 +2,7 @@
 #include "LogManager.h"
 #include "Operation.h"
 #include "PubMgrConst.h"
+#include "SystemCalls.h"
 
 #include <array>
 #include <cstdlib>
@@ -170,6 +171,7 @@ DWORD ServerVersionNumber(const char* pszVersion)
 {
     const std::string text = pszVersion;
     const size_t point = text.find('.');
+    const ErrnoKeeper keeper; // an ERANGE of this text must not fail the next Content-Length
     const auto number = [](const std::string& part) { return static_cast<WORD>(std::atoi(part.c_str())); };
     const DWORD high = number(text.substr(0, point));
     const DWORD low = point == std::string::npos ? WORD{0} : number(text.substr(point + 1));

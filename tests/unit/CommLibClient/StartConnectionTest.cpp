@@ -395,6 +395,22 @@ TEST(StartConnection, TakesTheEntriesOfServersInASecureModeOldestFirst)
     EndConnection(claimed);
 }
 
+TEST(StartConnection, ReadsTheNextLengthAfterAnEndlessVersion)
+{
+    for (const char* version :
+         {"3.99999999999999999999", "99999999999999999999.30", "99999999999999999999"}) {
+        std::vector<std::string> answers = Answers().All();
+        answers[3] = GoodReply(version);
+        answers.push_back(ModeReply(2));
+        errno = 0;
+        Start start(answers);
+        EXPECT_EQ(start.result, 0U) << version;
+        DWORD mode = 0;
+        EXPECT_EQ(GetServerMode(start.handle, &mode), 0U);
+        EXPECT_EQ(start.Requests().size(), 5U); // not repeated
+    }
+}
+
 TEST(StartConnection, TakesEveryOtherMode)
 {
     for (const char mode : {'\2', '\3', '\4', '\5', '\x7F'}) {

@@ -203,7 +203,9 @@ TEST_F(RegistryFormat, LineTable)
     for (const LineCase& c : cases) {
         SCOPED_TRACE(c.line);
         g_Registry.clear();
+        errno = 0;
         Load(std::string("[S]\n") + c.line + "\n[T]\n\"t\"=\"t\"\n");
+        EXPECT_EQ(errno, 0); // also for a number out of range
         EXPECT_EQ(g_Registry["S"].stringValues, c.texts);
         EXPECT_EQ(g_Registry["S"].dwordValues, c.numbers);
         EXPECT_EQ(g_Registry["T"].stringValues, (Texts{{"t", "t"}}));
