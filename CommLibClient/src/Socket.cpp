@@ -4,6 +4,7 @@
 #include "LogManager.h"
 #include "SystemCalls.h"
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -106,6 +107,7 @@ int CSocket::Close()
         log.LOG_WARN("CSocket::Close closesocket() error = %d", errno);
     }
     m_Sock = -1;
+    m_nAhead = 0;
     return 0;
 }
 
@@ -184,6 +186,27 @@ int CSocket::Read(char* pBuf, int nSize)
     if (m_Sock == -1) {
         return INTERNET_ERR_NOT_OPEN;
     }
+    if (m_nAhead == 0) {
+        if (nSize <= 0 || nSize >= static_cast<int>(m_ahead.size())) {
+            return Receive(pBuf, nSize);
+        }
+        const int count = Receive(m_ahead.data(), static_cast<int>(m_ahead.size()));
+        if (count < 0) {
+            return count;
+        }
+        m_nAheadBegin = 0;
+        m_nAhead = count;
+    }
+    const int count = std::min(nSize, m_nAhead);
+    std::copy_n(m_ahead.data() + m_nAheadBegin, count, pBuf);
+    m_nAheadBegin += count;
+    m_nAhead -= count;
+    return count;
+}
+
+/// One recv: its count, or the result of its failure.
+int CSocket::Receive(char* pBuf, int nSize)
+{
     const ssize_t count = recv(m_Sock, pBuf, static_cast<size_t>(nSize), 0);
     if (count > 0) {
         return static_cast<int>(count);
@@ -285,6 +308,9 @@ int CSocket::Poll(SelectType eType, DWORD dwTimeoutMilliSec)
 {
     if (m_Sock == -1) {
         return INTERNET_ERR_NOT_OPEN;
+    }
+    if (eType == SELECT_READ && m_nAhead > 0) {
+        return 0;
     }
     short set = IN_EXCEPT_SET;
     if (eType == SELECT_READ) {

@@ -6,6 +6,8 @@
 
 #include "Win_def.h"
 
+#include <array>
+
 using SOCKET = int;
 
 /// A transport: something that is opened, connected, read and written.
@@ -32,8 +34,10 @@ public:
     virtual int SetNoCommTimeout(DWORD dwMilliSec) = 0;
 };
 
-/// A socket of the system, IPv4 only. What goes wrong goes to the log as a warning, with the number of the
-/// system's error; a wait for a connection that was in vain does not.
+/// A socket of the system, IPv4 only. Small reads are served from a buffer that takes in whatever has
+/// arrived, so that a reply head costs few system calls although it is read byte by byte. What goes wrong
+/// goes to the log as a warning, with the number of the system's error; a wait for a connection that was in
+/// vain does not.
 class CSocket : public IInternetComm
 {
 public:
@@ -75,4 +79,11 @@ public:
 protected:
     SOCKET m_Sock = -1; ///< -1 while closed
     DWORD m_dwNoCommTimeoutMilliSec = 30000;
+
+private:
+    int Receive(char* pBuf, int nSize);
+
+    std::array<char, 4096> m_ahead; ///< received and not yet read: `m_nAhead` bytes from `m_nAheadBegin` on
+    int m_nAheadBegin = 0;
+    int m_nAhead = 0;
 };

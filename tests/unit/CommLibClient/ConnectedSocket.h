@@ -5,6 +5,7 @@
 #include "TcpPeer.h"
 
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
 
 struct ConnectedSocket
 {
@@ -14,6 +15,17 @@ struct ConnectedSocket
         EXPECT_EQ(socket.Connect(listener.Address(), listener.Port(), 5000), 0);
         peer = listener.Accept();
         EXPECT_TRUE(peer.IsOpen());
+    }
+
+    /// Until so many bytes of the peer can be received.
+    void WaitForBytes(size_t count) const
+    {
+        int arrived = 0;
+        for (int round = 0; round < TcpPeer::patience && static_cast<size_t>(arrived) < count; ++round) {
+            ::poll(nullptr, 0, 1);
+            ASSERT_EQ(::ioctl(socket.GetFD(), FIONREAD, &arrived), 0);
+        }
+        ASSERT_GE(static_cast<size_t>(arrived), count);
     }
 
     TcpListener listener;

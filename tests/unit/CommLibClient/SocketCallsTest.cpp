@@ -194,6 +194,58 @@ TEST(SocketCalls, NoneIsMadeForNothing)
     EXPECT_THAT(Calls().count, IsEmpty());
 }
 
+TEST(SocketCalls, AreFewForManySmallReads)
+{
+    Connection connection;
+    const std::string text(1000, 'x');
+    connection.peer.Write(text);
+    connection.WaitForBytes(text.size());
+    Calls() = SocketCalls();
+    for (size_t index = 0; index < text.size(); ++index) {
+        char byte = 0;
+        ASSERT_EQ(connection.socket.ReadToCount(&byte, 1), 1);
+        EXPECT_EQ(byte, 'x');
+    }
+    EXPECT_EQ(Calls().count, (std::map<std::string, int>{{"ppoll", 1}, {"recv", 1}}));
+}
+
+TEST(SocketCalls, NoneIsMadeToWaitForWhatHasBeenReceived)
+{
+    Connection connection;
+    SyslogLines lines;
+    connection.peer.Write("ab");
+    connection.WaitForBytes(2);
+    char byte = 0;
+    ASSERT_EQ(connection.socket.Read(&byte, 1), 1);
+    Calls() = SocketCalls();
+    EXPECT_EQ(connection.socket.PollRead(10), 0);
+    EXPECT_EQ(connection.socket.Poll(CSocket::SELECT_READ, 10), 0);
+    EXPECT_THAT(Calls().count, IsEmpty());
+    EXPECT_EQ(connection.socket.Poll(CSocket::SELECT_WRITE, 10), 0);
+    EXPECT_EQ(Calls().count["ppoll"], 1);
+    ASSERT_EQ(connection.socket.Read(&byte, 1), 1);
+    EXPECT_EQ(connection.socket.PollRead(10), -6); // it has all been read
+    EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Poll select() timeout"));
+}
+
+TEST(SocketCalls, FailOnlyAfterWhatHasBeenReceived)
+{
+    Connection connection;
+    SyslogLines lines;
+    connection.peer.Write("abc");
+    connection.WaitForBytes(3);
+    char bytes[3] = {};
+    ASSERT_EQ(connection.socket.Read(bytes, 1), 1);
+    Calls().failed["recv"] = ECONNRESET;
+    Calls().failed["ppoll"] = ENOMEM;
+    EXPECT_EQ(connection.socket.Read(bytes, 3), 2);
+    EXPECT_EQ(std::string(bytes, 2), "bc");
+    EXPECT_EQ(connection.socket.Read(bytes, 1), -9);
+    EXPECT_EQ(connection.socket.PollRead(10), -26);
+    Calls() = SocketCalls();
+    lines.Take();
+}
+
 TEST(SocketCalls, OneOptionIsRefusedQuietly)
 {
     Connection connection;

@@ -301,6 +301,46 @@ TEST(Socket, NoticesThatItsPeerClosed)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Read recv() shutdown"));
 }
 
+TEST(Socket, ReadsAllBeforeItNoticesThatItsPeerClosed)
+{
+    for (const int size : {1, 2, 4095, 4096, 5000}) {
+        ConnectedSocket connection;
+        std::string sent(10000, '\0');
+        for (size_t index = 0; index < sent.size(); ++index) {
+            sent[index] = static_cast<char>(index * 7);
+        }
+        connection.peer.Write(sent);
+        connection.peer.Close();
+        std::string read;
+        std::string piece(static_cast<size_t>(size), '\0');
+        int count = 0;
+        while ((count = connection.socket.Read(piece.data(), size)) > 0) {
+            read.append(piece, 0, static_cast<size_t>(count));
+        }
+        EXPECT_EQ(count, -11);
+        EXPECT_EQ(read, sent) << size;
+    }
+}
+
+TEST(Socket, ForgetsWhatItHasReceivedWhenItCloses)
+{
+    ConnectedSocket connection;
+    connection.peer.Write("abc");
+    connection.WaitForBytes(3);
+    char byte = 0;
+    ASSERT_EQ(connection.socket.Read(&byte, 1), 1);
+    EXPECT_EQ(connection.socket.Close(), 0);
+    EXPECT_EQ(connection.socket.Read(&byte, 1), -3);
+    EXPECT_EQ(connection.socket.PollRead(10), -3);
+
+    ASSERT_EQ(connection.socket.Open(AF_INET, SOCK_STREAM), 0);
+    ASSERT_EQ(connection.socket.Connect(connection.listener.Address(), connection.listener.Port(), 5000), 0);
+    TcpPeer next = connection.listener.Accept();
+    next.Write("x");
+    EXPECT_EQ(connection.socket.ReadToCount(&byte, 1), 1);
+    EXPECT_EQ(byte, 'x');
+}
+
 TEST(Socket, NoticesThatItsPeerBroke)
 {
     ConnectedSocket connection;
