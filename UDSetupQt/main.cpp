@@ -17,10 +17,13 @@
 #include <optional>
 #include <string_view>
 
+#include <malloc.h>
+
 namespace {
 
 constexpr int logLevel = 3;
-constexpr int taskPatience = 2000; // milliseconds
+constexpr int taskPatience = 2000;          // milliseconds
+constexpr int largeAllocation = 128 * 1024; // bytes, the initial threshold of glibc
 
 bool hasValue(const char* variable)
 {
@@ -60,6 +63,10 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "ARVEN Ulmar Disc Setup needs a graphical desktop: DISPLAY is not set.\n");
         return EXIT_FAILURE;
     }
+
+    // A fixed threshold: otherwise glibc raises it with the first large reply of a server, and each polling
+    // thread keeps the memory of its largest one.
+    mallopt(M_MMAP_THRESHOLD, largeAllocation);
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
