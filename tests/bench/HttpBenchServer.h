@@ -27,6 +27,18 @@ inline void Check(bool condition, const char* what)
     }
 }
 
+/// A connection of the client library to this port, which stays open to the end of the process.
+inline DWORD OpenHandle(uint16_t port)
+{
+    auto* ncl = new ST_NCL;
+    ncl->m_pHttp = new CHttp;
+    ncl->m_pHttp->Open("127.0.0.1", port, FALSE);
+    ncl->m_dwNPType = NCL_NPTYPE_300NII;
+    ncl->m_dwServerMode = NCL_MODE_NORMAL;
+    ncl->m_bFinishStartConnection = TRUE;
+    return SetNCLObj(ncl);
+}
+
 /// It keeps connections open, and serves each in a thread. It ends with the object, which is made before the
 /// process has threads.
 class HttpBenchServer
@@ -71,13 +83,7 @@ public:
     /// A handle of the client library, which stays open to the end of the process.
     DWORD OpenHandle() const
     {
-        auto* ncl = new ST_NCL;
-        ncl->m_pHttp = new CHttp;
-        ncl->m_pHttp->Open("127.0.0.1", m_port, FALSE);
-        ncl->m_dwNPType = NCL_NPTYPE_300NII;
-        ncl->m_dwServerMode = NCL_MODE_NORMAL;
-        ncl->m_bFinishStartConnection = TRUE;
-        return SetNCLObj(ncl);
+        return ::OpenHandle(m_port);
     }
 
 private:
