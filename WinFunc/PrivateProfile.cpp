@@ -71,7 +71,7 @@ private:
         if (delimiter == std::string_view::npos || !EqualNoCase(line.substr(0, delimiter), m_key)) {
             return false;
         }
-        std::string_view value = WithoutLeading(line.substr(delimiter), " ");
+        std::string_view value = WithoutLeading(line.substr(delimiter + 1), " ");
         if (value.starts_with('=')) {
             value.remove_prefix(1);
         }
