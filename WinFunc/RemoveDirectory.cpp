@@ -54,12 +54,13 @@ std::optional<std::vector<std::string>> NamesIn(const std::string& path)
 
 int is_file_delete(const std::string& path)
 {
-    // lstat, where stat would take a link to a folder for the folder and empty what lies elsewhere.
-    struct stat status = {};
-    if (lstat(path.c_str(), &status) != 0) {
+    struct stat target = {};
+    struct stat entry = {};
+    if (stat(path.c_str(), &target) != 0 || lstat(path.c_str(), &entry) != 0) {
         return -1;
     }
-    if (S_ISDIR(status.st_mode)) {
+    // A link to a folder counts as a link, on purpose: the target lies elsewhere and must not be emptied.
+    if (S_ISDIR(entry.st_mode)) {
         return 0;
     }
     return unlink(path.c_str()) == 0 ? 1 : -1;

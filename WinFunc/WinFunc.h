@@ -114,8 +114,9 @@ void LogNoObject(const char* wrapper, const std::string& caller, HANDLE handle);
 std::string FunctionOfSymbol(const std::string& symbol);
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Removal of a folder with its contents. Symbolic links are removed as links: nothing outside the folder is
-// touched.
+// Removal of a folder with its contents. A symbolic link is removed as a link and never followed, also a link
+// to a folder: nothing outside the folder is touched. A link whose target cannot be examined is a failure and
+// stays.
 
 /// Empties the folder and removes it.
 bool rmdir_path(const std::string& path);

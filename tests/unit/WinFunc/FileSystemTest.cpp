@@ -140,11 +140,29 @@ TEST_F(RemoveDirectoryTest, RemovesLinksAsLinks)
     ASSERT_EQ(symlink("/tmp/outside", (folder + "/toFolder").c_str()), 0);
     ASSERT_EQ(symlink("../outside", (folder + "/relative").c_str()), 0);
     ASSERT_EQ(symlink("/tmp/outside/precious", (folder + "/toFile").c_str()), 0);
-    ASSERT_EQ(symlink("/tmp/nothing", (folder + "/broken").c_str()), 0);
     ASSERT_EQ(symlink(".", (folder + "/circle").c_str()), 0);
     EXPECT_EQ(RemoveDirectoryA(folder.c_str()), TRUE);
     EXPECT_FALSE(fs::exists(folder));
     ExpectOutsideUntouched();
+}
+
+TEST_F(RemoveDirectoryTest, StopsAtALinkThatLeadsNowhere)
+{
+    for (const char* target : {"/tmp/nothing", "link"}) { // the second one leads to itself
+        ASSERT_EQ(symlink(target, (folder + "/link").c_str()), 0);
+        EXPECT_EQ(RemoveDirectoryA(folder.c_str()), FALSE) << target;
+        EXPECT_TRUE(fs::is_symlink(folder + "/link")) << target;
+        fs::remove(folder + "/link");
+    }
+}
+
+TEST_F(RemoveDirectoryTest, StopsAtALinkThatLeadsNowhereInASubFolder)
+{
+    fs::create_directories(folder + "/below");
+    ASSERT_EQ(symlink("/tmp/nothing", (folder + "/below/link").c_str()), 0);
+    EXPECT_EQ(RemoveDirectoryA(folder.c_str()), FALSE);
+    EXPECT_EQ(GetLastError(), 2u);
+    EXPECT_TRUE(fs::is_symlink(folder + "/below/link"));
 }
 
 TEST_F(RemoveDirectoryTest, ALinkToAFolderIsNoFolder)
