@@ -1,5 +1,7 @@
-// Reading private profile (ini) files: a line scanner that forgives what people write by hand.
+// Reading private profile (ini) files: one key at a time, or all keys of a file at once.
 #include "LockedFile.h"
+#include "ProfileLines.h"
+#include "ProfileText.h"
 #include "WinFunc.h"
 
 #include <algorithm>
@@ -11,85 +13,14 @@
 
 namespace {
 
-/// Upper and lower case of the letters A to Z are equal, in whatever locale the process runs.
-bool EqualNoCase(std::string_view one, std::string_view two)
+/// A file beyond it is no setting file. What ProfileText keeps of a file is a small multiple of its size.
+constexpr off_t KEPT_SIZE_MAX = 1 << 20;
+
+/// Calls `visit(section, key, value)` for each key of the file until it returns true.
+template <class Visit>
+void ForEachKey(const LockedFile& file, Visit visit)
 {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(one.begin(), one.end(), two.begin(), two.end(),
-                      [&](char a, char b) { return lower(a) == lower(b); });
-}
-
-std::string_view WithoutLeading(std::string_view text, std::string_view unwanted)
-{
-    return text.substr(std::min(text.find_first_not_of(unwanted), text.size()));
-}
-
-/// Takes a file byte by byte and finds the first value of one key that is not empty.
-class ValueFinder
-{
-public:
-    ValueFinder(std::string_view section, std::string_view key) : m_section(section), m_key(key) {}
-
-    /// True when the value is found, with the line feed that ends its line.
-    bool Take(char byte)
-    {
-        if (byte == '\n') {
-            return EndLine();
-        }
-        const bool printable = byte >= 0x20 && byte <= 0x7E;
-        if (printable && m_length < m_line.size()) {
-            m_line[m_length++] = byte;
-        }
-        return false;
-    }
-    /// For the last line too, which may have no line feed.
-    bool EndLine()
-    {
-        const std::string_view line(m_line.data(), m_length);
-        m_length = 0;
-        return ReadLine(line.substr(0, line.find(';'))); // what follows is a comment, in section lines too
-    }
-    /// The value found, good until the next call; empty before.
-    std::string_view Value() const
-    {
-        return m_value;
-    }
-
-private:
-    bool ReadLine(std::string_view line)
-    {
-        if (line.starts_with('[')) {
-            const size_t end = line.find(']');
-            if (end != std::string_view::npos) {
-                m_inSection = EqualNoCase(line.substr(1, end - 1), m_section);
-            }
-        }
-        if (!m_inSection) {
-            return false;
-        }
-        const size_t delimiter = line.find_first_of(" =");
-        if (delimiter == std::string_view::npos || !EqualNoCase(line.substr(0, delimiter), m_key)) {
-            return false;
-        }
-        std::string_view value = WithoutLeading(line.substr(delimiter + 1), " ");
-        if (value.starts_with('=')) {
-            value.remove_prefix(1);
-        }
-        value = WithoutLeading(value, " ");
-        m_value = value.substr(0, value.find_last_not_of(' ') + 1);
-        return !m_value.empty();
-    }
-
-    std::string_view m_section;
-    std::string_view m_key;
-    bool m_inSection = false;
-    std::string_view m_value;
-    size_t m_length = 0;
-    std::array<char, 1023> m_line; // what a line holds beyond this is dropped
-};
-
-void FindValue(const LockedFile& file, ValueFinder& finder)
-{
+    ProfileLines lines;
     std::array<char, 4096> buffer;
     off_t left = file.Size();
     while (left > 0) {
@@ -98,14 +29,18 @@ void FindValue(const LockedFile& file, ValueFinder& finder)
         if (count <= 0) {
             break;
         }
-        for (const char byte : std::string_view(buffer.data(), static_cast<size_t>(count))) {
-            if (finder.Take(byte)) {
-                return;
-            }
+        if (lines.Take({buffer.data(), static_cast<size_t>(count)}, visit)) {
+            return;
         }
         left -= count;
     }
-    finder.EndLine();
+    lines.EndLine(visit);
+}
+
+bool IsKey(std::string_view section, std::string_view key, std::string_view wantedSection,
+           std::string_view wantedKey)
+{
+    return EqualNoCase(key, wantedKey) && EqualNoCase(section, wantedSection);
 }
 
 } // namespace
@@ -127,12 +62,18 @@ DWORD GetPrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpDefa
         strcpy_s(lpReturnedString, nSize, lpDefault);
         return static_cast<DWORD>(std::strlen(lpReturnedString));
     }
-    ValueFinder finder(lpAppName, lpKeyName);
-    FindValue(file, finder);
-    const std::string_view value = finder.Value().substr(0, nSize - 1);
-    std::copy(value.begin(), value.end(), lpReturnedString);
-    lpReturnedString[value.size()] = '\0';
-    return static_cast<DWORD>(value.size());
+    DWORD length = 0;
+    ForEachKey(file, [&](std::string_view section, std::string_view key, std::string_view value) {
+        if (!IsKey(section, key, lpAppName, lpKeyName)) {
+            return false;
+        }
+        value = value.substr(0, nSize - 1);
+        std::copy(value.begin(), value.end(), lpReturnedString);
+        length = static_cast<DWORD>(value.size());
+        return true;
+    });
+    lpReturnedString[length] = '\0';
+    return length;
 }
 
 UINT GetPrivateProfileIntA(LPCSTR lpAppName, LPCSTR lpKeyName, INT nDefault, LPCSTR lpFileName)
@@ -143,4 +84,66 @@ UINT GetPrivateProfileIntA(LPCSTR lpAppName, LPCSTR lpKeyName, INT nDefault, LPC
         return static_cast<UINT>(nDefault);
     }
     return static_cast<UINT>(std::atoi(text.data()));
+}
+
+std::shared_ptr<const ProfileText> ProfileText::Read(const char* path)
+{
+    const LockedFile file(path, O_RDONLY);
+    if (!file.IsOpen()) {
+        return nullptr;
+    }
+    auto profile = std::make_shared<ProfileText>();
+    const off_t size = file.Size();
+    if (size > KEPT_SIZE_MAX) {
+        profile->m_largePath = path;
+        return profile;
+    }
+    // A setting file has about 20 keys.
+    profile->m_text.reserve(static_cast<size_t>(size));
+    profile->m_entries.reserve(std::min<size_t>(24, static_cast<size_t>(size)));
+    Piece lastSection{0, 0};
+    ForEachKey(file, [&](std::string_view section, std::string_view key, std::string_view value) {
+        if (profile->m_entries.empty() || profile->At(lastSection) != section) {
+            lastSection = profile->Keep(section);
+        }
+        profile->m_entries.push_back({lastSection, profile->Keep(key), profile->Keep(value)});
+        return false;
+    });
+    return profile;
+}
+
+ProfileText::Piece ProfileText::Keep(std::string_view text)
+{
+    const Piece piece{static_cast<uint32_t>(m_text.size()), static_cast<uint32_t>(text.size())};
+    m_text += text;
+    return piece;
+}
+
+std::string_view ProfileText::At(Piece piece) const
+{
+    return std::string_view(m_text).substr(piece.start, piece.size);
+}
+
+std::string ProfileText::Value(LPCSTR section, LPCSTR key, size_t maxLength) const
+{
+    if (!m_largePath.empty()) {
+        std::string text(maxLength + 1, '\0');
+        text.resize(GetPrivateProfileStringA(section, key, "", text.data(), static_cast<DWORD>(text.size()),
+                                             m_largePath.c_str()));
+        return text;
+    }
+    const std::string_view wantedSection = section;
+    const std::string_view wantedKey = key;
+    for (const Entry& entry : m_entries) {
+        if (IsKey(At(entry.section), At(entry.key), wantedSection, wantedKey)) {
+            return std::string(At(entry.value).substr(0, maxLength));
+        }
+    }
+    return "";
+}
+
+UINT ProfileText::Number(LPCSTR section, LPCSTR key, INT nDefault) const
+{
+    const std::string text = Value(section, key, 1023);
+    return text.empty() ? static_cast<UINT>(nDefault) : static_cast<UINT>(std::atoi(text.c_str()));
 }

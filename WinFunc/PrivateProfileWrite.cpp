@@ -1,6 +1,7 @@
 // Writing private profile (ini) files: a splice of text in the whole file, written over the old text in
 // place. The file's length never shrinks, so the end of a longer old text stays behind a shorter new one.
 #include "LockedFile.h"
+#include "ReadPass.h"
 #include "TrustedLink.h"
 #include "WinFunc.h"
 
@@ -140,6 +141,7 @@ try {
     if (!change) {
         return Step::REFUSED;
     }
+    ReadPass::ForgetProfile();
     lseek(file.Descriptor(), 0, change->whence);
     return write(file.Descriptor(), change->text.data(), change->text.size()) < 0 ? Step::WRITE : Step::NONE;
 } catch (const std::bad_alloc&) {

@@ -1,4 +1,5 @@
 // Keys and values of the registry: opening, closing, setting, asking and enumerating.
+#include "ReadPass.h"
 #include "RegistryFile.h"
 #include "RegistryPath.h"
 
@@ -106,9 +107,13 @@ LSTATUS RegOpenKeyExA(HKEY hKey, LPCSTR lpSubKey, DWORD /*ulOptions*/, REGSAM /*
     if (RegIsInvalid(hKey)) {
         return ERROR_INVALID_HANDLE;
     }
-    const bool writable = RegReadIn(O_RDWR);
-    if (!writable && !RegReadIn(O_RDONLY)) {
-        assert(false);
+    bool writable = false;
+    if (!ReadPass::HasRegistry(RegState(), writable)) {
+        writable = RegReadIn(O_RDWR);
+        if (!writable && !RegReadIn(O_RDONLY)) {
+            assert(false);
+        }
+        ReadPass::KeepRegistry(RegState(), writable);
     }
     auto key = std::make_unique<CRegistryKey>(CRegistryKey{RegGetFullPath(hKey, lpSubKey), writable, false});
     const bool found = g_Registry.contains(key->key);

@@ -45,6 +45,8 @@ private:
 // bytes again would not change the map.
 std::optional<FileStamp> g_loadedFile;
 
+unsigned long g_state = 0;
+
 /// The stamp, or none when a change yet to come could carry the same one: the kernel's clock stands still
 /// between two ticks, and 100 ms is longer than any tick. Some file systems keep whole seconds only, and a
 /// time without a fraction is taken for one of theirs.
@@ -182,7 +184,7 @@ bool RegistryPieces::Next(std::string& piece)
 
 bool RegReplaceFile(const std::string& text)
 {
-    g_loadedFile.reset(); // whatever the clock will say about the new text
+    RegForgetLoad(); // whatever the clock will say about the new text
     LockedFile file(REGISTRY_FILE, O_WRONLY | O_CREAT | O_TRUNC, REGISTRY_FILE_MODE);
     // Emptied once more under the lock: another program may have written while this one waited for it, and
     // the end of a longer text would stay behind ours.
@@ -192,6 +194,12 @@ bool RegReplaceFile(const std::string& text)
 void RegForgetLoad()
 {
     g_loadedFile.reset();
+    ++g_state;
+}
+
+unsigned long RegState()
+{
+    return g_state;
 }
 
 bool RegReadIn(int flags)

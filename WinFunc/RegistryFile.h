@@ -37,3 +37,7 @@ bool RegReplaceFile(const std::string& text);
 /// To be called when a value in the map changed: the next load reads the file in any case, since it takes
 /// back values that were not written.
 void RegForgetLoad();
+
+/// A number that changes whenever this process changes a value in the map or the file. Under the lock of the
+/// registry.
+unsigned long RegState();

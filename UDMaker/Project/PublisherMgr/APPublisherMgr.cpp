@@ -48,10 +48,11 @@ bool CAPPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINF
     }
     const CString strRegistID = szPublisherRegistID; // may be the record's own text
     psPublisherInfo->Clear();
-    if (!FileOf(strRegistID.c_str()).Exists()) {
+    const SettingRecord record = FileOf(strRegistID.c_str()).Read();
+    if (!record.Exists()) {
         return false;
     }
-    ReadCommonSettings(strRegistID.c_str(), *psPublisherInfo);
+    ReadCommonSettings(record, strRegistID.c_str(), *psPublisherInfo);
     return true;
 }
 

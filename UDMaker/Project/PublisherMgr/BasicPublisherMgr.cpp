@@ -86,36 +86,37 @@ bool CBasicPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHER
     const CString strRegistID = szPublisherRegistID; // may be the record's own text
     psPublisherInfo->Clear();
     const SettingFile file = FileOf(strRegistID.c_str());
-    if (!file.Exists()) {
+    const SettingRecord record = file.Read();
+    if (!record.Exists()) {
         if (GetLogLevel() >= 2) {
             logViaAgent(4, "CBasicPublisherMgr::GetPublisherInfo, \"%s\" is not found", file.Path().c_str());
         }
         return false;
     }
     PUBLISHERINFO& info = *psPublisherInfo;
-    ReadCommonSettings(strRegistID.c_str(), info);
-    info.uiUseDrive = file.ReadInt(REG_PUB_SETUP_VAL_USEDRIVE, REG_PUB_SETUP_INT_DEFAULT);
-    info.uiRetryCount = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT, REG_PUB_SETUP_INT_DEFAULT);
-    info.uiRetryCountR = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT_R, PUBMGR_DEFAULT_RETRYCOUNT);
-    info.uiRetryCountW = file.ReadInt(REG_PUB_SETUP_VAL_RETRYCOUNT_W, PUBMGR_DEFAULT_RETRYCOUNT);
-    info.bContinuePublish = file.ReadInt(REG_PUB_SETUP_VAL_READBACKCONTINUE, 1) != 0;
-    info.bAddErrorMark = file.ReadInt(REG_PUB_SETUP_VAL_ERRORMARK, REG_PUB_SETUP_INT_DEFAULT) != 0;
+    ReadCommonSettings(record, strRegistID.c_str(), info);
+    info.uiUseDrive = record.Int(REG_PUB_SETUP_VAL_USEDRIVE, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiRetryCount = record.Int(REG_PUB_SETUP_VAL_RETRYCOUNT, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiRetryCountR = record.Int(REG_PUB_SETUP_VAL_RETRYCOUNT_R, PUBMGR_DEFAULT_RETRYCOUNT);
+    info.uiRetryCountW = record.Int(REG_PUB_SETUP_VAL_RETRYCOUNT_W, PUBMGR_DEFAULT_RETRYCOUNT);
+    info.bContinuePublish = record.Int(REG_PUB_SETUP_VAL_READBACKCONTINUE, 1) != 0;
+    info.bAddErrorMark = record.Int(REG_PUB_SETUP_VAL_ERRORMARK, REG_PUB_SETUP_INT_DEFAULT) != 0;
     return true;
 }
 
-void CBasicPublisherMgr::ReadCommonSettings(LPCTSTR szPublisherRegistID, PUBLISHERINFO& info) const
+void CBasicPublisherMgr::ReadCommonSettings(const SettingRecord& record, LPCTSTR szPublisherRegistID,
+                                            PUBLISHERINFO& info)
 {
-    const SettingFile file = FileOf(szPublisherRegistID);
     info.uiPublisherType = PUBMGR_CONNECTTYPE_LOCAL;
     info.strPublisherRegistID = szPublisherRegistID;
-    info.strGUID = file.ReadString(REG_PUB_SETUP_VAL_GUID);
-    info.strPublisherName = file.ReadString(REG_PUB_SETUP_VAL_PUBLISH_NAME);
-    info.uiPublishMode = file.ReadInt(REG_PUB_SETUP_VAL_PUBLISH_MODE, REG_PUB_SETUP_INT_DEFAULT);
-    info.uiStacker1DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK1, REG_PUB_SETUP_INT_DEFAULT);
-    info.uiStacker2DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK2, REG_PUB_SETUP_INT_DEFAULT);
-    info.uiStacker3DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK3, REG_PUB_SETUP_INT_DEFAULT);
-    info.uiStacker4DiscType = file.ReadInt(REG_PUB_SETUP_VAL_STK4, REG_PUB_SETUP_INT_DEFAULT);
-    info.strPrinterName = file.ReadString(REG_PUB_SETUP_VAL_PRINTER_NAME);
+    info.strGUID = record.String(REG_PUB_SETUP_VAL_GUID);
+    info.strPublisherName = record.String(REG_PUB_SETUP_VAL_PUBLISH_NAME);
+    info.uiPublishMode = record.Int(REG_PUB_SETUP_VAL_PUBLISH_MODE, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker1DiscType = record.Int(REG_PUB_SETUP_VAL_STK1, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker2DiscType = record.Int(REG_PUB_SETUP_VAL_STK2, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker3DiscType = record.Int(REG_PUB_SETUP_VAL_STK3, REG_PUB_SETUP_INT_DEFAULT);
+    info.uiStacker4DiscType = record.Int(REG_PUB_SETUP_VAL_STK4, REG_PUB_SETUP_INT_DEFAULT);
+    info.strPrinterName = record.String(REG_PUB_SETUP_VAL_PRINTER_NAME);
 }
 
 bool CBasicPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
@@ -254,13 +255,14 @@ CString CBasicPublisherMgr::GetPublisherGUID(LPCTSTR szPublisherRegistID)
 {
     ASSERT(szPublisherRegistID != nullptr);
     const SettingFile file = FileOf(szPublisherRegistID);
-    if (!file.Exists()) {
+    const SettingRecord record = file.Read();
+    if (!record.Exists()) {
         if (GetLogLevel() >= 2) {
             logViaAgent(4, "CBasicPublisherMgr::GetPublisherGUID, \"%s\" is not found", file.Path().c_str());
         }
         return "";
     }
-    return file.ReadString(REG_PUB_SETUP_VAL_GUID);
+    return record.String(REG_PUB_SETUP_VAL_GUID);
 }
 
 UINT CBasicPublisherMgr::GetCopiesMax(LPCTSTR szPublisherRegistID, bool)

@@ -171,7 +171,8 @@ protected:
 
     SettingFile FileOf(LPCTSTR szPublisherRegistID) const;
     /// The settings that models with and without drives share.
-    void ReadCommonSettings(LPCTSTR szPublisherRegistID, PUBLISHERINFO& info) const;
+    static void ReadCommonSettings(const SettingRecord& record, LPCTSTR szPublisherRegistID,
+                                   PUBLISHERINFO& info);
     /// Mode and output stackers alone; the rest of the file stays.
     void WriteModeKeys(LPCTSTR szPublisherRegistID, const PUBLISHERINFO& sPublisherInfo) const;
 

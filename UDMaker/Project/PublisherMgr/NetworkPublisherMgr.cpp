@@ -108,8 +108,8 @@ DWORD CNetworkPublisherMgr::ConnectionTest(LPCTSTR lpszHostName)
 CString CNetworkPublisherMgr::GetHostNameFull(LPCTSTR szPublisherRegistID)
 {
     ASSERT(szPublisherRegistID != nullptr);
-    const SettingFile file = FileOf(szPublisherRegistID);
-    return file.Exists() ? file.ReadString(REG_PUB_SETUP_VAL_HOST) : CString();
+    const SettingRecord record = FileOf(szPublisherRegistID).Read();
+    return record.Exists() ? record.String(REG_PUB_SETUP_VAL_HOST) : CString();
 }
 
 CString CNetworkPublisherMgr::GetHostName(LPCTSTR szPublisherRegistID)
@@ -164,14 +164,14 @@ bool CNetworkPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISH
     info.Clear();
     info.uiPublisherType = PUBMGR_CONNECTTYPE_NETWORK;
     info.strPublisherRegistID = strRegistID;
-    const SettingFile file = FileOf(strRegistID.c_str());
-    if (!file.Exists()) {
+    const SettingRecord record = FileOf(strRegistID.c_str()).Read();
+    if (!record.Exists()) {
         return false;
     }
-    info.strHostName = file.ReadString(REG_PUB_SETUP_VAL_HOST);
-    info.strPublisherName = file.ReadString(REG_PUB_SETUP_VAL_PUBLISH_NAME);
-    info.strPrinterName = file.ReadString(REG_PUB_SETUP_VAL_PRINTER_NAME);
-    info.uiNetPublisherType = file.ReadNPType();
+    info.strHostName = record.String(REG_PUB_SETUP_VAL_HOST);
+    info.strPublisherName = record.String(REG_PUB_SETUP_VAL_PUBLISH_NAME);
+    info.strPrinterName = record.String(REG_PUB_SETUP_VAL_PRINTER_NAME);
+    info.uiNetPublisherType = record.NPType();
     info.uiPublishMode = NOT_KNOWN;
     info.uiStacker1DiscType = NOT_KNOWN;
     info.uiStacker2DiscType = NOT_KNOWN;

@@ -16,6 +16,7 @@
 #include "DeviceKey.h"
 #include "InstallPaths.h"
 #include "NetworkPublisherMgr.h"
+#include "ReadPass.h"
 #include "RegUtility.h"
 #include "SDPublisherMgr.h"
 #include "SettingFile.h"
@@ -71,14 +72,14 @@ UINT CPublisherMgr::GetConnectType(LPCTSTR szPublisherRegistID)
         return PUBMGR_CONNECTTYPE_LOCAL;
     }
     const SettingFile file(m_strSettingFolder, szPublisherRegistID);
-    if (!file.Exists()) {
+    const SettingRecord record = file.Read();
+    if (!record.Exists()) {
         if (GetLogLevel() >= 2) {
             logViaAgent(4, "CPublisherMgr::GetConnectType, \"%s\" is not found", file.Path().c_str());
         }
         return PUBMGR_CONNECTTYPE_LOCAL;
     }
-    const UINT uiType = file.ReadInt(REG_PUB_SETUP_VAL_TYPE, REG_PUB_SETUP_INT_DEFAULT);
-    return uiType == static_cast<UINT>(REG_PUB_SETUP_INT_DEFAULT) ? UINT{PUBMGR_CONNECTTYPE_LOCAL} : uiType;
+    return record.ConnectType();
 }
 
 DWORD CPublisherMgr::GetLocalDeviceDPType(LPCTSTR szPublisherRegistID)
@@ -87,19 +88,19 @@ DWORD CPublisherMgr::GetLocalDeviceDPType(LPCTSTR szPublisherRegistID)
     if (szPublisherRegistID == nullptr) {
         return dwUnknown;
     }
-    const SettingFile file(m_strSettingFolder, szPublisherRegistID);
-    if (!file.Exists()) {
+    const SettingRecord record = SettingFile(m_strSettingFolder, szPublisherRegistID).Read();
+    if (!record.Exists()) {
         return 0;
     }
     DWORD dwDPType = dwUnknown;
-    CRegUtility::GetRegDWORDData(HKEY_LOCAL_MACHINE,
-                                 DeviceKey(file.ReadString(REG_PUB_SETUP_VAL_GUID)).c_str(),
+    CRegUtility::GetRegDWORDData(HKEY_LOCAL_MACHINE, DeviceKey(record.String(REG_PUB_SETUP_VAL_GUID)).c_str(),
                                  REG_PUB_CTRL_DEVICETYPE, &dwDPType);
     return dwDPType;
 }
 
 UINT CPublisherMgr::GetPublisherDevType(LPCTSTR szPublisherRegistID)
 {
+    const ReadPass pass;
     const UINT uiConnectType = GetConnectType(szPublisherRegistID);
     if (uiConnectType == PUBMGR_CONNECTTYPE_NETWORK) {
         return PUBMGR_PUBLISHERTYPE_NETWORK;
@@ -141,9 +142,5 @@ UINT CPublisherMgr::GetPublisherDevType(LPCTSTR szPublisherRegistID)
 UINT CPublisherMgr::GetNPType(LPCTSTR lpszPublisherRegistID)
 {
     ASSERT(lpszPublisherRegistID != nullptr);
-    const SettingFile file(m_strSettingFolder, lpszPublisherRegistID);
-    if (!file.Exists()) {
-        return PUBMGR_NPTYPE_UNKNOWN;
-    }
-    return file.ReadNPType();
+    return SettingFile(m_strSettingFolder, lpszPublisherRegistID).Read().NPType();
 }

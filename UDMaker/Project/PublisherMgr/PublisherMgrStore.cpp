@@ -1,11 +1,13 @@
 // The store of publisher setting files.
 #include "PublisherMgr.h"
 
+#include "ReadPass.h"
 #include "SettingFile.h"
 #include "Win_def_log.h"
 
 #include <dirent.h>
 #include <memory>
+#include <optional>
 #include <unistd.h>
 
 std::string CPublisherMgr::SettingFilePath(LPCTSTR szPublisherRegistID) const
@@ -70,7 +72,8 @@ bool CPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
 bool CPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo,
                                      BOOL bConnectionError)
 {
-    // The list asks this of every publisher at each tick: the model is looked up once.
+    // The list asks this of every publisher at each tick: the model and the record come from one reading.
+    std::optional<ReadPass> pass(std::in_place);
     const bool bNamed = szPublisherRegistID != nullptr && szPublisherRegistID[0] != '\0';
     const UINT uiDevType =
         bNamed ? GetPublisherDevType(szPublisherRegistID) : UINT{PUBMGR_PUBLISHERTYPE_BASIC};
@@ -83,6 +86,7 @@ bool CPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO*
     }
     const bool bRead = pPubMgr->GetPublisherInfo(szPublisherRegistID, psPublisherInfo, bConnectionError);
     // What could not be read may have vanished since the look-up.
+    pass.reset();
     psPublisherInfo->uiPublisherDevType = bRead ? uiDevType : GetPublisherDevType(szPublisherRegistID);
     return bRead;
 }
@@ -90,8 +94,8 @@ bool CPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO*
 CString CPublisherMgr::GetPublisherName(LPCTSTR szPublisherRegistID)
 {
     ASSERT(szPublisherRegistID != nullptr);
-    const SettingFile file(m_strSettingFolder, szPublisherRegistID);
-    return file.Exists() ? file.ReadString(REG_PUB_SETUP_VAL_PUBLISH_NAME) : CString();
+    const SettingRecord record = SettingFile(m_strSettingFolder, szPublisherRegistID).Read();
+    return record.Exists() ? record.String(REG_PUB_SETUP_VAL_PUBLISH_NAME) : CString();
 }
 
 void CPublisherMgr::GetPublisherRegistIDFromName(LPCTSTR lpszPublisherName, CString* pstrPublisherRegistID)

@@ -1,6 +1,7 @@
 #include "SettingFile.h"
 
 #include "PubMgrConst.h"
+#include "ReadPass.h"
 
 #include <cstdlib>
 #include <string_view>
@@ -24,6 +25,38 @@ const char* SettingLines::Block() const
     return m_strBlock.c_str(); // its end is the other NUL
 }
 
+bool SettingRecord::Exists() const
+{
+    return m_bExists;
+}
+
+CString SettingRecord::String(LPCTSTR szKey) const
+{
+    return m_text != nullptr ? m_text->Value(REG_PUB_SETUP_SECTION_COMMON, szKey, 255)
+                             : std::string(REG_PUB_SETUP_STRING_DEFAULT);
+}
+
+UINT SettingRecord::Int(LPCTSTR szKey, int nDefault) const
+{
+    return m_text != nullptr ? m_text->Number(REG_PUB_SETUP_SECTION_COMMON, szKey, nDefault)
+                             : static_cast<UINT>(nDefault);
+}
+
+UINT SettingRecord::ConnectType() const
+{
+    const UINT uiType = Int(REG_PUB_SETUP_VAL_TYPE, REG_PUB_SETUP_INT_DEFAULT);
+    return uiType == static_cast<UINT>(REG_PUB_SETUP_INT_DEFAULT) ? UINT{PUBMGR_CONNECTTYPE_LOCAL} : uiType;
+}
+
+UINT SettingRecord::NPType() const
+{
+    const std::string strType =
+        m_text != nullptr ? m_text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, 31)
+                          : std::string();
+    const auto uiType = static_cast<UINT>(std::atoi(strType.c_str()));
+    return uiType > PUBMGR_NPTYPE_300NII_BDXL ? UINT{PUBMGR_NPTYPE_UNKNOWN} : uiType;
+}
+
 SettingFile::SettingFile(const std::string& strFolder, LPCTSTR szPublisherRegistID)
     : m_strPath(strFolder + "/" + szPublisherRegistID + ARV_PUBLISHER_ID_EXTENSION)
 {
@@ -34,22 +67,12 @@ const std::string& SettingFile::Path() const
     return m_strPath;
 }
 
-bool SettingFile::Exists() const
+SettingRecord SettingFile::Read() const
 {
-    return access(m_strPath.c_str(), F_OK) == 0;
-}
-
-CString SettingFile::ReadString(LPCTSTR szKey) const
-{
-    char szValue[256] = {};
-    GetPrivateProfileStringA(REG_PUB_SETUP_SECTION_COMMON, szKey, REG_PUB_SETUP_STRING_DEFAULT, szValue,
-                             sizeof szValue, m_strPath.c_str());
-    return szValue;
-}
-
-UINT SettingFile::ReadInt(LPCTSTR szKey, int nDefault) const
-{
-    return GetPrivateProfileIntA(REG_PUB_SETUP_SECTION_COMMON, szKey, nDefault, m_strPath.c_str());
+    SettingRecord record;
+    record.m_text = ReadPass::Profile(m_strPath);
+    record.m_bExists = record.m_text != nullptr || access(m_strPath.c_str(), F_OK) == 0;
+    return record;
 }
 
 bool SettingFile::WriteInt(LPCTSTR szKey, UINT uiValue) const
@@ -57,15 +80,6 @@ bool SettingFile::WriteInt(LPCTSTR szKey, UINT uiValue) const
     const std::string strValue = std::to_string(static_cast<int>(uiValue));
     return WritePrivateProfileStringA(REG_PUB_SETUP_SECTION_COMMON, szKey, strValue.c_str(),
                                       m_strPath.c_str()) != FALSE;
-}
-
-UINT SettingFile::ReadNPType() const
-{
-    char szType[32] = {};
-    GetPrivateProfileStringA(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, "", szType,
-                             sizeof szType, m_strPath.c_str());
-    const auto uiType = static_cast<UINT>(std::atoi(szType));
-    return uiType > PUBMGR_NPTYPE_300NII_BDXL ? UINT{PUBMGR_NPTYPE_UNKNOWN} : uiType;
 }
 
 bool SettingFile::Write(const SettingLines& lines) const

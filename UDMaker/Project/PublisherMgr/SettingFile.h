@@ -1,8 +1,10 @@
 // One publisher's setting file: an ini file with the one section "Common".
 #pragma once
 
+#include "ProfileText.h"
 #include "Win_def_MFC.h"
 
+#include <memory>
 #include <string>
 
 /// The lines of a file that is written anew.
@@ -20,20 +22,37 @@ private:
     std::string m_strBlock;
 };
 
-/// Names the file; nothing is opened or kept between calls. A key that is missing from a file that opens
-/// reads as the empty text.
+/// What a setting file held when it was read.
+class SettingRecord
+{
+public:
+    /// Whether there is such a file. One that cannot be opened exists too.
+    bool Exists() const;
+    /// At most 255 bytes of the value. Empty for a key that is missing; "NotSet" when the file could not be
+    /// opened.
+    CString String(LPCTSTR szKey) const;
+    UINT Int(LPCTSTR szKey, int nDefault) const;
+    /// An enPublisherConnectType, or another number as it stands in the file.
+    UINT ConnectType() const;
+    /// The kind of a network publisher as it was last met, an enNetworkPublisherType.
+    UINT NPType() const;
+
+private:
+    friend class SettingFile;
+
+    bool m_bExists = false;
+    std::shared_ptr<const ProfileText> m_text; // null: it could not be opened
+};
+
+/// Names the file; nothing is opened or kept between calls.
 class SettingFile
 {
 public:
     SettingFile(const std::string& strFolder, LPCTSTR szPublisherRegistID);
 
     const std::string& Path() const;
-    bool Exists() const;
-    /// At most 255 bytes of the value; "NotSet" when the file cannot be opened.
-    CString ReadString(LPCTSTR szKey) const;
-    UINT ReadInt(LPCTSTR szKey, int nDefault) const;
-    /// The kind of a network publisher as it was last met, an enNetworkPublisherType.
-    UINT ReadNPType() const;
+    /// All keys with one open and one lock, or as this thread's ReadPass has read them.
+    SettingRecord Read() const;
     bool WriteInt(LPCTSTR szKey, UINT uiValue) const;
     /// Puts the lines in the place of all that were there. GetLastError tells why it failed.
     bool Write(const SettingLines& lines) const;

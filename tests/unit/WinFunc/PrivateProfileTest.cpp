@@ -1,12 +1,15 @@
 // Reading private profile files: lines, sections, keys and what is made of them.
+#include "ProfileText.h"
 #include "TextFiles.h"
 #include "Win_def.h"
 
 #include <array>
+#include <cerrno>
 #include <clocale>
 #include <gtest/gtest.h>
 #include <random>
 #include <sys/stat.h>
+#include <tuple>
 
 namespace {
 
@@ -40,6 +43,43 @@ Reading Found(const std::string& text)
 
 const Reading NOTHING = {"", 0};
 
+/// A way to read keys of a file that can be opened.
+struct Reader
+{
+    const char* name;
+    Reading (*text)(const char* section, const char* key, DWORD size, const char* file);
+    UINT (*number)(const char* section, const char* key, INT fallback, const char* file);
+};
+
+const Reader READERS[] = {
+    {"OneKey",
+     [](const char* section, const char* key, DWORD size, const char* file) {
+         return Read(section, key, size, "default", file);
+     },
+     GetPrivateProfileIntA},
+    {"AllKeys",
+     [](const char* section, const char* key, DWORD size, const char* file) {
+         return Found(ProfileText::Read(file)->Value(section, key, size - 1));
+     },
+     [](const char* section, const char* key, INT fallback, const char* file) {
+         return ProfileText::Read(file)->Number(section, key, fallback);
+     }},
+};
+
+/// What holds for all ways to read.
+class PrivateProfileReader : public testing::TestWithParam<Reader>
+{
+protected:
+    static Reading ReadKey(const char* section, const char* key, DWORD size = 2048,
+                           const char* file = FILE_NAME)
+    {
+        return GetParam().text(section, key, size, file);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(, PrivateProfileReader, testing::ValuesIn(READERS),
+                         [](const auto& reader) { return reader.param.name; });
+
 using PrivateProfileDeathTest = testing::Test;
 
 } // namespace
@@ -59,14 +99,14 @@ TEST(PrivateProfile, ADefaultThatDoesNotFitBecomesTheEmptyText)
     EXPECT_EQ(Read("Common", "Key", 1, "default"), NOTHING);
 }
 
-TEST(PrivateProfile, AMissingKeyIsTheEmptyTextWhateverTheDefault)
+TEST_P(PrivateProfileReader, AMissingKeyIsTheEmptyTextWhateverTheDefault)
 {
     WriteText(FILE_NAME, "[Common]\nOther=1\nEmpty=\n");
-    EXPECT_EQ(Read("Common", "Key"), NOTHING);
-    EXPECT_EQ(Read("Common", "Empty"), NOTHING);
-    EXPECT_EQ(Read("Absent", "Other"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Empty"), NOTHING);
+    EXPECT_EQ(ReadKey("Absent", "Other"), NOTHING);
     WriteText(FILE_NAME, "");
-    EXPECT_EQ(Read("Common", "Key"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key"), NOTHING);
 }
 
 // A file, and what key "Key" of section "Common" reads as.
@@ -77,7 +117,7 @@ struct ReadCase
     std::string value;
 };
 
-TEST(PrivateProfile, LineTable)
+TEST_P(PrivateProfileReader, LineTable)
 {
     using namespace std::string_literals;
     const ReadCase cases[] = {
@@ -129,42 +169,42 @@ TEST(PrivateProfile, LineTable)
     };
     for (const ReadCase& c : cases) {
         WriteText(FILE_NAME, c.text);
-        EXPECT_EQ(Read("Common", "Key"), Found(c.value)) << c.what;
+        EXPECT_EQ(ReadKey("Common", "Key"), Found(c.value)) << c.what;
     }
 }
 
-TEST(PrivateProfile, ALineIsCutAt1023PrintableBytesAndItsRestIsNoOtherLine)
+TEST_P(PrivateProfileReader, ALineIsCutAt1023PrintableBytesAndItsRestIsNoOtherLine)
 {
     for (const size_t length : {1022U, 1023U, 1024U, 1025U, 5000U, 100000U}) {
         const std::string line = "Key=" + std::string(length - 4, 'v');
         WriteText(FILE_NAME, "[Common]\n" + line + "\nNext=found\n");
-        EXPECT_EQ(Read("Common", "Key"), Found(line.substr(4, 1019))) << length;
-        EXPECT_EQ(Read("Common", "Next"), Found("found")) << length;
+        EXPECT_EQ(ReadKey("Common", "Key"), Found(line.substr(4, 1019))) << length;
+        EXPECT_EQ(ReadKey("Common", "Next"), Found("found")) << length;
     }
 }
 
-TEST(PrivateProfile, TheRestOfALongLineIsDropped)
+TEST_P(PrivateProfileReader, TheRestOfALongLineIsDropped)
 {
     WriteText(FILE_NAME, "[Common]\n" + std::string(1023, 'x') + "[Other]\nKey=a\n" + std::string(1023, ';') +
                              "Key=b\n" + std::string(1023, 'x') + "Key=c\n");
-    EXPECT_EQ(Read("Common", "Key"), Found("a"));
-    EXPECT_EQ(Read("Other", "Key"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key"), Found("a"));
+    EXPECT_EQ(ReadKey("Other", "Key"), NOTHING);
 }
 
-TEST(PrivateProfile, DroppedBytesDoNotCountIntoALine)
+TEST_P(PrivateProfileReader, DroppedBytesDoNotCountIntoALine)
 {
     WriteText(FILE_NAME,
               "[Common]\n" + std::string(3000, '\t') + "Key=" + std::string(3000, '\xFF') + "value\n");
-    EXPECT_EQ(Read("Common", "Key"), Found("value"));
+    EXPECT_EQ(ReadKey("Common", "Key"), Found("value"));
 }
 
-TEST(PrivateProfile, AValueThatDoesNotFitIsCut)
+TEST_P(PrivateProfileReader, AValueThatDoesNotFitIsCut)
 {
     WriteText(FILE_NAME, "[Common]\nKey=value\n");
-    EXPECT_EQ(Read("Common", "Key", 6), Found("value"));
-    EXPECT_EQ(Read("Common", "Key", 5), Found("valu"));
-    EXPECT_EQ(Read("Common", "Key", 2), Found("v"));
-    EXPECT_EQ(Read("Common", "Key", 1), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key", 6), Found("value"));
+    EXPECT_EQ(ReadKey("Common", "Key", 5), Found("valu"));
+    EXPECT_EQ(ReadKey("Common", "Key", 2), Found("v"));
+    EXPECT_EQ(ReadKey("Common", "Key", 1), NOTHING);
 }
 
 TEST(PrivateProfile, ASizeOfNothingLeavesTheBufferAlone)
@@ -177,22 +217,22 @@ TEST(PrivateProfile, ASizeOfNothingLeavesTheBufferAlone)
     EXPECT_EQ(byte, '#');
 }
 
-TEST(PrivateProfile, WhatIsNoRegularFileReadsAsEmptyAtOnce)
+TEST_P(PrivateProfileReader, WhatIsNoRegularFileReadsAsEmptyAtOnce)
 {
     ASSERT_EQ(mkfifo("/tmp/fifo.ini", 0644), 0);
-    EXPECT_EQ(Read("Common", "Key", 64, "default", "/tmp/fifo.ini"), NOTHING);
-    EXPECT_EQ(Read("Common", "Key", 64, "default", "/tmp"), NOTHING);
-    EXPECT_EQ(Read("Common", "Key", 64, "default", "/dev/zero"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key", 64, "/tmp/fifo.ini"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key", 64, "/tmp"), NOTHING);
+    EXPECT_EQ(ReadKey("Common", "Key", 64, "/dev/zero"), NOTHING);
 }
 
-TEST(PrivateProfile, TheLocaleChangesNothing)
+TEST_P(PrivateProfileReader, TheLocaleChangesNothing)
 {
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     WriteText(FILE_NAME, "[COMMON]\nPUBLISHERID=\xC3\x84p\xE9\n");
-    EXPECT_EQ(Read("common", "publisherid"), Found("p"));
+    EXPECT_EQ(ReadKey("common", "publisherid"), Found("p"));
 }
 
-TEST(PrivateProfile, RubbishDoesNoHarm)
+TEST_P(PrivateProfileReader, RubbishDoesNoHarm)
 {
     std::mt19937 random(4711);
     const std::string marks = "[]=; \t\n\nKeyCommon";
@@ -203,8 +243,8 @@ TEST(PrivateProfile, RubbishDoesNoHarm)
             text += number % 2 == 0 ? marks[number / 2 % marks.size()] : static_cast<char>(number >> 8);
         }
         WriteText(FILE_NAME, text);
-        ASSERT_EQ(Read("Common", "First", 16), Found("sound"));
-        const Reading reading = Read("Common", "Key", 16);
+        ASSERT_EQ(ReadKey("Common", "First", 16), Found("sound"));
+        const Reading reading = ReadKey("Common", "Key", 16);
         ASSERT_EQ(reading.length, reading.text.size());
         for (const char byte : reading.text) {
             ASSERT_TRUE(byte >= 0x20 && byte <= 0x7E);
@@ -218,7 +258,7 @@ struct NumberCase
     UINT number;
 };
 
-TEST(PrivateProfile, NumberTable)
+TEST_P(PrivateProfileReader, NumberTable)
 {
     const NumberCase cases[] = {
         {"Key=42", 42},  {"Key=-1", 0xFFFFFFFF}, {"Key= 7 apples", 7}, {"Key=007", 7},
@@ -227,9 +267,59 @@ TEST(PrivateProfile, NumberTable)
     };
     for (const NumberCase& c : cases) {
         WriteText(FILE_NAME, std::string("[Common]\n") + c.line + "\n");
-        EXPECT_EQ(GetPrivateProfileIntA("Common", "Key", 5, FILE_NAME), c.number) << c.line;
+        EXPECT_EQ(GetParam().number("Common", "Key", 5, FILE_NAME), c.number) << c.line;
     }
+}
+
+TEST_P(PrivateProfileReader, AFileLargerThanAnySettingFileIsReadInFull)
+{
+    const std::string filler = "Other=" + std::string(90, 'x') + "\n";
+    std::string text = "[Common]\nFirst=1\n";
+    while (text.size() < 2'000'000) {
+        text += filler;
+    }
+    WriteText(FILE_NAME, text + "Last=2\n[Other]\nKey=3\n");
+    EXPECT_EQ(ReadKey("Common", "First"), Found("1"));
+    EXPECT_EQ(ReadKey("Common", "Last"), Found("2"));
+    EXPECT_EQ(ReadKey("Common", "Last", 1), NOTHING);
+    EXPECT_EQ(GetParam().number("Other", "Key", 5, FILE_NAME), 3U);
+    EXPECT_EQ(GetParam().number("Other", "Last", 5, FILE_NAME), 5U);
+}
+
+TEST(PrivateProfile, TheNumberOfAFileThatCannotBeOpenedIsTheDefault)
+{
     EXPECT_EQ(GetPrivateProfileIntA("Common", "Key", -1, "/tmp/absent"), 0xFFFFFFFFU);
+}
+
+TEST(ProfileTextTest, IsNullWhenTheFileCannotBeOpened)
+{
+    EXPECT_EQ(ProfileText::Read("/tmp/absent"), nullptr);
+    EXPECT_EQ(errno, ENOENT);
+    EXPECT_EQ(ProfileText::Read(nullptr), nullptr);
+}
+
+TEST(ProfileTextTest, KeepsWhatTheFileHeldWhenItWasRead)
+{
+    WriteText(FILE_NAME, "[Common]\nA=1\nB=2\n");
+    const auto text = ProfileText::Read(FILE_NAME);
+    WriteText(FILE_NAME, "[Common]\nA=3\nB=4\n");
+    EXPECT_EQ(text->Value("Common", "A", 255), "1");
+    EXPECT_EQ(text->Value("Common", "B", 255), "2");
+}
+
+TEST(ProfileTextTest, FindsEveryKeyOfEverySection)
+{
+    WriteText(FILE_NAME, "None=0\n[One]\nA=1\nB=\n[Two]\nA=2\nC=3\n[one]\nB=4\nA=5\n[]\nA=6\n[Two]\n"
+                         "D=7\n[One]x\n");
+    const auto text = ProfileText::Read(FILE_NAME);
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"One", "A", "1"}, {"ONE", "b", "4"}, {"Two", "A", "2"}, {"Two", "C", "3"},   {"Two", "B", ""},
+        {"", "A", "6"},    {"Two", "D", "7"}, {"", "None", ""},  {"One", "None", ""}, {"Three", "A", ""},
+    };
+    for (const auto& [section, key, value] : rows) {
+        EXPECT_EQ(text->Value(section, key, 255), value) << section << " " << key;
+        EXPECT_EQ(Read(section, key), Found(value)) << section << " " << key;
+    }
 }
 
 TEST_F(PrivateProfileDeathTest, SectionAndKeyMustBeNamed)

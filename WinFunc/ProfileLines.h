@@ -1,0 +1,74 @@
+// The rules by which private profile (ini) files are read: a line scanner that accepts hand-written files.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+/// Upper and lower case of the letters A to Z are equal, in any locale.
+inline bool EqualNoCase(std::string_view one, std::string_view two)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return std::equal(one.begin(), one.end(), two.begin(), two.end(),
+                      [&](char a, char b) { return a == b || lower(a) == lower(b); });
+}
+
+/// Takes the bytes of a file in pieces of any size and reports its keys that have a value.
+class ProfileLines
+{
+public:
+    /// Calls `visit(section, key, value)` for each key in file order, until it returns true, which is the
+    /// result. The texts are valid during the call.
+    template <class Visit>
+    bool Take(std::string_view bytes, Visit& visit)
+    {
+        for (const char byte : bytes) {
+            if (byte == '\n') {
+                if (EndLine(visit)) {
+                    return true;
+                }
+            } else if (byte >= 0x20 && byte <= 0x7E && m_length < m_line.size()) {
+                m_line[m_length++] = byte;
+            }
+        }
+        return false;
+    }
+
+    /// For the last line too, which may have no line feed.
+    template <class Visit>
+    bool EndLine(Visit& visit)
+    {
+        std::string_view line(m_line.data(), m_length);
+        m_length = 0;
+        line = line.substr(0, line.find(';')); // what follows is a comment, in section lines too
+        if (line.starts_with('[')) {
+            const size_t end = line.find(']');
+            if (end != std::string_view::npos) {
+                m_section = line.substr(1, end - 1);
+                m_isInSection = true;
+            }
+        }
+        const size_t delimiter = line.find_first_of(" =");
+        if (!m_isInSection || delimiter == std::string_view::npos) {
+            return false;
+        }
+        std::string_view value = WithoutLeadingBlanks(line.substr(delimiter + 1));
+        if (value.starts_with('=')) {
+            value = WithoutLeadingBlanks(value.substr(1));
+        }
+        value = value.substr(0, value.find_last_not_of(' ') + 1);
+        return !value.empty() && visit(std::string_view(m_section), line.substr(0, delimiter), value);
+    }
+
+private:
+    static std::string_view WithoutLeadingBlanks(std::string_view text)
+    {
+        return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+    }
+
+    std::string m_section;
+    bool m_isInSection = false; // keys ahead of the first section line belong to none
+    size_t m_length = 0;
+    std::array<char, 1023> m_line; // what a line holds beyond this is dropped
+};
