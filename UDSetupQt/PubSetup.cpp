@@ -5,6 +5,7 @@
 #include "MyTreeWidgetItem.h"
 #include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
+#include "ReadPass.h"
 #include "RegistIDKey.h"
 #include "RowTexts.h"
 #include "SelectionRules.h"
@@ -283,6 +284,7 @@ void PubSetup::updateList()
     }
     qDeleteAll(unregistered);
 
+    const ReadPass pass;
     for (const CString& id : ids) {
         const bool network = m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
         PUBLISHERINFO info;

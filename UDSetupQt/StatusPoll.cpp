@@ -4,6 +4,7 @@
 #include "NW_Com_LibConst.h"
 #include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
+#include "ReadPass.h"
 #include "RegistIDKey.h"
 #include "RowTexts.h"
 
@@ -95,6 +96,7 @@ void StatusPoll::startNetwork(const CString& id)
 
 void StatusPoll::fetchStatusOneDevice(const CString& id)
 {
+    const ReadPass pass; // the questions below each look the publisher up
     PUBLISHERINFO info;
     StatusFacts facts;
     BOOL bConnection = 0;
