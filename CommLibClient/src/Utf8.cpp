@@ -16,24 +16,62 @@ bool IsLowSurrogate(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-} // namespace
-
-std::string toUTF8(const char16_t* utf16buf, size_t utf16len)
+/// Surrogates that belong together are joined; one that is alone stands for itself.
+template <class Visit>
+void ForEachCharacter(const char16_t* utf16buf, size_t utf16len, Visit visit)
 {
-    setlocale(LC_ALL, "en_US.utf8");
-    std::string text;
-    mbstate_t state = {};
     for (size_t index = 0; index < utf16len; ++index) {
         char32_t character = utf16buf[index];
         if (IsHighSurrogate(utf16buf[index]) && index + 1 < utf16len && IsLowSurrogate(utf16buf[index + 1])) {
             character = (character - 0xD7C0) * 1024 + (utf16buf[index + 1] - 0xDC00);
             ++index;
         }
+        visit(character);
+    }
+}
+
+/// In the locale that the process has now, which may not know every character.
+std::string ToMultiByte(const char16_t* utf16buf, size_t utf16len)
+{
+    std::string text;
+    mbstate_t state = {};
+    ForEachCharacter(utf16buf, utf16len, [&](char32_t character) {
         char bytes[MB_LEN_MAX];
         const size_t count = std::c32rtomb(bytes, character, &state);
         if (count <= sizeof bytes) { // the error values are beyond
             text.append(bytes, count);
         }
+    });
+    return text;
+}
+
+} // namespace
+
+std::string toUTF8(const char16_t* utf16buf, size_t utf16len)
+{
+    if (setlocale(LC_ALL, "en_US.utf8") == nullptr) {
+        return ToMultiByte(utf16buf, utf16len);
     }
+    std::string text(utf16len * 3, '\0'); // a pair gives four bytes
+    char* end = text.data();
+    const auto put = [&end](char32_t value) { *end++ = static_cast<char>(value); };
+    ForEachCharacter(utf16buf, utf16len, [&](char32_t character) {
+        if (character < 0x80) {
+            put(character);
+        } else if (character < 0x800) {
+            put(0xC0 | character >> 6);
+            put(0x80 | (character & 0x3F));
+        } else if (character >= 0x10000) {
+            put(0xF0 | character >> 18);
+            put(0x80 | (character >> 12 & 0x3F));
+            put(0x80 | (character >> 6 & 0x3F));
+            put(0x80 | (character & 0x3F));
+        } else if (character < 0xD800 || character > 0xDFFF) { // a surrogate alone is no character
+            put(0xE0 | character >> 12);
+            put(0x80 | (character >> 6 & 0x3F));
+            put(0x80 | (character & 0x3F));
+        }
+    });
+    text.resize(static_cast<size_t>(end - text.data()));
     return text;
 }

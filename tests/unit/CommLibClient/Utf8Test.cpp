@@ -2,9 +2,36 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <climits>
 #include <clocale>
+#include <cstdlib>
+#include <cuchar>
+#include <random>
 
 namespace {
+
+/// The conversion as it is specified: character by character, by the C library.
+std::string Specified(const std::u16string& text)
+{
+    setlocale(LC_ALL, "en_US.utf8");
+    std::string result;
+    mbstate_t state = {};
+    for (size_t index = 0; index < text.size(); ++index) {
+        char32_t character = text[index];
+        const bool isHigh = character >= 0xD800 && character <= 0xDBFF;
+        if (isHigh && index + 1 < text.size() && text[index + 1] >= 0xDC00 && text[index + 1] <= 0xDFFF) {
+            character = (character - 0xD7C0) * 1024 + (text[index + 1] - 0xDC00);
+            ++index;
+        }
+        char bytes[MB_LEN_MAX];
+        const size_t count = std::c32rtomb(bytes, character, &state);
+        if (count != 0 && count != static_cast<size_t>(-1) && count != static_cast<size_t>(-2)) {
+            result.append(bytes, count);
+        }
+    }
+    return result;
+}
 
 std::string Utf8(const std::u16string& text)
 {
@@ -50,6 +77,71 @@ TEST(Utf8, DropsSurrogatesThatAreAlone)
                                              "b");
     const char16_t cut[] = {u'a', high, low};
     EXPECT_EQ(toUTF8(cut, 2), "a"); // the other half is not part of the text
+}
+
+TEST(Utf8, EveryUnitAloneIsAsSpecified)
+{
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+        const std::u16string text(1, static_cast<char16_t>(unit));
+        ASSERT_EQ(Utf8(text), Specified(text)) << unit;
+    }
+}
+
+TEST(Utf8, EveryPairOfSurrogatesIsAsSpecified)
+{
+    for (char16_t high = 0xD800; high <= 0xDBFF; ++high) {
+        std::u16string text;
+        for (char16_t low = 0xDC00; low <= 0xDFFF; ++low) {
+            text += {high, low};
+        }
+        ASSERT_EQ(Utf8(text), Specified(text)) << unsigned{high};
+    }
+}
+
+/// Neighbours of every kind: of one, two, three bytes, the bounds between them, and both surrogates.
+const char16_t neighbours[] = {0,      u'a',   0x7F,   0x80,   0x7FF,  0x800,  0xD7FF,
+                               0xD800, 0xDBFF, 0xDC00, 0xDFFF, 0xE000, 0xFFFE, 0xFFFF};
+
+TEST(Utf8, EverySequenceOfFourNeighboursIsAsSpecified)
+{
+    for (const char16_t first : neighbours) {
+        for (const char16_t second : neighbours) {
+            for (const char16_t third : neighbours) {
+                for (const char16_t fourth : neighbours) {
+                    const std::u16string text = {first, second, third, fourth};
+                    ASSERT_EQ(Utf8(text), Specified(text))
+                        << std::hex << unsigned{first} << " " << unsigned{second} << " " << unsigned{third}
+                        << " " << unsigned{fourth};
+                }
+            }
+        }
+    }
+}
+
+TEST(Utf8, LongSequencesAreAsSpecified)
+{
+    std::mt19937 random(4711);
+    for (int round = 0; round < 2000; ++round) {
+        std::u16string text;
+        for (size_t length = random() % 256; length > 0; --length) {
+            const auto number = random();
+            text += number % 2 == 0 ? neighbours[number / 2 % std::size(neighbours)]
+                                    : static_cast<char16_t>(number >> 8);
+        }
+        ASSERT_EQ(Utf8(text), Specified(text)) << round;
+    }
+}
+
+TEST(Utf8, WithoutItsLocaleIsAsSpecifiedToo)
+{
+    ASSERT_EQ(setenv("LOCPATH", "/tmp", 1), 0); // no locale lies there
+    ASSERT_EQ(setlocale(LC_ALL, "en_US.utf8"), nullptr);
+    ASSERT_STREQ(setlocale(LC_ALL, "C"), "C");
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+        const std::u16string text = {u'a', static_cast<char16_t>(unit), 0xDC00, u'b'};
+        ASSERT_EQ(Utf8(text), Specified(text)) << unit;
+    }
+    EXPECT_EQ(Utf8(u"a\u00E9b"), "ab");
 }
 
 TEST(Utf8, KeepsZerosForTheCallerToSee)
