@@ -1,6 +1,7 @@
 // Loading the registry's text file into the map and writing the map back.
 #include "RegistryFile.h"
 
+#include "FileStamp.h"
 #include "InstallPaths.h"
 #include "SystemCalls.h"
 #include "WinFunc.h"
@@ -19,37 +20,13 @@ namespace {
 constexpr size_t PIECE_MAX = 1023;
 constexpr mode_t REGISTRY_FILE_MODE = 0644;
 
-/// Tells one state of the file from another.
-struct FileStamp
-{
-    dev_t device;
-    ino_t inode;
-    off_t size;
-    timespec modified;
-    timespec changed;
-
-    bool operator==(const FileStamp& other) const
-    {
-        return device == other.device && inode == other.inode && size == other.size &&
-               SameTime(modified, other.modified) && SameTime(changed, other.changed);
-    }
-
-private:
-    static bool SameTime(const timespec& one, const timespec& two)
-    {
-        return one.tv_sec == two.tv_sec && one.tv_nsec == two.tv_nsec;
-    }
-};
-
 // The state of the file that the map holds in full. Every key is opened through a load, and reading the same
 // bytes again would not change the map.
 std::optional<FileStamp> g_loadedFile;
 
 unsigned long g_state = 0;
 
-/// The stamp, or none when a change yet to come could carry the same one: the kernel's clock stands still
-/// between two ticks, and 100 ms is longer than any tick. Some file systems keep whole seconds only, and a
-/// time without a fraction is taken for one of theirs.
+/// The stamp, or none when it does not tell the state from any later one.
 std::optional<FileStamp> TakeStamp(const LockedFile& file)
 {
     timespec now = {};
@@ -57,13 +34,8 @@ std::optional<FileStamp> TakeStamp(const LockedFile& file)
     if (clock_gettime(CLOCK_REALTIME_COARSE, &now) != 0 || fstat(file.Descriptor(), &info) != 0) {
         return std::nullopt;
     }
-    constexpr long long nsPerSecond = 1'000'000'000;
-    const long long age =
-        (now.tv_sec - info.st_ctim.tv_sec) * nsPerSecond + now.tv_nsec - info.st_ctim.tv_nsec;
-    if (age < nsPerSecond / 10 || info.st_ctim.tv_nsec == 0) {
-        return std::nullopt;
-    }
-    return FileStamp{info.st_dev, info.st_ino, info.st_size, info.st_mtim, info.st_ctim};
+    const FileStamp stamp(info);
+    return stamp.IsSettled(now) ? std::optional(stamp) : std::nullopt;
 }
 
 bool CreateEmptyFile()

@@ -1,0 +1,240 @@
+// Every connection searches the setting files for the address of its server. What was read of them is kept,
+// so that the search does not depend on their number.
+//
+// What is kept is used only while it is current, so that every change is seen by the next search. Identity,
+// size and times of the folder and of the files found are compared each time. But any other file may have
+// been rewritten in place, so that it names the server now and comes first. Comparing the times of 1000 files
+// takes 1 ms, and a poll searches six times; so the changes of the other files are taken from the kernel's
+// reports.
+//
+// Reports are trusted only where they are complete: on file systems of this computer, for files that are no
+// links and have one name. All other files are compared each time, and so is every file where the kernel
+// reports nothing. A file that was changed so recently that its times do not tell a further change is read
+// each time, unless its changes are reported. Two ways to change a file are not seen before something else
+// changes: writing to it through a name outside the folder that it got after it was read, and through a
+// memory mapping. Neither is a way in which setting files are written. The outcome would be a kind remembered
+// for a later file that names the same server.
+#include "ServerFiles.h"
+
+#include "FileStamp.h"
+#include "FolderWatch.h"
+#include "InstallPaths.h"
+#include "NW_Com_LibConst.h"
+#include "ProfileText.h"
+#include "PubMgrConst.h"
+
+#include <cstdlib>
+#include <ctime>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+#include <dirent.h>
+
+namespace {
+
+/// Identity, size and times of what lies at a path now.
+struct State
+{
+    FileStamp stamp;
+    bool isSettled = false; ///< a later change leaves another stamp
+    bool hasOneName = false;
+};
+
+std::optional<State> StateOf(const char* path)
+{
+    timespec now = {};
+    struct stat info = {};
+    if (clock_gettime(CLOCK_REALTIME_COARSE, &now) != 0 || stat(path, &info) != 0) {
+        return std::nullopt;
+    }
+    const FileStamp stamp(info);
+    return State{stamp, stamp.IsSettled(now), info.st_nlink == 1};
+}
+
+struct KnownFile
+{
+    std::string path;
+    unsigned char type = DT_UNKNOWN; ///< as the folder lists it
+    std::optional<State> state;      ///< when the file was read; none: it is to be read
+    bool isReported = false;         ///< every change is reported
+    std::string address;             ///< empty: it names no server
+    unsigned int kind = 0;
+};
+
+/// The setting files with what was read of them. Under a lock of the caller's.
+class SettingFolder
+{
+public:
+    std::vector<ServerFile> FilesOf(const std::string& address)
+    {
+        std::vector<ServerFile> found;
+        if (!Update()) {
+            return found;
+        }
+        const auto places = m_byAddress.find(address);
+        if (places == m_byAddress.end()) {
+            return found;
+        }
+        for (const size_t place : places->second) {
+            KnownFile& file = m_files[place];
+            UpdateFile(file);
+            if (file.address != address) { // changed this moment: search anew
+                IndexAddresses();
+                return FilesOf(address);
+            }
+            found.push_back({file.path, file.kind});
+        }
+        return found;
+    }
+
+private:
+    /// Brings everything up to date but the files whose changes are reported. False without a folder.
+    bool Update()
+    {
+        const std::optional<State> folder = StateOf(PUBLISHER_SETTING_DIR);
+        if (!folder) {
+            m_folder.reset();
+            return false;
+        }
+        bool isSame = m_folder && m_folder->stamp == folder->stamp;
+        if (m_watch.IsActive()) {
+            isSame = m_watch.Report([this](std::string_view name) { ReadAgain(name); }) && isSame;
+        } else {
+            isSame = isSame && m_folder->isSettled;
+        }
+        if (!isSame && !List(*folder)) {
+            return false;
+        }
+        bool isAddressChanged = !isSame;
+        for (const size_t place : std::exchange(m_changed, {})) {
+            KnownFile& file = m_files[place];
+            isAddressChanged = UpdateFile(file) || isAddressChanged;
+            if (file.isReported && !AreChangesReported(file)) { // it has another name now
+                file.isReported = false;
+                m_unreported.push_back(place);
+            }
+        }
+        for (const size_t place : m_unreported) {
+            isAddressChanged = UpdateFile(m_files[place]) || isAddressChanged;
+        }
+        if (isAddressChanged) {
+            IndexAddresses();
+        }
+        return true;
+    }
+
+    /// Takes the list of files anew, and keeps what is known of those whose stamps are the same.
+    bool List(const State& folder)
+    {
+        m_folder.reset();
+        m_watch.Start(PUBLISHER_SETTING_DIR); // before the list is read, so that nothing slips between
+        const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(PUBLISHER_SETTING_DIR), closedir);
+        if (directory == nullptr) {
+            return false;
+        }
+        std::unordered_map<std::string, KnownFile> known;
+        for (KnownFile& file : m_files) {
+            std::string path = file.path;
+            known.try_emplace(std::move(path), std::move(file));
+        }
+        m_files.clear();
+        m_byName.clear();
+        m_changed.clear();
+        while (const dirent* entry = readdir(directory.get())) {
+            std::string path = std::string(PUBLISHER_SETTING_DIR) + "/" + entry->d_name;
+            // A path beyond the limit of the suite's programs names no publisher.
+            if (entry->d_name[0] == '.' || path.size() >= size_t{MAX_PATH}) {
+                continue;
+            }
+            const auto old = known.find(path);
+            KnownFile file;
+            if (old != known.end()) {
+                file = std::move(old->second);
+            }
+            file.path = std::move(path);
+            file.type = entry->d_type;
+            file.isReported = false; // reports may have been lost
+            m_byName.emplace(entry->d_name, m_files.size());
+            m_files.push_back(std::move(file));
+        }
+        m_unreported.clear();
+        for (size_t place = 0; place < m_files.size(); ++place) {
+            UpdateFile(m_files[place]);
+            m_files[place].isReported = AreChangesReported(m_files[place]);
+            if (!m_files[place].isReported) {
+                m_unreported.push_back(place);
+            }
+        }
+        m_folder = folder;
+        return true;
+    }
+
+    bool AreChangesReported(const KnownFile& file) const
+    {
+        return m_watch.IsActive() &&
+               (file.type == DT_DIR || (file.type == DT_REG && file.state && file.state->hasOneName));
+    }
+
+    void ReadAgain(std::string_view name)
+    {
+        const auto place = m_byName.find(std::string(name));
+        if (place != m_byName.end()) {
+            m_files[place->second].state.reset();
+            m_changed.push_back(place->second);
+        }
+    }
+
+    /// Reads the file unless what is known of it is current. True when its address changed.
+    bool UpdateFile(KnownFile& file)
+    {
+        const std::optional<State> now = StateOf(file.path.c_str()); // before it is read: a change between
+        const bool isCurrent = now && file.state && file.state->stamp == now->stamp &&
+                               (file.state->isSettled || file.isReported);
+        if (isCurrent) {
+            return false;
+        }
+        const std::string before = std::exchange(file.address, "");
+        file.kind = NCL_NPTYPE_UNKNOWN;
+        file.state = now;
+        if (const auto text = ProfileText::Read(file.path.c_str())) {
+            file.address = text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_HOST, 259);
+            // The reader finds the section in any case of its name.
+            const std::string kind = text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, 31);
+            const auto number = static_cast<unsigned int>(std::atoi(kind.c_str())); // a negative one is none
+            file.kind = number <= NCL_NPTYPE_300NII_BDXL ? number : NCL_NPTYPE_UNKNOWN;
+        }
+        return file.address != before;
+    }
+
+    void IndexAddresses()
+    {
+        m_byAddress.clear();
+        for (size_t place = 0; place < m_files.size(); ++place) {
+            if (!m_files[place].address.empty()) {
+                m_byAddress[m_files[place].address].push_back(place);
+            }
+        }
+    }
+
+    FolderWatch m_watch;
+    std::optional<State> m_folder;  // when it was listed; none: it is to be listed
+    std::vector<KnownFile> m_files; // in the order of the list
+    std::vector<size_t> m_unreported;
+    std::vector<size_t> m_changed; // to be read again
+    std::unordered_map<std::string, size_t> m_byName;
+    std::unordered_map<std::string, std::vector<size_t>> m_byAddress;
+};
+
+} // namespace
+
+std::vector<ServerFile> FilesOfServer(const std::string& address)
+{
+    // Never destroyed: a thread that is still at work when the process ends may use them.
+    static auto& guard = *new std::mutex;
+    static auto& folder = *new SettingFolder;
+    const std::lock_guard lock(guard);
+    return folder.FilesOf(address);
+}
