@@ -229,6 +229,15 @@ QTreeWidgetItem* PubSetup::findItemByPublisherRegistID(const QString& strPublish
     return nullptr;
 }
 
+QTreeWidgetItem* PubSetup::chosenRow() const
+{
+    if (QTreeWidgetItem* current = treePublisherList->currentItem()) {
+        return current;
+    }
+    const QList<QTreeWidgetItem*> selected = treePublisherList->selectedItems();
+    return selected.size() == 1 ? selected.first() : nullptr;
+}
+
 bool PubSetup::getCurrentPublisherInfo(PUBLISHERINFO& info, BOOL& bConnection)
 {
     const QTreeWidgetItem* row = treePublisherList->currentItem();
@@ -378,7 +387,7 @@ void PubSetup::showAddDialog()
 
 void PubSetup::showPropertyDialog()
 {
-    const QTreeWidgetItem* row = treePublisherList->currentItem();
+    const QTreeWidgetItem* row = chosenRow();
     ASSERT(row != nullptr);
     // From here on the row may go at any time: the list follows the registered publishers behind every
     // dialog.
@@ -395,9 +404,9 @@ void PubSetup::showPropertyDialog()
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    if (QTreeWidgetItem* current = treePublisherList->currentItem()) {
+    if (QTreeWidgetItem* chosen = chosenRow()) {
         m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, FALSE);
-        current->setText(colName, QString::fromStdString(info.strPublisherName));
+        chosen->setText(colName, QString::fromStdString(info.strPublisherName));
         repaint();
     }
 }

@@ -74,6 +74,9 @@ private:
     void setUpImages();
     void setUpColumns();
     void connectAll();
+    /// The current row; without one, the selected row if it is the only one; else null. "Select all" selects
+    /// rows and makes none of them current.
+    QTreeWidgetItem* chosenRow() const;
 
     bool m_bSupportNetworkModel = true;
     int colName = 0;

@@ -26,6 +26,7 @@ private slots:
     void propertiesOpenFromEveryPlace();
     void selectionDecidesTheActions();
     void doubleClickTakesTheCurrentRowOfSeveral();
+    void selectedRowOpensWithoutACurrentRow();
     void publisherThatCannotBeReadOpensNothing();
     void publishModeThatCannotBeHadIsSaidFirst();
     void stalledServiceShowsTheIndicator();
@@ -163,6 +164,36 @@ void OpenDialogsTest::doubleClickTakesTheCurrentRowOfSeveral()
     QCOMPARE(tree->currentItem(), row("B"));
     QCOMPARE(m_service->count("18 b"), 1);
     QCOMPARE(m_service->count("18 a") + m_service->count("18 c"), 0);
+}
+
+/// A row that is inserted while the empty list has the keyboard does not become current, and neither does it
+/// by "select all".
+void OpenDialogsTest::selectedRowOpensWithoutACurrentRow()
+{
+    QTreeWidget* tree = m_window->treePublisherList;
+    for (const char* id : {"a", "b", "c"}) {
+        Installation::remove(id);
+    }
+    m_window->updateList();
+    tree->setFocus();
+    QVERIFY(tree->hasFocus());
+    QCOMPARE(tree->topLevelItemCount(), 0);
+    m_installation.addLocal("b", "B");
+    m_window->updateList();
+    QTest::keyClick(tree, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(tree->selectedItems(), QList<QTreeWidgetItem*>{row("B")});
+    QCOMPARE(tree->currentItem(), nullptr);
+    QVERIFY(m_window->showPublisherProperty->isEnabled());
+
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        QCOMPARE(shown.textPublisherName->text(), "B");
+        m_installation.addLocal("b", "New name");
+        shown.accept();
+    });
+    m_window->showPublisherProperty->trigger();
+    QVERIFY(dialog.seen());
+    QCOMPARE(m_service->count("18 b"), 1);
+    QVERIFY(row("New name") && !row("B"));
 }
 
 void OpenDialogsTest::publisherThatCannotBeReadOpensNothing()
