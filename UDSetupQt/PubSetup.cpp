@@ -404,8 +404,10 @@ void PubSetup::showPropertyDialog()
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    if (QTreeWidgetItem* chosen = chosenRow()) {
-        m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, FALSE);
+    QTreeWidgetItem* chosen = chosenRow();
+    // A server may be out of reach; its name is stored here. A publisher that is gone has no name to show.
+    if (chosen && (m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, FALSE) ||
+                   m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, TRUE))) {
         chosen->setText(colName, QString::fromStdString(info.strPublisherName));
         repaint();
     }

@@ -36,6 +36,8 @@ private slots:
     void rowStaysAfterApplyAndCancel();
     void savedNameGoesToWhateverRowIsCurrent();
     void noRowIsLeftForASavedName();
+    void rowKeepsItsTextWhenThePublisherIsGone();
+    void nameOfAnUnreachableServerIsTheStoredOne();
     void publisherVanishesBehindItsDialog();
     void pollsGoOnBehindTheDialog();
     void commonSettingOpens();
@@ -363,6 +365,37 @@ void OpenDialogsTest::noRowIsLeftForASavedName()
     m_window->showPropertyDialog();
     QVERIFY(dialog.seen());
     QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
+}
+
+void OpenDialogsTest::rowKeepsItsTextWhenThePublisherIsGone()
+{
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        Installation::remove("b");
+        m_window->updateList();
+        m_window->treePublisherList->setCurrentItem(row("C"));
+        shown.accept();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 2);
+    QVERIFY(row("A") && row("C"));
+}
+
+void OpenDialogsTest::nameOfAnUnreachableServerIsTheStoredOne()
+{
+    Installation::addNetwork("n", "N", "127.0.0.99"); // nothing listens there
+    m_window->updateList();
+    m_window->treePublisherList->setCurrentItem(row("N"));
+    Boxes boxes({QMessageBox::Ok}); // the publish mode is not known
+    WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
+        Installation::addNetwork("n", "New name", "127.0.0.99");
+        shown.accept();
+    });
+    m_window->showPropertyDialog();
+    QVERIFY(dialog.seen());
+    QVERIFY(boxes.allAnswered());
+    QVERIFY(row("New name") && !row("N"));
 }
 
 void OpenDialogsTest::publisherVanishesBehindItsDialog()
