@@ -3,6 +3,7 @@
 #include "FerroJob.h"
 #include "FixToContents.h"
 #include "SharpPictures.h"
+#include "WaitCursor.h"
 
 #include "ui_printerMaintHeadCleaning1.h"
 #include "ui_printerMaintHeadCleaning2.h"
@@ -28,14 +29,27 @@ bool isAccepted()
     return dialog.exec() == QDialog::Accepted;
 }
 
+void submitNozzleCheck(const PUBLISHERINFO& info)
+{
+    const WaitCursor cursor;
+    CFerroJob().SubmitNozzleCheckJob(
+        info, QCoreApplication::translate("propertyDialogEx", "Nozzle Check").toUtf8().constData());
+}
+
+void submitHeadCleaning(const PUBLISHERINFO& info)
+{
+    const WaitCursor cursor;
+    CFerroJob().SubmitHeadCleaningJob(
+        info, QCoreApplication::translate("propertyDialogEx", "Cleaning").toUtf8().constData());
+}
+
 /// True when the user goes on to a head cleaning.
 bool checkNozzles(const PUBLISHERINFO& info)
 {
     if (!isAccepted<Ui::printerMaintNozzleCheck1>()) {
         return false;
     }
-    CFerroJob().SubmitNozzleCheckJob(
-        info, QCoreApplication::translate("propertyDialogEx", "Nozzle Check").toUtf8().constData());
+    submitNozzleCheck(info);
     return !isAccepted<Ui::printerMaintNozzleCheck2>();
 }
 
@@ -45,8 +59,7 @@ bool cleanHead(const PUBLISHERINFO& info)
     if (!isAccepted<Ui::printerMaintHeadCleaning1>()) {
         return false;
     }
-    CFerroJob().SubmitHeadCleaningJob(
-        info, QCoreApplication::translate("propertyDialogEx", "Cleaning").toUtf8().constData());
+    submitHeadCleaning(info);
     return !isAccepted<Ui::printerMaintHeadCleaning2>();
 }
 

@@ -11,6 +11,7 @@
 #include "SelectionRules.h"
 #include "SharpPictures.h"
 #include "UnfinishedJobs.h"
+#include "WaitCursor.h"
 #include "WholeText.h"
 #include "addPublisherDialog.h"
 #include "propertyDialog.h"
@@ -345,12 +346,9 @@ void PubSetup::updateStatusOneDevice(QString strPublisherRegistID, QString strDe
     }
 }
 
-void PubSetup::showDeleteDialog()
+PubSetup::Removal PubSetup::removeSelected()
 {
-    if (QMessageBox::question(this, tr("ARVEN Ulmar Disc Setup"), tr("Do you want to delete it?"),
-                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
-        return;
-    }
+    const WaitCursor cursor;
     PUBLISHERINFO info;
     for (QTreeWidgetItem* row : treePublisherList->selectedItems()) {
         const CString id = registIDFromKey(keyOf(row));
@@ -361,19 +359,36 @@ void PubSetup::showDeleteDialog()
             continue;
         }
         if (info.uiPublisherType == PUBMGR_CONNECTTYPE_LOCAL && hasUnfinishedJobs(m_cPubMgr, id.c_str())) {
-            QMessageBox::information(
-                this, tr("ARVEN Ulmar Disc Setup"),
-                tr("There are jobs in the output device, so it could not be deleted.\nPlease delete it after "
-                   "all jobs are finished."));
-            return;
+            return Removal::jobs;
         }
         if (!m_cPubMgr.DeletePublisher(id.c_str())) {
-            QMessageBox::critical(this, tr("ARVEN Ulmar Disc Setup"), tr("Failed to change setting."));
-            return;
+            return Removal::failed;
         }
         m_cPubMgr.ClearUnusedGUID();
         delete row;
         treePublisherList->repaint();
+    }
+    return Removal::done;
+}
+
+void PubSetup::showDeleteDialog()
+{
+    if (QMessageBox::question(this, tr("ARVEN Ulmar Disc Setup"), tr("Do you want to delete it?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        return;
+    }
+    switch (removeSelected()) {
+    case Removal::done:
+        break;
+    case Removal::jobs:
+        QMessageBox::information(
+            this, tr("ARVEN Ulmar Disc Setup"),
+            tr("There are jobs in the output device, so it could not be deleted.\nPlease delete it after "
+               "all jobs are finished."));
+        break;
+    case Removal::failed:
+        QMessageBox::critical(this, tr("ARVEN Ulmar Disc Setup"), tr("Failed to change setting."));
+        break;
     }
 }
 
@@ -404,6 +419,7 @@ void PubSetup::showPropertyDialog()
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
+    const WaitCursor cursor;
     QTreeWidgetItem* chosen = chosenRow();
     // A server may be out of reach; its name is stored here. A publisher that is gone has no name to show.
     if (chosen && (m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, FALSE) ||

@@ -77,6 +77,16 @@ private:
     /// The current row; without one, the selected row if it is the only one; else null. "Select all" selects
     /// rows and makes none of them current.
     QTreeWidgetItem* chosenRow() const;
+    /// How the removal of the selected publishers ended.
+    enum class Removal
+    {
+        done,
+        jobs,
+        failed
+    };
+    /// Takes them one after the other, up to the first that has unfinished jobs or cannot be deleted. Blocks
+    /// while services and servers answer.
+    Removal removeSelected();
 
     bool m_bSupportNetworkModel = true;
     int colName = 0;

@@ -6,6 +6,7 @@
 #include "NewPublisher.h"
 #include "OneLine.h"
 #include "PubMgrConst.h"
+#include "WaitCursor.h"
 
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -62,8 +63,9 @@ bool addPublisherDialog::isTaken(const CStringArray& ids, const CString& name, c
     });
 }
 
-void addPublisherDialog::addPublisher()
+addPublisherDialog::Addition addPublisherDialog::add()
 {
+    const WaitCursor cursor;
     SYSTEMTIME today;
     GetSystemTime(&today);
     CStringArray ids;
@@ -72,24 +74,36 @@ void addPublisherDialog::addPublisher()
     const CString host = oneLine(textHostName->text()).toStdString();
 
     if (isTaken(ids, name, host)) {
-        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"),
-                             tr("The same name is already registered.\nPlease use a different name."));
-        return;
+        return Addition::taken;
     }
     if (CNetworkPublisherMgr(true, "").ConnectionTest(host.c_str()) != 0) {
-        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"),
-                             tr("The output device could not be found on the network.\nThere is a "
-                                "possibility that either the host name or IP address is wrong, or the "
-                                "output device is not connected to the network."));
-        return;
+        return Addition::notFound;
     }
     const bool added = addUnderFreeID(ids, today, name, host, [this](const PUBLISHERINFO& info) {
         return m_cPubMgr.AddPublisher(info.strPublisherRegistID.c_str(), info);
     });
-    if (!added) {
+    return added ? Addition::done : Addition::failed;
+}
+
+void addPublisherDialog::addPublisher()
+{
+    switch (add()) {
+    case Addition::done:
+        accept();
+        break;
+    case Addition::taken:
+        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"),
+                             tr("The same name is already registered.\nPlease use a different name."));
+        break;
+    case Addition::notFound:
+        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"),
+                             tr("The output device could not be found on the network.\nThere is a "
+                                "possibility that either the host name or IP address is wrong, or the "
+                                "output device is not connected to the network."));
+        break;
+    case Addition::failed:
         QMessageBox::critical(nullptr, tr("ARVEN Ulmar Disc Setup"), tr("Failed to change setting."));
         reject();
-        return;
+        break;
     }
-    accept();
 }

@@ -24,6 +24,16 @@ private:
     void connectAll();
     void colourFrames();
     void offerName();
+    /// What became of a try to add the publisher.
+    enum class Addition
+    {
+        done,
+        taken,
+        notFound,
+        failed
+    };
+    /// Blocks while the server is looked for.
+    Addition add();
     bool isTaken(const CStringArray& ids, const CString& name, const CString& host);
 
     CPublisherMgr m_cPubMgr;

@@ -7,6 +7,7 @@
 #include "RowTexts.h"
 #include "StoredSettings.h"
 #include "TitleRoom.h"
+#include "WaitCursor.h"
 #include "WearFigures.h"
 
 #include <QFile>
@@ -125,6 +126,7 @@ void propertyDialogEx::settleSize()
 
 void propertyDialogEx::fillContent(const PUBLISHERINFO& info, BOOL bConnection)
 {
+    const WaitCursor cursor;
     m_info = info;
     propertyTab->setCurrentIndex(0);
     m_modelType = static_cast<int>(m_cPubMgr.GetPublisherDevType(m_info.strPublisherRegistID.c_str()));

@@ -77,14 +77,19 @@ private:
     void arrangeStacker2(Stacker2Rule rule, bool modeChanged);
     void showSequence();
 
-    bool saveName();
+    /// Why something was not saved; without a text it was.
+    struct Refusal
+    {
+        QString why;
+        bool ofName = false;
+    };
+    Refusal save();
+    Refusal saveName();
     bool isNameTaken(const CString& name);
-    bool saveSettings();
-    bool storeAndNotify();
-    // Each tells why not, and is false.
-    bool refuseName(const QString& why);
-    bool refuse(const QString& why);
-    bool refuseWhileBusy();
+    Refusal saveSettings();
+    Refusal storeAndNotify();
+    static Refusal busy();
+    void tell(const Refusal& refusal);
 
     PUBLISHERINFO m_info;
     bool m_isChanged = false;

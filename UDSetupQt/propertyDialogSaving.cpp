@@ -4,6 +4,7 @@
 #include "OneLine.h"
 #include "StoredSettings.h"
 #include "UnfinishedJobs.h"
+#include "WaitCursor.h"
 #include "propertyDialog.h"
 
 #include <QMessageBox>
@@ -37,32 +38,56 @@ bool propertyDialogEx::savePublisherInfo()
     if (!m_isChanged) {
         return true;
     }
+    const Refusal refusal = save();
+    if (refusal.why.isEmpty()) {
+        return true;
+    }
+    tell(refusal);
+    return false;
+}
+
+void propertyDialogEx::tell(const Refusal& refusal)
+{
+    if (!refusal.ofName) {
+        QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"), refusal.why);
+        return;
+    }
+    QMessageBox::information(this, tr("ARVEN Ulmar Disc Setup"), refusal.why);
+    propertyTab->setCurrentWidget(pageGeneral);
+    textPublisherName->setFocus();
+    textPublisherName->selectAll();
+}
+
+propertyDialogEx::Refusal propertyDialogEx::save()
+{
+    const WaitCursor cursor;
     if (hasUnfinishedJobs(m_cPubMgr, m_info.strPublisherRegistID.c_str())) {
-        return refuseWhileBusy();
+        return busy();
     }
-    if (!saveName()) {
-        return false;
+    Refusal refusal = saveName();
+    if (!refusal.why.isEmpty() || m_info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK) {
+        return refusal;
     }
-    return m_info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK || saveSettings();
+    return saveSettings();
 }
 
 /// The names are compared as they are shown: a stored one with bytes that no text has stays as it is unless
 /// it is edited.
-bool propertyDialogEx::saveName()
+propertyDialogEx::Refusal propertyDialogEx::saveName()
 {
     const QString shown = oneLine(textPublisherName->text());
     if (shown == oneLine(QString::fromStdString(m_info.strPublisherName))) {
-        return true;
+        return {};
     }
     if (shown.isEmpty()) {
-        return refuseName(tr("Please type a name for the output device."));
+        return {tr("Please type a name for the output device."), true};
     }
     if (shown.contains(QLatin1Char('\\'))) {
-        return refuseName(tr("\"\\\" cannot be used in the output device name."));
+        return {tr("\"\\\" cannot be used in the output device name."), true};
     }
     const CString name = shown.toStdString();
     if (isNameTaken(name)) {
-        return refuseName(tr("The same name is already registered.\nPlease use a different name."));
+        return {tr("The same name is already registered.\nPlease use a different name."), true};
     }
     m_info.strPublisherName = name;
     return storeAndNotify();
@@ -78,7 +103,7 @@ bool propertyDialogEx::isNameTaken(const CString& name)
     });
 }
 
-bool propertyDialogEx::saveSettings()
+propertyDialogEx::Refusal propertyDialogEx::saveSettings()
 {
     SettingChoices choices;
     choices.publishMode = selectedValue(selectPublishMode);
@@ -93,40 +118,24 @@ bool propertyDialogEx::saveSettings()
     long result = 0;
     if (!m_cPubMgr.SetServicePublishMode(m_info.strPublisherRegistID.c_str(), m_info.uiPublishMode,
                                          &result)) {
-        return refuse(
-            tr("The settings could not be changed because registration of the Publish Mode in the "
-               "output device settings failed.\nPlease change the settings after checking the power "
-               "supply of the output device and the connection."));
+        return {tr("The settings could not be changed because registration of the Publish Mode in the "
+                   "output device settings failed.\nPlease change the settings after checking the power "
+                   "supply of the output device and the connection.")};
     }
     return storeAndNotify();
 }
 
-bool propertyDialogEx::storeAndNotify()
+propertyDialogEx::Refusal propertyDialogEx::storeAndNotify()
 {
     if (!m_cPubMgr.UpdatePublisherInfo(m_info)) {
-        return refuse(tr("Failed to change setting."));
+        return {tr("Failed to change setting.")};
     }
-    return m_cPubMgr.SetServiceNotifyChange(m_info.strPublisherRegistID.c_str(), nullptr) ||
-           refuseWhileBusy();
+    const bool notified = m_cPubMgr.SetServiceNotifyChange(m_info.strPublisherRegistID.c_str(), nullptr);
+    return notified ? Refusal() : busy();
 }
 
-bool propertyDialogEx::refuseWhileBusy()
+propertyDialogEx::Refusal propertyDialogEx::busy()
 {
-    return refuse(tr("This output device is processing jobs and the settings could not be changed.\nPlease "
-                     "change it after all jobs are completed."));
-}
-
-bool propertyDialogEx::refuse(const QString& why)
-{
-    QMessageBox::warning(this, tr("ARVEN Ulmar Disc Setup"), why);
-    return false;
-}
-
-bool propertyDialogEx::refuseName(const QString& why)
-{
-    QMessageBox::information(this, tr("ARVEN Ulmar Disc Setup"), why);
-    propertyTab->setCurrentWidget(pageGeneral);
-    textPublisherName->setFocus();
-    textPublisherName->selectAll();
-    return false;
+    return {tr("This output device is processing jobs and the settings could not be changed.\nPlease "
+               "change it after all jobs are completed.")};
 }
