@@ -27,18 +27,18 @@ int between(int one, int other)
     return one + (other - one) * 3 / 5;
 }
 
-QColor between(const QColor& one, const QColor& other)
-{
-    return {between(one.red(), other.red()), between(one.green(), other.green()),
-            between(one.blue(), other.blue())};
-}
-
 QColor atLeastAsLight(const QColor& colour, int lightness)
 {
     return QColor::fromHsl(colour.hslHue(), colour.hslSaturation(), std::max(colour.lightness(), lightness));
 }
 
 } // namespace
+
+QColor greyBetween(const QColor& ground, const QColor& text)
+{
+    return {between(ground.red(), text.red()), between(ground.green(), text.green()),
+            between(ground.blue(), text.blue())};
+}
 
 void setFrameColours(QWidget& part)
 {
@@ -47,7 +47,7 @@ void setFrameColours(QWidget& part)
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const QColor& ground = application.color(group, QPalette::Base);
         const QColor& text = application.color(group, QPalette::Text);
-        colours.setColor(group, QPalette::Window, between(ground, text).lighter(darkening));
+        colours.setColor(group, QPalette::Window, greyBetween(ground, text).lighter(darkening));
         if (ground.lightness() < text.lightness()) {
             const QColor& selection = application.color(group, QPalette::Highlight);
             colours.setColor(group, QPalette::Highlight, atLeastAsLight(selection, leastLight));

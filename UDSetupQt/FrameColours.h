@@ -1,8 +1,12 @@
-// Frames that can be seen around the boxes and fields on tabs.
+// Frames that can be seen around the boxes and fields on tabs, and the grey that they start from.
 #pragma once
 
+class QColor;
 class QTabWidget;
 class QWidget;
+
+/// A weaker colour than the text that still stands out from the ground: three fifths of the way to the text.
+QColor greyBetween(const QColor& ground, const QColor& text);
 
 /// The style draws the frames of boxes, fields and buttons in the colour of windows, darkened. On pages in
 /// the colour of fields that stands out little, and not at all when the desktop is dark. Gives all of them on

@@ -1,6 +1,7 @@
 #include "PubSetup.h"
 
 #include "BusyIndicator.h"
+#include "EmptyListNote.h"
 #include "LogCollection.h"
 #include "MyTreeWidgetItem.h"
 #include "PubMgrConst.h"
@@ -93,6 +94,7 @@ PubSetup::PubSetup(QWidget* parent) : QMainWindow(parent)
     deletePublisher->setEnabled(false);
 
     setUpColumns();
+    setUpEmptyList();
     connectAll();
     fetchStatusAsync();
     m_timer->start();
@@ -141,6 +143,15 @@ void PubSetup::setUpColumns()
     }
     treePublisherList->setItemDelegate(new WholeTextDelegate(treePublisherList));
     treePublisherList->sortByColumn(colName, Qt::AscendingOrder);
+}
+
+/// The list owns the note.
+void PubSetup::setUpEmptyList()
+{
+    new EmptyListNote(addPublisher->isEnabled()
+                          ? tr("No publishers are registered. To add one, choose Add in the Edit menu.")
+                          : tr("No publishers are registered."),
+                      treePublisherList);
 }
 
 void PubSetup::connectAll()

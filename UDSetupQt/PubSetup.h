@@ -73,6 +73,7 @@ public slots:
 private:
     void setUpImages();
     void setUpColumns();
+    void setUpEmptyList();
     void connectAll();
     /// The current row; without one, the selected row if it is the only one; else null. "Select all" selects
     /// rows and makes none of them current.

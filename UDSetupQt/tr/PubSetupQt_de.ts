@@ -172,6 +172,14 @@ Möchten Sie fortfahren?</translation>
         <source>Archive file to save (*.tgz)</source>
         <translation>Zu speichernde Archivdatei (*.tgz)</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>Es sind keine Publisher registriert. Um einen hinzuzufügen, wählen Sie im Menü „Bearbeiten“ den Eintrag „Hinzufügen“.</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>Es sind keine Publisher registriert.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ Reicht die Tinte für eine Druckkopfreinigung nicht aus, tauschen Sie zuerst die
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Drucken Sie ein Muster, um zu prüfen, ob die Düsen des Druckkopfs frei sind.
 
-Prüfen Sie die Kabelverbindung und schalten Sie das Gerät ein. Legen Sie unbedingt Discs mit einem äußeren Druckdurchmesser von mindestens 116 mm in Stacker 1 ein.</translation>
+Prüfen Sie die Kabelverbindung und schalten Sie das Gerät ein. Legen Sie unbedingt Discs mit einem äußeren Druckdurchmesser von mindestens 116&#xa0;mm in Stacker 1 ein.</translation>
     </message>
     <message>
         <source>Cancel</source>

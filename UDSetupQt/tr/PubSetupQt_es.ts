@@ -172,6 +172,14 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <source>Ready</source>
         <translation>Listo</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>No hay publicadores registrados. Para agregar uno, elija «Agregar» en el menú «Edición».</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>No hay publicadores registrados.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ Si no hay tinta suficiente para limpiar el cabezal, sustituya primero el cartuch
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Imprima un patrón para comprobar que los inyectores del cabezal de impresión no estén obstruidos.
 
-Compruebe la conexión del cable y encienda el dispositivo. Asegúrese de colocar en el apilador 1 discos con un diámetro exterior de impresión de 116 mm o más.</translation>
+Compruebe la conexión del cable y encienda el dispositivo. Asegúrese de colocar en el apilador 1 discos con un diámetro exterior de impresión de 116&#xa0;mm o más.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -172,6 +172,14 @@ Voulez-vous continuer&#x202f;?</translation>
         <source>Ready</source>
         <translation>Prêt</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>Aucun duplicateur n’est enregistré. Pour en ajouter un, choisissez «&#x202f;Ajouter&#x202f;» dans le menu «&#x202f;Édition&#x202f;».</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>Aucun duplicateur n’est enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ S’il ne reste pas assez d’encre pour un nettoyage, remplacez d’abord la ca
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Imprimez un motif pour vérifier que les buses de la tête d’impression ne sont pas obstruées.
 
-Vérifiez le branchement du câble et mettez l’appareil sous tension. Veillez à placer dans le chargeur 1 des disques dont le diamètre d’impression extérieur est d’au moins 116 mm.</translation>
+Vérifiez le branchement du câble et mettez l’appareil sous tension. Veillez à placer dans le chargeur 1 des disques dont le diamètre d’impression extérieur est d’au moins 116&#xa0;mm.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -172,6 +172,14 @@ Continuare?</translation>
         <source>Ready</source>
         <translation>Pronto</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>Nessun publisher registrato. Per aggiungerne uno, scegliere «Aggiungi» nel menu «Modifica».</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>Nessun publisher registrato.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ Se l’inchiostro non è sufficiente per la pulizia, sostituire prima la cartucc
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Stampare un motivo per verificare che gli ugelli della testina di stampa non siano ostruiti.
 
-Verificare il collegamento del cavo e accendere il dispositivo. Assicurarsi di inserire nell’impilatore 1 dischi con un diametro di stampa esterno di almeno 116 mm.</translation>
+Verificare il collegamento del cavo e accendere il dispositivo. Assicurarsi di inserire nell’impilatore 1 dischi con un diametro di stampa esterno di almeno 116&#xa0;mm.</translation>
     </message>
     <message>
         <source>Cancel</source>

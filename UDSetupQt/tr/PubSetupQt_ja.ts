@@ -172,6 +172,14 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <source>Ready</source>
         <translation>準備完了</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>登録されているパブリッシャーはありません。追加するには、「編集」メニューの「追加」を選択してください。</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>登録されているパブリッシャーはありません。</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -172,6 +172,14 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <source>Ready</source>
         <translation>준비됨</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>등록된 퍼블리셔가 없습니다. 추가하려면 [편집] 메뉴에서 [추가]를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>등록된 퍼블리셔가 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

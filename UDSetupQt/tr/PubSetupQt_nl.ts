@@ -172,6 +172,14 @@ Wilt u doorgaan?</translation>
         <source>Ready</source>
         <translation>Gereed</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>Er zijn geen publishers geregistreerd. Kies ‘Toevoegen’ in het menu ‘Bewerken’ om er een toe te voegen.</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>Er zijn geen publishers geregistreerd.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ Als er onvoldoende inkt is om de printkop te reinigen, vervang dan eerst de inkt
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Druk een patroon af om te controleren of er spuitkanaaltjes van de printkop verstopt zijn.
 
-Controleer de kabelaansluiting en zet het apparaat aan. Zorg ervoor dat u in stacker 1 discs met een buitenste afdrukdiameter van 116 mm of meer plaatst.</translation>
+Controleer de kabelaansluiting en zet het apparaat aan. Zorg ervoor dat u in stacker 1 discs met een buitenste afdrukdiameter van 116&#xa0;mm of meer plaatst.</translation>
     </message>
     <message>
         <source>Cancel</source>

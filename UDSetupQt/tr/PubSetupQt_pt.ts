@@ -172,6 +172,14 @@ Deseja continuar?</translation>
         <source>Ready</source>
         <translation>Pronto</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>Nenhum publicador está registrado. Para adicionar um, escolha “Adicionar” no menu “Editar”.</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>Nenhum publicador está registrado.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ Se não houver tinta suficiente para a limpeza, substitua primeiro o cartucho de
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Imprima um padrão para verificar se os jatos da cabeça de impressão não estão obstruídos.
 
-Verifique a conexão do cabo e ligue o dispositivo. Certifique-se de colocar no empilhador 1 discos com diâmetro externo de impressão de 116 mm ou mais.</translation>
+Verifique a conexão do cabo e ligue o dispositivo. Certifique-se de colocar no empilhador 1 discos com diâmetro externo de impressão de 116&#xa0;mm ou mais.</translation>
     </message>
     <message>
         <source>Cancel</source>

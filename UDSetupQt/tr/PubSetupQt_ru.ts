@@ -172,6 +172,14 @@ Would you like to continue?</source>
         <source>Ready</source>
         <translation>Готово</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>Нет зарегистрированных систем тиражирования. Чтобы добавить систему, выберите «Добавить» в меню «Правка».</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>Нет зарегистрированных систем тиражирования.</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ If there is not enough ink to perform a head cleaning, replace the ink cartridge
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>Напечатайте шаблон, чтобы убедиться, что дюзы печатающей головки не засорены.
 
-Проверьте подключение кабеля и включите устройство. Обязательно загрузите в лоток 1 диски с внешним диаметром области печати не менее 116 мм.</translation>
+Проверьте подключение кабеля и включите устройство. Обязательно загрузите в лоток 1 диски с внешним диаметром области печати не менее 116&#xa0;мм.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -172,6 +172,14 @@ ARVEN Ulmar Disc Setup 不会发送任何信息。
         <source>Ready</source>
         <translation>就绪</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>没有已注册的光盘发布机。要添加，请在“编辑”菜单中选择“添加”。</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>没有已注册的光盘发布机。</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ If there is not enough ink to perform a head cleaning, replace the ink cartridge
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>打印图案以检查打印头的喷嘴是否堵塞。
 
-请检查电缆连接，并打开设备电源。请务必在盘仓 1 中放入打印区域外径不小于 116 mm 的光盘。</translation>
+请检查电缆连接，并打开设备电源。请务必在盘仓 1 中放入打印区域外径不小于 116&#xa0;mm 的光盘。</translation>
     </message>
     <message>
         <source>Cancel</source>

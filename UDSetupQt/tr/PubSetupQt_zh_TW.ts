@@ -172,6 +172,14 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <source>Ready</source>
         <translation>就緒</translation>
     </message>
+    <message>
+        <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
+        <translation>沒有已註冊的光碟發行機。若要新增，請在「編輯」功能表中選擇「新增」。</translation>
+    </message>
+    <message>
+        <source>No publishers are registered.</source>
+        <translation>沒有已註冊的光碟發行機。</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>
@@ -295,7 +303,7 @@ If there is not enough ink to perform a head cleaning, replace the ink cartridge
 Check the cable connection and turn the device on. Be sure to set discs with an outside print diameter of 116 mm or more in Stacker 1.</source>
         <translation>列印圖樣以檢查列印頭的噴嘴是否阻塞。
 
-請檢查纜線連接並開啟裝置電源。請務必將列印區域外徑 116 mm 以上的光碟放入光碟匣 1。</translation>
+請檢查纜線連接並開啟裝置電源。請務必將列印區域外徑 116&#xa0;mm 以上的光碟放入光碟匣 1。</translation>
     </message>
     <message>
         <source>Cancel</source>

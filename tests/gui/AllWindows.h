@@ -147,6 +147,20 @@ inline void visitRegistration(const Visit& visit)
     PubSetup(nullptr).showAddDialog();
 }
 
+/// Takes the folder of the publishers away as long as the list shows.
+inline void visitEmptyList(const Visit& visit)
+{
+    const std::filesystem::path folder = PUBLISHER_SETTING_DIR;
+    std::filesystem::path aside = folder;
+    aside += ".aside";
+    std::filesystem::rename(folder, aside);
+    {
+        PubSetup window(nullptr);
+        visitShown(window, visit);
+    }
+    std::filesystem::rename(aside, folder);
+}
+
 struct AppWindow
 {
     const char* name;
@@ -163,6 +177,7 @@ inline std::vector<AppWindow> allWindows()
              PubSetup window(nullptr);
              visitShown(window, visit);
          }},
+        {"empty list", false, visitEmptyList},
         {"about", true,
          [](const Visit& visit) {
              const ModalDialogs dialogs(0, visit);

@@ -10,6 +10,7 @@
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 
 #include <unistd.h>
@@ -41,6 +42,9 @@ private slots:
     void widgetsHaveAccessibleNames();
     void imagesExistInEverySize();
     void emptyListLeavesSelectionActionsDisabled();
+    void emptyListHasANote();
+    void noteOfTheEmptyListStaysInTheMiddle();
+    void noteOfTheEmptyListTakesNoClicks();
     void someActionsAreForRootAlone();
     void actionsForEverybodyAreEnabled();
     void pollTimerRuns();
@@ -261,6 +265,61 @@ void MainWindowTest::emptyListLeavesSelectionActionsDisabled()
     QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
     QVERIFY(!m_window->deletePublisher->isEnabled());
     QVERIFY(!m_window->showPublisherProperty->isEnabled());
+}
+
+void MainWindowTest::emptyListHasANote()
+{
+    QTreeWidget* tree = m_window->treePublisherList;
+    const auto note = m_window->findChild<QLabel*>("labelEmptyList");
+    QVERIFY(note);
+    const QString text = getuid() == 0
+                             ? "No publishers are registered. To add one, choose Add in the Edit menu."
+                             : "No publishers are registered.";
+    const QString description = "The registered disc publishers and their status";
+    QVERIFY(note->isVisible());
+    QCOMPARE(note->text(), text);
+    QCOMPARE(tree->accessibleDescription(), text);
+
+    m_installation.addLocal("a", "A");
+    m_window->updateList();
+    QVERIFY(!note->isVisible());
+    QCOMPARE(tree->accessibleDescription(), description);
+
+    m_installation.addLocal("b", "B");
+    m_window->updateList();
+    Installation::remove("a");
+    m_window->updateList();
+    QVERIFY(!note->isVisible());
+
+    Installation::remove("b");
+    m_window->updateList();
+    QVERIFY(note->isVisible());
+    QCOMPARE(tree->accessibleDescription(), text);
+}
+
+void MainWindowTest::noteOfTheEmptyListStaysInTheMiddle()
+{
+    QTreeWidget* tree = m_window->treePublisherList;
+    const auto note = m_window->findChild<QLabel*>("labelEmptyList");
+    QVERIFY(note);
+    QVERIFY(note->alignment() == Qt::AlignCenter);
+    for (const QSize size : {QSize(800, 300), QSize(1000, 500), QSize(300, 250)}) {
+        m_window->resize(size);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->size(), size);
+        QCOMPARE(note->mapTo(m_window.get(), QPoint()), tree->viewport()->mapTo(m_window.get(), QPoint()));
+        QCOMPARE(note->size(), tree->viewport()->size());
+    }
+    tree->horizontalScrollBar()->setValue(tree->horizontalScrollBar()->maximum());
+    QVERIFY(tree->horizontalScrollBar()->value() > 0);
+    QCOMPARE(note->mapTo(m_window.get(), QPoint()), tree->viewport()->mapTo(m_window.get(), QPoint()));
+}
+
+void MainWindowTest::noteOfTheEmptyListTakesNoClicks()
+{
+    QTreeWidget* tree = m_window->treePublisherList;
+    QCOMPARE(m_window->childAt(tree->viewport()->mapTo(m_window.get(), tree->viewport()->rect().center())),
+             tree->viewport());
 }
 
 void MainWindowTest::someActionsAreForRootAlone()

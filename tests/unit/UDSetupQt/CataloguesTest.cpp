@@ -1,5 +1,6 @@
 // Which catalogue the program finds for the locale of a desktop.
 #include <QLocale>
+#include <QRegularExpression>
 #include <QString>
 #include <QTranslator>
 
@@ -70,6 +71,24 @@ TEST_P(CataloguesTestFound, speaksInAllItsContexts)
         if (qstrcmp(source, "&File") != 0) { // which is Italian as well
             EXPECT_NE(text.toStdString(), source) << context;
         }
+    }
+}
+
+/// A menu or an entry as a sentence names it: without its mnemonic and its dots.
+QString spoken(QString label)
+{
+    return label.remove(QRegularExpression("\\(&.\\)|&|\\.\\.\\.|…"));
+}
+
+TEST_P(CataloguesTestFound, namesTheMenuEntryAsItIsLabelled)
+{
+    ASSERT_TRUE(found);
+    const QString text = translator.translate(
+        "PubSetup", "No publishers are registered. To add one, choose Add in the Edit menu.");
+    for (const char* label : {"&Edit", "&Add..."}) {
+        const QString name = spoken(translator.translate("MainWindow", label));
+        EXPECT_FALSE(name.isEmpty()) << label;
+        EXPECT_TRUE(text.contains(name)) << text.toStdString() << ": " << name.toStdString();
     }
 }
 
