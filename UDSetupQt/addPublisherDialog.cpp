@@ -32,6 +32,11 @@ void addPublisherDialog::connectAll()
 {
     connect(buttonBox, &QDialogButtonBox::accepted, this, &addPublisherDialog::addPublisher);
     connect(buttonBox, &QDialogButtonBox::rejected, this, &addPublisherDialog::reject);
+    connect(textPublisherName, &QLineEdit::textChanged, this, [this] {
+        if (labelListedName->showFor(*textPublisherName, EmptyName::isStored)) {
+            fixToContents(*this);
+        }
+    });
     connect(qGuiApp, &QGuiApplication::paletteChanged, this, &addPublisherDialog::colourFrames);
 }
 

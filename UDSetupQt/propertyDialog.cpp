@@ -83,6 +83,7 @@ void propertyDialogEx::connectAll()
     connect(applyButton, &QPushButton::clicked, this, &propertyDialogEx::saveAndContinue);
     connect(cancelButton, &QPushButton::clicked, this, &propertyDialogEx::close);
     connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::setChanged);
+    connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::noteListedName);
     connect(selectPublishMode, indexChanged, this, &propertyDialogEx::changeStackerPub);
     // The index is no argument of the slot.
     connect(selectStacker1, indexChanged, this, [this] { changeStacker(); });
@@ -94,6 +95,13 @@ void propertyDialogEx::connectAll()
     connect(checkErrorMark, &QCheckBox::clicked, this, &propertyDialogEx::setChanged);
     connect(btnNozzleCheck, &QPushButton::clicked, this, &propertyDialogEx::nozzleCheckSequence);
     connect(btnHeadCleaning, &QPushButton::clicked, this, &propertyDialogEx::headCleaningSequence);
+}
+
+void propertyDialogEx::noteListedName()
+{
+    if (labelListedName->showFor(*textPublisherName, EmptyName::isRefused)) {
+        settleSize();
+    }
 }
 
 /// The labels of all groups are as wide as the widest, so that what they name stands in one column. A page

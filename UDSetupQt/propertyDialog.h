@@ -65,6 +65,7 @@ public slots: // NOLINT(readability-redundant-access-specifiers): names the slot
 private:
     void setUpItemValues();
     void connectAll();
+    void noteListedName();
     void settleSize();
     void adaptToModel();
     void fillIdentity();

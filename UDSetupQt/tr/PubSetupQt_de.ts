@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ListedNameNote</name>
+    <message>
+        <source>It will be listed without a name.</source>
+        <translation>Der Eintrag in der Liste hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>It will be listed as &quot;%1&quot;.</source>
+        <translation>In der Liste steht „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>ARVEN Ulmar Disc Setup</source>

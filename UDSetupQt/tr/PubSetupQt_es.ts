@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ListedNameNote</name>
+    <message>
+        <source>It will be listed without a name.</source>
+        <translation>Aparecerá en la lista sin nombre.</translation>
+    </message>
+    <message>
+        <source>It will be listed as &quot;%1&quot;.</source>
+        <translation>Aparecerá en la lista como «%1».</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>ARVEN Ulmar Disc Setup</source>

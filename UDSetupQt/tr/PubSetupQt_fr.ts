@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ListedNameNote</name>
+    <message>
+        <source>It will be listed without a name.</source>
+        <translation>Il figurera dans la liste sans nom.</translation>
+    </message>
+    <message>
+        <source>It will be listed as &quot;%1&quot;.</source>
+        <translation>Il figurera dans la liste sous le nom «&#x202f;%1&#x202f;».</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>ARVEN Ulmar Disc Setup</source>

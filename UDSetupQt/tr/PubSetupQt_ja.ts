@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ListedNameNote</name>
+    <message>
+        <source>It will be listed without a name.</source>
+        <translation>一覧には名前なしで表示されます。</translation>
+    </message>
+    <message>
+        <source>It will be listed as &quot;%1&quot;.</source>
+        <translation>一覧には「%1」と表示されます。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>ARVEN Ulmar Disc Setup</source>

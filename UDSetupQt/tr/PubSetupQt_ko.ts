@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>ListedNameNote</name>
+    <message>
+        <source>It will be listed without a name.</source>
+        <translation>목록에 이름 없이 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>It will be listed as &quot;%1&quot;.</source>
+        <translation>목록에 [%1](으)로 표시됩니다.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>ARVEN Ulmar Disc Setup</source>

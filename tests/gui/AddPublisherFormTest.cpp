@@ -47,12 +47,13 @@ void AddPublisherFormTest::hasItsTitleAndWidgets()
         {"textHostName", "QLineEdit", ""},
         {"labelPublisherName", "QLabel", "Please type the name of a CD/DVD Publisher."},
         {"textPublisherName", "QLineEdit", "RT-300N 1"},
+        {"labelListedName", "ListedNameNote", ""},
         {"buttonBox", "QDialogButtonBox", nullptr},
     };
     const auto layout = qobject_cast<QVBoxLayout*>(m_dialog->layout());
     QVERIFY(layout);
-    QCOMPARE(layout->count(), 5);
-    for (int i = 0; i < 5; ++i) {
+    QCOMPARE(layout->count(), 6);
+    for (int i = 0; i < 6; ++i) {
         const QWidget* widget = layout->itemAt(i)->widget();
         QVERIFY(widget);
         QCOMPARE(widget->objectName(), widgets[i].name);

@@ -32,6 +32,9 @@ inline constexpr struct
     {"RT-30II", "d"},       {"RT-30II BDXL", "e"},
 };
 
+/// A name that does not read back as it is typed.
+inline constexpr char changingName[] = "B\u00FCro 3";
+
 /// The computer that the windows open on: its publishers, and the service behind them.
 inline udsim::Scenario scenarioOfMachines()
 {
@@ -133,15 +136,18 @@ inline void visitProperties(const PUBLISHERINFO& info, BOOL connection, const Vi
 }
 
 /// With the address of the server entered, so that it can be accepted, as often as one likes.
-inline void visitRegistration(const Visit& visit)
+inline void visitRegistration(const Visit& visit, const QString& name = {})
 {
     for (const auto& entry : std::filesystem::directory_iterator(PUBLISHER_SETTING_DIR)) {
         if (entry.path().filename().string().starts_with("{ARPUB")) {
             std::filesystem::remove(entry.path()); // of a visit before
         }
     }
-    const ModalDialogs dialogs(0, [&visit](QWidget& window) {
+    const ModalDialogs dialogs(0, [&](QWidget& window) {
         window.findChild<QLineEdit*>("textHostName")->setText("127.0.0.11");
+        if (!name.isEmpty()) {
+            window.findChild<QLineEdit*>("textPublisherName")->setText(name);
+        }
         visit(window);
     });
     PubSetup(nullptr).showAddDialog();
@@ -193,7 +199,17 @@ inline std::vector<AppWindow> allWindows()
              const ModalDialogs dialogs(0, visit);
              PubSetup(nullptr).showSettingDialog();
          }},
-        {"registration", true, visitRegistration},
+        {"registration", true, [](const Visit& visit) { visitRegistration(visit); }},
+        {"registration under a name that changes", true,
+         [](const Visit& visit) { visitRegistration(visit, QString::fromUtf8(changingName)); }},
+        {"properties with a name that changes", false, // its jobs do not let it be saved
+         [](const Visit& visit) {
+             visitProperties(recordOf("c"), 1, [&visit](QWidget& window) {
+                 window.findChild<QLineEdit*>("textPublisherName")->setText(QString::fromUtf8(changingName));
+                 QCoreApplication::processEvents();
+                 visit(window);
+             });
+         }},
         {"properties of a network publisher", true,
          [](const Visit& visit) { visitProperties(networkRecord(), 0, visit); }},
         {"properties of a server", true,
