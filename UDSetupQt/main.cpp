@@ -2,6 +2,7 @@
 #include "EnvArguments.h"
 #include "InstallPaths.h"
 #include "MyRunnable.h"
+#include "NW_Com_Lib.h"
 #include "PubSetup.h"
 #include "Win_def_log.h"
 
@@ -72,6 +73,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setDesktopFileName("com.arven.UlmarDiscSetup");
     QApplication app(argc, argv);
+    SetTextLocale(); // before the first thread; QApplication has just set that of the environment
 
     QTranslator qtTr;
     qtTr.load("qt_" + QLocale::system().name(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));

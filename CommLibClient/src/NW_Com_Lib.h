@@ -13,6 +13,15 @@
 const char* GetNCLErrorString(DWORD dwNCLRet);
 
 // ---------------------------------------------------------------------------------------------------------------------
+// Locale
+
+/// Sets the locale of the process to "en_US.utf8", under which the texts of servers become UTF-8. The library
+/// calls it for each text. A program with several threads also calls it once before it starts the first one:
+/// the later calls then change nothing that another thread may be reading. False if the system lacks that
+/// locale.
+bool SetTextLocale();
+
+// ---------------------------------------------------------------------------------------------------------------------
 // Connections. A handle is good from StartConnection to EndConnection; a stale one may name a later
 // connection. The server is spoken to on port 80, for 5 seconds at most to connect and after 2 minutes of
 // silence no more. One operation at a time on a handle; handles are independent of each other.

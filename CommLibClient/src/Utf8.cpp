@@ -47,9 +47,14 @@ std::string ToMultiByte(const char16_t* utf16buf, size_t utf16len)
 
 } // namespace
 
+bool SetTextLocale()
+{
+    return setlocale(LC_ALL, "en_US.utf8") != nullptr;
+}
+
 std::string toUTF8(const char16_t* utf16buf, size_t utf16len)
 {
-    if (setlocale(LC_ALL, "en_US.utf8") == nullptr) {
+    if (!SetTextLocale()) {
         return ToMultiByte(utf16buf, utf16len);
     }
     std::string text(utf16len * 3, '\0'); // a pair gives four bytes

@@ -26,6 +26,7 @@ protected:
     /// For init().
     static void startAnew()
     {
+        SetTextLocale();                                     // as main() does
         QThreadPool::globalInstance()->setMaxThreadCount(4); // whatever the machine has
         const Installation empty;
     }
