@@ -185,11 +185,11 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
-        <translation>Es sind keine Publisher registriert. Um einen hinzuzufügen, wählen Sie im Menü „Bearbeiten“ den Eintrag „Hinzufügen“.</translation>
+        <translation>Keine Publisher registriert. Wählen Sie „Hinzufügen“ im Menü „Bearbeiten“, um einen hinzuzufügen.</translation>
     </message>
     <message>
         <source>No publishers are registered.</source>
-        <translation>Es sind keine Publisher registriert.</translation>
+        <translation>Keine Publisher registriert.</translation>
     </message>
 </context>
 <context>

@@ -185,7 +185,7 @@ Voulez-vous continuer&#x202f;?</translation>
     </message>
     <message>
         <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
-        <translation>Aucun duplicateur n’est enregistré. Pour en ajouter un, choisissez «&#x202f;Ajouter&#x202f;» dans le menu «&#x202f;Édition&#x202f;».</translation>
+        <translation>Aucun duplicateur n’est enregistré. Choisissez «&#x202f;Ajouter&#x202f;» dans le menu «&#x202f;Édition&#x202f;».</translation>
     </message>
     <message>
         <source>No publishers are registered.</source>

@@ -185,7 +185,7 @@ Would you like to continue?</source>
     </message>
     <message>
         <source>No publishers are registered. To add one, choose Add in the Edit menu.</source>
-        <translation>Нет зарегистрированных систем тиражирования. Чтобы добавить систему, выберите «Добавить» в меню «Правка».</translation>
+        <translation>Нет зарегистрированных систем тиражирования. Выберите «Добавить» в меню «Правка».</translation>
     </message>
     <message>
         <source>No publishers are registered.</source>
