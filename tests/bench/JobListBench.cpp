@@ -22,7 +22,8 @@ std::string Reply(const JobRecord& record)
     return body;
 }
 
-void Measure(const std::string& what, const std::string& reply)
+/// The median time of the unpacking, in milliseconds.
+double Measure(const std::string& what, const std::string& reply)
 {
     std::vector<JobStatusEx> jobs(JOBS);
     std::vector<char> copy(reply.size());
@@ -43,8 +44,9 @@ void Measure(const std::string& what, const std::string& reply)
         std::memcpy(copy.data(), reply.data(), reply.size());
         asm volatile("" : : "r"(copy.data()) : "memory"); // the copy is wanted
     };
-    Compare(what, {{"ParseCommReply and UnpackJobStatusEx", parse, {}}, {"memcpy", plainCopy, {}}},
-            REPETITIONS);
+    return Compare(what, {{"ParseCommReply and UnpackJobStatusEx", parse, {}}, {"memcpy", plainCopy, {}}},
+                   REPETITIONS)[0] /
+           1000;
 }
 
 } // namespace
@@ -57,6 +59,7 @@ int main()
     JobRecord full(JobRecord::SIZE_EX);
     full.Person(std::u16string(64, u'\u3042')).Name(std::u16string(255, u'\u3042'));
     full.Identification(std::u16string(255, u'\u3042'));
-    Measure("1000 jobs with texts of full length", Reply(full));
+    const double milliseconds = Measure("1000 jobs with texts of full length", Reply(full));
+    PrintGoal("1000 job records, full-length texts", milliseconds, 5, "ms");
     return 0;
 }

@@ -24,8 +24,9 @@ struct Contender
 };
 
 /// Runs all contenders in turn, `repetitions` times, so that a slow moment of the machine meets all of them;
-/// then prints the medians, and their ratios to the last contender.
-inline void Compare(const std::string& what, std::vector<Contender> contenders, int repetitions)
+/// then prints the medians, and their ratios to the last contender. The medians in microseconds, in order.
+inline std::vector<double> Compare(const std::string& what, std::vector<Contender> contenders,
+                                   int repetitions)
 {
     for (int round = -1; round < repetitions; ++round) { // the first one warms up
         for (Contender& contender : contenders) {
@@ -39,8 +40,18 @@ inline void Compare(const std::string& what, std::vector<Contender> contenders, 
     }
     std::printf("%s (medians of %d interleaved repetitions)\n", what.c_str(), repetitions);
     const double reference = contenders.back().Median();
+    std::vector<double> medians;
     for (Contender& contender : contenders) {
         const double median = contender.Median();
+        medians.push_back(median);
         std::printf("  %-58s %12.1f us   %7.3f x\n", contender.name.c_str(), median, median / reference);
     }
+    return medians;
+}
+
+/// A line of the table of goals: what was measured, and what it may be at most.
+inline void PrintGoal(const std::string& work, double measured, double goal, const char* unit)
+{
+    std::printf("  goal: %-52s %8.2f %-2s of at most %6.2f %-2s %s\n", work.c_str(), measured, unit, goal,
+                unit, measured <= goal ? "reached" : "MISSED");
 }
