@@ -1,5 +1,6 @@
 // Any bytes as a private profile file: read with buffers of all sizes, and written without touching another
 // line.
+#include "ProfileText.h"
 #include "TextFiles.h"
 #include "Win_def.h"
 #include "Win_def_log.h"
@@ -26,6 +27,7 @@ void ReadWithAnyBuffer()
             continue;
         }
         whole = size == 1024 ? length : whole;
+        assert(ProfileText::Read(FILE_NAME)->Value("Common", "Key", size - 1) == buffer.data());
         assert(length == std::min<size_t>(whole, size - 1));
         assert(std::strlen(buffer.data()) == length);
         for (size_t index = 0; index < length; ++index) {

@@ -1,9 +1,12 @@
 // The rows of network publishers, from the servers' answers to the texts, and what a person does with them.
+#include "CountedLocks.h"
 #include "SameImage.h"
 #include "ServerFixture.h"
 #include "settingDialog.h"
 
 #include <QElapsedTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -37,6 +40,7 @@ private slots:
     void spaceIsCutToWholeMebibytes();
     void jobsThatOthersSend();
     void queriesInTheirOrder();
+    void pollReadsTheSettingFileOnce();
     void unreadableServerKeepsItsRow();
     void modelsHaveTheirTexts_data();
     void modelsHaveTheirTexts();
@@ -277,6 +281,18 @@ void NetworkListTest::queriesInTheirOrder()
     QCOMPARE(m_room->asked(), connecting + readingTheRecord + connecting + state + connecting + jobs +
                                   connecting + sending + connecting + space);
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
+}
+
+void NetworkListTest::pollReadsTheSettingFileOnce()
+{
+    open(studio());
+    m_window->findChild<QTimer*>()->stop(); // no other poll
+    ask();                                  // stores the kind of the server
+    m_window->fetchStatusOneDevice("N");
+    CountedLocks::Take();
+    m_window->fetchStatusOneDevice("N");
+    const std::vector<std::string> locked = CountedLocks::Take();
+    QCOMPARE(std::count(locked.begin(), locked.end(), "N.ini"), 1);
 }
 
 void NetworkListTest::unreadableServerKeepsItsRow()
