@@ -307,9 +307,14 @@ void PubSetup::updateList()
 
     const ReadPass pass;
     for (const CString& id : ids) {
+        // Nothing of the settings goes into a row that is there already. Reading a file that is missing
+        // writes to the log.
+        const QString key = keyFromRegistID(id);
+        if (shown.contains(key) && m_cPubMgr.IsExistSettingFile(id.c_str())) {
+            continue;
+        }
         const bool network = m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
         PUBLISHERINFO info;
-        const QString key = keyFromRegistID(id);
         if (!m_cPubMgr.GetPublisherInfo(id.c_str(), &info, network) || shown.contains(key)) {
             continue;
         }

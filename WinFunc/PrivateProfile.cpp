@@ -16,13 +16,13 @@ namespace {
 /// A file beyond it is no setting file. What ProfileText keeps of a file is a small multiple of its size.
 constexpr off_t KEPT_SIZE_MAX = 1 << 20;
 
-/// Calls `visit(section, key, value)` for each key of the file until it returns true.
+/// Calls `visit(section, key, value)` for each key in the next `left` bytes of the file until it returns
+/// true.
 template <class Visit>
-void ForEachKey(const LockedFile& file, Visit visit)
+void ForEachKey(const LockedFile& file, off_t left, Visit visit)
 {
     ProfileLines lines;
     std::array<char, 4096> buffer;
-    off_t left = file.Size();
     while (left > 0) {
         const size_t wanted = static_cast<size_t>(std::min<off_t>(left, off_t{sizeof buffer}));
         const ssize_t count = file.Read(buffer.data(), wanted);
@@ -63,15 +63,16 @@ DWORD GetPrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpDefa
         return static_cast<DWORD>(std::strlen(lpReturnedString));
     }
     DWORD length = 0;
-    ForEachKey(file, [&](std::string_view section, std::string_view key, std::string_view value) {
-        if (!IsKey(section, key, lpAppName, lpKeyName)) {
-            return false;
-        }
-        value = value.substr(0, nSize - 1);
-        std::copy(value.begin(), value.end(), lpReturnedString);
-        length = static_cast<DWORD>(value.size());
-        return true;
-    });
+    ForEachKey(file, file.Size(),
+               [&](std::string_view section, std::string_view key, std::string_view value) {
+                   if (!IsKey(section, key, lpAppName, lpKeyName)) {
+                       return false;
+                   }
+                   value = value.substr(0, nSize - 1);
+                   std::copy(value.begin(), value.end(), lpReturnedString);
+                   length = static_cast<DWORD>(value.size());
+                   return true;
+               });
     lpReturnedString[length] = '\0';
     return length;
 }
@@ -102,7 +103,7 @@ std::shared_ptr<const ProfileText> ProfileText::Read(const char* path)
     profile->m_text.reserve(static_cast<size_t>(size));
     profile->m_entries.reserve(std::min<size_t>(24, static_cast<size_t>(size)));
     Piece lastSection{0, 0};
-    ForEachKey(file, [&](std::string_view section, std::string_view key, std::string_view value) {
+    ForEachKey(file, size, [&](std::string_view section, std::string_view key, std::string_view value) {
         if (profile->m_entries.empty() || profile->At(lastSection) != section) {
             lastSection = profile->Keep(section);
         }

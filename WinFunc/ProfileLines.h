@@ -49,8 +49,10 @@ public:
                 m_isInSection = true;
             }
         }
-        const size_t delimiter = line.find_first_of(" =");
-        if (!m_isInSection || delimiter == std::string_view::npos) {
+        const auto isDelimiter = [](char c) { return c == ' ' || c == '='; };
+        const auto delimiter =
+            static_cast<size_t>(std::find_if(line.begin(), line.end(), isDelimiter) - line.begin());
+        if (!m_isInSection || delimiter == line.size()) {
             return false;
         }
         std::string_view value = WithoutLeadingBlanks(line.substr(delimiter + 1));

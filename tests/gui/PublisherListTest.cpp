@@ -2,9 +2,11 @@
 // refresh.
 #include "Boxes.h"
 #include "Installation.h"
+#include "LogAgent.h"
 #include "MyRunnable.h"
 #include "PubSetup.h"
 #include "SameImage.h"
+#include "Win_def_log.h"
 
 #include <QScrollBar>
 #include <QTest>
@@ -39,6 +41,7 @@ private slots:
     void rowAppearsAndVanishesWithItsFile();
     void rowVanishesBehindAnOpenBox();
     void nameOfARowIsNotRefreshed();
+    void missingFileOfARowIsLogged();
     void rowOfAPublisherThatMovesToTheNetworkStays();
     void selectionAndScrollPositionSurvive();
     void selectionSurvivesAChangeOfOrder();
@@ -225,6 +228,32 @@ void PublisherListTest::nameOfARowIsNotRefreshed()
 }
 
 /// Its record is read anew for every query, and the row stays what it is.
+void PublisherListTest::missingFileOfARowIsLogged()
+{
+    m_installation.addLocal("kept", "Kept");
+    WriteText(Installation::settingFile("kept") + ".bak", ""); // names the same publisher
+    m_window->updateList();
+    QCOMPARE(names(), QStringList{"Kept"});
+    SetLogLevel(3);
+    LogAgent agent;
+    m_window->updateList();
+    QVERIFY(agent.TakeAll().empty());
+    std::filesystem::remove(Installation::settingFile("kept"));
+    for (int tick = 0; tick < 2; ++tick) {
+        m_window->updateList();
+        QCOMPARE(names(), QStringList{"Kept"});
+        std::string lines;
+        for (const std::string& line : agent.TakeAll()) {
+            lines += line;
+        }
+        for (const char* reader : {"CPublisherMgr::GetConnectType", "CBasicPublisherMgr::GetPublisherInfo"}) {
+            const std::string line =
+                std::string(reader) + ", \"" + Installation::settingFile("kept") + "\" is not found";
+            QVERIFY2(lines.find(line) != std::string::npos, line.c_str());
+        }
+    }
+}
+
 void PublisherListTest::rowOfAPublisherThatMovesToTheNetworkStays()
 {
     m_installation.addLocal("moving", "Moving");

@@ -6,8 +6,9 @@
 #include <string>
 
 /// Finds out from a regist id which implementation serves a publisher, and keeps the store of setting files.
-/// Nothing of a publisher is kept between calls: each reads the setting file and the registry anew. Safe for
-/// several threads at once. The operations that ask a device block until it answers.
+/// Nothing of a publisher is kept between calls: each reads the setting file and the registry again, unless
+/// the thread holds a ReadPass. Safe for several threads at once. The operations that ask a device block
+/// until it answers.
 class CPublisherMgr
 {
 public:
@@ -54,6 +55,8 @@ public:
     /// With `bOnlyCorrect` the name must be correct too: at most 64 bytes, no backslash. A null id asks for
     /// any publisher, and only for correct ones.
     bool IsExistRegistedPublisher(LPCTSTR szPublisherRegistID, BOOL bOnlyCorrect);
+    /// Whether there is a setting file, also one that cannot be read. Nothing is opened.
+    bool IsExistSettingFile(LPCTSTR szPublisherRegistID);
     /// Case matters.
     bool IsExistSameNamePublisher(LPCTSTR lpszPublisherName);
 

@@ -164,6 +164,12 @@ bool CPublisherMgr::IsExistRegistedPublisher(LPCTSTR szPublisherRegistID, BOOL b
     return !bOnlyCorrect || IsCorrectName(szPublisherRegistID);
 }
 
+bool CPublisherMgr::IsExistSettingFile(LPCTSTR szPublisherRegistID)
+{
+    ASSERT(szPublisherRegistID != nullptr);
+    return access(SettingFilePath(szPublisherRegistID).c_str(), F_OK) == 0;
+}
+
 bool CPublisherMgr::IsExistSameNamePublisher(LPCTSTR lpszPublisherName)
 {
     ASSERT(lpszPublisherName != nullptr);

@@ -65,6 +65,20 @@ TEST(CreatePublisherSettingFile, Failures)
     EXPECT_EQ(mgr.CreatePublisherSettingFile(std::string(100000, 'i').c_str()), 1);
 }
 
+TEST(IsExistSettingFile, IsTrueForAnyFileOfTheName)
+{
+    CPublisherMgr mgr(true);
+    EXPECT_FALSE(mgr.IsExistSettingFile("P"));
+    WritePublisher("P", "");
+    EXPECT_TRUE(mgr.IsExistSettingFile("P"));
+    EXPECT_FALSE(mgr.IsExistSettingFile("p"));
+    fs::permissions(PublisherFile("P"), fs::perms(0));
+    EXPECT_TRUE(mgr.IsExistSettingFile("P"));
+    fs::remove(PublisherFile("P"));
+    fs::create_symlink("/tmp/nothing", PublisherFile("P"));
+    EXPECT_FALSE(mgr.IsExistSettingFile("P"));
+}
+
 TEST(AddPublisher, WritesTheRecordUnderItsOwnId)
 {
     MakePublisherFolder();
