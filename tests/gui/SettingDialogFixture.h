@@ -4,6 +4,7 @@
 #include "Installation.h"
 #include "settingDialog.h"
 
+#include <QDir>
 #include <QTest>
 #include <QTimer>
 
@@ -20,6 +21,9 @@ protected:
     void startAnew()
     {
         m_dialog.reset();
+        // Qt's file dialog treats the folders above the current one differently, and those used here lie in
+        // /tmp.
+        QDir::setCurrent("/");
         m_installation = Installation();
         std::filesystem::create_directory(job);
         for (const char* folder : {"/tmp/a", "/tmp/b"}) {

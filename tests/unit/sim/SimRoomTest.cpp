@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "RawClient.h"
@@ -252,6 +253,13 @@ TEST(SimRoom, AClientThatLeavesBeforeItsAnswerIsNoSignal)
 
 TEST(SimRoom, MoreConnectionsThanItKeeps)
 {
+    // Both ends of all of them are in this process. The sandbox allows as many as Debian does.
+    rlimit descriptors = {};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &descriptors), 0);
+    ASSERT_GE(descriptors.rlim_max, 2048U);
+    descriptors.rlim_cur = 2048;
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &descriptors), 0);
+
     OpenRoom open(TWO);
     std::vector<std::unique_ptr<RawClient>> crowd;
     for (int i = 0; i < 560; ++i) {
