@@ -198,6 +198,5 @@ class DesktopFilesTest(unittest.TestCase):
 if __name__ == "__main__":
     PROJECT = Path(sys.argv.pop(1))
     cmake, script = sys.argv.pop(1), sys.argv.pop(1)
-    subprocess.run([cmake, f"-DCMAKE_INSTALL_PREFIX={INSTALLED}", "-DCMAKE_INSTALL_LOCAL_ONLY=ON", "-P", script],
-                   check=True, stdout=subprocess.DEVNULL)
+    subprocess.run([cmake, f"-DCMAKE_INSTALL_PREFIX={INSTALLED}", "-P", script], check=True, stdout=subprocess.DEVNULL)
     unittest.main()
