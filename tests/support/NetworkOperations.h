@@ -7,6 +7,7 @@
 
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// What becomes of the caller's result code.
@@ -276,7 +277,7 @@ inline const std::vector<NetworkOperation>& NetworkOperations()
 using network_operations::NetworkOperations;
 
 /// By its name, which is one of the table.
-inline const NetworkOperation& NetworkOperationOf(const std::string& name)
+inline const NetworkOperation& NetworkOperationOf(std::string_view name)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         if (operation.name == name) {
