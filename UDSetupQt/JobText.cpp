@@ -53,7 +53,7 @@ struct JobLine
     std::string network;
 };
 
-std::string jobText(std::string JobLine::*road, MaintenanceJob job, const PUBLISHERINFO& info,
+std::string jobText(std::string JobLine::* road, MaintenanceJob job, const PUBLISHERINFO& info,
                     const JobStamp& stamp, const std::string& networkJobName)
 {
     const bool check = job == MaintenanceJob::nozzleCheck;

@@ -45,9 +45,7 @@ std::string settingText(const PublisherSetup& publisher)
 bool makeJobFolder(std::string& error)
 {
     constexpr mode_t MODE = 01777;
-    struct stat there
-    {
-    };
+    struct stat there{};
     if (::lstat(JOB_FOLDER, &there) == 0) {
         return true;
     }
@@ -63,9 +61,7 @@ bool makePrintData(const std::string& name, std::string& error)
 {
     constexpr size_t REPETITIONS = 8;
     const std::string path = std::string(PRINT_DATA_FOLDER) + "/" + name;
-    struct stat there
-    {
-    };
+    struct stat there{};
     if (::lstat(path.c_str(), &there) == 0) {
         return true;
     }
@@ -81,9 +77,7 @@ bool makePrintData(const std::string& name, std::string& error)
 bool makeSettingFile(const std::string& registId, const std::string& text, std::string& error)
 {
     const std::string path = settingPath(registId);
-    struct stat there
-    {
-    };
+    struct stat there{};
     if (::stat(path.c_str(), &there) == 0) {
         return true;
     }

@@ -324,9 +324,7 @@ std::string refusalOf(const JobFile& job, const Setting& setting, const Model& m
     if (std::string refusal = routeRefusalOf(job, setting, model); !refusal.empty()) {
         return refusal;
     }
-    struct stat data
-    {
-    };
+    struct stat data{};
     if (::stat(job.dataPath.c_str(), &data) != 0) {
         return "there is no print data " + quoted(job.dataPath);
     }

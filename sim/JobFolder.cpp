@@ -49,9 +49,7 @@ void read(int folder, FoundFile& found)
 {
     const Descriptor file(
         ::openat(folder, found.name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status
-    {
-    };
+    struct stat status{};
     if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
         found.refusal = errno == ELOOP ? "it is a link" : std::strerror(errno);
         return;
@@ -94,9 +92,7 @@ std::vector<FoundFile> JobFolder::take(Clock::time_point now)
     std::vector<FoundFile> taken;
     std::map<std::string, Sight> staying;
     for (const std::string& name : jobFileNames(folder.get())) {
-        struct stat status
-        {
-        };
+        struct stat status{};
         if (::fstatat(fd, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 || S_ISDIR(status.st_mode)) {
             continue;
         }

@@ -83,9 +83,7 @@ private:
     /// Which file stands in the place.
     static std::optional<File> whatIsThere()
     {
-        struct stat found
-        {
-        };
+        struct stat found{};
         return ::lstat(CONTROL_SOCKET, &found) == 0 ? std::optional(File(found.st_dev, found.st_ino))
                                                     : std::nullopt;
     }

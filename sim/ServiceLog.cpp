@@ -31,9 +31,7 @@ std::string now()
 bool ServiceLog::write(const std::string& text, std::string& error) const
 {
     const std::string line = now() + " " + text + "\n";
-    struct stat status
-    {
-    };
+    struct stat status{};
     if (::stat(m_path.c_str(), &status) == 0 && status.st_size > 0 &&
         static_cast<uint64_t>(status.st_size) + line.size() > m_largest) {
         rotate();

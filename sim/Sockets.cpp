@@ -44,9 +44,7 @@ bool fits(const std::string& path, std::string& error)
 /// Nothing, or a socket that was left behind and goes.
 bool makeRoom(const std::string& path, std::string& error)
 {
-    struct stat found
-    {
-    };
+    struct stat found{};
     if (::lstat(path.c_str(), &found) != 0) {
         return true; // what else is wrong with the path, bind tells
     }

@@ -162,8 +162,7 @@ Publisher* World::byRegistId(const std::string& registId)
 
 Publisher* World::byGuid(const std::string& guid)
 {
-    return find(
-        m_publishers, [](const PublisherSetup& one) -> const std::string& { return one.guid; }, guid);
+    return find(m_publishers, [](const PublisherSetup& one) -> const std::string& { return one.guid; }, guid);
 }
 
 std::string World::clock() const

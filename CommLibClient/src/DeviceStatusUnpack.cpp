@@ -51,7 +51,7 @@ int ConvertWords(const char* pData, int (*convert)(DWORD, Field*), Field* const 
 
 /// Stores the words as they are.
 template <typename Record, size_t COUNT>
-void StoreWords(const char* pData, Record* pRecord, int Record::*const (&fields)[COUNT])
+void StoreWords(const char* pData, Record* pRecord, int Record::* const (&fields)[COUNT])
 {
     for (size_t index = 0; index < COUNT; ++index) {
         pRecord->*fields[index] = static_cast<int>(Word(pData, static_cast<int>(index)));

@@ -140,9 +140,7 @@ void AddPublisherInputTest::pastedTexts_data()
     QTest::addColumn<QString>("storedName");
     QTest::addColumn<QString>("storedHost");
     const QString host = server;
-    QTest::newRow("line ends behind") << "New\r\n"
-                                      << host + "\n"
-                                      << "New" << host;
+    QTest::newRow("line ends behind") << "New\r\n" << host + "\n" << "New" << host;
     QTest::newRow("two lines") << "New\nStudio" << host << "NewStudio" << host;
     QTest::newRow("a key") << "New\nPublisherConnectionType=0" << host << "NewPublisherConnectionType=0"
                            << host;

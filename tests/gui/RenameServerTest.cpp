@@ -101,9 +101,7 @@ void RenameServerTest::renamedFile()
     QCOMPARE(QString::fromStdString(file()),
              QString("[Common]\nPublisherName=Düsseldorf №2\nPrinterName=NotSet\nPublisherConnectionType=1\n"
                      "PublisherURL=\\\\127.0.0.11\n[Other]\nkept=1\n"));
-    struct stat now
-    {
-    };
+    struct stat now{};
     QCOMPARE(stat(Installation::settingFile("N").c_str(), &now), 0);
     QCOMPARE(now.st_mode & 07777, 0644U);
 }

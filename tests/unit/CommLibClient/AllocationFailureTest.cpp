@@ -160,8 +160,8 @@ TEST(AllocationFailure, IsAResultOfEveryOperation)
         for (; hasFailed; ++allocation) {
             SCOPED_TRACE(std::string(operation.name) + " " + std::to_string(allocation));
             FakePublisher server(operation.replies);
-            const DWORD result = CallWithout(
-                allocation, [&] { return operation.call(server.Handle()); }, hasFailed);
+            const DWORD result =
+                CallWithout(allocation, [&] { return operation.call(server.Handle()); }, hasFailed);
             // A retry finds no server (9). A folder that cannot be made may be there already (0).
             EXPECT_THAT(result, hasFailed ? AnyOf(0U, 2U, 9U) : AnyOf(0U, 0U, 0U));
             EXPECT_EQ(server->m_refCount.load(), 0);
@@ -187,8 +187,7 @@ TEST(AllocationFailure, EndsAConnectionInMidExchange)
         FakePublisher server(std::vector<FakeConnection>{
             {.reply = GoodReply("\3")}, {.reply = GoodReply("\4")}, {.reply = GoodReply("\4")}});
         DWORD mode = 0;
-        CallWithout(
-            allocation, [&] { return GetServerMode(server.Handle(), &mode); }, hasFailed);
+        CallWithout(allocation, [&] { return GetServerMode(server.Handle(), &mode); }, hasFailed);
         if (hasFailed) {
             EXPECT_EQ(GetServerMode(server.Handle(), &mode), 0U);
             // The first reply belongs to the first request: a second one never reads it.
@@ -207,8 +206,8 @@ TEST(AllocationFailure, EndsAStart)
                                                   GoodReply("3.30")};
         TcpServer server({TcpServer::Answers(answers), TcpServer::Answers(answers)}, "127.0.0.1", 80);
         DWORD handle = 99;
-        const DWORD result = CallWithout(
-            allocation, [&] { return StartConnection(0, "127.0.0.1", &handle); }, hasFailed);
+        const DWORD result =
+            CallWithout(allocation, [&] { return StartConnection(0, "127.0.0.1", &handle); }, hasFailed);
         EXPECT_THAT(result, hasFailed ? AnyOf(0U, 2U) : AnyOf(0U, 0U)); // the version is not needed
         EXPECT_EQ(handle, result == 0 ? 1U : 0U);
         if (result == 0) {

@@ -37,7 +37,7 @@ struct FlagRow
 {
     int word;
     DWORD bit;
-    BOOL Record::*field;
+    BOOL Record::* field;
 };
 
 } // namespace

@@ -20,14 +20,8 @@ struct Word
     std::string expected;
 };
 
-#define NUMBER(name, value)                                                                                  \
-    {                                                                                                        \
-#name, name, value                                                                                   \
-    }
-#define WORD(name, text)                                                                                     \
-    {                                                                                                        \
-#name, name, text                                                                                    \
-    }
+#define NUMBER(name, value) {#name, name, value}
+#define WORD(name, text) {#name, name, text}
 
 inline void ExpectAll(const std::vector<Number>& rows)
 {

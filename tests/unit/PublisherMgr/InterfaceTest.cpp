@@ -31,7 +31,7 @@ std::uintptr_t Place(Result (Class::*function)(Arguments...))
 
 /// The operation of exactly this signature, told from its overloads.
 template <class Signature, class Class = IPublisherMgr>
-std::uintptr_t Slot(Signature Class::*function)
+std::uintptr_t Slot(Signature Class::* function)
 {
     return Place(function);
 }

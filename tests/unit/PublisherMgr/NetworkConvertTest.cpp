@@ -152,7 +152,7 @@ TEST_F(NetworkConvert, StackersOfEveryQuantity)
 
 struct LoaderFlag
 {
-    BOOL ALDStatus::*flag;
+    BOOL ALDStatus::* flag;
     DWORD bits;
 };
 

@@ -192,9 +192,7 @@ TEST_F(FerroJob, NewFileIsPrivateEmptyWriteOnlyAndClosedInOtherPrograms)
     umask(0);
     const int fd = CFerroJob().openNewJobFile(publisher());
     ASSERT_GE(fd, 0);
-    struct stat status
-    {
-    };
+    struct stat status{};
     ASSERT_EQ(fstat(fd, &status), 0);
     EXPECT_EQ(status.st_mode, S_IFREG | 0700);
     EXPECT_EQ(status.st_size, 0);

@@ -83,8 +83,8 @@ TEST(ProductLife, StaysBetweenNothingAndAll)
 
 struct Part
 {
-    UINT PUBMAINTINFODRIVE::*count;
-    UINT PUBMAINTINFODRIVE::*life;
+    UINT PUBMAINTINFODRIVE::* count;
+    UINT PUBMAINTINFODRIVE::* life;
 };
 
 constexpr Part parts[] = {

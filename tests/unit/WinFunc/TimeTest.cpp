@@ -136,9 +136,7 @@ TEST(Time, SleepLastsItsTime)
 
 TEST(Time, SleepGoesOnAfterASignal)
 {
-    struct sigaction action
-    {
-    };
+    struct sigaction action{};
     action.sa_handler = [](int) {};
     ASSERT_EQ(sigaction(SIGALRM, &action, nullptr), 0);
     itimerval timer{};

@@ -160,9 +160,7 @@ TEST(SimControl, StopsWithPeersThatStayOn)
 TEST(SimControl, TheSocketIsItsOwners)
 {
     TakingCommands taking;
-    struct stat found
-    {
-    };
+    struct stat found{};
     ASSERT_EQ(::stat(PATH, &found), 0);
     EXPECT_EQ(found.st_mode & 0777U, 0600U);
     udsim::ControlServer second(taking.open.room);

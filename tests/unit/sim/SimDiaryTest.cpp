@@ -121,9 +121,7 @@ TEST(SimLog, ASecondRoomWritesOnBehindTheFirst)
 TEST(SimLog, IsThereForEveryoneToRead)
 {
     const OpenRoom open("");
-    struct stat status
-    {
-    };
+    struct stat status{};
     ASSERT_EQ(::stat(LOG, &status), 0);
     EXPECT_EQ(status.st_mode, S_IFREG | 0644U);
 }

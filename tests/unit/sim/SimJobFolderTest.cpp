@@ -181,9 +181,7 @@ TEST(SimJobFolderOfARoom, IsMadeForEveryone)
 {
     ::umask(077);
     const OpenRoom open(PUBLISHER);
-    struct stat status
-    {
-    };
+    struct stat status{};
     ASSERT_EQ(::lstat(FOLDER, &status), 0);
     EXPECT_EQ(status.st_mode, S_IFDIR | 01777U);
     for (const std::string name : {"headCleaning.prn", "nozzleCheck.prn"}) {
@@ -200,9 +198,7 @@ TEST(SimJobFolderOfARoom, WhatIsThereStays)
     std::filesystem::create_directory(FOLDER);
     ASSERT_EQ(::chmod(FOLDER, 0700), 0);
     const OpenRoom open(PUBLISHER);
-    struct stat status
-    {
-    };
+    struct stat status{};
     ASSERT_EQ(::lstat(FOLDER, &status), 0);
     EXPECT_EQ(status.st_mode, S_IFDIR | 0700U);
     EXPECT_EQ(fileText("/opt/arven/Ulmar Disc Maker/res/prnfile/nozzleCheck.prn"), "pattern");

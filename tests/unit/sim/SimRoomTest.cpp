@@ -144,9 +144,7 @@ TEST(SimRoom, EveryUserMayAsk)
 {
     const OpenRoom open(TWO);
     for (const char* const path : {CONTROL, AGENT}) {
-        struct stat status
-        {
-        };
+        struct stat status{};
         ASSERT_EQ(::stat(path, &status), 0);
         EXPECT_EQ(status.st_mode & 0777U, 0666U) << path;
     }

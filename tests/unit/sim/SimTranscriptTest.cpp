@@ -176,9 +176,7 @@ TEST(SimRecorder, WritesNewFilesForTheirOwner)
     udsim::Recorder recorder([](const std::string&) {});
     std::string error;
     ASSERT_TRUE(recorder.open(FILE_NAME, Recording::Of::server, error)) << error;
-    struct stat found
-    {
-    };
+    struct stat found{};
     ASSERT_EQ(::stat(FILE_NAME, &found), 0);
     EXPECT_EQ(found.st_mode & 0777U, 0600U);
     udsim::Recorder second([](const std::string&) {});
