@@ -27,7 +27,7 @@ struct Splice
 /// The text up to the first NUL: searches end there, while splices keep every byte of the file.
 std::string_view Visible(const std::string& text)
 {
-    return std::string_view(text.c_str());
+    return std::string_view(text).substr(0, text.find('\0'));
 }
 
 std::string SectionText(LPCSTR lpAppName)

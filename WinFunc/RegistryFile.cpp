@@ -86,7 +86,8 @@ void ReadPieces(RegistryPieces& pieces)
     CRegistryValueStore* store = nullptr; // none ahead of the first section: values there belong to no key
     std::string piece;
     while (pieces.Next(piece)) {
-        const std::string_view line = piece.c_str(); // a line ends at a NUL
+        // A line ends at a NUL.
+        const std::string_view line = std::string_view(piece).substr(0, piece.find('\0'));
         if (line.starts_with('[')) {
             const size_t nameEnd = line.find(']');
             if (nameEnd != std::string_view::npos) {
