@@ -20,7 +20,16 @@ if(ULMAR_WERROR)
     add_compile_options(-Werror)
 endif()
 
-add_compile_options(-fno-plt -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+add_compile_options(-fno-plt -fstack-protector-strong -fstack-clash-protection)
+# Protection of jumps and returns: the first is for x86, the second for 64-bit ARM.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection ULMAR_HAS_CF_PROTECTION)
+check_cxx_compiler_flag(-mbranch-protection=standard ULMAR_HAS_BRANCH_PROTECTION)
+if(ULMAR_HAS_CF_PROTECTION)
+    add_compile_options(-fcf-protection)
+elseif(ULMAR_HAS_BRANCH_PROTECTION)
+    add_compile_options(-mbranch-protection=standard)
+endif()
 add_link_options(-Wl,-z,relro,-z,now -Wl,-z,noexecstack -Wl,--as-needed)
 
 if(ULMAR_SANITIZE)
