@@ -158,6 +158,7 @@ bool DestroyOldestUnclaimedNCL()
         }
         oldest->m_ullUnclaimed = 0;
     }
+    StopOperations(*oldest); // of callers with a stale handle
     DestroyNCL(handle, oldest);
     return true;
 }

@@ -275,7 +275,7 @@ int CHttp::RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes)
         }
         DWORD size = 0;
         errno = 0;
-        if (!ParseNumber(line, 16, &size) || size > UINT32_MAX - body.Size()) {
+        if (!ParseNumber(line, 16, &size)) {
             return INTERNET_ERR_MALFORMED;
         }
         if (size == 0) {
