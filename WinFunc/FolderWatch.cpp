@@ -27,7 +27,6 @@ bool IsLocalFileSystem(const char* folder)
     case BTRFS_SUPER_MAGIC:
     case F2FS_SUPER_MAGIC:
     case TMPFS_MAGIC:
-    case OVERLAYFS_SUPER_MAGIC:
         return true;
     default:
         return false;

@@ -10,9 +10,8 @@
 // Reports are trusted only where they are complete: on file systems of this computer, for files that are no
 // links and have one name. All other files are compared each time, and so is every file where the kernel
 // reports nothing. A file that was changed so recently that its times do not tell a further change is read
-// each time, unless its changes are reported. Two ways to change a file are not seen before something else
-// changes: writing to it through a name outside the folder that it got after it was read, and through a
-// memory mapping. Neither is a way in which setting files are written. The outcome would be a kind remembered
+// each time, unless its changes are reported. Changes that FolderWatch does not report are seen when
+// something else changes. Setting files are not written in these ways. The outcome would be a kind remembered
 // for a later file that names the same server.
 #include "ServerFiles.h"
 
@@ -22,6 +21,7 @@
 #include "NW_Com_LibConst.h"
 #include "ProfileText.h"
 #include "PubMgrConst.h"
+#include "SystemCalls.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -54,6 +54,12 @@ std::optional<State> StateOf(const char* path)
     return State{stamp, stamp.IsSettled(now), info.st_nlink == 1};
 }
 
+/// Whether a later attempt to open the same file may succeed although the file has not changed.
+bool IsTransient(int error)
+{
+    return error == EMFILE || error == ENFILE || error == ENOMEM || error == EINTR || error == EIO;
+}
+
 struct KnownFile
 {
     std::string path;
@@ -81,7 +87,7 @@ public:
         for (const size_t place : places->second) {
             KnownFile& file = m_files[place];
             UpdateFile(file);
-            if (file.address != address) { // changed this moment: search anew
+            if (file.address != address) { // it has just been changed: search again
                 IndexAddresses();
                 return FilesOf(address);
             }
@@ -130,7 +136,7 @@ private:
     bool List(const State& folder)
     {
         m_folder.reset();
-        m_watch.Start(PUBLISHER_SETTING_DIR); // before the list is read, so that nothing slips between
+        m_watch.Start(PUBLISHER_SETTING_DIR); // before the list is read, so that no change is missed
         const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(PUBLISHER_SETTING_DIR), closedir);
         if (directory == nullptr) {
             return false;
@@ -157,8 +163,8 @@ private:
             file.path = std::move(path);
             file.type = entry->d_type;
             file.isReported = false; // reports may have been lost
-            m_byName.emplace(entry->d_name, m_files.size());
             m_files.push_back(std::move(file));
+            m_byName.emplace(entry->d_name, m_files.size() - 1);
         }
         m_unreported.clear();
         for (size_t place = 0; place < m_files.size(); ++place) {
@@ -196,10 +202,16 @@ private:
         if (isCurrent) {
             return false;
         }
+        const ErrnoKeeper keeper; // an ERANGE of a kind must not fail the next Content-Length
         const std::string before = std::exchange(file.address, "");
         file.kind = NCL_NPTYPE_UNKNOWN;
+        file.state.reset();
+        const auto text = ProfileText::Read(file.path.c_str());
+        if (text == nullptr && IsTransient(errno)) {
+            return file.address != before; // the next search reads it again
+        }
         file.state = now;
-        if (const auto text = ProfileText::Read(file.path.c_str())) {
+        if (text != nullptr) {
             file.address = text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_HOST, 259);
             // The reader finds the section in any case of its name.
             const std::string kind = text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, 31);
@@ -234,7 +246,15 @@ std::vector<ServerFile> FilesOfServer(const std::string& address)
 {
     // Never destroyed: a thread that is still at work when the process ends may use them.
     static auto& guard = *new std::mutex;
-    static auto& folder = *new SettingFolder;
+    static auto& folder = *new std::optional<SettingFolder>;
     const std::lock_guard lock(guard);
-    return folder.FilesOf(address);
+    if (!folder) {
+        folder.emplace();
+    }
+    try {
+        return folder->FilesOf(address);
+    } catch (const std::bad_alloc&) {
+        folder.reset(); // it may be half updated
+        throw;          // house-rule: exceptions: StartConnection turns it into a result code
+    }
 }

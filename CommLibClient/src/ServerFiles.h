@@ -7,7 +7,7 @@
 struct ServerFile
 {
     std::string path;
-    unsigned int kind = 0; ///< NCL_NPTYPE_*, as the file tells it
+    unsigned int kind = 0; ///< NCL_NPTYPE_*, as stored in the file
 };
 
 /// The setting files that name the server, in the order in which the folder lists them. The addresses are

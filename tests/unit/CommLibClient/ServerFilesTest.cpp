@@ -19,6 +19,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/inotify.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/vfs.h>
@@ -172,6 +173,29 @@ TEST_P(ServerFilesTest, WhatDoesNotChangeIsReadOnce)
     CountedLocks::Take();
     EXPECT_EQ(Found("one").size(), 2U);
     EXPECT_THAT(CountedLocks::Take(), IsEmpty());
+}
+
+TEST_P(ServerFilesTest, AFileThatCouldNotBeOpenedIsReadByTheNextSearch)
+{
+    WritePublisher("A", Text("server", 3));
+    rlimit limit = {};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+    Found("other"); // takes the folder's watch and its list
+    WritePublisher("A", Text("server", 2));
+    WaitUntilSettled();
+    const rlimit none{0, limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    EXPECT_EQ(Kind("server"), 99U);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
+    EXPECT_EQ(Kind("server"), 2U);
+}
+
+TEST_P(ServerFilesTest, AKindOutOfRangeSetsNoErrorOfRange)
+{
+    WritePublisher("A", "[Common]\nPublisherURL=server\nNPType=99999999999999999999\n");
+    errno = 0;
+    EXPECT_EQ(Kind("server"), 0U);
+    EXPECT_NE(errno, ERANGE);
 }
 
 TEST_P(ServerFilesTest, EveryChangeOfAFileInPlaceIsSeenAtOnce)
