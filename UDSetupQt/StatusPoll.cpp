@@ -4,7 +4,6 @@
 #include "NW_Com_LibConst.h"
 #include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
-#include "ReadPass.h"
 #include "RegistIDKey.h"
 #include "RowTexts.h"
 
@@ -96,7 +95,6 @@ void StatusPoll::startNetwork(const CString& id)
 
 void StatusPoll::fetchStatusOneDevice(const CString& id)
 {
-    const ReadPass pass; // the questions below each look the publisher up
     PUBLISHERINFO info;
     StatusFacts facts;
     BOOL bConnection = 0;

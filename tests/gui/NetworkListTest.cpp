@@ -1,12 +1,9 @@
 // The rows of network publishers, from the servers' answers to the texts, and what a person does with them.
-#include "CountedLocks.h"
 #include "SameImage.h"
 #include "ServerFixture.h"
 #include "settingDialog.h"
 
 #include <QElapsedTimer>
-
-#include <algorithm>
 
 namespace {
 
@@ -40,7 +37,7 @@ private slots:
     void spaceIsCutToWholeMebibytes();
     void jobsThatOthersSend();
     void queriesInTheirOrder();
-    void pollReadsTheSettingFileOnce();
+    void removalEndsTheQuestionsOfAPoll();
     void unreadableServerKeepsItsRow();
     void modelsHaveTheirTexts_data();
     void modelsHaveTheirTexts();
@@ -283,16 +280,16 @@ void NetworkListTest::queriesInTheirOrder()
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
 }
 
-void NetworkListTest::pollReadsTheSettingFileOnce()
+void NetworkListTest::removalEndsTheQuestionsOfAPoll()
 {
-    open(studio());
-    m_window->findChild<QTimer*>()->stop(); // no other poll
-    ask();                                  // stores the kind of the server
-    m_window->fetchStatusOneDevice("N");
-    CountedLocks::Take();
-    m_window->fetchStatusOneDevice("N");
-    const std::vector<std::string> locked = CountedLocks::Take();
-    QCOMPARE(std::count(locked.begin(), locked.end(), "N.ini"), 1);
+    startRoom(studio());
+    m_room->spoil(fatalGetter, "delay 1500");
+    m_window = std::make_unique<PubSetup>(nullptr);
+    QVERIFY((*m_room)->waitForHttpRequests(fatalGetter, 1));
+    Installation::remove("N"); // the answer is yet to come
+    QVERIFY(waitForTasks(10000));
+    const QStringList asked = m_room->asked();
+    QCOMPARE(asked.last(), QString("GET ") + fatalGetter);
 }
 
 void NetworkListTest::unreadableServerKeepsItsRow()
