@@ -26,6 +26,7 @@ class LateAnswerTest : public QObject
 private slots:
     void init();
 
+    void taskThatRunsOutOfMemoryEndsAlone();
     void closingWaitsForTheAnswer();
     void closingStopsAskingTheOthers();
     void answerAfterTheWindowIsGone();
@@ -37,6 +38,15 @@ private:
 void LateAnswerTest::init()
 {
     m_installation = Installation();
+}
+
+void LateAnswerTest::taskThatRunsOutOfMemoryEndsAlone()
+{
+    std::atomic<bool> nextHasRun = false;
+    QThreadPool::globalInstance()->start(new MyRunnable([] { throw std::bad_alloc(); }));
+    QThreadPool::globalInstance()->start(new MyRunnable([&] { nextHasRun = true; }));
+    QVERIFY(waitForTasks(10000));
+    QVERIFY(nextHasRun);
 }
 
 void LateAnswerTest::closingWaitsForTheAnswer()
