@@ -3,6 +3,7 @@
 #include "NW_Com_LibConst.h"
 #include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
+#include "SystemCalls.h"
 
 #include <QCoreApplication>
 
@@ -87,6 +88,7 @@ QString spaceText(const CString& bytes)
         return QStringLiteral("-");
     }
     constexpr long long bytesPerMiB = 1048576;
+    const ErrnoKeeper keeper; // a number out of range must not fail the next reply of a server
     const long long wholeMiB = std::strtoll(bytes.c_str(), nullptr, 10) / bytesPerMiB;
     return QString::asprintf("%.1lf GB", static_cast<double>(wholeMiB) / 1024.0);
 }

@@ -2,6 +2,7 @@
 #include "LockedFile.h"
 #include "ProfileLines.h"
 #include "ProfileText.h"
+#include "SystemCalls.h"
 #include "WinFunc.h"
 
 #include <algorithm>
@@ -41,6 +42,13 @@ bool IsKey(std::string_view section, std::string_view key, std::string_view want
            std::string_view wantedKey)
 {
     return EqualNoCase(key, wantedKey) && EqualNoCase(section, wantedSection);
+}
+
+/// A number out of range is no failure of the caller's: errno is kept.
+UINT ToNumber(const char* text)
+{
+    const ErrnoKeeper keeper;
+    return static_cast<UINT>(std::atoi(text));
 }
 
 } // namespace
@@ -84,7 +92,7 @@ UINT GetPrivateProfileIntA(LPCSTR lpAppName, LPCSTR lpKeyName, INT nDefault, LPC
         0) {
         return static_cast<UINT>(nDefault);
     }
-    return static_cast<UINT>(std::atoi(text.data()));
+    return ToNumber(text.data());
 }
 
 std::shared_ptr<const ProfileText> ProfileText::Read(const char* path)
@@ -146,5 +154,5 @@ std::string ProfileText::Value(LPCSTR section, LPCSTR key, size_t maxLength) con
 UINT ProfileText::Number(LPCSTR section, LPCSTR key, INT nDefault) const
 {
     const std::string text = Value(section, key, 1023);
-    return text.empty() ? static_cast<UINT>(nDefault) : static_cast<UINT>(std::atoi(text.c_str()));
+    return text.empty() ? static_cast<UINT>(nDefault) : ToNumber(text.c_str());
 }

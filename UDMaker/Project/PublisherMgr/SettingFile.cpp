@@ -2,6 +2,7 @@
 
 #include "PubMgrConst.h"
 #include "ReadPass.h"
+#include "SystemCalls.h"
 
 #include <cstdlib>
 #include <string_view>
@@ -53,6 +54,7 @@ UINT SettingRecord::NPType() const
     const std::string strType =
         m_text != nullptr ? m_text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, 31)
                           : std::string();
+    const ErrnoKeeper keeper; // an ERANGE must not fail the next reply of a server
     const auto uiType = static_cast<UINT>(std::atoi(strType.c_str()));
     return uiType > PUBMGR_NPTYPE_300NII_BDXL ? UINT{PUBMGR_NPTYPE_UNKNOWN} : uiType;
 }

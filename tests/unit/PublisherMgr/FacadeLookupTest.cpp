@@ -238,10 +238,13 @@ TEST(NPType, IsAtMostThree)
                 {"NPType=-1\n", 0},
                 {"NPType=\n", 0},
                 {"NPType=x\n", 0},
+                {"NPType=99999999999999999999\n", 0},
                 {"NPType=2x\n", 2}};
     for (const auto& row : rows) {
         WritePublisher("R", std::string("[Common]\n") + row.line);
+        errno = 0;
         EXPECT_EQ(mgr.GetNPType("R"), row.type) << row.line;
+        EXPECT_EQ(errno, 0) << row.line;
     }
 }
 

@@ -131,7 +131,9 @@ TEST(RowTexts, SpaceIsCutToWholeMebibytesBeforeTheDivision)
         {"99999999999999999999999", "8589934592.0 GB"}, // beyond 64 bits: the largest number
     };
     for (const auto& space : spaces) {
+        errno = 0;
         EXPECT_EQ(spaceText(space.bytes), space.text) << space.bytes;
+        EXPECT_EQ(errno, 0) << space.bytes;
     }
 }
 

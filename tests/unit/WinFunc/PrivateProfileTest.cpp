@@ -261,13 +261,24 @@ struct NumberCase
 TEST_P(PrivateProfileReader, NumberTable)
 {
     const NumberCase cases[] = {
-        {"Key=42", 42},  {"Key=-1", 0xFFFFFFFF}, {"Key= 7 apples", 7}, {"Key=007", 7},
-        {"Key=0x10", 0}, {"Key=apples", 0},      {"Key=;42", 5}, // an empty value
-        {"Key=", 5},     {"Other=42", 5},        {"Key=\nKey=9", 9},   {"Key=2147483647", 2147483647},
+        {"Key=42", 42},
+        {"Key=-1", 0xFFFFFFFF},
+        {"Key= 7 apples", 7},
+        {"Key=007", 7},
+        {"Key=0x10", 0},
+        {"Key=apples", 0},
+        {"Key=;42", 5}, // an empty value
+        {"Key=", 5},
+        {"Other=42", 5},
+        {"Key=\nKey=9", 9},
+        {"Key=2147483647", 2147483647},
+        {"Key=99999999999999999999", 0xFFFFFFFF},
     };
     for (const NumberCase& c : cases) {
         WriteText(FILE_NAME, std::string("[Common]\n") + c.line + "\n");
+        errno = 0;
         EXPECT_EQ(GetParam().number("Common", "Key", 5, FILE_NAME), c.number) << c.line;
+        EXPECT_EQ(errno, 0);
     }
 }
 
