@@ -126,7 +126,7 @@ std::optional<Answer> sendOrder(const std::string& path, const Order& order, std
 {
     const Descriptor socket = connectUnix(path, error);
     if (!socket.isOpen()) {
-        error = "no udsim takes commands at " + error + " (--control names another place)";
+        error = "not running: no udsim takes commands at " + error + " (--control names another place)";
         return std::nullopt;
     }
     sendAll(socket.get(), order.line() + "\n");

@@ -9,6 +9,7 @@ namespace {
 
 constexpr char HELP[] = R"(usage: udsim SCENARIO [--speed N] [--requests] [--control PATH]
        udsim --check SCENARIO
+       udsim forget SCENARIO
        udsim tell [--control PATH] PUBLISHER COMMAND...
        udsim tell [--control PATH] service on|off
        udsim tell [--control PATH] --list
@@ -18,13 +19,15 @@ constexpr char HELP[] = R"(usage: udsim SCENARIO [--speed N] [--requests] [--con
        udsim --help | --version
 
 Simulates the control service, its log agent, publisher servers and the publishers of a scenario file until
-it is ended (SIGTERM or Ctrl-C), and prints a line for each notable change. On a terminal the running jobs
-stand below, with their progress.
+SIGTERM or Ctrl-C, and prints a line for each notable change. On a terminal the running jobs are shown below,
+with their progress. It needs root. The package brings scenarios in /usr/share/udsim.
 
   --speed N       N simulated seconds pass in a real one (default 1, up to 1000)
   --requests      print every request, too
   --control PATH  the socket for commands (default /var/run/udsim.socket)
   --check         read the scenario, say what is wrong with it, and run nothing
+
+forget removes the publishers that a scenario registered, which stay when udsim ends. It needs root.
 
 tell gives a command to a running udsim:
   --list          the publishers, and how each stands
@@ -38,13 +41,14 @@ from such a file:
   --listen        where clients find it (default 127.0.0.1:80)
 
 Examples:
-  udsim sim/scenarios/first.udsim --speed 5
-  udsim tell "Studio A" offline
-  udsim tell Clinic add-job "Patient 4714, copies=2"
-  udsim record --server 192.168.1.20 --listen 127.0.0.1 trouble.udrec
+  sudo udsim /usr/share/udsim/first.udsim --speed 5
+  sudo udsim tell Reception offline
+  sudo udsim tell Reception add-job "Annual report, copies=2"
+  sudo udsim forget /usr/share/udsim/first.udsim
+  sudo udsim record --server 192.168.1.20 --listen 127.0.0.1 trouble.udrec
 
-Exit status: 0 done, 1 it could not be done, 64 wrong usage, 69 no running udsim takes the command.
-The manual page, udsim(1), describes scenarios, commands and the format of recordings.
+Exit status: 0 done, 1 it could not be done, 64 wrong usage, 69 no udsim is running, 77 no permission to
+command it. The manual page, udsim(1), describes scenarios, commands and the format of recordings.
 )";
 
 } // namespace

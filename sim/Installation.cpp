@@ -3,10 +3,12 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <set>
 #include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "LockedFile.h"
 #include "Protocol.h"
@@ -144,6 +146,38 @@ bool makeNetworkSetting(const ServerSetup& server, std::string& error)
     return makeSettingFile(server.machine.registId, text, error);
 }
 
+bool removeRegistration(const std::vector<PublisherSetup>& publishers,
+                        const std::vector<ServerSetup>& servers, std::vector<std::string>& removed,
+                        std::string& error)
+{
+    const auto remove = [&](const PublisherSetup& publisher, auto isIts) {
+        const auto setting = publisher.registered ? readSetting(publisher.registId) : std::nullopt;
+        if (!setting || !isIts(*setting)) {
+            return true;
+        }
+        const std::string path = settingPath(publisher.registId);
+        if (::unlink(path.c_str()) != 0) {
+            error = path + ": " + std::strerror(errno);
+            return false;
+        }
+        removed.push_back(publisher.name);
+        return true;
+    };
+    std::set<std::string> keys;
+    for (const PublisherSetup& one : publishers) {
+        if (!remove(one, [&one](const Setting& setting) { return setting.guid == one.guid; })) {
+            return false;
+        }
+        keys.insert(std::string(DEVICE_ROOT) + "/" + one.guid);
+    }
+    for (const ServerSetup& one : servers) {
+        if (!remove(one.machine, [&one](const Setting& setting) { return setting.address == one.host; })) {
+            return false;
+        }
+    }
+    return removeRegistryKeys(REGISTRY, keys, DEVICE_ROOT, error);
+}
+
 std::optional<Setting> readSetting(const std::string& registId)
 {
     std::string error;
@@ -165,6 +199,8 @@ std::optional<Setting> readSetting(const std::string& registId)
         const std::string value = trim(line.substr(equals + 1));
         if (key == "GUID") {
             setting.guid = value;
+        } else if (key == "PublisherURL") {
+            setting.address = value;
         } else if (key == "PublisherName") {
             setting.shownName = value;
         } else if (key == "PublishMode") {

@@ -22,7 +22,8 @@ inline constexpr char PRINT_DATA_FOLDER[] = "/opt/arven/Ulmar Disc Maker/res/prn
 /// What the service reads of a setting file.
 struct Setting
 {
-    std::string guid;
+    std::string guid;    ///< of a local publisher
+    std::string address; ///< of a network publisher
     std::string shownName;
     uint32_t mode = 0;
     std::array<uint32_t, 4> media{};
@@ -38,6 +39,12 @@ bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& erro
 bool makeSetting(const PublisherSetup& publisher, std::string& error);
 /// The same for a network publisher.
 bool makeNetworkSetting(const ServerSetup& server, std::string& error);
+/// Removes what the above made for these publishers: their setting files, if they still belong to this device
+/// or address, and all keys of their devices. `removed` gets the names of those that had a setting file.
+/// False, with the reason, when a file cannot be removed or written; what was removed before stays so.
+bool removeRegistration(const std::vector<PublisherSetup>& publishers,
+                        const std::vector<ServerSetup>& servers, std::vector<std::string>& removed,
+                        std::string& error);
 /// Reads a setting file; nothing when it does not exist, or when the id, which comes from a client, is no
 /// file name.
 std::optional<Setting> readSetting(const std::string& registId);

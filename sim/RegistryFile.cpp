@@ -1,8 +1,10 @@
 #include "RegistryFile.h"
 
-#include <set>
+#include <cerrno>
+#include <vector>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include "LockedFile.h"
 
@@ -87,6 +89,50 @@ std::string withRegistryKeys(std::string_view fileText, const RegistryKeys& keys
     return text;
 }
 
+namespace {
+
+/// The sections of a text, each with its lines; the first one is what stands before any section line.
+std::vector<std::string_view> sectionsOf(std::string_view text)
+{
+    std::vector<std::string_view> sections;
+    size_t start = 0;
+    while (start < text.size()) {
+        const size_t next = text.find("\n[", start);
+        const size_t end = next == std::string_view::npos ? text.size() : next + 1;
+        sections.push_back(text.substr(start, end - start));
+        start = end;
+    }
+    return sections;
+}
+
+bool isEmpty(std::string_view section)
+{
+    return section.find_first_not_of("\r\n \t", section.find('\n')) == std::string_view::npos;
+}
+
+} // namespace
+
+std::string withoutRegistryKeys(std::string_view fileText, const std::set<std::string>& keys,
+                                const std::string& root)
+{
+    std::vector<std::string_view> kept;
+    bool rootIsUsed = false;
+    for (const std::string_view section : sectionsOf(fileText)) {
+        const std::string key(sectionOf(section.substr(0, section.find('\n'))));
+        if (!keys.contains(key)) {
+            kept.push_back(section);
+            rootIsUsed = rootIsUsed || key.starts_with(root + "/") || (key == root && !isEmpty(section));
+        }
+    }
+    std::string text;
+    for (const std::string_view section : kept) {
+        if (rootIsUsed || sectionOf(section.substr(0, section.find('\n'))) != root) {
+            text += section;
+        }
+    }
+    return text;
+}
+
 bool writeRegistryKeys(const std::string& path, const RegistryKeys& keys, std::string& error)
 {
     const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT, error);
@@ -95,6 +141,21 @@ bool writeRegistryKeys(const std::string& path, const RegistryKeys& keys, std::s
     }
     const auto text = file->read(error);
     return text && file->write(withRegistryKeys(*text, keys), error);
+}
+
+bool removeRegistryKeys(const std::string& path, const std::set<std::string>& keys, const std::string& root,
+                        std::string& error)
+{
+    if (::access(path.c_str(), F_OK) != 0 && errno == ENOENT) {
+        return true;
+    }
+    const auto file = LockedFile::acquire(path, O_RDWR, error);
+    const auto text = file ? file->read(error) : std::nullopt;
+    if (!text) {
+        return false;
+    }
+    const std::string left = withoutRegistryKeys(*text, keys, root);
+    return left == *text || file->write(left, error);
 }
 
 } // namespace udsim

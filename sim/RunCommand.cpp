@@ -1,4 +1,5 @@
 // udsim SCENARIO: the room, until it is told to end.
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <ctime>
@@ -93,6 +94,28 @@ void waitForTheEnd(const sigset_t& signals, const Room& room, Display& display)
     } while (sigtimedwait(&signals, nullptr, &REDRAW) < 0);
 }
 
+bool registersAny(const Scenario& scenario)
+{
+    return std::any_of(scenario.publishers.begin(), scenario.publishers.end(),
+                       [](const PublisherSetup& setup) { return setup.registered; }) ||
+           std::any_of(scenario.servers.begin(), scenario.servers.end(),
+                       [](const ServerSetup& setup) { return setup.machine.registered; });
+}
+
+/// A word as a shell takes it.
+std::string quotedForShell(const std::string& word)
+{
+    constexpr char PLAIN[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789/._-+:@%,=";
+    if (word.find_first_not_of(PLAIN) == std::string::npos) {
+        return word;
+    }
+    std::string quoted = "'";
+    for (const char c : word) {
+        quoted += c == '\'' ? "'\\''" : std::string(1, c);
+    }
+    return quoted + "'";
+}
+
 } // namespace
 
 int runRoom(const Arguments& arguments)
@@ -125,12 +148,16 @@ int runRoom(const Arguments& arguments)
         showRequests(room, display);
     }
     if (!room.start(error) || !control.start(line.value("--control").value_or(DEFAULT_CONTROL), error)) {
-        return failure(error);
+        return failureOfRights(error);
     }
     display.print("udsim: ready");
     waitForTheEnd(signals, room, display);
     control.stop();
     room.stop();
+    if (registersAny(*scenario)) {
+        display.print("udsim: its publishers stay registered; to remove them: udsim forget " +
+                      quotedForShell(line.words().front()));
+    }
     display.print("udsim: ended");
     if (display.isLive()) {
         display.redraw({});

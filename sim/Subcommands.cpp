@@ -1,7 +1,11 @@
 #include "Subcommands.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+
+#include <unistd.h>
 
 #include "Nearest.h"
 
@@ -17,6 +21,12 @@ int failure(const std::string& what)
 {
     std::fprintf(stderr, "udsim: %s\n", what.c_str());
     return EXIT_FAILED;
+}
+
+int failureOfRights(const std::string& what)
+{
+    const bool denied = what.ends_with(std::strerror(EACCES)) || what.ends_with(std::strerror(EPERM));
+    return failure(what + (denied && ::geteuid() != 0 ? "; udsim needs root" : ""));
 }
 
 void printLine(const std::string& line)

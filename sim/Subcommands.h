@@ -14,10 +14,12 @@ using Arguments = std::vector<std::string>;
 inline constexpr int EXIT_DONE = 0;
 inline constexpr int EXIT_FAILED = 1;
 inline constexpr int EXIT_USAGE = 64;
-inline constexpr int EXIT_NOBODY = 69; ///< no running udsim answers
+inline constexpr int EXIT_NOBODY = 69;        ///< no running udsim answers
+inline constexpr int EXIT_NO_PERMISSION = 77; ///< a running udsim belongs to another user
 
 int runRoom(const Arguments& arguments);
 int checkScenario(const Arguments& arguments);
+int forgetScenario(const Arguments& arguments);
 int tellRoom(const Arguments& arguments);
 int recordSession(const Arguments& arguments);
 int replaySession(const Arguments& arguments);
@@ -28,6 +30,8 @@ int showVersion(const Arguments& arguments);
 int wrongUsage(const std::string& what);
 /// Says on the error channel what went wrong; EXIT_FAILED.
 int failure(const std::string& what);
+/// The same for what only root may do: says so if the reason is a missing permission.
+int failureOfRights(const std::string& what);
 /// A line on the output, at once, also when several threads print.
 void printLine(const std::string& line);
 

@@ -1,6 +1,9 @@
 // udsim tell: commands for a room that runs.
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+
+#include <unistd.h>
 
 #include "Control.h"
 #include "Subcommands.h"
@@ -46,6 +49,11 @@ int tellRoom(const Arguments& arguments)
         return wrongUsage("a publisher and a command stand on one line");
     }
     const std::string path = line.value("--control").value_or(DEFAULT_CONTROL);
+    if (::access(path.c_str(), W_OK) != 0 && errno == EACCES) {
+        failure("no permission: the udsim at " + path +
+                " takes commands from root and from the user who started it");
+        return EXIT_NO_PERMISSION;
+    }
     std::string error;
     const auto answer = sendOrder(path, list ? Order{true, {}, {}} : orderOf(words), error);
     if (!answer) {

@@ -13,9 +13,9 @@ int main(int argc, char** argv)
     using namespace udsim;
     std::signal(SIGPIPE, SIG_IGN); // a lost terminal ends nothing
     constexpr std::pair<const char*, int (*)(const Arguments&)> SUBCOMMANDS[] = {
-        {"tell", tellRoom},         {"record", recordSession}, {"replay", replaySession},
-        {"--check", checkScenario}, {"--help", showHelp},      {"-h", showHelp},
-        {"--version", showVersion},
+        {"tell", tellRoom},        {"forget", forgetScenario}, {"record", recordSession},
+        {"replay", replaySession}, {"--check", checkScenario}, {"--help", showHelp},
+        {"-h", showHelp},          {"--version", showVersion},
     };
     const Arguments arguments(argv + 1, argv + argc);
     const std::string first = arguments.empty() ? "" : arguments.front();

@@ -255,9 +255,10 @@ TEST(SimTell, AnotherPlace)
     EXPECT_EQ(runProgram(UDSIM, {"tell", "--control", PATH, "B", "offline"}).status, 0);
     const Ended nobody = runProgram(UDSIM, {"tell", "B", "offline"});
     EXPECT_EQ(nobody.status, 69);
-    EXPECT_EQ(nobody.output,
-              "udsim: no udsim takes commands at /var/run/udsim.socket: No such file or directory "
-              "(--control names another place)\n");
+    EXPECT_EQ(
+        nobody.output,
+        "udsim: not running: no udsim takes commands at /var/run/udsim.socket: No such file or directory "
+        "(--control names another place)\n");
 }
 
 TEST(SimTell, SomebodyWhoIsNoUdsim)

@@ -17,7 +17,8 @@ std::set<std::string> options()
 {
     const std::regex literal("\"(--[a-z]+)\"");
     std::set<std::string> found;
-    for (const char* const name : {"RecordCommand.cpp", "RunCommand.cpp", "TellCommand.cpp", "main.cpp"}) {
+    for (const char* const name :
+         {"ForgetCommand.cpp", "RecordCommand.cpp", "RunCommand.cpp", "TellCommand.cpp", "main.cpp"}) {
         const std::string text = ReadText(std::string(UDSIM_SOURCES) + "/" + name);
         for (std::sregex_iterator it(text.begin(), text.end(), literal); it != std::sregex_iterator(); ++it) {
             found.insert((*it)[1]);
@@ -46,9 +47,24 @@ TEST(SimHelp, NamesEveryOptionAndCommand)
         EXPECT_NE(help.find(word), std::string::npos) << word << " is missing in --help";
         EXPECT_NE(page.find("\n.B " + word), std::string::npos) << word << " is missing in the manual page";
     }
-    for (const char* const status : {"64", "69"}) {
+    for (const char* const status : {"64", "69", "77"}) {
         EXPECT_NE(help.find(status), std::string::npos);
         EXPECT_NE(page.find(std::string("\n.B ") + status), std::string::npos);
+    }
+}
+
+TEST(SimHelp, NamesScenariosThatThePackageBrings)
+{
+    const std::regex path("(/?[a-z/]*)/([a-z]+\\.udsim)");
+    for (const std::string& text : {runProgram(UDSIM, {"--help"}).output, manualPage()}) {
+        size_t found = 0;
+        for (std::sregex_iterator it(text.begin(), text.end(), path); it != std::sregex_iterator(); ++it) {
+            EXPECT_EQ((*it)[1], "/usr/share/udsim");
+            EXPECT_FALSE(ReadText(std::string(UDSIM_SOURCES) + "/scenarios/" + (*it)[2].str()).empty());
+            ++found;
+        }
+        EXPECT_GE(found, 2U);
+        EXPECT_NE(text.find("udsim forget"), std::string::npos);
     }
 }
 

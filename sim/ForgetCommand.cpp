@@ -1,0 +1,39 @@
+// udsim forget SCENARIO: removes the publishers that a room of this scenario registered.
+#include <sys/socket.h>
+
+#include "Control.h"
+#include "Installation.h"
+#include "Sockets.h"
+#include "Subcommands.h"
+
+namespace udsim {
+
+int forgetScenario(const Arguments& arguments)
+{
+    if (arguments.size() != 1) {
+        return wrongUsage("forget takes one scenario");
+    }
+    const std::string& path = arguments.front();
+    std::string error;
+    const auto scenario = Scenario::load(path, error);
+    if (!scenario) {
+        return failure(error);
+    }
+    if (isServed(SOCK_STREAM, DEFAULT_CONTROL)) {
+        return failure("a udsim is running; end it first");
+    }
+    std::vector<std::string> removed;
+    const bool done = removeRegistration(scenario->publishers, scenario->servers, removed, error);
+    for (const std::string& name : removed) {
+        printLine(name + ": removed");
+    }
+    if (!done) {
+        return failureOfRights(error);
+    }
+    if (removed.empty()) {
+        printLine(path + ": none of its publishers is registered");
+    }
+    return EXIT_DONE;
+}
+
+} // namespace udsim

@@ -1,0 +1,138 @@
+// udsim forget: what it removes, and what it leaves alone.
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "ProgramProcess.h"
+#include "TextFiles.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char SCENARIO[] = "/tmp/my room.udsim";
+constexpr char REGISTRY[] = "/opt/arven/Ulmar Disc Maker/conf/registry.txt";
+constexpr char SETTINGS[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
+constexpr char ROOM[] = "[publisher Studio A]\nmodel = RT-300III BD\nguid = {G1}\nid = one\n"
+                        "[publisher B]\nmodel = RT-30II\nguid = {G2}\nid = two\nregistered = no\n"
+                        "[network N]\nmodel = RT-300NII\nid = net\nhost = 127.0.0.11\n";
+
+/// All files below the settings, with their contents.
+std::string settings()
+{
+    std::string all;
+    for (const auto& entry : fs::directory_iterator(SETTINGS)) {
+        all += entry.path().filename().string() + "\n" + ReadText(entry.path());
+    }
+    return all;
+}
+
+/// Runs the room of the scenario; everything that it printed.
+std::string runRoom()
+{
+    ProgramProcess room(UDSIM, {SCENARIO});
+    room.readUntil("udsim: ready\n");
+    return room.end();
+}
+
+class SimForget : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        std::ofstream(SCENARIO) << ROOM;
+        fs::create_directories(SETTINGS);
+    }
+};
+
+TEST_F(SimForget, LeavesNothingOfTheScenario)
+{
+    std::ofstream(REGISTRY).close(); // as the package makes it
+    EXPECT_NE(runRoom().find("udsim: its publishers stay registered; to remove them: "
+                             "udsim forget '/tmp/my room.udsim'\nudsim: ended\n"),
+              std::string::npos);
+    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
+    EXPECT_FALSE(fs::exists(std::string(SETTINGS) + "/two.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/net.ini"));
+
+    const Ended forgotten = runProgram(UDSIM, {"forget", SCENARIO});
+    EXPECT_EQ(forgotten.output, "Studio A: removed\nN: removed\n");
+    EXPECT_EQ(forgotten.status, 0);
+    EXPECT_EQ(settings(), "");
+    EXPECT_EQ(ReadText(REGISTRY), "");
+
+    const Ended again = runProgram(UDSIM, {"forget", SCENARIO});
+    EXPECT_EQ(again.output, "/tmp/my room.udsim: none of its publishers is registered\n");
+    EXPECT_EQ(again.status, 0);
+}
+
+TEST_F(SimForget, LeavesEverythingElseByteForByte)
+{
+    const std::string keys =
+        "[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n\n"
+        "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n"
+        "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{G11}]\n\"DPType\"=dword:20000009\n\n";
+    std::ofstream(REGISTRY) << keys;
+    std::ofstream(std::string(SETTINGS) + "/real.ini") << "[Common]\nGUID={G11}\nPublisherName=Real\n";
+    const std::string before = settings();
+    runRoom();
+    std::ofstream(REGISTRY, std::ios::app) << "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n";
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).status, 0);
+    EXPECT_EQ(settings(), before);
+    EXPECT_EQ(ReadText(REGISTRY), keys + "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n");
+}
+
+TEST_F(SimForget, TakesNoPublisherOfAnotherDeviceOrServerForItsOwn)
+{
+    std::ofstream(std::string(SETTINGS) + "/one.ini") << "[Common]\nGUID={OTHER}\nPublisherName=Mine\n";
+    std::ofstream(std::string(SETTINGS) + "/net.ini")
+        << "[Common]\nPublisherConnectionType=1\nPublisherURL=studio.example.org\n";
+    const std::string before = settings();
+    runRoom();
+    EXPECT_EQ(settings(), before);
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).output,
+              "/tmp/my room.udsim: none of its publishers is registered\n");
+    EXPECT_EQ(settings(), before);
+}
+
+TEST_F(SimForget, FindsPublishersWhoseSettingsWereChanged)
+{
+    runRoom();
+    std::ofstream(std::string(SETTINGS) + "/one.ini")
+        << "[Common]\nPublishMode=2\nPublisherName=New\nGUID={G1}\n";
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).output, "Studio A: removed\nN: removed\n");
+    EXPECT_EQ(settings(), "");
+}
+
+TEST_F(SimForget, MakesNoRegistry)
+{
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).status, 0);
+    EXPECT_FALSE(fs::exists(REGISTRY));
+}
+
+TEST_F(SimForget, WaitsForTheEndOfTheRoom)
+{
+    ProgramProcess room(UDSIM, {SCENARIO});
+    room.readUntil("udsim: ready\n");
+    const Ended early = runProgram(UDSIM, {"forget", SCENARIO});
+    EXPECT_EQ(early.output, "udsim: a udsim is running; end it first\n");
+    EXPECT_EQ(early.status, 1);
+    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
+    room.end();
+}
+
+TEST_F(SimForget, WrongArguments)
+{
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"forget"}, std::vector<std::string>{"forget", SCENARIO, SCENARIO}}) {
+        const Ended ended = runProgram(UDSIM, arguments);
+        EXPECT_EQ(ended.output, "udsim: forget takes one scenario\nTry \"udsim --help\".\n");
+        EXPECT_EQ(ended.status, 64);
+    }
+    const Ended missing = runProgram(UDSIM, {"forget", "/tmp/none.udsim"});
+    EXPECT_EQ(missing.output, "udsim: /tmp/none.udsim: No such file or directory\n");
+    EXPECT_EQ(missing.status, 1);
+}
+
+} // namespace
