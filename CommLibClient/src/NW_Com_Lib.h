@@ -23,8 +23,9 @@ bool SetTextLocale();
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Connections. A handle is good from StartConnection to EndConnection; a stale one may name a later
-// connection. The server is spoken to on port 80, for 5 seconds at most to connect and after 2 minutes of
-// silence no more. One operation at a time on a handle; handles are independent of each other.
+// connection. The server is reached on port 80. Connecting takes 5 seconds at most, and a reply may pause for
+// 2 minutes. Sending has no time limit. One operation at a time on a handle; handles are independent of each
+// other.
 
 /// Connects, finds out what kind of server it is and whether it can be served, and remembers its kind in its
 /// setting file. `*pdwHandleOut` becomes 0 before anything else. Of the address only what follows the last
@@ -122,8 +123,9 @@ DWORD SendJobData(DWORD dwHandle, const BYTE* pJobData, DWORD dwSendSize, int* p
 DWORD SendDiscInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscInfo, DWORD dwSendSize);
 DWORD SendDiscWriteInfo(DWORD dwHandle, int nServerJobID, const BYTE* pDiscWriteInfo, DWORD dwSendSize);
 /// The next piece of a disc image; the one that reaches the total ends it, and the next begins another. A
-/// null image makes a call on another thread stop before its next 10 MiB (NCL_ERR_CANCEL_SENDING); that is
-/// the one operation that may run beside another on a handle.
+/// null image cancels a call on another thread; that is the one operation that may run beside another on a
+/// handle. The call ends between two requests of 10 MiB (NCL_ERR_CANCEL_SENDING): a request under way is sent
+/// to its end, however long that takes, and a call at its last request succeeds.
 DWORD SendDiscImage(DWORD dwHandle, int nServerJobID, const BYTE* pDiscImage, DWORD dwSendSize,
                     DWORD dwTotalDiscSizeLow, DWORD dwTotalDiscSizeHigh, const char* pszImageName);
 /// The next file of print data.
