@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include <sys/stat.h>
+
 #include "Nearest.h"
 #include "Subcommands.h"
 
@@ -12,6 +14,7 @@ int main(int argc, char** argv)
 {
     using namespace udsim;
     std::signal(SIGPIPE, SIG_IGN); // a lost terminal ends nothing
+    ::umask(022);                  // as a service's: other users read its log and the setting files
     constexpr std::pair<const char*, int (*)(const Arguments&)> SUBCOMMANDS[] = {
         {"tell", tellRoom},        {"forget", forgetScenario}, {"record", recordSession},
         {"replay", replaySession}, {"--check", checkScenario}, {"--help", showHelp},

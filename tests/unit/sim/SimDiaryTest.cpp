@@ -120,6 +120,7 @@ TEST(SimLog, ASecondRoomWritesOnBehindTheFirst)
 
 TEST(SimLog, IsThereForEveryoneToRead)
 {
+    ::umask(022); // as udsim sets it
     const OpenRoom open("");
     struct stat status{};
     ASSERT_EQ(::stat(LOG, &status), 0);

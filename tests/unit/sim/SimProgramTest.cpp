@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "ProgramProcess.h"
 #include "RawClient.h"
@@ -147,6 +148,23 @@ TEST(SimProgram, RunsUntilItIsEnded)
         EXPECT_NE(udsim.readToTheEnd().find("udsim: ended\n"), std::string::npos);
         EXPECT_EQ(udsim.wait(), 0);
         EXPECT_FALSE(RawClient().connected());
+    }
+}
+
+TEST(SimProgram, WritesForOthersToReadWhateverTheUmask)
+{
+    putScenario("[publisher A]\nmodel = RT-30\nid = a\n");
+    ::umask(077);
+    Udsim udsim({SCENARIO});
+    udsim.readUntil("udsim: ready\n");
+    const std::string conf = "/opt/arven/Ulmar Disc Maker/conf";
+    for (const std::string& path : {std::string("/var/log/arvenUlmarDiscControl.log"), conf + "/registry.txt",
+                                    conf + "/RegPublisher/a.ini", conf + "/RegPublisher", conf}) {
+        struct stat status
+        {
+        };
+        ASSERT_EQ(::stat(path.c_str(), &status), 0) << path;
+        EXPECT_EQ(status.st_mode & 0777U, S_ISDIR(status.st_mode) ? 0755U : 0644U) << path;
     }
 }
 
