@@ -73,7 +73,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setDesktopFileName("com.arven.UlmarDiscSetup");
     QApplication app(argc, argv);
-    SetTextLocale(); // before the first thread; QApplication has just set that of the environment
+    SetTextLocale(); // before the first poll; QApplication has just set the locale of the environment
 
     QTranslator qtTr;
     qtTr.load("qt_" + QLocale::system().name(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));

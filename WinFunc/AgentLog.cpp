@@ -15,12 +15,12 @@ int g_logLebel = 4;
 
 namespace {
 
-/// How long a line waits for an agent that is behind. The kernel queues about ten lines.
+/// The longest wait for room in the agent's queue, which takes about ten lines.
 constexpr timeval AGENT_PATIENCE{0, 200000};
-/// How long no line waits after one has waited in vain, so that a hung agent does not slow the program.
+/// The time after such a timeout in which no call waits, so that a hung agent does not slow the program.
 constexpr std::chrono::seconds AGENT_PAUSE{5};
 
-/// Until when no line waits, as a count of the steady clock.
+/// The end of that time, as a count of the steady clock.
 std::atomic<std::chrono::steady_clock::rep> agentPauseEnd =
     std::chrono::steady_clock::time_point::min().time_since_epoch().count();
 

@@ -16,7 +16,7 @@ const char* GetNCLErrorString(DWORD dwNCLRet);
 // Locale
 
 /// Sets the locale of the process to "en_US.utf8", under which the texts of servers become UTF-8. The library
-/// calls it for each text. A program with several threads also calls it once before it starts the first one:
+/// calls it for each text. A program with several threads also calls it once before the first operation:
 /// the later calls then change nothing that another thread may be reading. False if the system lacks that
 /// locale.
 bool SetTextLocale();

@@ -73,7 +73,7 @@ DWORD SendRequest(ST_NCL* pNCL, const NCLRequest& request, ST_HTTP_RESPONSE* pst
 /// `pszCallee` has its parentheses: "ControlJob() 1".
 DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode);
 
-/// The result of a public operation in which an allocation failed, logged. No exception leaves the library.
+/// Logs that an allocation failed in a public operation. NCL_ERR_GET_MEMORY. No exception leaves the library.
 DWORD OutOfMemory(const char* pszOperation);
 
 /// One call of a public operation.

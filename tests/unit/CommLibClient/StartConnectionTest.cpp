@@ -296,7 +296,7 @@ TEST(StartConnection, RunsOutOfMemory)
 
 TEST(StartConnection, TheHundredAndFirstFails)
 {
-    std::vector<ST_NCL> others(100); // its own object is freed, or there is a leak
+    std::vector<ST_NCL> others(100); // the object that finds no entry is freed
     for (ST_NCL& other : others) {
         SetNCLObj(&other);
     }
