@@ -20,7 +20,7 @@ DWORD DigestPiece(ST_NCL* pNCL, const NCLUpload& piece)
 /// Sends the piece and, unless the server is an old one, takes it into the digest meanwhile.
 DWORD SendPiece(ST_NCL* pNCL, const NCLUpload& piece, ULONGLONG total)
 {
-    DWORD result = NCL_ERR_PROCESS_CREATE;
+    DWORD result = NCL_SUCCESS;
     DWORD digestFailure = 0;
     const auto upload = [&] {
         try {
@@ -34,7 +34,8 @@ DWORD SendPiece(ST_NCL* pNCL, const NCLUpload& piece, ULONGLONG total)
     std::jthread thread;
     try {
         thread = std::jthread(upload);
-    } catch (const std::system_error&) { // the system gives no thread: the result says so
+    } catch (const std::system_error&) {
+        result = NCL_ERR_PROCESS_CREATE;
     }
     if (pNCL->m_dwCompatiMode != 1) {
         digestFailure = DigestPiece(pNCL, piece);
