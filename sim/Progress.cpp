@@ -72,11 +72,11 @@ std::string shown(const std::string& text)
 {
     gchar* const valid = g_utf8_make_valid(text.c_str(), -1);
     std::string result;
-    for (const gchar* at = valid; *at != '\0'; at = g_utf8_next_char(at)) {
+    for (const gchar* at = valid; *at != '\0'; at = g_utf8_find_next_char(at, nullptr)) {
         if (g_unichar_iscntrl(g_utf8_get_char(at)) != 0) {
             result += '?';
         } else {
-            result.append(at, static_cast<size_t>(g_utf8_next_char(at) - at));
+            result.append(at, static_cast<size_t>(g_utf8_find_next_char(at, nullptr) - at));
         }
     }
     g_free(valid);
@@ -90,7 +90,7 @@ std::string beginning(const std::string& text, size_t columns, size_t& taken)
     const gchar* at = text.c_str();
     while (*at != '\0' && taken + widthOf(g_utf8_get_char(at)) <= columns) {
         taken += widthOf(g_utf8_get_char(at));
-        at = g_utf8_next_char(at);
+        at = g_utf8_find_next_char(at, nullptr);
     }
     return text.substr(0, static_cast<size_t>(at - text.c_str()));
 }
