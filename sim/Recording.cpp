@@ -163,7 +163,7 @@ std::optional<std::string> unquotedBytes(std::string_view text, size_t most)
     while (!text.empty()) {
         const char byte = text.front();
         text.remove_prefix(1);
-        if (byte == '"' || byte < ' ' || byte == 0x7F || bytes.size() >= most) {
+        if (byte == '"' || byte < ' ' || byte > '~' || bytes.size() >= most) {
             return std::nullopt;
         }
         if (byte != '\\') {
