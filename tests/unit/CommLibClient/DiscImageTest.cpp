@@ -103,7 +103,7 @@ public:
         pthread_getattr_default_np(&m_before);
         pthread_attr_t attributes;
         pthread_attr_init(&attributes);
-        pthread_attr_setstacksize(&attributes, size_t{1} << 46);
+        pthread_attr_setstacksize(&attributes, size_t{1} << 60);
         pthread_setattr_default_np(&attributes);
         pthread_attr_destroy(&attributes);
     }
