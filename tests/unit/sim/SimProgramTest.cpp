@@ -160,9 +160,7 @@ TEST(SimProgram, WritesForOthersToReadWhateverTheUmask)
     const std::string conf = "/opt/arven/Ulmar Disc Maker/conf";
     for (const std::string& path : {std::string("/var/log/arvenUlmarDiscControl.log"), conf + "/registry.txt",
                                     conf + "/RegPublisher/a.ini", conf + "/RegPublisher", conf}) {
-        struct stat status
-        {
-        };
+        struct stat status{};
         ASSERT_EQ(::stat(path.c_str(), &status), 0) << path;
         EXPECT_EQ(status.st_mode & 0777U, S_ISDIR(status.st_mode) ? 0755U : 0644U) << path;
     }
