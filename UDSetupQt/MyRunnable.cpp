@@ -2,6 +2,7 @@
 
 #include <QThreadPool>
 
+#include <cstdio>
 #include <new>
 #include <utility>
 
@@ -42,7 +43,9 @@ void MyRunnable::run()
     takeOver(this);
     try {
         functionToRun();
-    } catch (const std::bad_alloc&) { // the row stays as it is until the next poll
+    } catch (const std::bad_alloc&) {
+        // Its row stays as it is until the next poll.
+        std::fputs("Out of memory: a task was given up\n", stderr);
     }
     passOn(&endOfATask);
 }
