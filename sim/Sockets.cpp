@@ -109,8 +109,9 @@ bool isServed(int type, const std::string& path)
 {
     const sockaddr_un address = unixAddress(path);
     const Descriptor probe(::socket(AF_UNIX, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    return ::connect(probe.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 ||
-           errno == EAGAIN;
+    return probe.isOpen() &&
+           (::connect(probe.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 ||
+            errno == EAGAIN);
 }
 
 Descriptor bindUnix(int type, const std::string& path, unsigned rights, std::string& error)
@@ -205,7 +206,7 @@ bool sendAll(int socket, std::string_view bytes)
 {
     while (!bytes.empty()) {
         const ssize_t count = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (count > 0) {
+        if (count >= 0) {
             bytes.remove_prefix(static_cast<size_t>(count));
         } else if (errno == EAGAIN) {
             pollfd entry{socket, POLLOUT, 0};

@@ -175,6 +175,7 @@ std::string World::clock() const
 std::vector<MachineState> World::states() const
 {
     std::vector<MachineState> states;
+    states.reserve(m_publishers.size() + m_servers.size());
     for (const Publisher& publisher : m_publishers) {
         states.push_back({publisher.state().name, publisher.state().shownName, describe(publisher)});
     }
