@@ -12,7 +12,7 @@ constexpr int distance = 12; // pixels from the edges
 } // namespace
 
 EmptyListNote::EmptyListNote(const QString& text, QTreeWidget* list)
-    : QLabel(text, list), m_list(list), m_description(list->accessibleDescription())
+    : QLabel(text, list), m_description(list->accessibleDescription())
 {
     setObjectName(QStringLiteral("labelEmptyList"));
     setTextFormat(Qt::PlainText);
@@ -30,18 +30,26 @@ EmptyListNote::EmptyListNote(const QString& text, QTreeWidget* list)
     follow();
 }
 
+QTreeWidget* EmptyListNote::list() const
+{
+    return qobject_cast<QTreeWidget*>(parent());
+}
+
 bool EmptyListNote::eventFilter(QObject* watched, QEvent* event)
 {
+    if (list() == nullptr) {
+        return false;
+    }
     switch (event->type()) {
     case QEvent::PaletteChange:
-        if (watched == m_list) {
+        if (watched == list()) {
             takeColours();
         }
         break;
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show: // the first layout ends without the other two
-        setGeometry(m_list->viewport()->geometry());
+        setGeometry(list()->viewport()->geometry());
         break;
     default:
         break;
@@ -51,7 +59,7 @@ bool EmptyListNote::eventFilter(QObject* watched, QEvent* event)
 
 void EmptyListNote::takeColours()
 {
-    QPalette colours = m_list->palette();
+    QPalette colours = list()->palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         colours.setColor(
             group, QPalette::WindowText,
@@ -62,7 +70,10 @@ void EmptyListNote::takeColours()
 
 void EmptyListNote::follow()
 {
-    const bool empty = m_list->topLevelItemCount() == 0;
-    m_list->setAccessibleDescription(empty ? text() : m_description);
+    if (list() == nullptr) {
+        return;
+    }
+    const bool empty = list()->topLevelItemCount() == 0;
+    list()->setAccessibleDescription(empty ? text() : m_description);
     setVisible(empty);
 }

@@ -21,6 +21,8 @@ private:
     void takeColours();
     void follow();
 
-    QTreeWidget* m_list;
+    /// Null while the list is being destroyed, when its model still sends signals.
+    QTreeWidget* list() const;
+
     QString m_description; // of the list that has rows
 };
