@@ -226,7 +226,7 @@ std::optional<HttpFault> Room::State::faultFor(const HttpRequest& request, const
         if (!fault->fits(request, publisher) || (fault->after > 0 && fault->after-- > 0)) {
             continue;
         }
-        const HttpFault found = *fault;
+        HttpFault found = *fault;
         if (fault->times > 0 && --fault->times == 0) {
             networkFaults.erase(fault);
         }
