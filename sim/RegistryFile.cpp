@@ -91,7 +91,7 @@ std::string withRegistryKeys(std::string_view fileText, const RegistryKeys& keys
 
 namespace {
 
-/// The sections of a text, each with its lines; the first one is what stands before any section line.
+/// The sections of a text, each with its lines; the first one holds the lines ahead of any section.
 std::vector<std::string_view> sectionsOf(std::string_view text)
 {
     std::vector<std::string_view> sections;

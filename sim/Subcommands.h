@@ -30,7 +30,7 @@ int showVersion(const Arguments& arguments);
 int wrongUsage(const std::string& what);
 /// Says on the error channel what went wrong; EXIT_FAILED.
 int failure(const std::string& what);
-/// The same for what only root may do: says so if the reason is a missing permission.
+/// The same for what only root may do: names root if the reason is a missing permission.
 int failureOfRights(const std::string& what);
 /// A line on the output, at once, also when several threads print.
 void printLine(const std::string& line);
