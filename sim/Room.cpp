@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 #include <set>
 
@@ -70,7 +71,7 @@ struct Room::State
     std::vector<bool> connected; ///< as the registry file says
     std::vector<HttpFault> networkFaults;
     std::vector<Request> requests;
-    std::vector<HttpRequest> httpRequests;
+    std::deque<HttpRequest> httpRequests; ///< a long one loses its first without moving the others
     std::vector<LogRecord> records;
     std::vector<TakenFile> takenFiles;
     JobFolder jobFolder{JOB_FOLDER};
@@ -519,7 +520,7 @@ std::optional<PublisherServer> Room::lookAtServer(const std::string& publisher) 
 std::vector<HttpRequest> Room::httpRequests() const
 {
     const std::lock_guard lock(m_state->mutex);
-    return m_state->httpRequests;
+    return {m_state->httpRequests.begin(), m_state->httpRequests.end()};
 }
 
 size_t Room::httpConnections() const
