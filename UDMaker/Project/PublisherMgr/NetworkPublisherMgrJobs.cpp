@@ -4,6 +4,8 @@
 #include "NW_Com_Lib.h"
 #include "OptionalOutput.h"
 
+#include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstring>
 #include <type_traits>
@@ -19,27 +21,51 @@ constexpr DWORD LONGEST_LIST = 1000; // records; no server keeps more
 template <class Record>
 using List = DWORD (*)(DWORD dwHandle, DWORD dwType, Record* pRecords, DWORD dwLength, DWORD* pdwCount);
 
-/// The jobs of a server as the library hands them out. The list takes 1.8 MB for the moment of a query, on as
-/// many threads as there are publishers: its pages come from the system and go back there, for of the heap
-/// each thread would keep its share.
+/// Memory for the longest list of jobs, 1.8 MB, of which the process keeps one for the next query. Queries at
+/// the same time take further ones from the system and give them back: on the heap each polling thread would
+/// keep its own. Fresh pages cost more than the rest of a query.
+class ListMemory
+{
+public:
+    static constexpr size_t SIZE = LONGEST_LIST * std::max(sizeof(JobStatus), sizeof(JobStatusEx));
+
+    ListMemory() : m_pPages(s_pSpare.exchange(nullptr))
+    {
+        if (m_pPages == nullptr) {
+            void* pPages = mmap(nullptr, SIZE, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+            m_pPages = pPages != MAP_FAILED ? pPages : nullptr;
+        }
+    }
+    ListMemory(const ListMemory&) = delete;
+    ListMemory& operator=(const ListMemory&) = delete;
+    ~ListMemory()
+    {
+        if (m_pPages != nullptr) {
+            m_pPages = s_pSpare.exchange(m_pPages);
+        }
+        if (m_pPages != nullptr) {
+            munmap(m_pPages, SIZE);
+        }
+    }
+
+    /// Null if the system has none.
+    void* Pages() const
+    {
+        return m_pPages;
+    }
+
+private:
+    static inline std::atomic<void*> s_pSpare = nullptr;
+
+    void* m_pPages;
+};
+
+/// The jobs of a server as the library hands them out.
 template <class Record>
 class JobList
 {
 public:
-    JobList()
-    {
-        void* pPages =
-            mmap(nullptr, SIZE, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0); // all zero
-        m_pRecords = pPages != MAP_FAILED ? static_cast<Record*>(pPages) : nullptr;
-    }
-    JobList(const JobList&) = delete;
-    JobList& operator=(const JobList&) = delete;
-    ~JobList()
-    {
-        if (m_pRecords != nullptr) {
-            munmap(m_pRecords, SIZE);
-        }
-    }
+    JobList() : m_pRecords(static_cast<Record*>(m_memory.Pages())) {}
 
     /// Asks for the jobs of an NCL_JST_ kind; without success there are none.
     bool Ask(DWORD dwHandle, List<Record> pList, DWORD dwType)
@@ -63,8 +89,8 @@ public:
 
 private:
     static_assert(std::is_trivial_v<Record>);
-    static constexpr size_t SIZE = LONGEST_LIST * sizeof(Record);
 
+    ListMemory m_memory;
     Record* m_pRecords;
     DWORD m_dwCount = 0;
 };
