@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr DWORD LARGEST_FORM = 8192; ///< bytes of a body that shares a packet with its head: a form
+
 const char* OrNull(const char* text)
 {
     return text != nullptr ? text : "null";
@@ -56,9 +58,11 @@ try {
     m_isReplyTooLarge = false;
     for (int nRetryNum = 0;; ++nRetryNum) {
         const char* stage = "SendHeader";
+        m_Con.SetMoreFollows(pMsgBody != nullptr && dwMsgSize != 0 && dwMsgSize <= LARGEST_FORM);
         int result = SendHeader(eMethod, pszPath, eVersion, pszHost, pszUser, pszPassword, header.c_str());
         if (result >= 0 && pMsgBody != nullptr) {
             stage = "SendMessage";
+            m_Con.SetMoreFollows(false);
             result = SendMessage(pMsgBody, dwMsgSize);
         }
         if (result >= 0) {

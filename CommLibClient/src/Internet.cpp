@@ -103,6 +103,13 @@ int CInternetCon::WriteToCount(const char* pData, int nCount)
     return m_pComm != nullptr ? m_pComm->WriteToCount(pData, nCount) : INTERNET_ERR_NOT_OPEN;
 }
 
+void CInternetCon::SetMoreFollows(bool bMore)
+{
+    if (m_pComm != nullptr) {
+        m_pComm->SetMoreFollows(bMore);
+    }
+}
+
 int CInternetCon::PollRead(DWORD dwTimeoutMilliSec)
 {
     return m_pComm != nullptr ? m_pComm->PollRead(dwTimeoutMilliSec) : INTERNET_ERR_NOT_OPEN;

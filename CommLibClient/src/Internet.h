@@ -30,6 +30,8 @@ public:
     /// 0 when all is read. Of a peer that closed, the connection knows afterwards that it is no more.
     int ReadToCount(char* pBuf, int nCount);
     int WriteToCount(const char* pData, int nCount);
+    /// See IInternetComm; before Open it does nothing.
+    void SetMoreFollows(bool bMore);
     int PollRead(DWORD dwTimeoutMilliSec);
 
 protected:

@@ -252,7 +252,8 @@ int CSocket::Write(const char* pData, int nSize)
     if (m_Sock == -1) {
         return INTERNET_ERR_NOT_OPEN;
     }
-    const ssize_t count = send(m_Sock, pData, static_cast<size_t>(nSize), 0);
+    const int flags = m_bMoreFollows && IsPeerSilent() ? MSG_MORE : 0;
+    const ssize_t count = send(m_Sock, pData, static_cast<size_t>(nSize), flags);
     if (count >= 0) {
         return static_cast<int>(count);
     }
@@ -263,6 +264,14 @@ int CSocket::Write(const char* pData, int nSize)
     }
     log.LOG_WARN("CSocket::Write send() error = %d", errno);
     return INTERNET_ERR_SEND;
+}
+
+/// Whether the peer has neither closed the connection nor sent anything. To one that has closed it, a write
+/// leaves at once: the write that follows is the one that then fails.
+bool CSocket::IsPeerSilent() const
+{
+    pollfd entry{m_Sock, POLLIN, 0};
+    return poll(&entry, 1, 0) == 0;
 }
 
 int CSocket::WriteToCount(const char* pData, int nCount)

@@ -32,6 +32,15 @@ public:
     virtual int SetSockOpt(int nLevel, int nOptName, const char* pOptVal, int nOptLen) = 0;
     /// The longest silence allowed before each read.
     virtual int SetNoCommTimeout(DWORD dwMilliSec) = 0;
+
+    /// While set, each write is followed by another one at once, so that both may travel together.
+    void SetMoreFollows(bool bMore)
+    {
+        m_bMoreFollows = bMore;
+    }
+
+protected:
+    bool m_bMoreFollows = false;
 };
 
 /// A socket of the system, IPv4 only. Small reads are served from a buffer that takes in whatever has
@@ -82,6 +91,7 @@ protected:
 
 private:
     int Receive(char* pBuf, int nSize);
+    bool IsPeerSilent() const;
 
     std::array<char, 4096> m_ahead; ///< received and not yet read: `m_nAhead` bytes from `m_nAheadBegin` on
     int m_nAheadBegin = 0;

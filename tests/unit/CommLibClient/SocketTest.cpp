@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <linux/sockios.h>
 #include <sys/resource.h>
 
 using testing::ElementsAre;
@@ -22,6 +23,14 @@ static_assert(std::has_virtual_destructor_v<IInternetComm>);
 static_assert(CSocket::SELECT_READ == 0 && CSocket::SELECT_WRITE == 1 && CSocket::SELECT_EXCEPT == 2);
 
 namespace {
+
+/// Bytes that have been written and have not yet left.
+int BytesHeldBack(const CSocket& socket)
+{
+    int count = -1;
+    EXPECT_EQ(ioctl(socket.GetFD(), SIOCOUTQNSD, &count), 0);
+    return count;
+}
 
 int IntOption(const CSocket& socket, int level, int name)
 {
@@ -362,6 +371,41 @@ TEST(Socket, OutlivesAWriteToAPeerThatIsGone)
     EXPECT_EQ(connection.socket.WriteToCount("x", 1), -10); // a broken pipe from now on
     EXPECT_THAT(lines.Take(),
                 ElementsAre("<4>CSocket::Write send() error = 104", "<4>CSocket::Write send() error = 32"));
+}
+
+TEST(Socket, HoldsBackAWriteThatAnotherOneFollows)
+{
+    ConnectedSocket connection;
+    connection.socket.SetMoreFollows(true);
+    EXPECT_EQ(connection.socket.WriteToCount("head", 4), 4);
+    EXPECT_EQ(BytesHeldBack(connection.socket), 4);
+    connection.socket.SetMoreFollows(false);
+    EXPECT_EQ(connection.socket.WriteToCount("body", 4), 4);
+    EXPECT_EQ(BytesHeldBack(connection.socket), 0);
+    EXPECT_EQ(connection.peer.ReadExactly(8), "headbody");
+}
+
+TEST(Socket, HoldsNothingBackFromAPeerThatHasClosed)
+{
+    ConnectedSocket connection;
+    connection.peer.Close();
+    ASSERT_EQ(connection.socket.PollRead(10000), 0);
+    connection.socket.SetMoreFollows(true);
+    EXPECT_EQ(connection.socket.WriteToCount("head", 4), 4); // which the peer answers with a reset
+    EXPECT_EQ(BytesHeldBack(connection.socket), 0);
+    connection.socket.SetMoreFollows(false);
+    EXPECT_EQ(connection.socket.WriteToCount("body", 4), -10);
+}
+
+TEST(Socket, ReportsTheResetOfAPeerToAWriteThatAnotherOneFollows)
+{
+    ConnectedSocket connection;
+    connection.peer.Reset();
+    ASSERT_EQ(connection.socket.PollRead(10000), 0);
+    connection.socket.SetMoreFollows(true);
+    SyslogLines lines;
+    EXPECT_EQ(connection.socket.WriteToCount("x", 1), -10);
+    EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Write send() error = 104"));
 }
 
 TEST(Socket, KnowsThatItWouldBlock)
