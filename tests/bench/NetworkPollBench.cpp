@@ -1,14 +1,19 @@
 // The processor time that one poll of a network publisher takes of the thread that asks, with other
-// publishers registered beside it. The server runs in threads of its own.
+// publishers registered beside it; and that of bare system calls for the same connections, requests and
+// replies. The server, and the reader of the system log, run in threads of their own.
 #include "Installation.h"
 #include "Room.h"
 #include "StatusPoll.h"
 #include "Stopwatch.h"
+#include "SystemLog.h"
 
 #include <algorithm>
 #include <array>
 #include <ctime>
 #include <thread>
+
+#include <arpa/inet.h>
+#include <netinet/tcp.h>
 
 namespace {
 
@@ -30,6 +35,82 @@ void registerOthers(int count)
         }
     }
 }
+
+/// What one poll asks the server, with bare system calls.
+class BarePoll
+{
+public:
+    explicit BarePoll(const std::vector<udsim::HttpRequest>& requests)
+    {
+        for (const udsim::HttpRequest& request : requests) {
+            std::string text = request.method + " " + request.target + " " + request.version + "\r\n";
+            for (const auto& [name, value] : request.headers) {
+                text += name + ": " + value + "\r\n";
+            }
+            m_requests.push_back({request.target.find("/ServerModeGetter") != std::string::npos,
+                                  text + "\r\n" + request.body});
+        }
+        m_address.sin_family = AF_INET;
+        m_address.sin_port = htons(80);
+        inet_pton(AF_INET, requests.front().host.c_str(), &m_address.sin_addr);
+    }
+
+    bool run() const
+    {
+        int fd = -1;
+        bool answered = true;
+        for (const auto& [isFirst, text] : m_requests) {
+            if (isFirst) { // of an operation, each of which has a connection of its own
+                close(fd);
+                fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+                const int on = 1;
+                setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+                connect(fd, reinterpret_cast<const sockaddr*>(&m_address), sizeof m_address);
+            }
+            answered = answered && exchange(fd, text);
+        }
+        close(fd);
+        return answered;
+    }
+
+private:
+    struct Request
+    {
+        bool isFirst; ///< on a new connection
+        std::string text;
+    };
+
+    static bool exchange(int fd, const std::string& text)
+    {
+        send(fd, text.data(), text.size(), MSG_NOSIGNAL);
+        char reply[65536];
+        size_t size = 0;
+        do {
+            pollfd entry{fd, POLLIN, 0};
+            if (poll(&entry, 1, 10000) <= 0) {
+                return false;
+            }
+            const ssize_t count = recv(fd, reply + size, sizeof reply - size, 0);
+            if (count <= 0) {
+                return false;
+            }
+            size += static_cast<size_t>(count);
+        } while (!isWhole({reply, size}));
+        return true;
+    }
+
+    static bool isWhole(std::string_view reply)
+    {
+        constexpr std::string_view field = "Content-Length: ";
+        const size_t head = reply.find("\r\n\r\n");
+        const size_t length = reply.find(field);
+        return head != std::string_view::npos && length < head &&
+               reply.size() >= head + 4 + std::strtoul(reply.data() + length + field.size(), nullptr, 10);
+    }
+
+    sockaddr_in m_address{};
+    std::vector<Request> m_requests;
+};
 
 double threadMilliseconds()
 {
@@ -54,6 +135,7 @@ int main()
         std::fprintf(stderr, "%s\n", error.c_str());
         return 1;
     }
+    const SystemLog log;
     udsim::Room room(*studio);
     if (!room.start(error)) {
         std::fprintf(stderr, "%s\n", error.c_str());
@@ -64,7 +146,16 @@ int main()
     const auto poll = std::make_shared<StatusPoll>(
         publisherMgr, true, [&](const StatusRow& row) { ready += row.strStatus == "Ready" ? 1 : 0; });
 
+    poll->fetchStatusOneDevice("living"); // the first one learns the kind of the server
+    const size_t before = room.httpRequests().size();
+    poll->fetchStatusOneDevice("living");
+    std::vector<udsim::HttpRequest> asked = room.httpRequests();
+    asked.erase(asked.begin(), asked.begin() + static_cast<std::ptrdiff_t>(before));
+    const BarePoll bare(asked);
+
+    std::vector<double> bareMilliseconds;
     std::array<std::vector<double>, registered.size()> milliseconds;
+    bool answered = true;
     for (int round = 0; round < rounds; ++round) {
         for (size_t i = 0; i < registered.size(); ++i) {
             registerOthers(registered[i]);
@@ -74,21 +165,26 @@ int main()
             for (int count = 0; count < polls; ++count) {
                 const double start = threadMilliseconds();
                 poll->fetchStatusOneDevice("living");
-                milliseconds[i].push_back(threadMilliseconds() - start);
+                const double polled = threadMilliseconds();
+                answered = bare.run() && answered;
+                milliseconds[i].push_back(polled - start);
+                bareMilliseconds.push_back(threadMilliseconds() - polled);
             }
         }
     }
-    const int expected = rounds * static_cast<int>(registered.size()) * (polls + 2);
-    if (ready != expected) {
-        std::fprintf(stderr, "%d of %d polls found the publisher ready\n", ready, expected);
+    const int expected = 2 + rounds * static_cast<int>(registered.size()) * (polls + 2);
+    if (ready != expected || !answered) {
+        std::fprintf(stderr, "%d of %d polls found the publisher ready; bare calls were answered: %d\n",
+                     ready, expected, answered);
         return 1;
     }
     std::printf("processor time of one poll of a network publisher (medians of %d)\n", rounds * polls);
-    const double alone = median(milliseconds[0]);
+    const double reference = median(bareMilliseconds);
     for (size_t i = 0; i < registered.size(); ++i) {
         const double time = median(milliseconds[i]);
-        std::printf("  %4d registered %45.3f ms   %7.3f x\n", registered[i], time, time / alone);
+        std::printf("  %4d registered %45.3f ms   %7.3f x\n", registered[i], time, time / reference);
     }
+    std::printf("  bare calls for the same %zu requests %27.3f ms   %7.3f x\n", asked.size(), reference, 1.0);
     for (size_t i = 0; i < registered.size(); ++i) {
         PrintGoal("poll of a network publisher, " + std::to_string(registered[i]) + " registered",
                   median(milliseconds[i]), 1, "ms");

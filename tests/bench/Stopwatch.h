@@ -55,3 +55,9 @@ inline void PrintGoal(const std::string& work, double measured, double goal, con
     std::printf("  goal: %-52s %8.2f %-2s of at most %6.2f %-2s %s\n", work.c_str(), measured, unit, goal,
                 unit, measured <= goal ? "reached" : "MISSED");
 }
+
+/// The same for what Compare yielded: the first contender against the last.
+inline void PrintRatioGoal(const std::string& work, const std::vector<double>& medians, double goal)
+{
+    PrintGoal(work, medians.front() / medians.back(), goal, "x");
+}
