@@ -352,11 +352,12 @@ void DialogFeelTest::enterAcceptsAndEscapeRejects()
     for (const auto& [key, result] :
          {std::pair(Qt::Key_Return, QDialog::Accepted), std::pair(Qt::Key_Enter, QDialog::Accepted),
           std::pair(Qt::Key_Escape, QDialog::Rejected)}) {
-        look([key = key, result = result](QWidget& window) {
+        look([pressed = key, expected = result](QWidget& window) {
             int ended = -1;
             connect(qobject_cast<QDialog*>(&window), &QDialog::finished, [&ended](int how) { ended = how; });
-            QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, key);
-            return ended == result ? QStringList() : QStringList{QString("key %1: %2").arg(key).arg(ended)};
+            QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, pressed);
+            return ended == expected ? QStringList()
+                                     : QStringList{QString("key %1: %2").arg(pressed).arg(ended)};
         });
     }
 }

@@ -537,14 +537,14 @@ TEST(NetworkQueries, OneObjectServesSeveralThreads)
     std::vector<std::thread> threads;
     for (int copy = 0; copy < 2; ++copy) {
         for (const auto& [id, retries] : publishers) {
-            threads.emplace_back([&mgr = open.mgr, id = id, retries = retries] {
+            threads.emplace_back([&mgr = open.mgr, publisher = id, expected = retries] {
                 for (int round = 0; round < 10; ++round) {
                     PUBLISHERINFO info;
                     ST_PC_INK_STATUS ink{};
-                    EXPECT_TRUE(mgr.GetPublisherInfo(id, &info, FALSE));
-                    EXPECT_EQ(info.uiRetryCount, retries);
-                    EXPECT_TRUE(mgr.GetServiceInkStatus(id, &ink, nullptr));
-                    EXPECT_EQ(mgr.GetJobCount(id, nullptr), 0);
+                    EXPECT_TRUE(mgr.GetPublisherInfo(publisher, &info, FALSE));
+                    EXPECT_EQ(info.uiRetryCount, expected);
+                    EXPECT_TRUE(mgr.GetServiceInkStatus(publisher, &ink, nullptr));
+                    EXPECT_EQ(mgr.GetJobCount(publisher, nullptr), 0);
                 }
             });
         }
