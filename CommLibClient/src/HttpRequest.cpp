@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr DWORD LARGEST_FORM = 8192; ///< bytes of a body that shares a packet with its head: a form
+constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; the head is not sent in a packet of its own
 
 const char* OrNull(const char* text)
 {
@@ -58,11 +58,11 @@ try {
     m_isReplyTooLarge = false;
     for (int nRetryNum = 0;; ++nRetryNum) {
         const char* stage = "SendHeader";
-        m_Con.SetMoreFollows(pMsgBody != nullptr && dwMsgSize != 0 && dwMsgSize <= LARGEST_FORM);
+        m_Con.SetMoreFollows(pMsgBody != nullptr && dwMsgSize != 0 && dwMsgSize <= LARGEST_SMALL_BODY);
         int result = SendHeader(eMethod, pszPath, eVersion, pszHost, pszUser, pszPassword, header.c_str());
+        m_Con.SetMoreFollows(false);
         if (result >= 0 && pMsgBody != nullptr) {
             stage = "SendMessage";
-            m_Con.SetMoreFollows(false);
             result = SendMessage(pMsgBody, dwMsgSize);
         }
         if (result >= 0) {

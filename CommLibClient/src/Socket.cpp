@@ -266,8 +266,8 @@ int CSocket::Write(const char* pData, int nSize)
     return INTERNET_ERR_SEND;
 }
 
-/// Whether the peer has neither closed the connection nor sent anything. To one that has closed it, a write
-/// leaves at once: the write that follows is the one that then fails.
+/// Whether the connection is open and nothing waits to be received. A write to a peer that has closed it must
+/// leave at once: the peer answers with a reset, and it is the write that follows which reports it.
 bool CSocket::IsPeerSilent() const
 {
     pollfd entry{m_Sock, POLLIN, 0};

@@ -33,7 +33,8 @@ public:
     /// The longest silence allowed before each read.
     virtual int SetNoCommTimeout(DWORD dwMilliSec) = 0;
 
-    /// While set, each write is followed by another one at once, so that both may travel together.
+    /// A promise of the caller: while set, each write is followed by another one at once. The transport may
+    /// hold back the first, so that both share a packet.
     void SetMoreFollows(bool bMore)
     {
         m_bMoreFollows = bMore;
@@ -65,8 +66,8 @@ public:
     /// The descriptor is closed on exec, and is none of the standard streams.
     int Open(int nSocketFamily, int nSocketType) override;
     int Close() override;
-    /// By name or dotted address. The socket blocks again afterwards, and sends each write at once: a head
-    /// and its body, two writes, shall not wait for the peer's acknowledgement of the first.
+    /// By name or dotted address. The socket blocks again afterwards, and sends each write at once unless
+    /// more follows: a body never waits for the peer's acknowledgement of its head.
     int Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec) override;
     int Shutdown(int nHow) override;
     int Read(char* pBuf, int nSize) override;

@@ -24,6 +24,7 @@ public:
     explicit FakeComm(std::vector<FakeConnection> connections) : m_connections(std::move(connections)) {}
 
     std::vector<std::string> writes;  ///< each write's bytes
+    std::vector<bool> moreFollows;    ///< for each write, whether it may wait for the next one
     std::vector<std::string> calls;   ///< the operations that touch a network, in order
     std::vector<std::string> options; ///< level, name and value of each socket option
     std::string address;              ///< of the last connect
@@ -91,6 +92,7 @@ public:
             return m_present.writeEnd;
         }
         writes.emplace_back(pData, static_cast<size_t>(nCount));
+        moreFollows.push_back(m_bMoreFollows);
         return nCount;
     }
     int PollRead(DWORD) override

@@ -156,28 +156,6 @@ TEST(HttpExchange, ConnectsAgainWhenTheServerHasGoneInBetween)
     EXPECT_EQ(lines.Take().back().substr(0, 23), "<4>CHttp::SendRequest R");
 }
 
-TEST(HttpExchange, NoticesInTheBodyThatTheServerHasGoneInBetween)
-{
-    std::atomic<bool> hasClosed = false;
-    TcpServer server({[&](TcpServer& own, TcpPeer& peer) {
-                          own.TakeRequest(peer);
-                          peer.Write(GOOD);
-                          peer.Close();
-                          hasClosed = true;
-                      },
-                      TcpServer::Answers({GOOD})});
-    Client client(server);
-    ASSERT_EQ(client.Get(), 0);
-    while (!hasClosed) {
-        std::this_thread::yield();
-    }
-    SyslogLines lines;
-    EXPECT_EQ(client.Post("ifversion=02000000"), 0);
-    EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Write send() error = 32",
-                                          "<4>CHttp::SendRequest SendMessage() retry"));
-    EXPECT_EQ(server.Connections(), 2);
-}
-
 TEST(HttpExchange, SendsTheWholeBodyAgain)
 {
     const std::string body(300000, 'b');

@@ -262,6 +262,39 @@ TEST(HttpRequest, IsNeverSentThreeTimes)
     }
 }
 
+TEST(HttpRequest, HoldsBackTheHeadOfASmallBody)
+{
+    const std::string bytes(8193, 'b');
+    const struct
+    {
+        const char* body;
+        DWORD size;
+        std::vector<bool> moreFollows; ///< head, body
+    } bodies[] = {{nullptr, 0, {false}},
+                  {nullptr, 4, {false}},
+                  {bytes.data(), 0, {false, false}},
+                  {bytes.data(), 1, {true, false}},
+                  {bytes.data(), 8192, {true, false}},
+                  {bytes.data(), 8193, {false, false}}};
+    for (const auto& [body, size, moreFollows] : bodies) {
+        Client client({{.reply = GOOD}});
+        EXPECT_EQ(client.http.SendRequest(CHttp::METHOD_POST, PATH, CHttp::VERSION_1_1, "localhost", nullptr,
+                                          nullptr, nullptr, body, size, &client.response),
+                  0);
+        EXPECT_EQ(client.comm->moreFollows, moreFollows) << size;
+    }
+}
+
+TEST(HttpRequest, HoldsNothingBackAfterAHeadThatFailed)
+{
+    Client client({FailingHeader(-8), {.reply = GOOD}});
+    EXPECT_EQ(client.Post(), -8);
+    EXPECT_EQ(client.http.SendHeader(CHttp::METHOD_GET, PATH, CHttp::VERSION_1_1, "localhost", nullptr,
+                                     nullptr, nullptr),
+              0);
+    EXPECT_EQ(client.comm->moreFollows, std::vector<bool>{false});
+}
+
 TEST(HttpRequest, IsSentOnceWhenItTimesOut)
 {
     const struct
