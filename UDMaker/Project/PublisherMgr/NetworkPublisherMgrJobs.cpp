@@ -21,9 +21,9 @@ constexpr DWORD LONGEST_LIST = 1000; // records; no server keeps more
 template <class Record>
 using List = DWORD (*)(DWORD dwHandle, DWORD dwType, Record* pRecords, DWORD dwLength, DWORD* pdwCount);
 
-/// Memory for the longest list of jobs, 1.8 MB, of which the process keeps one for the next query. Queries at
-/// the same time take further ones from the system and give them back: on the heap each polling thread would
-/// keep its own. Fresh pages cost more than the rest of a query.
+/// Memory for the longest list of jobs (1.8 MB). The process keeps one such block for its next query, because
+/// fresh pages cost more processor time than the query itself. Queries that run at the same time take more
+/// from the system and give it back; on the heap, every polling thread would keep a block.
 class ListMemory
 {
 public:

@@ -110,6 +110,21 @@ TEST_F(NetworkJobs, AListValueByValue)
     EXPECT_EQ(job.ulHistory, 0U);
 }
 
+TEST_F(NetworkJobs, AListHoldsNothingOfALongerOneBeforeIt)
+{
+    for (int number = 0; number < 3; ++number) {
+        Add("a-long-identification-" + std::to_string(number), std::string(60, 'x'));
+    }
+    ASSERT_EQ(List(&CNetworkPublisherMgr::GetServiceJobStatusUnfinish).GetSize(), 3);
+    m_open.room.advance(3'600'000); // all are finished
+    Add("b", "y");
+    const JobStatusArray jobs = List(&CNetworkPublisherMgr::GetServiceJobStatusUnfinish);
+    ASSERT_EQ(jobs.GetSize(), 1);
+    EXPECT_STREQ(jobs[0].acJobID, "b");
+    EXPECT_STREQ(jobs[0].acJobName, "y");
+    EXPECT_EQ(List(&CNetworkPublisherMgr::GetServiceJobStatusFinish).GetSize(), 3);
+}
+
 TEST_F(NetworkJobs, AJobWithoutAnIdGetsOneOfThePublisherAndItsNumber)
 {
     for (int number = 1; number < 0x2A; ++number) {
