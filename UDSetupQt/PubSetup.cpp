@@ -281,7 +281,8 @@ void PubSetup::fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINF
 
 void PubSetup::updateMenu()
 {
-    const SelectionActions actions = selectionActions(treePublisherList->selectedItems().size());
+    const SelectionActions actions =
+        selectionActions(static_cast<int>(treePublisherList->selectedItems().size()));
     showPublisherProperty->setEnabled(actions.showPublisherProperty);
     deletePublisher->setEnabled(actions.deletePublisher);
 }

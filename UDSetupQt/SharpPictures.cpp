@@ -1,5 +1,7 @@
 #include "SharpPictures.h"
 
+#include "QtVersion.h"
+
 #include <QIcon>
 #include <QLabel>
 #include <QVariant>
@@ -9,7 +11,7 @@ void showSharpPictures(QWidget& form)
     for (QLabel* label : form.findChildren<QLabel*>()) {
         const QString path = label->property("picture").toString();
         if (!path.isEmpty()) {
-            label->setPixmap(QIcon(path).pixmap(label->pixmap(Qt::ReturnByValue).size()));
+            label->setPixmap(QIcon(path).pixmap(pictureOf(*label).size()));
         }
     }
 }

@@ -8,7 +8,7 @@
 #include "PubMgrConst.h"
 #include "WaitCursor.h"
 
-#include <QGuiApplication>
+#include <QEvent>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -28,6 +28,14 @@ addPublisherDialog::addPublisherDialog(QDialog* parent) : QDialog(parent), m_cPu
     offerName();
 }
 
+bool addPublisherDialog::event(QEvent* e)
+{
+    if (e->type() == QEvent::ApplicationPaletteChange) {
+        colourFrames();
+    }
+    return QDialog::event(e);
+}
+
 void addPublisherDialog::connectAll()
 {
     connect(buttonBox, &QDialogButtonBox::accepted, this, &addPublisherDialog::addPublisher);
@@ -37,7 +45,6 @@ void addPublisherDialog::connectAll()
             fixToContents(*this);
         }
     });
-    connect(qGuiApp, &QGuiApplication::paletteChanged, this, &addPublisherDialog::colourFrames);
 }
 
 void addPublisherDialog::colourFrames()

@@ -20,6 +20,9 @@ public:
     /// of no use.
     Q_SLOT void addPublisher();
 
+protected:
+    bool event(QEvent* e) override;
+
 private:
     void connectAll();
     void colourFrames();

@@ -4,10 +4,10 @@
 #include "MyRunnable.h"
 #include "NW_Com_Lib.h"
 #include "PubSetup.h"
+#include "QtVersion.h"
 #include "Win_def_log.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -69,15 +69,15 @@ int main(int argc, char** argv)
     // thread keeps the memory of its largest one.
     mallopt(M_MMAP_THRESHOLD, largeAllocation);
 
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    enableScreenScaling();
     QGuiApplication::setDesktopFileName("com.arven.UlmarDiscSetup");
     QApplication app(argc, argv);
     SetTextLocale(); // before the first poll; QApplication has just set the locale of the environment
 
     QTranslator qtTr;
-    qtTr.load("qt_" + QLocale::system().name(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    QApplication::installTranslator(&qtTr);
+    if (qtTr.load("qt_" + QLocale::system().name(), qtTranslationFolder())) {
+        QApplication::installTranslator(&qtTr);
+    }
 
     QTranslator myTr;
     QString languageCode = QLocale::system().name();

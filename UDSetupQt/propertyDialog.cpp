@@ -197,7 +197,7 @@ void propertyDialogEx::fillIdentity()
     setWindowTitle(tr("Properties - ") + name + QLatin1Char('(') +
                    modelText(m_modelType, m_info.uiNetPublisherType) + QLatin1Char(')'));
     textPublisherName->setMaxLength(
-        std::max(textPublisherName->maxLength(), name.size())); // cuts nothing stored
+        std::max(textPublisherName->maxLength(), static_cast<int>(name.size()))); // cuts nothing stored
     textPublisherName->setText(name);
     const bool known = m_info.uiUseDrive <= PUBMGR_USEDRIVE_DRIVE2;
     selectUseDrive->setCurrentIndex(known ? static_cast<int>(m_info.uiUseDrive) : -1);

@@ -18,7 +18,7 @@ constexpr int widestBox = 900; // pixels: with the margins around it, it fits a 
 void breakLongText(QCheckBox* box)
 {
     QString text = box->text();
-    const int middle = text.indexOf(' ', text.size() / 2);
+    const auto middle = text.indexOf(' ', text.size() / 2);
     if (box->sizeHint().width() > widestBox && middle != -1) {
         box->setText(text.replace(middle, 1, '\n'));
     }

@@ -104,7 +104,7 @@ void BusyIndicatorTest::isShownWhileTheWorkRuns()
         label = shown.labelText();
         minimum = shown.minimum();
         maximum = shown.maximum();
-        buttons = shown.findChildren<QPushButton*>().size();
+        buttons = static_cast<int>(shown.findChildren<QPushButton*>().size());
         duration = shown.minimumDuration();
         modality = shown.windowModality();
         parent = shown.parentWidget();

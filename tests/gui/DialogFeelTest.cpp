@@ -2,6 +2,7 @@
 // in another language, in dark colours. Runs at several scales of the screen (see CMakeLists.txt).
 #include "AllWindows.h"
 #include "KeyboardFeel.h"
+#include "QtVersion.h"
 #include "VisualFeel.h"
 
 #include <QCheckBox>
@@ -314,7 +315,7 @@ void DialogFeelTest::everyFormIsAmongTheWindows()
         QFile file(form.filePath());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QXmlStreamReader xml(&file);
-        while (!xml.atEnd() && !(xml.isStartElement() && xml.name() == "widget")) {
+        while (!xml.atEnd() && !(xml.isStartElement() && xml.name() == QLatin1String("widget"))) {
             xml.readNext();
         }
         const QString name = xml.attributes().value("name").toString();
@@ -434,8 +435,7 @@ void DialogFeelTest::picturesAreThere()
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling); // as the program sets them
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    enableScreenScaling(); // as the program does
     QApplication app(argc, argv);
     QTEST_SET_MAIN_SOURCE_PATH
     DialogFeelTest test;

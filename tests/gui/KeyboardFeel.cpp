@@ -1,5 +1,6 @@
 #include "KeyboardFeel.h"
 
+#include "QtVersion.h"
 #include "WindowParts.h"
 
 #include <QAbstractButton>
@@ -36,8 +37,7 @@ QString spokenName(QWidget* widget)
 bool isPicture(const QWidget* widget)
 {
     const auto label = qobject_cast<const QLabel*>(widget);
-    return qobject_cast<const QGraphicsView*>(widget) ||
-           (label && !label->pixmap(Qt::ReturnByValue).isNull());
+    return qobject_cast<const QGraphicsView*>(widget) || (label && !pictureOf(*label).isNull());
 }
 
 /// Whether a click or a key can give it the keyboard. Parts of a composed widget hand it on.

@@ -5,6 +5,7 @@
 #include "MaintenanceSequences.h"
 #include "PropertyFixture.h"
 #include "PubMgrConst.h"
+#include "QtVersion.h"
 #include "TextFiles.h"
 
 #include <QLabel>
@@ -276,7 +277,7 @@ void MaintenanceTest::dialogsShowTheirPictures()
         QVERIFY(shown);
         const QPixmap file(picture);
         QVERIFY2(!file.isNull(), "the picture is not in the resource tree");
-        QCOMPARE(shown->pixmap(Qt::ReturnByValue).toImage(), file.toImage());
+        QCOMPARE(pictureOf(*shown).toImage(), file.toImage());
         QVERIFY(shown->width() * file.devicePixelRatio() >= file.width());
         QVERIFY(shown->height() * file.devicePixelRatio() >= file.height());
         QVERIFY(!shown->accessibleName().isEmpty());

@@ -157,7 +157,7 @@ void OpenDialogsTest::doubleClickTakesTheCurrentRowOfSeveral()
     tree->selectAll();
     int selected = 0;
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
-        selected = tree->selectedItems().size();
+        selected = static_cast<int>(tree->selectedItems().size());
         shown.reject();
     });
     doubleClick("B", Qt::ControlModifier);

@@ -217,7 +217,7 @@ inline void choose(QComboBox* box, uint value)
 /// How many pictures lie on each other in the view.
 inline int pictureCount(const QGraphicsView* view)
 {
-    return view->scene() ? view->scene()->items().size() : 0;
+    return view->scene() ? static_cast<int>(view->scene()->items().size()) : 0;
 }
 
 /// Which picture of the resource tree lies on top: "A11-9". "" when there is none, "?" when it is no such

@@ -1,5 +1,6 @@
 #include "VisualFeel.h"
 
+#include "QtVersion.h"
 #include "WindowParts.h"
 
 #include <QAbstractButton>
@@ -430,14 +431,12 @@ QStringList badIcon(const QString& who, const QIcon& icon, QSize size, const QWi
     if (icon.isNull() || icon.availableSizes().isEmpty()) {
         return {who + " has no icon"};
     }
-    return isSharp(icon.pixmap(window.windowHandle(), size), window)
-               ? QStringList()
-               : QStringList{who + " has a blurred icon"};
+    return isSharp(icon.pixmap(size), window) ? QStringList() : QStringList{who + " has a blurred icon"};
 }
 
 QStringList badPicture(const QLabel* label, const QWidget& window)
 {
-    const QPixmap picture = label->pixmap(Qt::ReturnByValue);
+    const QPixmap picture = pictureOf(*label);
     const bool meantAsPicture =
         !picture.isNull() || (label->text().isEmpty() && !label->accessibleName().isEmpty());
     return !meantAsPicture || isSharp(picture, window) ? QStringList()
