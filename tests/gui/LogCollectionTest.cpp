@@ -5,10 +5,10 @@
 #include "MyRunnable.h"
 #include "PubSetup.h"
 #include "Shown.h"
+#include "TypedPath.h"
 
 #include <QElapsedTimer>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QProcess>
 #include <QProgressDialog>
 #include <QTest>
@@ -44,11 +44,7 @@ namespace {
 /// Types a name into the file dialog and presses its button.
 void save(QFileDialog& dialog, const QString& name)
 {
-    auto edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-    QVERIFY(edit);
-    edit->selectAll();
-    QTest::keyClicks(edit, name);
-    QTest::keyClick(edit, Qt::Key_Enter);
+    QTest::keyClick(typePath(dialog, name), Qt::Key_Enter);
 }
 
 QStringList contentOf(const QString& archive)

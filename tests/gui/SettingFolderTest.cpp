@@ -4,6 +4,7 @@
 #include "Boxes.h"
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
+#include "TypedPath.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -38,9 +39,7 @@ void whenTheFileDialogIsUp(QObject* owner, Act act)
 /// Types a folder and clicks "Choose".
 void choose(QFileDialog& dialog, const QString& folder)
 {
-    auto name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    name->selectAll();
-    QTest::keyClicks(name, folder);
+    typePath(dialog, folder);
     QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open), Qt::LeftButton);
 }
 
