@@ -1,4 +1,4 @@
-# Toolchain for 64-bit ARM: Debian's cross compiler, the headers and libraries that tests/arm64 unpacks, and qemu-user,
+# Toolchain for 64-bit ARM: Debian's cross compiler, the headers and libraries that tests/arm64-root unpacks, and qemu-user,
 # which runs the programs.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)

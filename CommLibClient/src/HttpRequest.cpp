@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; the head is not sent in a packet of its own
+constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; its head is held back until it follows
 
 const char* OrNull(const char* text)
 {

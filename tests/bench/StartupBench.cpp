@@ -119,7 +119,7 @@ int main(int argc, char** argv)
                             median(candidate.residentKiB),
                             median(candidate.residentKiB) / median(reference.residentKiB));
             }
-            // The program decodes the pictures of its five buttons; the minimal window has none.
+            // The program decodes its icons; the minimal window has none.
             PrintRatioGoal("start, vs a minimal window",
                            {median(candidates[0].milliseconds), median(candidates[1].milliseconds)}, 1.11);
             PrintRatioGoal("memory after the start, vs a minimal window",
