@@ -1,58 +1,64 @@
 #include "MyRunnable.h"
 
-#include <QThreadPool>
-
+#include <chrono>
+#include <condition_variable>
 #include <cstdio>
+#include <mutex>
 #include <new>
 #include <utility>
 
-#ifdef __SANITIZE_THREAD__
-#include <sanitizer/tsan_interface.h>
-#endif
-
 namespace {
 
-// The pool passes tasks on under locks of its own, which the thread sanitizer does not see in that library.
-// So what happens before `passOn` in one thread is declared to happen before `takeOver` of the same place in
-// another.
-#ifdef __SANITIZE_THREAD__
-void passOn(void* place)
+/// The tasks that were created and not yet deleted. The lock also orders a task's run after its creation, and
+/// the end of a wait after every run.
+struct TaskCount
 {
-    __tsan_release(place);
-}
-void takeOver(void* place)
-{
-    __tsan_acquire(place);
-}
-#else
-void passOn(void*) {}
-void takeOver(void*) {}
-#endif
+    std::mutex guard;
+    std::condition_variable noneLeft;
+    int tasks = 0;
+};
 
-char endOfATask;
+/// Never destroyed: a task that hangs may end after the static objects.
+TaskCount& taskCount()
+{
+    static TaskCount& count = *new TaskCount;
+    return count;
+}
 
 } // namespace
 
 MyRunnable::MyRunnable(std::function<void()> function) : functionToRun(std::move(function))
 {
-    passOn(this);
+    const std::lock_guard lock(taskCount().guard);
+    ++taskCount().tasks;
+}
+
+MyRunnable::~MyRunnable()
+{
+    functionToRun = nullptr; // what it owns goes before the wait ends
+    const std::lock_guard lock(taskCount().guard);
+    if (--taskCount().tasks == 0) {
+        taskCount().noneLeft.notify_all();
+    }
 }
 
 void MyRunnable::run()
 {
-    takeOver(this);
+    {
+        const std::lock_guard createdBefore(taskCount().guard);
+    }
     try {
         functionToRun();
     } catch (const std::bad_alloc&) {
         // Its row stays as it is until the next poll.
         std::fputs("Out of memory: a task was given up\n", stderr);
     }
-    passOn(&endOfATask);
 }
 
 bool waitForTasks(int milliseconds)
 {
-    const bool done = QThreadPool::globalInstance()->waitForDone(milliseconds);
-    takeOver(&endOfATask);
-    return done;
+    TaskCount& count = taskCount();
+    std::unique_lock lock(count.guard);
+    return count.noneLeft.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                                   [&] { return count.tasks == 0; });
 }

@@ -10,11 +10,13 @@ class MyRunnable : public QRunnable
 {
 public:
     explicit MyRunnable(std::function<void()> function);
+    ~MyRunnable() override;
     void run() override;
 
 private:
     std::function<void()> functionToRun;
 };
 
-/// Waits until no task of the global pool is left; false when the milliseconds are over before.
+/// Waits until every task has been run and deleted; false when that takes longer than so many milliseconds.
+/// Any thread.
 bool waitForTasks(int milliseconds);
