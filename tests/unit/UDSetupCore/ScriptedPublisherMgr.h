@@ -1,5 +1,5 @@
 // A publisher manager that answers by a script instead of asking devices. It takes the place of the real one
-// in the programs that compile it in.
+// in the programs that it is part of.
 #pragma once
 
 #include "PublisherMgr.h"

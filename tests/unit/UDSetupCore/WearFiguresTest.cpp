@@ -1,7 +1,5 @@
 #include "WearFigures.h"
 
-#include "propertyDialog.h"
-
 #include <gtest/gtest.h>
 
 #include <QLocale>
@@ -41,7 +39,7 @@ TEST(ProductLife, IsTheUsedShareCutToTwoDecimals)
     for (const auto& row : lives) {
         SCOPED_TRACE(std::to_string(row.present) + " of " + std::to_string(row.limit));
         double life = -1;
-        EXPECT_TRUE(propertyDialogEx::CalcProductLife(row.present, row.limit, &life));
+        EXPECT_TRUE(calcProductLife(row.present, row.limit, &life));
         EXPECT_DOUBLE_EQ(life, row.life);
     }
 }
@@ -59,7 +57,7 @@ TEST(ProductLife, FailsAndWritesNothingWithoutACountOrALimit)
     for (const auto& row : lives) {
         SCOPED_TRACE(std::to_string(row.present) + " of " + std::to_string(row.limit));
         double life = -1;
-        EXPECT_FALSE(propertyDialogEx::CalcProductLife(row.present, row.limit, &life));
+        EXPECT_FALSE(calcProductLife(row.present, row.limit, &life));
         EXPECT_EQ(life, -1);
     }
 }
@@ -99,7 +97,7 @@ constexpr Part parts[] = {
 TEST(DriveLife, NothingKnownIsNoLifeButIsWritten)
 {
     double life = -1;
-    EXPECT_FALSE(propertyDialogEx::CalcDriveLifeValue(PUBMAINTINFODRIVE(), &life));
+    EXPECT_FALSE(calcDriveLifeValue(PUBMAINTINFODRIVE(), &life));
     EXPECT_EQ(life, 0.0);
     EXPECT_EQ(driveLifeText(PUBMAINTINFODRIVE()), "-");
 }
@@ -111,7 +109,7 @@ TEST(DriveLife, OneKnownPartIsEnough)
         drive.*part.count = 1;
         drive.*part.life = 3;
         double life = -1;
-        EXPECT_TRUE(propertyDialogEx::CalcDriveLifeValue(drive, &life));
+        EXPECT_TRUE(calcDriveLifeValue(drive, &life));
         EXPECT_DOUBLE_EQ(life, 33.33);
         EXPECT_EQ(driveLifeText(drive), "33");
     }
@@ -127,7 +125,7 @@ TEST(DriveLife, TheMostWornPartDecides)
         }
         drive.*most.count = 90;
         double life = -1;
-        EXPECT_TRUE(propertyDialogEx::CalcDriveLifeValue(drive, &life));
+        EXPECT_TRUE(calcDriveLifeValue(drive, &life));
         EXPECT_DOUBLE_EQ(life, 90.0);
         EXPECT_EQ(driveLifeText(drive), "90");
     }
@@ -238,8 +236,8 @@ TEST(WearFigures, HaveADecimalPointInEveryLocale)
 
 TEST(WearFiguresDeathTest, NowhereToWriteStopsTheProcess)
 {
-    EXPECT_DEATH(propertyDialogEx::CalcProductLife(1, 2, nullptr), "Assertion");
-    EXPECT_DEATH(propertyDialogEx::CalcDriveLifeValue(PUBMAINTINFODRIVE(), nullptr), "Assertion");
+    EXPECT_DEATH(calcProductLife(1, 2, nullptr), "Assertion");
+    EXPECT_DEATH(calcDriveLifeValue(PUBMAINTINFODRIVE(), nullptr), "Assertion");
 }
 
 } // namespace
