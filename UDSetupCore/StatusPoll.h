@@ -13,7 +13,7 @@
 #include <mutex>
 #include <string>
 
-/// What one query found out about a publisher, as the list shows it.
+/// What one query found out about a publisher, in the order of the status signal's arguments.
 struct StatusRow
 {
     QString strPublisherRegistID; ///< the row's key

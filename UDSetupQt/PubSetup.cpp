@@ -75,12 +75,8 @@ PubSetup::PubSetup(QWidget* parent) : QMainWindow(parent)
                                     QGuiApplication::primaryScreen()->availableGeometry()));
     m_timer = std::make_unique<QTimer>(this);
     m_timer->setInterval(pollInterval);
-    m_statusPoll =
-        std::make_shared<StatusPoll>(m_cPubMgr, m_bSupportNetworkModel, [this](const StatusRow& row) {
-            emit updateStatusOneDeviceSignal(row.strPublisherRegistID, row.strDevType, row.strHostName,
-                                             row.strStatus, row.nJobWaiting, row.nJobSending,
-                                             row.strHDDAvail);
-        });
+    m_statusPoll = std::make_shared<StatusPoll>(m_cPubMgr, m_bSupportNetworkModel,
+                                                [this](const StatusRow& row) { sendStatus(row); });
 
     treePublisherList->addAction(deletePublisher);
     treePublisherList->addAction(showPublisherProperty);
@@ -265,18 +261,18 @@ QString PubSetup::getPublisherDevTypeStr(const PUBLISHERINFO& info, const CStrin
 
 void PubSetup::fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINFO& info)
 {
-    item->setText(colDevType, getPublisherDevTypeStr(info, info.strPublisherRegistID));
     item->setIcon(0, info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK ? m_networkImage : m_localImage);
     item->setText(colName, QString::fromStdString(info.strPublisherName));
-    item->setText(colStatus, tr("Not connected"));
-    item->setText(colJobWaiting, jobCountText(-1));
-    item->setText(colHostName, hostNameText(QString::fromStdString(info.strHostName)));
-    item->setText(colJobSending, jobCountText(-1));
-    item->setText(colHDDAvail, spaceText(""));
+    const StatusRow unknown = {.strPublisherRegistID = keyFromRegistID(info.strPublisherRegistID),
+                               .strDevType = getPublisherDevTypeStr(info, info.strPublisherRegistID),
+                               .strHostName = QString::fromStdString(info.strHostName),
+                               .strStatus = tr("Not connected"),
+                               .strHDDAvail = spaceText("")};
+    showStatus(item, unknown);
     for (const int column : {colJobWaiting, colJobSending, colHDDAvail}) {
         item->setTextAlignment(column, numberAlignment);
     }
-    item->setData(0, Qt::UserRole, keyFromRegistID(info.strPublisherRegistID));
+    item->setData(0, Qt::UserRole, unknown.strPublisherRegistID);
 }
 
 void PubSetup::updateMenu()
@@ -346,21 +342,31 @@ void PubSetup::fetchStatusOneDevice(const CString& strPublisherRegistID)
     m_statusPoll->fetchStatusOneDevice(strPublisherRegistID);
 }
 
+void PubSetup::sendStatus(const StatusRow& status)
+{
+    emit updateStatusOneDeviceSignal(status.strPublisherRegistID, status.strDevType, status.strHostName,
+                                     status.strStatus, status.nJobWaiting, status.nJobSending,
+                                     status.strHDDAvail);
+}
+
 void PubSetup::updateStatusOneDevice(QString strPublisherRegistID, QString strDevType, QString strHostName,
                                      QString strStatus, int nJobWaiting, int nJobSending, QString strHDDAvail)
 {
-    QTreeWidgetItem* row = findItemByPublisherRegistID(strPublisherRegistID);
-    if (!row) {
-        return;
+    const StatusRow status = {strPublisherRegistID, strDevType,  strHostName, strStatus,
+                              nJobWaiting,          nJobSending, strHDDAvail};
+    if (QTreeWidgetItem* row = findItemByPublisherRegistID(status.strPublisherRegistID)) {
+        showStatus(row, status);
     }
-    row->setText(colDevType, strDevType);
-    row->setText(colStatus, strStatus);
-    row->setText(colJobWaiting, jobCountText(nJobWaiting));
-    if (m_bSupportNetworkModel) {
-        row->setText(colHostName, hostNameText(strHostName));
-        row->setText(colJobSending, jobCountText(nJobSending));
-        row->setText(colHDDAvail, strHDDAvail);
-    }
+}
+
+void PubSetup::showStatus(QTreeWidgetItem* row, const StatusRow& status)
+{
+    row->setText(colDevType, status.strDevType);
+    row->setText(colStatus, status.strStatus);
+    row->setText(colJobWaiting, jobCountText(status.nJobWaiting));
+    row->setText(colHostName, hostNameText(status.strHostName));
+    row->setText(colJobSending, jobCountText(status.nJobSending));
+    row->setText(colHDDAvail, status.strHDDAvail);
 }
 
 PubSetup::Removal PubSetup::removeSelected()

@@ -78,6 +78,10 @@ private:
     /// The current row; without one, the selected row if it is the only one; else null. "Select all" selects
     /// rows and makes none of them current.
     QTreeWidgetItem* chosenRow() const;
+    /// Emits updateStatusOneDeviceSignal, whose seven arguments are the fields of the record. Any thread.
+    void sendStatus(const StatusRow& status);
+    /// Writes every column but the name; columns that the list does not have are skipped.
+    void showStatus(QTreeWidgetItem* row, const StatusRow& status);
     /// How the removal of the selected publishers ended.
     enum class Removal
     {
