@@ -141,23 +141,22 @@ constexpr char PC_DEV_SUPPORT_SECTION_300III[] = "SUPPORT_300III";
 /// What a family's models have in common.
 struct PublisherFamily
 {
-    int nDrives;
     const char* szSupportSection; ///< section of the support table
     const char* szNamePrefix;     ///< how a default publisher name starts
 };
 
 /// Indexed by the family number; family 0 stands for no model.
 constexpr PublisherFamily PUBLISHER_FAMILIES[] = {
-    {0, "", ""},
-    {2, PC_DEV_SUPPORT_SECTION, "RT-300 "},
-    {0, PC_DEV_SUPPORT_SECTION_AP, "RT-300AP "},
-    {1, PC_DEV_SUPPORT_SECTION_SD, "RT-30 "},
-    {1, PC_DEV_SUPPORT_SECTION_30BD, "RT-30BD "},
-    {2, PC_DEV_SUPPORT_SECTION_300MOD, "RT-5300EX "},
-    {1, PC_DEV_SUPPORT_SECTION_30BDA, "RT-7030BD "},
-    {2, PC_DEV_SUPPORT_SECTION_300II, "RT-300II "},
-    {1, PC_DEV_SUPPORT_SECTION_30II, "RT-30II "},
-    {2, PC_DEV_SUPPORT_SECTION_300III, "RT-300III "},
+    {"", ""},
+    {PC_DEV_SUPPORT_SECTION, "RT-300 "},
+    {PC_DEV_SUPPORT_SECTION_AP, "RT-300AP "},
+    {PC_DEV_SUPPORT_SECTION_SD, "RT-30 "},
+    {PC_DEV_SUPPORT_SECTION_30BD, "RT-30BD "},
+    {PC_DEV_SUPPORT_SECTION_300MOD, "RT-5300EX "},
+    {PC_DEV_SUPPORT_SECTION_30BDA, "RT-7030BD "},
+    {PC_DEV_SUPPORT_SECTION_300II, "RT-300II "},
+    {PC_DEV_SUPPORT_SECTION_30II, "RT-30II "},
+    {PC_DEV_SUPPORT_SECTION_300III, "RT-300III "},
 };
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -1,13 +1,4 @@
-// Two Blu-ray drives, second series.
+// Declares C300IIBDPublisherMgr.
 #pragma once
 
-#include "300MODPublisherMgr.h"
-
-class C300IIBDPublisherMgr : public C300MODPublisherMgr
-{
-public:
-    using C300MODPublisherMgr::C300MODPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-    bool IsSupportDiscType(UINT uiDiscType) override;
-};
+#include "ModelClasses.h"

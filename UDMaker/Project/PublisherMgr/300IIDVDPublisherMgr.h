@@ -1,12 +1,4 @@
-// Two DVD drives, second series.
+// Declares C300IIDVDPublisherMgr.
 #pragma once
 
-#include "300MODPublisherMgr.h"
-
-class C300IIDVDPublisherMgr : public C300MODPublisherMgr
-{
-public:
-    using C300MODPublisherMgr::C300MODPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-};
+#include "ModelClasses.h"

@@ -1,13 +1,4 @@
-// Two BDXL drives, third series.
+// Declares C300IIIBDXLPublisherMgr.
 #pragma once
 
-#include "300MODPublisherMgr.h"
-
-class C300IIIBDXLPublisherMgr : public C300MODPublisherMgr
-{
-public:
-    using C300MODPublisherMgr::C300MODPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-    bool IsSupportDiscType(UINT uiDiscType) override;
-};
+#include "ModelClasses.h"

@@ -1,12 +1,4 @@
-// Two DVD drives, third series.
+// Declares C300IIIDVDPublisherMgr.
 #pragma once
 
-#include "300MODPublisherMgr.h"
-
-class C300IIIDVDPublisherMgr : public C300MODPublisherMgr
-{
-public:
-    using C300MODPublisherMgr::C300MODPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-};
+#include "ModelClasses.h"

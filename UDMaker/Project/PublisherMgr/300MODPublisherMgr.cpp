@@ -5,12 +5,6 @@ UINT C300MODPublisherMgr::GetPublisherMgrType()
     return PUBMGR_PUBLISHERTYPE_300MOD;
 }
 
-bool C300MODPublisherMgr::IsSupportPublishMode(UINT uiPublishMode)
-{
-    return uiPublishMode == PUBMGR_PUBLISHMODE_READ ||
-           CBasicPublisherMgr::IsSupportPublishMode(uiPublishMode);
-}
-
 bool C300MODPublisherMgr::GetServiceMaintenanceboxStatus(LPCTSTR szPublisherRegistID,
                                                          ULONG* pulMaintenanceBox, long* pResultCode)
 {

@@ -10,7 +10,6 @@ public:
     using CBasicPublisherMgr::GetPublisherMaintenanceInfo;
 
     UINT GetPublisherMgrType() override;
-    bool IsSupportPublishMode(UINT uiPublishMode) override;
 
     /// A percentage, or a value ARV_PC_MAINTENANCEBOX_*. A service that answers in another size stops the
     /// process.

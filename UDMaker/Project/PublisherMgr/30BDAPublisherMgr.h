@@ -1,13 +1,4 @@
-// The archive model: one Blu-ray drive, and the measurement of error rates.
+// Declares C30BDAPublisherMgr.
 #pragma once
 
-#include "30BDPublisherMgr.h"
-
-class C30BDAPublisherMgr : public C30BDPublisherMgr
-{
-public:
-    using C30BDPublisherMgr::C30BDPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-    bool IsSupportPublishMode(UINT uiPublishMode) override;
-};
+#include "ModelClasses.h"

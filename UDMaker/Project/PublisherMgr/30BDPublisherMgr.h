@@ -1,14 +1,4 @@
-// One Blu-ray drive.
+// Declares C30BDPublisherMgr.
 #pragma once
 
-#include "SDPublisherMgr.h"
-
-class C30BDPublisherMgr : public CSDPublisherMgr
-{
-public:
-    using CSDPublisherMgr::CSDPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-    bool IsSupportPublishMode(UINT uiPublishMode) override;
-    bool IsSupportDiscType(UINT uiDiscType) override;
-};
+#include "ModelClasses.h"

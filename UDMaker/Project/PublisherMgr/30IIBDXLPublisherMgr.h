@@ -1,14 +1,4 @@
-// One BDXL drive, second series.
+// Declares C30IIBDXLPublisherMgr.
 #pragma once
 
-#include "SDPublisherMgr.h"
-
-class C30IIBDXLPublisherMgr : public CSDPublisherMgr
-{
-public:
-    using CSDPublisherMgr::CSDPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-    bool IsSupportPublishMode(UINT uiPublishMode) override;
-    bool IsSupportDiscType(UINT uiDiscType) override;
-};
+#include "ModelClasses.h"

@@ -1,14 +1,4 @@
-// One Blu-ray drive, second series.
+// Declares C30IIPublisherMgr.
 #pragma once
 
-#include "SDPublisherMgr.h"
-
-class C30IIPublisherMgr : public CSDPublisherMgr
-{
-public:
-    using CSDPublisherMgr::CSDPublisherMgr;
-
-    UINT GetPublisherMgrType() override;
-    bool IsSupportPublishMode(UINT uiPublishMode) override;
-    bool IsSupportDiscType(UINT uiDiscType) override;
-};
+#include "ModelClasses.h"

@@ -1,34 +1,13 @@
 #include "BasicPublisherMgr.h"
 
 #include "DeviceKey.h"
+#include "ModelTable.h"
 #include "RegUtility.h"
 #include "Win_def_log.h"
 
 #include <utility>
 
 namespace {
-
-/// Every local model but the one without drives of its own.
-bool HasDriveSettings(UINT uiPublisherDevType)
-{
-    switch (uiPublisherDevType) {
-    case PUBMGR_PUBLISHERTYPE_BASIC:
-    case PUBMGR_PUBLISHERTYPE_SD:
-    case PUBMGR_PUBLISHERTYPE_30BD:
-    case PUBMGR_PUBLISHERTYPE_30BDA:
-    case PUBMGR_PUBLISHERTYPE_30II:
-    case PUBMGR_PUBLISHERTYPE_300MOD:
-    case PUBMGR_PUBLISHERTYPE_300II_DVD:
-    case PUBMGR_PUBLISHERTYPE_300II_BD:
-    case PUBMGR_PUBLISHERTYPE_300III_DVD:
-    case PUBMGR_PUBLISHERTYPE_300III_BD:
-    case PUBMGR_PUBLISHERTYPE_30II_BDXL:
-    case PUBMGR_PUBLISHERTYPE_300III_BDXL:
-        return true;
-    default:
-        return false;
-    }
-}
 
 /// The retries that the service goes by in the record's mode.
 UINT RetryCountInForce(const PUBLISHERINFO& sPublisherInfo)
@@ -132,7 +111,8 @@ bool CBasicPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
     lines.Add(REG_PUB_SETUP_VAL_STK4, sPublisherInfo.uiStacker4DiscType);
     lines.Add(REG_PUB_SETUP_VAL_PRINTER_NAME, sPublisherInfo.strPrinterName);
     lines.Add(REG_PUB_SETUP_VAL_TYPE, sPublisherInfo.uiPublisherType);
-    if (HasDriveSettings(sPublisherInfo.uiPublisherDevType)) {
+    const PublisherModel* pModel = FindModel(sPublisherInfo.uiPublisherDevType);
+    if (pModel != nullptr && pModel->bDriveSettings) {
         lines.Add(REG_PUB_SETUP_VAL_USEDRIVE, sPublisherInfo.uiUseDrive);
         lines.Add(REG_PUB_SETUP_VAL_RETRYCOUNT, RetryCountInForce(sPublisherInfo));
         lines.Add(REG_PUB_SETUP_VAL_RETRYCOUNT_W, sPublisherInfo.uiRetryCountW);
@@ -300,26 +280,31 @@ CString CBasicPublisherMgr::GetSupportWriteSpeedString(LPCTSTR szPublisherRegist
     return strSpeeds;
 }
 
+const PublisherModel& CBasicPublisherMgr::Model()
+{
+    const PublisherModel* pModel = FindModel(GetPublisherMgrType());
+    ASSERT(pModel != nullptr);
+    return *pModel;
+}
+
 bool CBasicPublisherMgr::IsSupportPublishMode(UINT uiPublishMode)
 {
-    return uiPublishMode == PUBMGR_PUBLISHMODE_NORMAL || uiPublishMode == PUBMGR_PUBLISHMODE_BATCH ||
-           uiPublishMode == PUBMGR_PUBLISHMODE_OUTPUT;
+    return Model().publishModes.Contains(uiPublishMode);
 }
 
 bool CBasicPublisherMgr::IsSupportDiscType(UINT uiDiscType)
 {
-    return uiDiscType == PUBMGR_STACKERDISCTYPE_CDR || uiDiscType == PUBMGR_STACKERDISCTYPE_DVDR ||
-           uiDiscType == PUBMGR_STACKERDISCTYPE_DVDRDL;
+    return Model().discTypes.Contains(uiDiscType);
 }
 
 bool CBasicPublisherMgr::IsSupportUseDrive()
 {
-    return true;
+    return Model().HasDriveChoice();
 }
 
 bool CBasicPublisherMgr::IsSupportStacker4()
 {
-    return true;
+    return Model().bStacker4;
 }
 
 bool CBasicPublisherMgr::StartConnection(LPCTSTR, DWORD*, DWORD*)

@@ -10,6 +10,8 @@
 #include <memory>
 #include <mutex>
 
+struct PublisherModel;
+
 /// Serves any local model; the model classes override what differs. Holds no publisher data: each call reads
 /// the file or asks the service anew, over a connection of its own. An exchange blocks until the service
 /// answers or closes.
@@ -97,7 +99,7 @@ public:
     CString GetDeviceInfo(LPCTSTR szPublisherRegistID, DWORD dwInfoType, DWORD* pdwResultCode) override;
     int GetCommunicateJobCount(LPCTSTR szPublisherRegistID) override;
 
-    // What a model can do
+    // What a model can do, by its row of the table
 
     virtual bool IsSupportPublishMode(UINT uiPublishMode);
     virtual bool IsSupportDiscType(UINT uiDiscType);
@@ -177,6 +179,9 @@ protected:
     void WriteModeKeys(LPCTSTR szPublisherRegistID, const PUBLISHERINFO& sPublisherInfo) const;
 
 private:
+    /// The row of GetPublisherMgrType().
+    const PublisherModel& Model();
+
     bool QueryFourValues(ULONG ulControlID, LPCTSTR szPublisherRegistID, ULONG* pulValue1, ULONG* pulValue2,
                          ULONG* pulValue3, ULONG* pulValue4, long* pResultCode);
     bool QueryJobs(LPCTSTR szPublisherRegistID, ULONG ulSubParam, bool bMayBeEmpty,

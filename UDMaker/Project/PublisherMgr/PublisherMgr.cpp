@@ -1,44 +1,20 @@
 // Which implementation serves a publisher.
 #include "PublisherMgr.h"
 
-#include "300IIBDPublisherMgr.h"
-#include "300IIDVDPublisherMgr.h"
-#include "300IIIBDPublisherMgr.h"
-#include "300IIIBDXLPublisherMgr.h"
-#include "300IIIDVDPublisherMgr.h"
-#include "300MODPublisherMgr.h"
-#include "30BDAPublisherMgr.h"
-#include "30BDPublisherMgr.h"
-#include "30IIBDXLPublisherMgr.h"
-#include "30IIPublisherMgr.h"
-#include "APPublisherMgr.h"
-#include "BasicPublisherMgr.h"
 #include "DeviceKey.h"
 #include "InstallPaths.h"
-#include "NetworkPublisherMgr.h"
+#include "ModelTable.h"
 #include "ReadPass.h"
 #include "RegUtility.h"
-#include "SDPublisherMgr.h"
 #include "SettingFile.h"
 #include "Win_def_log.h"
 
 CPublisherMgr::CPublisherMgr(bool) : m_strSettingFolder(PUBLISHER_SETTING_DIR)
 {
     constexpr bool bPublisherIDMode = true;
-    m_arrPublisherMgr.Add(new CBasicPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new CNetworkPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new CAPPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new CSDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C30BDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C300MODPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C30BDAPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C300IIDVDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C300IIBDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C30IIPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C300IIIDVDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C300IIIBDPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C300IIIBDXLPublisherMgr(bPublisherIDMode, m_strSettingFolder));
-    m_arrPublisherMgr.Add(new C30IIBDXLPublisherMgr(bPublisherIDMode, m_strSettingFolder));
+    for (const PublisherModel& model : PublisherModels()) {
+        m_arrPublisherMgr.Add(model.pCreate(bPublisherIDMode, m_strSettingFolder).release());
+    }
 }
 
 CPublisherMgr::~CPublisherMgr()
@@ -108,35 +84,8 @@ UINT CPublisherMgr::GetPublisherDevType(LPCTSTR szPublisherRegistID)
     if (uiConnectType != PUBMGR_CONNECTTYPE_LOCAL) {
         return PUBMGR_PUBLISHERTYPE_BASIC;
     }
-    const DWORD dwDPType = GetLocalDeviceDPType(szPublisherRegistID);
-    switch (dwDPType) {
-    case REG_PUB_DEVICE_DPTYPE_AP:
-        return PUBMGR_PUBLISHERTYPE_AP;
-    case REG_PUB_DEVICE_DPTYPE_SD:
-        return PUBMGR_PUBLISHERTYPE_SD;
-    case REG_PUB_DEVICE_DPTYPE_30BD:
-        return PUBMGR_PUBLISHERTYPE_30BD;
-    case REG_PUB_DEVICE_DPTYPE_300MOD:
-        return PUBMGR_PUBLISHERTYPE_300MOD;
-    case REG_PUB_DEVICE_DPTYPE_30BDA:
-        return PUBMGR_PUBLISHERTYPE_30BDA;
-    case REG_PUB_DEVICE_DPTYPE_300II: // without a drive class the family stands for its Blu-ray model
-        return PUBMGR_PUBLISHERTYPE_300II_BD;
-    case REG_PUB_DEVICE_DPTYPE_30II:
-        return PUBMGR_PUBLISHERTYPE_30II;
-    case REG_PUB_DEVICE_DPTYPE_300III:
-        return PUBMGR_PUBLISHERTYPE_300III_BD;
-    case PUBMGR_PUBLISHERTYPE_300MOD:
-    case PUBMGR_PUBLISHERTYPE_300II_DVD:
-    case PUBMGR_PUBLISHERTYPE_300II_BD:
-    case PUBMGR_PUBLISHERTYPE_300III_DVD:
-    case PUBMGR_PUBLISHERTYPE_300III_BD:
-    case PUBMGR_PUBLISHERTYPE_30II_BDXL:
-    case PUBMGR_PUBLISHERTYPE_300III_BDXL:
-        return dwDPType;
-    default:
-        return PUBMGR_PUBLISHERTYPE_BASIC;
-    }
+    const PublisherModel* pModel = FindModelOfDevice(GetLocalDeviceDPType(szPublisherRegistID));
+    return pModel != nullptr ? pModel->uiType : UINT{PUBMGR_PUBLISHERTYPE_BASIC};
 }
 
 UINT CPublisherMgr::GetNPType(LPCTSTR lpszPublisherRegistID)

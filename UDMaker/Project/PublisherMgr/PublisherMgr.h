@@ -5,6 +5,8 @@
 
 #include <string>
 
+struct PublisherModel;
+
 /// Finds out from a regist id which implementation serves a publisher, and keeps the store of setting files.
 /// Nothing of a publisher is kept between calls: each reads the setting file and the registry again, unless
 /// the thread holds a ReadPass. Safe for several threads at once. The operations that ask a device block
@@ -155,7 +157,8 @@ public:
 private:
     std::string SettingFilePath(LPCTSTR szPublisherRegistID) const;
     bool IsCorrectName(LPCTSTR szPublisherRegistID);
-    bool IsExistDPType(DWORD dwDPType);
+    /// Whether the device key of a registered publisher, of either connection type, records such a model.
+    bool IsExistModel(bool (*pMatches)(const PublisherModel& model));
 
     CString m_strSettingFolder;
     CArray<IPublisherMgr*, IPublisherMgr*> m_arrPublisherMgr; // owned; never changes after construction

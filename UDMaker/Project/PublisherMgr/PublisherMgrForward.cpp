@@ -1,6 +1,7 @@
 // Operations of the facade that one implementation carries out.
 #include "PublisherMgr.h"
 
+#include "ModelTable.h"
 #include "Win_def_log.h"
 
 bool CPublisherMgr::UpdatePublishMode(LPCTSTR szPublisherRegistID, const PUBLISHERINFO* psPublisherInfo,
@@ -236,7 +237,8 @@ bool CPublisherMgr::SetServiceUpdateErrorDiscContinueCount(long* pResultCode, LP
     EnumRegistedPublisher(&arrIDs);
     bool bResult = false;
     for (const CString& strID : arrIDs) {
-        if (GetLocalDeviceDPType(strID.c_str()) == REG_PUB_DEVICE_DPTYPE_30BDA) {
+        const PublisherModel* pModel = FindModelOfDevice(GetLocalDeviceDPType(strID.c_str()));
+        if (pModel != nullptr && pModel->MeasuresErrorRates()) {
             bResult = pPubMgr->SetServiceUpdateErrorDiscContinueCount(pResultCode, strID.c_str());
         }
     }

@@ -1,6 +1,7 @@
 // The store of publisher setting files.
 #include "PublisherMgr.h"
 
+#include "ModelTable.h"
 #include "ReadPass.h"
 #include "SettingFile.h"
 #include "Win_def_log.h"
@@ -195,26 +196,25 @@ bool CPublisherMgr::IsExistLocalPublisher()
     return false;
 }
 
-bool CPublisherMgr::IsExistDPType(DWORD dwDPType)
+bool CPublisherMgr::IsExistModel(bool (*pMatches)(const PublisherModel& model))
 {
     CStringArray arrIDs;
     EnumRegistedPublisher(&arrIDs);
     for (const CString& strID : arrIDs) {
-        if (GetLocalDeviceDPType(strID.c_str()) == dwDPType) {
+        const PublisherModel* pModel = FindModelOfDevice(GetLocalDeviceDPType(strID.c_str()));
+        if (pModel != nullptr && pMatches(*pModel)) {
             return true;
         }
     }
     return false;
 }
 
-// Both ask for the family as the service records it, not for the model value.
-
 bool CPublisherMgr::IsExistArchiveDiscFunctionPublisher()
 {
-    return IsExistDPType(REG_PUB_DEVICE_DPTYPE_30BDA);
+    return IsExistModel([](const PublisherModel& model) { return model.bArchiveDiscs; });
 }
 
 bool CPublisherMgr::IsExistErrorRateFunctionPublisher()
 {
-    return IsExistDPType(REG_PUB_DEVICE_DPTYPE_30BDA);
+    return IsExistModel([](const PublisherModel& model) { return model.MeasuresErrorRates(); });
 }

@@ -19,18 +19,3 @@ CString CSDPublisherMgr::GetSupportWriteSpeedString(LPCTSTR szPublisherRegistID,
     }
     return strSpeeds;
 }
-
-bool CSDPublisherMgr::IsSupportPublishMode(UINT uiPublishMode)
-{
-    return uiPublishMode == PUBMGR_PUBLISHMODE_NORMAL || uiPublishMode == PUBMGR_PUBLISHMODE_LOWVOLUME;
-}
-
-bool CSDPublisherMgr::IsSupportUseDrive()
-{
-    return false;
-}
-
-bool CSDPublisherMgr::IsSupportStacker4()
-{
-    return false;
-}

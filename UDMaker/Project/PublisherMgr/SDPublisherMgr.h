@@ -11,7 +11,4 @@ public:
     UINT GetPublisherMgrType() override;
     /// Answers for drive 1 alone.
     CString GetSupportWriteSpeedString(LPCTSTR szPublisherRegistID, UINT uiDrive) override;
-    bool IsSupportPublishMode(UINT uiPublishMode) override;
-    bool IsSupportUseDrive() override;
-    bool IsSupportStacker4() override;
 };
