@@ -1,7 +1,7 @@
 #include "RowTexts.h"
 
+#include "ModelTable.h"
 #include "NW_Com_LibConst.h"
-#include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
 #include "SystemCalls.h"
 
@@ -48,28 +48,12 @@ StatusDecision decideStatus(const StatusFacts& facts)
 
 QString modelText(UINT devType, UINT netPublisherType)
 {
-    switch (devType) {
-    case PUBMGR_PUBLISHERTYPE_300III_DVD:
-    case PUBMGR_PUBLISHERTYPE_300III_BD:
-        return QStringLiteral("RT-300III");
-    case PUBMGR_PUBLISHERTYPE_300III_BDXL:
-        return QStringLiteral("RT-300III (BD-XL)");
-    case PUBMGR_PUBLISHERTYPE_30II:
-        return QStringLiteral("RT-30II");
-    case PUBMGR_PUBLISHERTYPE_30II_BDXL:
-        return QStringLiteral("RT-30II (BD-XL)");
-    case PUBMGR_PUBLISHERTYPE_NETWORK:
-        if (netPublisherType == PUBMGR_NPTYPE_300NII) {
-            return QStringLiteral("RT-300NII");
-        }
-        if (netPublisherType == PUBMGR_NPTYPE_300NII_BDXL) {
-            return QStringLiteral("RT-300NII (BD-XL)");
-        }
-        break;
-    default:
-        break;
+    const PublisherModel* model = FindModel(devType);
+    if (model && model->family == ModelFamily::network) {
+        const NetworkModel* server = FindNetworkModel(netPublisherType);
+        return QString::fromLatin1(server ? server->szName : model->szName);
     }
-    return QStringLiteral("N/A");
+    return model ? QString::fromLatin1(model->szName) : QStringLiteral("N/A");
 }
 
 QString jobCountText(int count)

@@ -1,7 +1,5 @@
 #include "StackerRules.h"
 
-#include "PubMgrConst.h"
-
 namespace {
 
 StackerDemand normalDemand(ModelFamily family)
@@ -27,24 +25,27 @@ StackerDemand outputDemand(ModelFamily family, bool stacker3Changed)
 
 ModelFamily modelFamily(UINT modelType)
 {
-    switch (modelType) {
-    case PUBMGR_PUBLISHERTYPE_300III_BD:
-    case PUBMGR_PUBLISHERTYPE_300III_BDXL:
-        return ModelFamily::rt300;
-    case PUBMGR_PUBLISHERTYPE_30II:
-    case PUBMGR_PUBLISHERTYPE_30II_BDXL:
-        return ModelFamily::rt30;
-    case PUBMGR_PUBLISHERTYPE_NETWORK:
-        return ModelFamily::network;
-    default:
-        return ModelFamily::unknown;
-    }
+    const PublisherModel* model = FindModel(modelType);
+    return model ? model->family : ModelFamily::unknown;
+}
+
+UINT modelSetUpAs(UINT modelType)
+{
+    const PublisherModel* model = FindModel(modelType);
+    return model ? model->uiSetUpAs : modelType;
 }
 
 bool writesBdXl(UINT modelType, UINT netPublisherType)
 {
-    return modelType == PUBMGR_PUBLISHERTYPE_300III_BDXL || modelType == PUBMGR_PUBLISHERTYPE_30II_BDXL ||
-           netPublisherType == PUBMGR_NPTYPE_300NII_BDXL;
+    const PublisherModel* model = FindModel(modelType);
+    const NetworkModel* server = FindNetworkModel(netPublisherType);
+    return (model && model->WritesBDXL()) || (server && server->bWritesBDXL);
+}
+
+bool showsDrive2Version(UINT modelType)
+{
+    const PublisherModel* model = FindModel(modelType);
+    return !model || model->bShowsDrive2Version;
 }
 
 const char* stackerPicture(UINT publishMode, ModelFamily family, bool usesStacker3)

@@ -1,24 +1,21 @@
 // What the publish mode and the model mean for the stackers of a publisher.
 #pragma once
 
-#include "Win_def.h"
+#include "ModelTable.h"
 
 #include <optional>
-
-/// Models that are set up alike.
-enum class ModelFamily
-{
-    rt300,   ///< two drives, stacker 3
-    rt30,    ///< one drive, no stacker 3, no batch mode
-    network, ///< behind a server; its settings are only looked at
-    unknown
-};
 
 /// `modelType` is an enPublisherType.
 ModelFamily modelFamily(UINT modelType);
 
+/// The model as which the property dialog shows this one: itself, or one of its family.
+UINT modelSetUpAs(UINT modelType);
+
 /// Whether the drives write BD-R XL. `netPublisherType` is an enNetworkPublisherType.
 bool writesBdXl(UINT modelType, UINT netPublisherType);
+
+/// Whether the property dialog fills in the version of drive 2.
+bool showsDrive2Version(UINT modelType);
 
 /// The resource with the picture of the discs' way, or null for a mode that has none. `usesStacker3` counts
 /// where a stacker 3 can be chosen.

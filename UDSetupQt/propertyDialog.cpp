@@ -137,10 +137,8 @@ void propertyDialogEx::fillContent(const PUBLISHERINFO& info, BOOL bConnection)
     const WaitCursor cursor;
     m_info = info;
     propertyTab->setCurrentIndex(0);
-    m_modelType = static_cast<int>(m_cPubMgr.GetPublisherDevType(m_info.strPublisherRegistID.c_str()));
-    if (m_modelType == PUBMGR_PUBLISHERTYPE_300III_DVD) {
-        m_modelType = PUBMGR_PUBLISHERTYPE_300III_BD;
-    }
+    const UINT modelType = m_cPubMgr.GetPublisherDevType(m_info.strPublisherRegistID.c_str());
+    m_modelType = static_cast<int>(modelSetUpAs(modelType));
     adaptToModel();
     fillIdentity();
     selectStoredStackers();
@@ -317,7 +315,7 @@ void propertyDialogEx::updateVersion(bool bMaint, const PUBLISHERMAINTENANCEINFO
         nameAndVersion(infoVersion.strDrive1ModelName, infoVersion.strDrive1Version));
     labelSSSVersionValue->setText(QString::fromStdString(infoVersion.strSSSVersion));
     labelUDNAVersionValue->setText(QString::fromStdString(infoVersion.strUDNAVersion));
-    if (m_modelType != PUBMGR_PUBLISHERTYPE_30II) {
+    if (showsDrive2Version(m_modelType)) {
         labelDrive2VersionValue->setText(
             nameAndVersion(infoVersion.strDrive2ModelName, infoVersion.strDrive2Version));
     }

@@ -63,6 +63,22 @@ TEST(BdXl, TheDriveClassOrTheServerTells)
     }
 }
 
+TEST(ModelSetUpAs, TheDvdModelIsSetUpAsTheBluRayModelOfItsFamily)
+{
+    EXPECT_EQ(modelSetUpAs(0x10000009), 0x20000009u);
+    for (const UINT modelType : {0u, 1u, 2u, 8u, 0x10000007u, 0x20000009u, 0x30000008u, 0x30000009u, 9u}) {
+        EXPECT_EQ(modelSetUpAs(modelType), modelType);
+    }
+}
+
+TEST(Drive2Version, OneModelAloneLeavesItOut)
+{
+    EXPECT_FALSE(showsDrive2Version(8));
+    for (const UINT modelType : {0u, 1u, 2u, 0x20000009u, 0x30000008u, 0x30000009u, 9u}) {
+        EXPECT_TRUE(showsDrive2Version(modelType)) << modelType;
+    }
+}
+
 TEST(StackerPicture, EveryModeHasItsPicture)
 {
     constexpr bool use = true;
