@@ -153,7 +153,9 @@ TEST(ModelTable, DrivesFollowTheFamily)
 {
     const int drivesOfFamily[] = {2, 2, 0, 1, 1, 2, 1, 2, 1, 2};
     for (const PublisherModel& model : PublisherModels()) {
-        EXPECT_EQ(model.nDrives, drivesOfFamily[model.uiType & 0xF]) << model.uiType;
+        const UINT family = model.uiType & 0xF;
+        ASSERT_LT(family, std::size(drivesOfFamily));
+        EXPECT_EQ(model.nDrives, drivesOfFamily[family]) << model.uiType;
     }
 }
 
