@@ -19,7 +19,7 @@ std::set<std::string> options()
     std::set<std::string> found;
     for (const char* const name :
          {"ForgetCommand.cpp", "RecordCommand.cpp", "RunCommand.cpp", "TellCommand.cpp", "main.cpp"}) {
-        const std::string text = ReadText(std::string(UDSIM_SOURCES) + "/" + name);
+        const std::string text = ReadText(std::string(UDSIM_SOURCES) + "/command/" + name);
         for (std::sregex_iterator it(text.begin(), text.end(), literal); it != std::sregex_iterator(); ++it) {
             found.insert((*it)[1]);
         }
