@@ -1,10 +1,10 @@
 // udsim forget SCENARIO: removes the publishers that a room of this scenario registered.
 #include <sys/socket.h>
 
-#include "Control.h"
-#include "Installation.h"
+#include "InstallationFiles.h"
 #include "Sockets.h"
 #include "Subcommands.h"
+#include "TellSocket.h"
 
 namespace udsim {
 
@@ -19,7 +19,7 @@ int forgetScenario(const Arguments& arguments)
     if (!scenario) {
         return failure(error);
     }
-    if (isServed(SOCK_STREAM, DEFAULT_CONTROL)) {
+    if (isServed(SOCK_STREAM, DEFAULT_TELL_SOCKET)) {
         return failure("a udsim is running; end it first");
     }
     std::vector<std::string> removed;

@@ -36,17 +36,17 @@ public:
     /// A socket in the service's place; not open, with the reason, when it cannot be taken.
     Descriptor take(std::string& error)
     {
-        if (isServed(SOCK_STREAM, CONTROL_SOCKET)) {
-            if (::rename(CONTROL_SOCKET, aside().c_str()) != 0) {
-                error = std::string(CONTROL_SOCKET) + ": " + std::strerror(errno);
+        if (isServed(SOCK_STREAM, SERVICE_SOCKET)) {
+            if (::rename(SERVICE_SOCKET, aside().c_str()) != 0) {
+                error = std::string(SERVICE_SOCKET) + ": " + std::strerror(errno);
                 return {};
             }
         } else if (!isServed(SOCK_STREAM, aside())) { // a recorder that was killed leaves it there
-            error = "no service listens at " + std::string(CONTROL_SOCKET);
+            error = "no service listens at " + std::string(SERVICE_SOCKET);
             return {};
         }
         m_taken = true;
-        Descriptor bound = bindUnix(SOCK_STREAM, CONTROL_SOCKET, RIGHTS, error);
+        Descriptor bound = bindUnix(SOCK_STREAM, SERVICE_SOCKET, RIGHTS, error);
         m_ours = whatIsThere();
         return bound;
     }
@@ -64,17 +64,17 @@ public:
             }
             return;
         }
-        ::unlink(CONTROL_SOCKET);
+        ::unlink(SERVICE_SOCKET);
         if (!isServed(SOCK_STREAM, aside())) {
             ::unlink(aside().c_str()); // the service has ended meanwhile
-        } else if (::rename(aside().c_str(), CONTROL_SOCKET) != 0) {
+        } else if (::rename(aside().c_str(), SERVICE_SOCKET) != 0) {
             failure("the service's socket stays at " + aside() + ": " + std::strerror(errno));
         }
     }
 
     static std::string aside()
     {
-        return std::string(CONTROL_SOCKET) + ".recorded";
+        return std::string(SERVICE_SOCKET) + ".recorded";
     }
 
 private:
@@ -84,7 +84,7 @@ private:
     static std::optional<File> whatIsThere()
     {
         struct stat found{};
-        return ::lstat(CONTROL_SOCKET, &found) == 0 ? std::optional(File(found.st_dev, found.st_ino))
+        return ::lstat(SERVICE_SOCKET, &found) == 0 ? std::optional(File(found.st_dev, found.st_ino))
                                                     : std::nullopt;
     }
 
@@ -203,16 +203,16 @@ int replaySession(const Arguments& arguments)
     }
     const sigset_t signals = holdSignals();
     Descriptor listener =
-        ofServer ? listenTcp(*address, error) : bindUnix(SOCK_STREAM, CONTROL_SOCKET, RIGHTS, error);
+        ofServer ? listenTcp(*address, error) : bindUnix(SOCK_STREAM, SERVICE_SOCKET, RIGHTS, error);
     Replay replay(*recording, printLine);
     if (!listener.isOpen() || !replay.start(std::move(listener), error)) {
         return failure(error);
     }
-    note("replaying at " + (ofServer ? address->text() : std::string(CONTROL_SOCKET)) + "; Ctrl-C ends it");
+    note("replaying at " + (ofServer ? address->text() : std::string(SERVICE_SOCKET)) + "; Ctrl-C ends it");
     waitForASignal(signals);
     replay.stop();
     if (!ofServer) {
-        ::unlink(CONTROL_SOCKET);
+        ::unlink(SERVICE_SOCKET);
     }
     note(replay.summary());
     return EXIT_DONE;

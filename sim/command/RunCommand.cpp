@@ -8,10 +8,10 @@
 
 #include <unistd.h>
 
-#include "Control.h"
 #include "Room.h"
 #include "Screen.h"
 #include "Subcommands.h"
+#include "TellSocket.h"
 
 namespace udsim {
 
@@ -139,20 +139,21 @@ int runRoom(const Arguments& arguments)
     const sigset_t signals = holdSignals();
     Display display;
     Room room(*scenario, speed);
-    ControlServer control(room);
+    TellSocket tellSocket(room);
     room.onNote([&display](const std::string& note) { display.print(note); });
-    room.onRecord([&display](const LogRecord& record) {
-        display.print("log " + std::to_string(record.priority) + " " + record.message);
+    room.onLogEntry([&display](const LogEntry& entry) {
+        display.print("log " + std::to_string(entry.priority) + " " + entry.message);
     });
     if (line.has("--requests")) {
         showRequests(room, display);
     }
-    if (!room.start(error) || !control.start(line.value("--control").value_or(DEFAULT_CONTROL), error)) {
+    if (!room.start(error) ||
+        !tellSocket.start(line.value("--control").value_or(DEFAULT_TELL_SOCKET), error)) {
         return failureOfRights(error);
     }
     display.print("udsim: ready");
     waitForTheEnd(signals, room, display);
-    control.stop();
+    tellSocket.stop();
     room.stop();
     if (registersAny(*scenario)) {
         display.print("udsim: its publishers stay registered; to remove them: udsim forget " +

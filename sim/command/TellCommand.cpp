@@ -5,24 +5,24 @@
 
 #include <unistd.h>
 
-#include "Control.h"
 #include "Subcommands.h"
+#include "TellSocket.h"
 
 namespace udsim {
 
 namespace {
 
 /// "service off" concerns no publisher; all others do.
-Order orderOf(const Arguments& words)
+TellRequest tellRequestOf(const Arguments& words)
 {
     const bool forService =
         words.size() == 2 && words[0] == "service" && (words[1] == "on" || words[1] == "off");
-    Order order;
-    order.publisher = forService ? "" : words.front();
+    TellRequest request;
+    request.publisher = forService ? "" : words.front();
     for (size_t i = forService ? 0 : 1; i < words.size(); ++i) {
-        order.command += (order.command.empty() ? "" : " ") + words[i];
+        request.command += (request.command.empty() ? "" : " ") + words[i];
     }
-    return order;
+    return request;
 }
 
 bool fitsALine(const std::string& word)
@@ -48,22 +48,22 @@ int tellRoom(const Arguments& arguments)
     if (!std::all_of(words.begin(), words.end(), fitsALine)) {
         return wrongUsage("a publisher and a command stand on one line");
     }
-    const std::string path = line.value("--control").value_or(DEFAULT_CONTROL);
+    const std::string path = line.value("--control").value_or(DEFAULT_TELL_SOCKET);
     if (::access(path.c_str(), W_OK) != 0 && errno == EACCES) {
         failure("no permission: the udsim at " + path +
                 " takes commands from root and from the user who started it");
         return EXIT_NO_PERMISSION;
     }
     std::string error;
-    const auto answer = sendOrder(path, list ? Order{true, {}, {}} : orderOf(words), error);
-    if (!answer) {
+    const auto reply = sendTellRequest(path, list ? TellRequest{true, {}, {}} : tellRequestOf(words), error);
+    if (!reply) {
         failure(error);
         return EXIT_NOBODY;
     }
-    if (!answer->done) {
-        return failure(answer->text);
+    if (!reply->done) {
+        return failure(reply->text);
     }
-    std::fputs(answer->text.c_str(), stdout);
+    std::fputs(reply->text.c_str(), stdout);
     return EXIT_DONE;
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Models.h"
+#include "MachineModels.h"
 
 namespace udsim {
 

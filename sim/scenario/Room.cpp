@@ -6,14 +6,14 @@
 #include <mutex>
 #include <set>
 
-#include "Answers.h"
+#include "ControlService.h"
 #include "Diary.h"
 #include "HttpServer.h"
-#include "Installation.h"
+#include "InstallationFiles.h"
 #include "JobFile.h"
-#include "JobFolder.h"
+#include "JobInbox.h"
 #include "Protocol.h"
-#include "Server.h"
+#include "ServiceReplies.h"
 
 namespace udsim {
 
@@ -59,7 +59,7 @@ struct Room::State
     const double speed;
     std::function<void(const std::string&)> noteOutput;
     std::function<void(const Request&)> requestOutput;
-    std::function<void(const LogRecord&)> recordOutput;
+    std::function<void(const LogEntry&)> logEntryOutput;
     std::function<void(const HttpRequest&)> httpRequestOutput;
 
     std::mutex lifeMutex; ///< start and stop, one at a time
@@ -72,9 +72,9 @@ struct Room::State
     std::vector<HttpFault> networkFaults;
     std::vector<Request> requests;
     std::deque<HttpRequest> httpRequests; ///< a long one loses its first without moving the others
-    std::vector<LogRecord> records;
+    std::vector<LogEntry> logEntries;
     std::vector<TakenFile> takenFiles;
-    JobFolder jobFolder{JOB_FOLDER};
+    JobInbox jobInbox{JOB_FOLDER};
     std::set<std::string> jobIds; ///< of all job files so far
     std::chrono::milliseconds sinceLook{0};
     Diary diary;
@@ -84,15 +84,15 @@ struct Room::State
     bool open = false;   ///< between start and stop
 
     HttpServer httpServer; ///< both last: their threads use all of the above
-    Server server;
+    ControlService controlService;
 };
 
 Room::State::State(const Scenario& scenario, double timesFaster)
     : speed(timesFaster), world(scenario), faults(scenario.faults), networkFaults(scenario.networkFaults),
       httpServer([this](const HttpRequest& request) { return takeHttpRequest(request); }),
-      server({[this](const Request& request) { return takeRequest(request); },
-              [this](std::string_view datagram) { takeDatagram(datagram); },
-              [this](std::chrono::milliseconds passed) { tick(passed); }})
+      controlService({[this](const Request& request) { return takeRequest(request); },
+                      [this](std::string_view datagram) { takeDatagram(datagram); },
+                      [this](std::chrono::milliseconds passed) { tick(passed); }})
 {
 }
 
@@ -142,7 +142,7 @@ void Room::State::settle(std::vector<std::string>& notes)
             notes.push_back(error);
         }
     }
-    server.setListening(listens());
+    controlService.setListening(listens());
     for (const PublisherServer& one : world.servers()) {
         httpServer.setListening(one.setup().host, one.listening());
     }
@@ -180,7 +180,7 @@ Delivery Room::State::takeRequest(const Request& request)
     alter([&] {
         keep(requests, request);
         Publisher* const publisher = publisherOf(request);
-        const Reply reply = answer(request, publisher, world.publishers(), ++uniqueNumber);
+        const Reply reply = replyTo(request, publisher, world.publishers(), ++uniqueNumber);
         if (request.control == control::NOTIFY_CHANGE && reply.result == result::SUCCESS) {
             rereadSetting(request.publisher, *publisher);
         }
@@ -275,7 +275,7 @@ void Room::State::lookForJobs()
     if (!open || !world.serviceOn()) {
         return;
     }
-    for (const FoundFile& found : jobFolder.take(JobFolder::Clock::now())) {
+    for (const FoundFile& found : jobInbox.take(JobInbox::Clock::now())) {
         TakenFile taken{found.name, {}, found.refusal};
         if (taken.refusal.empty()) {
             taken.refusal = takeJob(found, taken);
@@ -317,13 +317,13 @@ std::string Room::State::takeJob(const FoundFile& found, TakenFile& taken)
 
 void Room::State::takeDatagram(std::string_view datagram)
 {
-    const auto record = parseLogRecord(datagram);
-    if (!record) {
+    const auto entry = parseLogEntry(datagram);
+    if (!entry) {
         return;
     }
-    alter([&] { keep(records, *record); });
-    if (recordOutput) {
-        recordOutput(*record);
+    alter([&] { keep(logEntries, *entry); });
+    if (logEntryOutput) {
+        logEntryOutput(*entry);
     }
 }
 
@@ -367,11 +367,11 @@ bool Room::start(std::string& error)
         hasServers = !state.world.servers().empty();
         listens = state.listens();
     }
-    if (!state.server.start(listens, error)) {
+    if (!state.controlService.start(listens, error)) {
         return false;
     }
     if (hasServers && !state.httpServer.start(hosts, error)) {
-        state.server.stop();
+        state.controlService.stop();
         return false;
     }
     state.alter([&] {
@@ -394,7 +394,7 @@ void Room::stop()
         m_state->connected.clear();
         m_state->diary.forget();
     }
-    m_state->server.stop();
+    m_state->controlService.stop();
     m_state->httpServer.stop();
 }
 
@@ -484,17 +484,17 @@ std::vector<Request> Room::requests() const
     return m_state->requests;
 }
 
-std::vector<LogRecord> Room::agentRecords() const
+std::vector<LogEntry> Room::logEntries() const
 {
     const std::lock_guard lock(m_state->mutex);
-    return m_state->records;
+    return m_state->logEntries;
 }
 
-std::vector<std::string> Room::agentLines() const
+std::vector<std::string> Room::logMessages() const
 {
     std::vector<std::string> lines;
-    for (const LogRecord& record : agentRecords()) {
-        lines.push_back(record.message);
+    for (const LogEntry& entry : logEntries()) {
+        lines.push_back(entry.message);
     }
     return lines;
 }
@@ -507,7 +507,7 @@ std::vector<TakenFile> Room::takenFiles() const
 
 size_t Room::connections() const
 {
-    return m_state->server.connections();
+    return m_state->controlService.connections();
 }
 
 std::optional<PublisherServer> Room::lookAtServer(const std::string& publisher) const
@@ -539,18 +539,18 @@ bool Room::waitForHttpRequests(const std::string& target, size_t count, std::chr
 }
 
 bool Room::waitUntil(
-    const std::function<bool(const std::vector<Request>&, const std::vector<LogRecord>&)>& condition,
+    const std::function<bool(const std::vector<Request>&, const std::vector<LogEntry>&)>& condition,
     std::chrono::milliseconds bound) const
 {
     std::unique_lock lock(m_state->mutex);
     return m_state->changed.wait_for(lock, bound,
-                                     [&] { return condition(m_state->requests, m_state->records); });
+                                     [&] { return condition(m_state->requests, m_state->logEntries); });
 }
 
 bool Room::waitForRequests(uint64_t control, size_t count, std::chrono::milliseconds bound) const
 {
     return waitUntil(
-        [&](const std::vector<Request>& requests, const std::vector<LogRecord>&) {
+        [&](const std::vector<Request>& requests, const std::vector<LogEntry>&) {
             return static_cast<size_t>(
                        std::count_if(requests.begin(), requests.end(),
                                      [&](const Request& one) { return one.control == control; })) >= count;
@@ -579,9 +579,9 @@ void Room::onHttpRequest(std::function<void(const HttpRequest&)> output)
     m_state->httpRequestOutput = std::move(output);
 }
 
-void Room::onRecord(std::function<void(const LogRecord&)> output)
+void Room::onLogEntry(std::function<void(const LogEntry&)> output)
 {
-    m_state->recordOutput = std::move(output);
+    m_state->logEntryOutput = std::move(output);
 }
 
 } // namespace udsim

@@ -12,7 +12,7 @@
 
 #include "Fault.h"
 #include "HttpFault.h"
-#include "LogRecord.h"
+#include "LogEntry.h"
 #include "Publisher.h"
 #include "PublisherServer.h"
 #include "Scenario.h"
@@ -75,10 +75,10 @@ public:
     std::vector<JobProgress> progress() const;
     /// Every request that arrived whole, in order (the last 10,000).
     std::vector<Request> requests() const;
-    /// Every record that the log agent took, in order (the last 10,000).
-    std::vector<LogRecord> agentRecords() const;
-    /// The message texts of agentRecords().
-    std::vector<std::string> agentLines() const;
+    /// Every entry that the log agent took, in order (the last 10,000).
+    std::vector<LogEntry> logEntries() const;
+    /// The message texts of logEntries().
+    std::vector<std::string> logMessages() const;
     /// Every job file that was taken out of the job folder, in order (the last 10,000).
     std::vector<TakenFile> takenFiles() const;
     /// How many connections are open at this moment.
@@ -92,9 +92,9 @@ public:
 
     /// Waits until `condition`, called under the room's lock after every event, holds; false when it does not
     /// within the time. The condition must not call the room.
-    bool waitUntil(
-        const std::function<bool(const std::vector<Request>&, const std::vector<LogRecord>&)>& condition,
-        std::chrono::milliseconds bound) const;
+    bool
+    waitUntil(const std::function<bool(const std::vector<Request>&, const std::vector<LogEntry>&)>& condition,
+              std::chrono::milliseconds bound) const;
     /// Waits until `count` requests of one control have arrived since the start.
     bool waitForRequests(uint64_t control, size_t count,
                          std::chrono::milliseconds bound = std::chrono::seconds(10)) const;
@@ -111,8 +111,8 @@ public:
     void onRequest(std::function<void(const Request&)> output);
     /// The same with requests to publisher servers, on several threads at once.
     void onHttpRequest(std::function<void(const HttpRequest&)> output);
-    /// Called with each record that the log agent took. To be set before start().
-    void onRecord(std::function<void(const LogRecord&)> output);
+    /// Called with each entry that the log agent took. To be set before start().
+    void onLogEntry(std::function<void(const LogEntry&)> output);
 
 private:
     struct State;

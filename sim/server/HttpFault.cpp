@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "Nearest.h"
-#include "ServletRecords.h"
+#include "ServletPayloads.h"
 #include "Text.h"
 
 namespace udsim {

@@ -19,9 +19,9 @@ struct HttpRequest
     std::string target; ///< as it stood in the request line
     std::string version;
     HttpHeaders headers; ///< in the order of their arrival
-    std::string body;    ///< in a room's record only its first `MOST_BODY_KEPT` bytes
+    std::string body;    ///< in what a room keeps only its first `MOST_BODY_KEPT` bytes
     uint64_t bodySize = 0;
-    std::string bodySha1; ///< in a room's record; hexadecimal digits
+    std::string bodySha1; ///< in what a room keeps; hexadecimal digits
 
     static constexpr size_t MOST_BODY_KEPT = 65'536;
 

@@ -9,7 +9,7 @@
 #include "Protocol.h"
 #include "ServerJobText.h"
 #include "ServletNumbers.h"
-#include "Servlets.h"
+#include "ServletReplies.h"
 
 namespace udsim {
 
@@ -169,17 +169,17 @@ uint32_t PublisherServer::registerJob(const std::string& data, bool special)
     return m_uploads.add(m_machine.nextNumber(), data, special).number;
 }
 
-uint8_t PublisherServer::control(uint32_t number, uint32_t action)
+uint8_t PublisherServer::applyAction(uint32_t number, uint32_t action)
 {
     ServerJob* const sending = m_uploads.find(number);
     if (sending != nullptr && !sending->committed) {
-        return controlSending(*sending, action);
+        return applyToSending(*sending, action);
     }
     const Job* const queued = m_machine.byNumber(number);
-    return queued == nullptr ? servlet_status::JOB_ID : controlQueued(*queued, action);
+    return queued == nullptr ? servlet_status::JOB_ID : applyToQueued(*queued, action);
 }
 
-uint8_t PublisherServer::controlSending(ServerJob& job, uint32_t action)
+uint8_t PublisherServer::applyToSending(ServerJob& job, uint32_t action)
 {
     switch (action) {
     case action::COMMIT:
@@ -201,7 +201,7 @@ uint8_t PublisherServer::controlSending(ServerJob& job, uint32_t action)
     }
 }
 
-uint8_t PublisherServer::controlQueued(const Job& job, uint32_t action)
+uint8_t PublisherServer::applyToQueued(const Job& job, uint32_t action)
 {
     switch (action) {
     case action::CANCEL:

@@ -106,11 +106,11 @@ public:
     /// Registers a job; 0: the list is full. `special`: its text has been looked at.
     uint32_t registerJob(const std::string& data, bool special);
     /// Carries out an action on a job, whatever state it is in; a status of the servlets.
-    uint8_t control(uint32_t number, uint32_t action);
+    uint8_t applyAction(uint32_t number, uint32_t action);
 
 private:
-    uint8_t controlSending(ServerJob& job, uint32_t action);
-    uint8_t controlQueued(const Job& job, uint32_t action);
+    uint8_t applyToSending(ServerJob& job, uint32_t action);
+    uint8_t applyToQueued(const Job& job, uint32_t action);
     uint8_t commit(ServerJob& job);
 
     ServerSetup m_setup;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Installation.h"
+#include "InstallationFiles.h"
 #include "JobFile.h"
 #include "Protocol.h"
 #include "PublisherServer.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "Installation.h"
+#include "InstallationFiles.h"
 #include "Publisher.h"
 
 namespace udsim {

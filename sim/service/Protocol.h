@@ -6,7 +6,7 @@
 
 namespace udsim {
 
-inline constexpr char CONTROL_SOCKET[] = "/var/run/arvenUlmarDiscControl.socket";
+inline constexpr char SERVICE_SOCKET[] = "/var/run/arvenUlmarDiscControl.socket";
 inline constexpr char AGENT_SOCKET[] = "/var/run/arvenUlmarDiscControlLog.socket";
 
 inline constexpr size_t REQUEST_SIZE = 408;

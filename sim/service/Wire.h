@@ -36,7 +36,7 @@ std::string inWords(const Request& request);
 /// The header, and the payload behind it.
 std::string encodeReply(const Reply& reply);
 
-/// Writes a record field by field, little-endian, padding included.
+/// Writes a payload field by field, little-endian, padding included.
 class ByteWriter
 {
 public:

@@ -1,8 +1,8 @@
 // The guided maintenance of a network publisher, clicked through in front of its server: what arrives there,
 // and that the dialogs go on whatever becomes of it.
 #include "DialogWalk.h"
-#include "NetworkRoom.h"
 #include "PropertyFixture.h"
+#include "ServerRoom.h"
 
 #include <QRegularExpression>
 #include <QTranslator>
@@ -93,7 +93,7 @@ private:
     /// The job's text, with "moment" in the place of its time, which lay between the two.
     QString sentText(std::time_t notBefore) const;
 
-    std::optional<NetworkRoom> m_room;
+    std::optional<ServerRoom> m_room;
     PropertyStage m_stage;
 };
 

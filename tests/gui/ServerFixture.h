@@ -4,8 +4,8 @@
 #include "Boxes.h"
 #include "MyRunnable.h"
 #include "NW_Com_Lib.h"
-#include "NetworkRoom.h"
 #include "PropertyFixture.h"
+#include "ServerRoom.h"
 #include "Shown.h"
 
 #include <QThreadPool>
@@ -103,6 +103,6 @@ protected:
         return ReadText(Installation::settingFile(id));
     }
 
-    std::optional<NetworkRoom> m_room;
+    std::optional<ServerRoom> m_room;
     std::unique_ptr<PubSetup> m_window;
 };

@@ -1,7 +1,7 @@
 // The program among servers that send without end: it stays small, and the rows of other publishers stay
 // fresh.
-#include "NetworkRoom.h"
 #include "RunningProgram.h"
+#include "ServerRoom.h"
 #include "TcpPeer.h"
 
 #include <algorithm>
@@ -112,7 +112,7 @@ TEST_F(HostileServerTest, CostsLittleAndDelaysNoOther)
         Installation::addNetwork(name, name, "127.0.0." + std::to_string(number));
         ++number;
     }
-    const NetworkRoom room(studio());
+    const ServerRoom room(studio());
     const QString poll = "GET /webapp2/DevStatusGetter?ifversion=02000000&type=5";
     start();
     const QString id = window(mainTitle);

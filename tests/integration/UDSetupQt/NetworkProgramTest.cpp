@@ -1,6 +1,6 @@
 // The program on an X11 display while its threads convert the texts of servers.
-#include "NetworkRoom.h"
 #include "RunningProgram.h"
+#include "ServerRoom.h"
 
 #include <algorithm>
 
@@ -18,10 +18,10 @@ protected:
     }
 
     static constexpr const char* hosts[] = {"127.0.0.11", "127.0.0.12", "127.0.0.13", "127.0.0.14"};
-    NetworkRoom m_room{"[network Studio 1]\nmodel = RT-300NII\njobs = 30\n"
-                       "[network Studio 2]\nmodel = RT-300NII\njobs = 30\n"
-                       "[network Studio 3]\nmodel = RT-300NII\njobs = 30\n"
-                       "[network Studio 4]\nmodel = RT-300NII\njobs = 30\n"};
+    ServerRoom m_room{"[network Studio 1]\nmodel = RT-300NII\njobs = 30\n"
+                      "[network Studio 2]\nmodel = RT-300NII\njobs = 30\n"
+                      "[network Studio 3]\nmodel = RT-300NII\njobs = 30\n"
+                      "[network Studio 4]\nmodel = RT-300NII\njobs = 30\n"};
 };
 
 // Each new window makes the X11 library read the locale of the process on the user-interface thread, without

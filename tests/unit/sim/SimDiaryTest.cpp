@@ -5,7 +5,7 @@
 #include <sys/stat.h>
 
 #include "Diary.h"
-#include "JobFolderFixture.h"
+#include "JobFilesFixture.h"
 #include "RawClient.h"
 #include "RoomFixture.h"
 #include "ServiceLog.h"

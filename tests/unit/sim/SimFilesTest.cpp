@@ -11,7 +11,7 @@
 #include <unistd.h>
 
 #include "RawClient.h"
-#include "RegistryFile.h"
+#include "RegistryKeys.h"
 #include "RoomFixture.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "JobFile.h"
-#include "JobFolderFixture.h"
+#include "JobFilesFixture.h"
 #include "RoomFixture.h"
 
 namespace {

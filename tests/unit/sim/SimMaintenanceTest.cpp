@@ -1,7 +1,7 @@
 // Head cleanings and nozzle checks on their way through a machine, and the changes of its settings.
 #include <gtest/gtest.h>
 
-#include "JobFolderFixture.h"
+#include "JobFilesFixture.h"
 #include "RawClient.h"
 #include "RoomFixture.h"
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-using udsim::parseLogRecord;
+using udsim::parseLogEntry;
 
 constexpr char CONTROL[] = "/var/run/arvenUlmarDiscControl.socket";
 constexpr char AGENT[] = "/var/run/arvenUlmarDiscControlLog.socket";
@@ -38,18 +38,18 @@ void sendDatagram(const std::string& text)
 
 TEST(SimAgent, Records)
 {
-    const auto record = parseLogRecord("MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
+    const auto record = parseLogEntry("MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
     ASSERT_TRUE(record);
     EXPECT_EQ(record->message, "RT300API[42]: hello");
     EXPECT_EQ(record->priority, 4);
     EXPECT_EQ(record->datagram, "MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
-    EXPECT_EQ(parseLogRecord("MESSAGE=a\nPRIORITY=9\nb\nPRIORITY=7\n")->message, "a\nPRIORITY=9\nb");
-    EXPECT_EQ(parseLogRecord("MESSAGE=\nPRIORITY=0")->priority, 0);
+    EXPECT_EQ(parseLogEntry("MESSAGE=a\nPRIORITY=9\nb\nPRIORITY=7\n")->message, "a\nPRIORITY=9\nb");
+    EXPECT_EQ(parseLogEntry("MESSAGE=\nPRIORITY=0")->priority, 0);
     for (const char* const text :
          {"", "MESSAGE=x", "MESSAGE=x\n", "PRIORITY=4\n", "\nPRIORITY=4\n", "PRIORITY=4\nMESSAGE=x\n",
           "MESSAGE=x\nPRIORITY=\n", "MESSAGE=x\nPRIORITY=8\n", "MESSAGE=x\nPRIORITY=-1\n",
           "MESSAGE=x\nPRIORITY=4x\n", "message=x\nPRIORITY=4\n"}) {
-        EXPECT_FALSE(parseLogRecord(text)) << text;
+        EXPECT_FALSE(parseLogEntry(text)) << text;
     }
 }
 
@@ -60,9 +60,9 @@ TEST(SimAgent, CollectsWhatItIsSent)
     sendDatagram("rubbish");
     sendDatagram("MESSAGE=RT300API[1]: two\nPRIORITY=7\n");
     ASSERT_TRUE(
-        open.room.waitUntil([](const auto&, const auto& records) { return records.size() == 2; }, PATIENCE));
-    EXPECT_EQ(open.room.agentLines(), (std::vector<std::string>{"RT300API[1]: one", "RT300API[1]: two"}));
-    EXPECT_EQ(open.room.agentRecords()[1].priority, 7);
+        open.room.waitUntil([](const auto&, const auto& entries) { return entries.size() == 2; }, PATIENCE));
+    EXPECT_EQ(open.room.logMessages(), (std::vector<std::string>{"RT300API[1]: one", "RT300API[1]: two"}));
+    EXPECT_EQ(open.room.logEntries()[1].priority, 7);
 }
 
 TEST(SimRoom, StartsAndStopsCleanly)
@@ -323,7 +323,7 @@ TEST(SimRoom, ManyClientsCommandsAndFaultsAtOnce)
             open.room.setFault(*udsim::Fault::parse("result 1001", error));
             open.room.look("A");
             open.room.requests();
-            open.room.agentLines();
+            open.room.logMessages();
             open.room.clearFaults();
         }
     });

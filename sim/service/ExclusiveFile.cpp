@@ -1,4 +1,4 @@
-#include "LockedFile.h"
+#include "ExclusiveFile.h"
 
 #include <cerrno>
 #include <cstring>
@@ -20,11 +20,12 @@ std::string reason(const std::string& path)
 
 } // namespace
 
-LockedFile::LockedFile(std::string path, Descriptor file) : m_path(std::move(path)), m_file(std::move(file))
+ExclusiveFile::ExclusiveFile(std::string path, Descriptor file)
+    : m_path(std::move(path)), m_file(std::move(file))
 {
 }
 
-std::optional<LockedFile> LockedFile::acquire(const std::string& path, int flags, std::string& error)
+std::optional<ExclusiveFile> ExclusiveFile::acquire(const std::string& path, int flags, std::string& error)
 {
     Descriptor file(::open(path.c_str(), flags | O_CLOEXEC, MODE));
     if (!file.isOpen()) {
@@ -37,10 +38,10 @@ std::optional<LockedFile> LockedFile::acquire(const std::string& path, int flags
             return std::nullopt;
         }
     }
-    return LockedFile(path, std::move(file));
+    return ExclusiveFile(path, std::move(file));
 }
 
-std::optional<std::string> LockedFile::read(std::string& error) const
+std::optional<std::string> ExclusiveFile::read(std::string& error) const
 {
     std::string text;
     char piece[16384];
@@ -60,7 +61,7 @@ std::optional<std::string> LockedFile::read(std::string& error) const
     return std::nullopt;
 }
 
-bool LockedFile::write(const std::string& text, std::string& error) const
+bool ExclusiveFile::write(const std::string& text, std::string& error) const
 {
     size_t written = 0;
     while (written < text.size()) {

@@ -1,4 +1,4 @@
-#include "Installation.h"
+#include "InstallationFiles.h"
 
 #include <cerrno>
 #include <cstring>
@@ -10,9 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "LockedFile.h"
+#include "ExclusiveFile.h"
 #include "Protocol.h"
-#include "RegistryFile.h"
+#include "RegistryKeys.h"
 #include "Text.h"
 
 namespace udsim {
@@ -71,7 +71,7 @@ bool makePrintData(const std::string& name, std::string& error)
     for (size_t i = 0; i < REPETITIONS; ++i) {
         text += "udsim: placeholder for the print data " + name + "\n";
     }
-    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
+    const auto file = ExclusiveFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
     return file && file->write(text, error);
 }
 
@@ -83,7 +83,7 @@ bool makeSettingFile(const std::string& registId, const std::string& text, std::
     if (::stat(path.c_str(), &there) == 0) {
         return true;
     }
-    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
+    const auto file = ExclusiveFile::acquire(path, O_RDWR | O_CREAT | O_EXCL, error);
     return file && file->write(text, error);
 }
 
@@ -184,7 +184,7 @@ std::optional<Setting> readSetting(const std::string& registId)
     if (registId.empty() || registId.find('/') != std::string::npos) {
         return std::nullopt;
     }
-    const auto file = LockedFile::acquire(settingPath(registId), O_RDONLY | O_NONBLOCK, error);
+    const auto file = ExclusiveFile::acquire(settingPath(registId), O_RDONLY | O_NONBLOCK, error);
     const auto text = file ? file->read(error) : std::nullopt;
     if (!text) {
         return std::nullopt;

@@ -1,4 +1,4 @@
-#include "Server.h"
+#include "ControlService.h"
 
 #include <algorithm>
 #include <array>
@@ -23,14 +23,14 @@ constexpr unsigned RIGHTS = 0666;                ///< of the sockets: every user
 
 } // namespace
 
-Server::Server(Handlers handlers) : m_handlers(std::move(handlers)) {}
+ControlService::ControlService(Handlers handlers) : m_handlers(std::move(handlers)) {}
 
-Server::~Server()
+ControlService::~ControlService()
 {
     stop();
 }
 
-bool Server::start(bool listening, std::string& error)
+bool ControlService::start(bool listening, std::string& error)
 {
     const std::lock_guard lock(m_mutex);
     m_wake = Descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
@@ -47,14 +47,14 @@ bool Server::start(bool listening, std::string& error)
     return true;
 }
 
-bool Server::openListener(std::string& error)
+bool ControlService::openListener(std::string& error)
 {
-    m_listener = bindUnix(SOCK_STREAM, CONTROL_SOCKET, RIGHTS, error);
+    m_listener = bindUnix(SOCK_STREAM, SERVICE_SOCKET, RIGHTS, error);
     m_listening = m_listener.isOpen();
     return m_listening;
 }
 
-void Server::stop()
+void ControlService::stop()
 {
     if (!m_thread.joinable()) {
         return;
@@ -73,11 +73,11 @@ void Server::stop()
     m_listening = false;
     m_agent = {};
     m_wake = {};
-    ::unlink(CONTROL_SOCKET);
+    ::unlink(SERVICE_SOCKET);
     ::unlink(AGENT_SOCKET);
 }
 
-void Server::setListening(bool listening)
+void ControlService::setListening(bool listening)
 {
     const std::lock_guard lock(m_mutex);
     if (!m_running || m_listening == listening) {
@@ -95,19 +95,19 @@ void Server::setListening(bool listening)
     wake();
 }
 
-size_t Server::connections() const
+size_t ControlService::connections() const
 {
     const std::lock_guard lock(m_mutex);
     return m_count;
 }
 
-void Server::wake()
+void ControlService::wake()
 {
     const uint64_t one = 1;
     [[maybe_unused]] const ssize_t written = ::write(m_wake.get(), &one, sizeof one);
 }
 
-void Server::run()
+void ControlService::run()
 {
     Clock::time_point lastTick = Clock::now();
     m_nextTick = lastTick + TICK;
@@ -154,7 +154,7 @@ void Server::run()
     }
 }
 
-int Server::pollTimeout(Clock::time_point now) const
+int ControlService::pollTimeout(Clock::time_point now) const
 {
     Clock::time_point next = m_handlers.tick ? m_nextTick : Clock::time_point::max();
     for (const Connection& connection : m_connections) {
@@ -171,7 +171,7 @@ int Server::pollTimeout(Clock::time_point now) const
     return std::max(0, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(next - now).count()));
 }
 
-short Server::eventsOf(const Connection& connection, Clock::time_point now) const
+short ControlService::eventsOf(const Connection& connection, Clock::time_point now) const
 {
     if (!connection.output.empty()) {
         return connection.due <= now ? POLLOUT : 0;
@@ -182,7 +182,7 @@ short Server::eventsOf(const Connection& connection, Clock::time_point now) cons
     return connection.stalled ? POLLRDHUP : POLLIN;
 }
 
-void Server::takeConnections()
+void ControlService::takeConnections()
 {
     const std::lock_guard lock(m_mutex);
     while (m_listening && m_connections.size() < MOST_CONNECTIONS) {
@@ -198,7 +198,7 @@ void Server::takeConnections()
     }
 }
 
-void Server::serve(Connection& connection, short events, Clock::time_point now)
+void ControlService::serve(Connection& connection, short events, Clock::time_point now)
 {
     if ((events & (POLLERR | POLLNVAL)) != 0 || ((events & POLLHUP) != 0 && (events & POLLIN) == 0)) {
         connection.dead = true;
@@ -229,7 +229,7 @@ void Server::serve(Connection& connection, short events, Clock::time_point now)
     }
 }
 
-void Server::receive(Connection& connection)
+void ControlService::receive(Connection& connection)
 {
     std::array<char, MOST_INPUT> piece{};
     const ssize_t count =
@@ -243,7 +243,7 @@ void Server::receive(Connection& connection)
     }
 }
 
-void Server::takeRequest(Connection& connection, Clock::time_point now)
+void ControlService::takeRequest(Connection& connection, Clock::time_point now)
 {
     const Request request = decodeRequest(std::string_view(connection.input).substr(0, REQUEST_SIZE));
     connection.input.erase(0, REQUEST_SIZE);
@@ -254,7 +254,7 @@ void Server::takeRequest(Connection& connection, Clock::time_point now)
     connection.closing = delivery.close;
 }
 
-void Server::transmit(Connection& connection)
+void ControlService::transmit(Connection& connection)
 {
     const ssize_t count =
         ::send(connection.socket.get(), connection.output.data(), connection.output.size(), MSG_NOSIGNAL);
@@ -265,7 +265,7 @@ void Server::transmit(Connection& connection)
     }
 }
 
-void Server::readAgent()
+void ControlService::readAgent()
 {
     std::array<char, 65536> datagram{};
     for (int turn = 0; turn < 64; ++turn) {

@@ -30,11 +30,11 @@ inline const QStringList readingTheRecord =
                              "GET /webapp2/DevInfoIntGetter?ifversion=02000000&type=2",
                              "GET /webapp2/DevInfoIntGetter?ifversion=02000000&type=3"};
 
-class NetworkRoom
+class ServerRoom
 {
 public:
     /// Stops the test program when the room cannot be made. Time stands still in it, but for advance().
-    explicit NetworkRoom(const std::string& text)
+    explicit ServerRoom(const std::string& text)
     {
         std::string error;
         const auto scenario = udsim::Scenario::parse(text, error);
@@ -45,12 +45,12 @@ public:
             qFatal("%s", error.c_str());
         }
     }
-    ~NetworkRoom()
+    ~ServerRoom()
     {
         m_room->stop();
     }
-    NetworkRoom(const NetworkRoom&) = delete;
-    NetworkRoom& operator=(const NetworkRoom&) = delete;
+    ServerRoom(const ServerRoom&) = delete;
+    ServerRoom& operator=(const ServerRoom&) = delete;
 
     udsim::Room* operator->() const
     {

@@ -1,4 +1,4 @@
-// What the log agent takes: key-value lines in one datagram.
+// An entry of the log agent: key-value lines in one datagram.
 #pragma once
 
 #include <optional>
@@ -7,7 +7,7 @@
 
 namespace udsim {
 
-struct LogRecord
+struct LogEntry
 {
     std::string message;
     int priority = 0;     ///< a syslog number
@@ -17,6 +17,6 @@ struct LogRecord
 /// Reads "MESSAGE=...\nPRIORITY=n\n". The message may itself hold line feeds; what stands behind the last
 /// PRIORITY line is not looked at. Nothing when either key is missing or the priority is no number from 0
 /// to 7.
-std::optional<LogRecord> parseLogRecord(std::string_view datagram);
+std::optional<LogEntry> parseLogEntry(std::string_view datagram);
 
 } // namespace udsim

@@ -1,4 +1,4 @@
-// The payloads of the service's answers: records and status bits of one machine.
+// The payloads of the control service's replies: structures and status words of one machine.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +26,7 @@ uint64_t activity(const Publisher& publisher); ///< which parts of the machine a
 /// The stackers that a job's discs come from and go to, each a sum of bits; a cleaning has none.
 std::pair<uint64_t, uint64_t> routeOf(const Publisher& publisher, const Job& job);
 
-/// Records as they travel.
+/// Structures, packed as on the wire.
 std::string jobList(const Publisher& publisher, uint64_t which); ///< `which`: 1 unfinished, 2 ended, 3 both
 std::string inkStatus(const Publisher& publisher);
 std::string driveStatus(const Publisher& publisher);   ///< of two drives, whatever the model has

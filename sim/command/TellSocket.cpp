@@ -1,4 +1,4 @@
-#include "Control.h"
+#include "TellSocket.h"
 
 #include <algorithm>
 #include <chrono>
@@ -15,9 +15,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr unsigned RIGHTS = 0600; ///< whoever runs the room
 constexpr size_t LONGEST_LINE = 4096;
-constexpr size_t LONGEST_ANSWER = 1U << 20;
+constexpr size_t LONGEST_REPLY = 1U << 20;
 constexpr std::chrono::seconds LINE_TIME{5};
-constexpr std::chrono::seconds ANSWER_TIME{10};
+constexpr std::chrono::seconds REPLY_TIME{10};
 constexpr char LIST[] = "list";
 constexpr char TELL[] = "tell\t";
 constexpr char DONE[] = "done\n";
@@ -40,54 +40,54 @@ bool receiveWhole(int socket, std::chrono::milliseconds time, size_t longest, st
 
 } // namespace
 
-std::string Order::line() const
+std::string TellRequest::line() const
 {
     return list ? LIST : TELL + publisher + "\t" + command;
 }
 
-std::optional<Order> Order::parse(const std::string& line)
+std::optional<TellRequest> TellRequest::parse(const std::string& line)
 {
     if (line == LIST) {
-        return Order{true, {}, {}};
+        return TellRequest{true, {}, {}};
     }
     const size_t name = sizeof TELL - 1;
     const size_t tab = line.starts_with(TELL) ? line.find('\t', name) : std::string::npos;
     if (tab == std::string::npos) {
         return std::nullopt;
     }
-    return Order{false, line.substr(name, tab - name), line.substr(tab + 1)};
+    return TellRequest{false, line.substr(name, tab - name), line.substr(tab + 1)};
 }
 
-Answer carryOut(Room& room, const Order& order)
+TellReply carryOut(Room& room, const TellRequest& request)
 {
-    if (!order.list) {
-        Answer answer;
-        answer.done = room.tell(order.publisher, order.command, &answer.text);
-        return answer;
+    if (!request.list) {
+        TellReply reply;
+        reply.done = room.tell(request.publisher, request.command, &reply.text);
+        return reply;
     }
     const std::vector<MachineState> states = room.states();
     size_t widest = 0;
     for (const MachineState& one : states) {
         widest = std::max(widest, columnsOf(one.name));
     }
-    Answer answer{true, {}};
+    TellReply reply{true, {}};
     for (const MachineState& one : states) {
-        answer.text += fit(one.name, widest) + "  " + one.state + "\n";
+        reply.text += fit(one.name, widest) + "  " + one.state + "\n";
     }
-    return answer;
+    return reply;
 }
 
-ControlServer::ControlServer(Room& room)
+TellSocket::TellSocket(Room& room)
     : m_room(room), m_conversations([this](int socket, unsigned) { serve(socket); })
 {
 }
 
-ControlServer::~ControlServer()
+TellSocket::~TellSocket()
 {
     stop();
 }
 
-bool ControlServer::start(const std::string& path, std::string& error)
+bool TellSocket::start(const std::string& path, std::string& error)
 {
     if (isServed(SOCK_STREAM, path)) {
         error = path + ": another udsim takes commands there";
@@ -101,7 +101,7 @@ bool ControlServer::start(const std::string& path, std::string& error)
     return m_conversations.start(std::move(listener), error);
 }
 
-void ControlServer::stop()
+void TellSocket::stop()
 {
     m_conversations.stop();
     if (!m_path.empty()) {
@@ -110,31 +110,32 @@ void ControlServer::stop()
     }
 }
 
-void ControlServer::serve(int socket)
+void TellSocket::serve(int socket)
 {
     std::string line;
     const auto hasEnd = [](const std::string& bytes) { return bytes.find('\n') != std::string::npos; };
     if (!receiveWhole(socket, LINE_TIME, LONGEST_LINE, line, hasEnd)) {
         return;
     }
-    const auto order = Order::parse(line.substr(0, line.find('\n')));
-    const Answer answer = order ? carryOut(m_room, *order) : Answer{false, "not understood"};
-    sendAll(socket, (answer.done ? DONE : REFUSED) + answer.text);
+    const auto request = TellRequest::parse(line.substr(0, line.find('\n')));
+    const TellReply reply = request ? carryOut(m_room, *request) : TellReply{false, "not understood"};
+    sendAll(socket, (reply.done ? DONE : REFUSED) + reply.text);
 }
 
-std::optional<Answer> sendOrder(const std::string& path, const Order& order, std::string& error)
+std::optional<TellReply> sendTellRequest(const std::string& path, const TellRequest& request,
+                                         std::string& error)
 {
     const Descriptor socket = connectUnix(path, error);
     if (!socket.isOpen()) {
         error = "not running: no udsim takes commands at " + error + " (--control names another place)";
         return std::nullopt;
     }
-    sendAll(socket.get(), order.line() + "\n");
-    std::string answer;
-    receiveWhole(socket.get(), ANSWER_TIME, LONGEST_ANSWER, answer, [](const std::string&) { return false; });
+    sendAll(socket.get(), request.line() + "\n");
+    std::string reply;
+    receiveWhole(socket.get(), REPLY_TIME, LONGEST_REPLY, reply, [](const std::string&) { return false; });
     for (const auto& [word, done] : {std::pair(DONE, true), std::pair(REFUSED, false)}) {
-        if (answer.starts_with(word)) {
-            return Answer{done, answer.substr(std::char_traits<char>::length(word))};
+        if (reply.starts_with(word)) {
+            return TellReply{done, reply.substr(std::char_traits<char>::length(word))};
         }
     }
     error = "the udsim at " + path + " does not answer";

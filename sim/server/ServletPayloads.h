@@ -1,4 +1,4 @@
-// The data of the servlets' replies: records and status words of one publisher server.
+// The data of the servlets' replies: structures and status words of one publisher server.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ std::optional<uint32_t> numberInfo(const PublisherServer& server, uint32_t type)
 bool isOfMachine(uint32_t textType);
 /// The data of a device status; nothing for a type that there is not.
 std::optional<std::string> deviceStatus(const PublisherServer& server, uint32_t type);
-/// The record of one job. `extended`: with its remaining time.
-std::string jobRecord(const PublisherServer& server, const Job& job, bool extended);
+/// One job of a list. `extended`: with its remaining time.
+std::string jobPayload(const PublisherServer& server, const Job& job, bool extended);
 
 } // namespace udsim

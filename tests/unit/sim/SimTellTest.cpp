@@ -7,12 +7,12 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "Control.h"
 #include "ProgramProcess.h"
 #include "RoomFixture.h"
+#include "TellSocket.h"
 #include "UnixListener.h"
 
-using udsim::Order;
+using udsim::TellRequest;
 
 namespace {
 
@@ -24,14 +24,14 @@ constexpr char ROOM[] = "[publisher Studio A]\nmodel = RT-30\n[publisher B]\nmod
 class TakingCommands
 {
 public:
-    TakingCommands() : open(ROOM), control(open.room)
+    TakingCommands() : open(ROOM), socket(open.room)
     {
         std::string error;
-        EXPECT_TRUE(control.start(PATH, error)) << error;
+        EXPECT_TRUE(socket.start(PATH, error)) << error;
     }
 
     OpenRoom open;
-    udsim::ControlServer control;
+    udsim::TellSocket socket;
 };
 
 UnixPeer connection()
@@ -53,24 +53,24 @@ std::string rawAnswer(const std::string& bytes)
 
 } // namespace
 
-TEST(SimControl, LinesOfOrders)
+TEST(SimTell, LinesOfRequests)
 {
-    const Order tell{false, "Studio A", "add-job X, copies=2"};
+    const TellRequest tell{false, "Studio A", "add-job X, copies=2"};
     EXPECT_EQ(tell.line(), "tell\tStudio A\tadd-job X, copies=2");
-    const auto parsed = Order::parse(tell.line());
+    const auto parsed = TellRequest::parse(tell.line());
     ASSERT_TRUE(parsed);
     EXPECT_FALSE(parsed->list);
     EXPECT_EQ(parsed->publisher, "Studio A");
     EXPECT_EQ(parsed->command, "add-job X, copies=2");
-    ASSERT_TRUE(Order::parse("list"));
-    EXPECT_TRUE(Order::parse("list")->list);
+    ASSERT_TRUE(TellRequest::parse("list"));
+    EXPECT_TRUE(TellRequest::parse("list")->list);
     for (const char* const line :
          {"", "lists", "tell", "tell\t", "tell\tA", "offline", "\ttell\tA\tonline"}) {
-        EXPECT_FALSE(Order::parse(line)) << line;
+        EXPECT_FALSE(TellRequest::parse(line)) << line;
     }
 }
 
-TEST(SimControl, OrdersInTheRoom)
+TEST(SimTell, RequestsInTheRoom)
 {
     OpenRoom open(ROOM);
     EXPECT_EQ(udsim::carryOut(open.room, {true, {}, {}}).text, "Studio A  ready, 0 waiting\n"
@@ -81,20 +81,20 @@ TEST(SimControl, OrdersInTheRoom)
     EXPECT_EQ(udsim::carryOut(open.room, {true, {}, {}}).text, "Studio A  not connected, 0 waiting\n"
                                                                "B         ready, 1 waiting\n"
                                                                "N         no server\n");
-    const udsim::Answer wrong = udsim::carryOut(open.room, {false, "studio a", "offline"});
+    const udsim::TellReply wrong = udsim::carryOut(open.room, {false, "studio a", "offline"});
     EXPECT_FALSE(wrong.done);
     EXPECT_EQ(wrong.text,
               "no such publisher \"studio a\" (did you mean \"Studio A\"?); there are: \"Studio A\", "
               "\"B\", \"N\"");
 }
 
-TEST(SimControl, EveryCommand)
+TEST(SimTell, EveryCommand)
 {
     TakingCommands taking;
     for (const char* const command : {"offline", "online", "error 19", "clear", "add-job Y, copies=3",
                                       "pause", "resume", "ink cyan 40", "stacker 1 7", "refill"}) {
         std::string error;
-        const auto answer = udsim::sendOrder(PATH, {false, "Studio A", command}, error);
+        const auto answer = udsim::sendTellRequest(PATH, {false, "Studio A", command}, error);
         ASSERT_TRUE(answer) << error;
         EXPECT_TRUE(answer->done) << command << ": " << answer->text;
         EXPECT_EQ(answer->text, "") << command;
@@ -103,20 +103,20 @@ TEST(SimControl, EveryCommand)
     EXPECT_EQ(taking.open.room.look("Studio A")->state().stackers[0].discs, 100U) << "refilled last";
 }
 
-TEST(SimControl, AJobListThatIsFull)
+TEST(SimTell, AJobListThatIsFull)
 {
     TakingCommands taking;
     std::string error;
     for (size_t i = 0; i < udsim::Publisher::MAX_JOBS; ++i) {
-        EXPECT_TRUE(udsim::sendOrder(PATH, {false, "Studio A", "add-job"}, error)->done) << i;
+        EXPECT_TRUE(udsim::sendTellRequest(PATH, {false, "Studio A", "add-job"}, error)->done) << i;
     }
-    const auto refused = udsim::sendOrder(PATH, {false, "Studio A", "add-job"}, error);
+    const auto refused = udsim::sendTellRequest(PATH, {false, "Studio A", "add-job"}, error);
     ASSERT_TRUE(refused);
     EXPECT_FALSE(refused->done);
     EXPECT_EQ(refused->text, "the publisher's job list is full");
 }
 
-TEST(SimControl, WhatIsNoOrder)
+TEST(SimTell, WhatIsNoRequest)
 {
     TakingCommands taking;
     EXPECT_EQ(rawAnswer("sing\n"), "refused\nnot understood");
@@ -126,7 +126,7 @@ TEST(SimControl, WhatIsNoOrder)
     EXPECT_EQ(rawAnswer(std::string(5000, 'x')), "") << "an endless line";
 }
 
-TEST(SimControl, PeersThatSendNothingAreTurnedAway)
+TEST(SimTell, PeersThatSendNothingAreTurnedAway)
 {
     TakingCommands taking;
     std::vector<UnixPeer> silent;
@@ -145,7 +145,7 @@ TEST(SimControl, PeersThatSendNothingAreTurnedAway)
     EXPECT_EQ(answer.find("done\n"), 0U);
 }
 
-TEST(SimControl, StopsWithPeersThatStayOn)
+TEST(SimTell, StopsWithPeersThatStayOn)
 {
     auto taking = std::make_unique<TakingCommands>();
     UnixPeer silent = connection();
@@ -157,20 +157,20 @@ TEST(SimControl, StopsWithPeersThatStayOn)
     EXPECT_FALSE(std::filesystem::exists(PATH));
 }
 
-TEST(SimControl, TheSocketIsItsOwners)
+TEST(SimTell, TheSocketIsItsOwners)
 {
     TakingCommands taking;
     struct stat found{};
     ASSERT_EQ(::stat(PATH, &found), 0);
     EXPECT_EQ(found.st_mode & 0777U, 0600U);
-    udsim::ControlServer second(taking.open.room);
+    udsim::TellSocket second(taking.open.room);
     std::string error;
     EXPECT_FALSE(second.start(PATH, error));
     EXPECT_EQ(error, "/tmp/control.socket: another udsim takes commands there");
     EXPECT_EQ(rawAnswer("list\n").find("done\n"), 0U);
 }
 
-TEST(SimControl, PathsThatCannotBe)
+TEST(SimTell, PathsThatCannotBe)
 {
     OpenRoom open(ROOM);
     std::ofstream("/tmp/precious") << "text";
@@ -182,18 +182,18 @@ TEST(SimControl, PathsThatCannotBe)
          "\"/tmp/" + std::string(103, 'x') + "\": the path of a socket has up to 107 bytes"},
     };
     for (const auto& [path, expected] : table) {
-        udsim::ControlServer control(open.room);
+        udsim::TellSocket socket(open.room);
         std::string error;
-        EXPECT_FALSE(control.start(path, error));
+        EXPECT_FALSE(socket.start(path, error));
         EXPECT_EQ(error, expected);
     }
     EXPECT_EQ(std::filesystem::file_size("/tmp/precious"), 4U);
     { // a socket that was left behind goes
         UnixListener left("/tmp/left");
         left.StopListening();
-        udsim::ControlServer control(open.room);
+        udsim::TellSocket socket(open.room);
         std::string error;
-        EXPECT_TRUE(control.start("/tmp/left", error)) << error;
+        EXPECT_TRUE(socket.start("/tmp/left", error)) << error;
     }
 }
 

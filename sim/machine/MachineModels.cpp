@@ -1,4 +1,4 @@
-#include "Models.h"
+#include "MachineModels.h"
 
 #include <array>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "Records.h"
+#include "ServicePayloads.h"
 
 #include <utility>
 
@@ -284,7 +284,7 @@ std::string maintenanceInfo(const Publisher& publisher)
     ByteWriter out;
     out.u64(printed).u64(MOST_PRINTS);
     if (model.maintenanceBox) {
-        constexpr uint64_t FULL = 100; // percent, of which the record counts what is used
+        constexpr uint64_t FULL = 100; // percent, of which the payload counts what is used
         out.u64(FULL - publisher.state().maintenanceBox).u64(FULL);
     } else {
         out.u64(MAINTENANCE_FIGURE_UNKNOWN).u64(MAINTENANCE_FIGURE_UNKNOWN);

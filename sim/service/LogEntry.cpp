@@ -1,10 +1,10 @@
-#include "LogRecord.h"
+#include "LogEntry.h"
 
 #include "Text.h"
 
 namespace udsim {
 
-std::optional<LogRecord> parseLogRecord(std::string_view datagram)
+std::optional<LogEntry> parseLogEntry(std::string_view datagram)
 {
     constexpr std::string_view MESSAGE = "MESSAGE=";
     constexpr std::string_view PRIORITY = "\nPRIORITY=";
@@ -21,7 +21,7 @@ std::optional<LogRecord> parseLogRecord(std::string_view datagram)
         return std::nullopt;
     }
     const std::string_view message = datagram.substr(MESSAGE.size(), at - MESSAGE.size());
-    return LogRecord{std::string(message), static_cast<int>(*priority), std::string(datagram)};
+    return LogEntry{std::string(message), static_cast<int>(*priority), std::string(datagram)};
 }
 
 } // namespace udsim

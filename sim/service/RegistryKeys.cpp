@@ -1,4 +1,4 @@
-#include "RegistryFile.h"
+#include "RegistryKeys.h"
 
 #include <cerrno>
 #include <vector>
@@ -6,7 +6,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "LockedFile.h"
+#include "ExclusiveFile.h"
 
 namespace udsim {
 
@@ -135,7 +135,7 @@ std::string withoutRegistryKeys(std::string_view fileText, const std::set<std::s
 
 bool writeRegistryKeys(const std::string& path, const RegistryKeys& keys, std::string& error)
 {
-    const auto file = LockedFile::acquire(path, O_RDWR | O_CREAT, error);
+    const auto file = ExclusiveFile::acquire(path, O_RDWR | O_CREAT, error);
     if (!file) {
         return false;
     }
@@ -149,7 +149,7 @@ bool removeRegistryKeys(const std::string& path, const std::set<std::string>& ke
     if (::access(path.c_str(), F_OK) != 0 && errno == ENOENT) {
         return true;
     }
-    const auto file = LockedFile::acquire(path, O_RDWR, error);
+    const auto file = ExclusiveFile::acquire(path, O_RDWR, error);
     const auto text = file ? file->read(error) : std::nullopt;
     if (!text) {
         return false;

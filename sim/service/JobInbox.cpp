@@ -1,4 +1,4 @@
-#include "JobFolder.h"
+#include "JobInbox.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -58,7 +58,7 @@ void read(int folder, FoundFile& found)
         found.refusal = "it is no file";
         return;
     }
-    std::string text(JobFolder::LARGEST + 1, '\0');
+    std::string text(JobInbox::LARGEST + 1, '\0');
     size_t length = 0;
     while (length < text.size()) {
         const ssize_t count = ::read(file.get(), text.data() + length, text.size() - length);
@@ -71,8 +71,8 @@ void read(int folder, FoundFile& found)
         }
         length += count > 0 ? static_cast<size_t>(count) : 0;
     }
-    if (length > JobFolder::LARGEST) {
-        found.refusal = "it is larger than " + std::to_string(JobFolder::LARGEST) + " bytes";
+    if (length > JobInbox::LARGEST) {
+        found.refusal = "it is larger than " + std::to_string(JobInbox::LARGEST) + " bytes";
         return;
     }
     text.resize(length);
@@ -81,7 +81,7 @@ void read(int folder, FoundFile& found)
 
 } // namespace
 
-std::vector<FoundFile> JobFolder::take(Clock::time_point now)
+std::vector<FoundFile> JobInbox::take(Clock::time_point now)
 {
     const std::unique_ptr<DIR, CloseFolder> folder(::opendir(m_path.c_str()));
     if (!folder) {

@@ -1,4 +1,4 @@
-#include "ServletRecords.h"
+#include "ServletPayloads.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <glib.h>
 
 #include "Protocol.h"
-#include "Records.h"
+#include "ServicePayloads.h"
 #include "ServletNumbers.h"
 
 namespace udsim {
@@ -322,21 +322,22 @@ std::optional<std::string> deviceStatus(const PublisherServer& server, uint32_t 
     }
 }
 
-std::string jobRecord(const PublisherServer& server, const Job& job, bool extended)
+std::string jobPayload(const PublisherServer& server, const Job& job, bool extended)
 {
     const auto [sources, destinations] = routeOf(server.machine(), job);
     const std::string person = utf16(job.person, PERSON_FIELD);
     const std::string name = utf16(job.name, NAME_FIELD);
-    std::string record = bigEndian(statusOf(job), 1) + bigEndian(job.factor, 1) + bigEndian(job.copies, 2) +
-                         bigEndian(job.completed, 2);
-    record += bigEndian(person.size(), 1) + padded(person, PERSON_FIELD);
-    record += bigEndian(typeOf(job), 1) + bigEndian(loadOf(sources), 2) + bigEndian(ejectOf(destinations), 2);
-    record += bigEndian(job.rounds() * job.roundTime / 1000, 4) + bigEndian(0, 2); // no error number
-    record += bigEndian(name.size(), 2) + padded(name, NAME_FIELD);
-    record += bigEndian(job.history, 4) + bigEndian(printModeOf(job), 1) +
-              bigEndian(server.setup().serverMode(), 1);
-    record += padded(utf16(job.reference, NAME_FIELD), NAME_FIELD) + bigEndian(job.number, 4);
-    return extended ? record + bigEndian(server.machine().remainingSeconds(job), 4) : record;
+    std::string payload = bigEndian(statusOf(job), 1) + bigEndian(job.factor, 1) + bigEndian(job.copies, 2) +
+                          bigEndian(job.completed, 2);
+    payload += bigEndian(person.size(), 1) + padded(person, PERSON_FIELD);
+    payload +=
+        bigEndian(typeOf(job), 1) + bigEndian(loadOf(sources), 2) + bigEndian(ejectOf(destinations), 2);
+    payload += bigEndian(job.rounds() * job.roundTime / 1000, 4) + bigEndian(0, 2); // no error number
+    payload += bigEndian(name.size(), 2) + padded(name, NAME_FIELD);
+    payload += bigEndian(job.history, 4) + bigEndian(printModeOf(job), 1) +
+               bigEndian(server.setup().serverMode(), 1);
+    payload += padded(utf16(job.reference, NAME_FIELD), NAME_FIELD) + bigEndian(job.number, 4);
+    return extended ? payload + bigEndian(server.machine().remainingSeconds(job), 4) : payload;
 }
 
 } // namespace udsim

@@ -1,11 +1,11 @@
-#include "Servlets.h"
+#include "ServletReplies.h"
 
 #include <algorithm>
 #include <array>
 
 #include "ServerJobText.h"
 #include "ServletNumbers.h"
-#include "ServletRecords.h"
+#include "ServletPayloads.h"
 #include "Text.h"
 
 namespace udsim {
@@ -143,7 +143,7 @@ std::string jobList(const Call& call)
     std::string items;
     for (const Job& job : call.server.machine().jobs()) {
         if (*type == job_list::ALL || job.isEnded() == (*type == job_list::ENDED)) {
-            items += success(jobRecord(call.server, job, *type == job_list::UNFINISHED_EX));
+            items += success(jobPayload(call.server, job, *type == job_list::UNFINISHED_EX));
         }
     }
     return items.empty() ? success() : items;
@@ -156,7 +156,7 @@ std::string controlJob(const Call& call)
     if (!what || *what > action::PRIORITY) {
         return outcome(servlet_status::OTHER);
     }
-    return outcome(number ? call.server.control(*number, *what) : servlet_status::JOB_ID);
+    return outcome(number ? call.server.applyAction(*number, *what) : servlet_status::JOB_ID);
 }
 
 /// By the submitter's id.
@@ -170,8 +170,8 @@ std::string controlByReference(const Call& call)
         return outcome(servlet_status::OTHER);
     }
     return outcome(job == nullptr ? servlet_status::JOB_ID
-                                  : call.server.control(job->number,
-                                                        *what == CANCEL ? action::CANCEL : action::PRIORITY));
+                                  : call.server.applyAction(job->number, *what == CANCEL ? action::CANCEL
+                                                                                         : action::PRIORITY));
 }
 
 std::string uploadInfo(const Call& call)

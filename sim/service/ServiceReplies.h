@@ -1,4 +1,4 @@
-// What the service answers to a request, from the state of the machines.
+// The reply of the control service to each control, from the state of the machines.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace udsim {
 
 /// Carries out one request. `publisher` is the machine that it names, null when it names none or an unknown
 /// one; `all` are the machines of the room; `uniqueNumber` is one that no other request was given.
-Reply answer(const Request& request, Publisher* publisher, const std::vector<Publisher>& all,
-             uint64_t uniqueNumber);
+Reply replyTo(const Request& request, Publisher* publisher, const std::vector<Publisher>& all,
+              uint64_t uniqueNumber);
 
 } // namespace udsim

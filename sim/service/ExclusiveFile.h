@@ -8,12 +8,12 @@
 
 namespace udsim {
 
-class LockedFile
+class ExclusiveFile
 {
 public:
     /// Opens with the flags of open() and takes the lock; nothing, with the reason in `error`, when either
     /// fails.
-    static std::optional<LockedFile> acquire(const std::string& path, int flags, std::string& error);
+    static std::optional<ExclusiveFile> acquire(const std::string& path, int flags, std::string& error);
 
     /// All of it; nothing when it cannot be read or is larger than 64 MiB.
     std::optional<std::string> read(std::string& error) const;
@@ -21,7 +21,7 @@ public:
     bool write(const std::string& text, std::string& error) const;
 
 private:
-    LockedFile(std::string path, Descriptor file);
+    ExclusiveFile(std::string path, Descriptor file);
 
     std::string m_path;
     Descriptor m_file; ///< closing it gives the lock back

@@ -1,4 +1,4 @@
-// The folder in which programs leave job files for the service.
+// Job files that programs leave in the job folder for the service.
 #pragma once
 
 #include <chrono>
@@ -18,7 +18,7 @@ struct FoundFile
     std::string refusal; ///< why it could not be read or removed; else empty
 };
 
-class JobFolder
+class JobInbox
 {
 public:
     using Clock = std::chrono::steady_clock;
@@ -28,7 +28,7 @@ public:
     /// How long a writer may take between the file's creation and its last line.
     static constexpr std::chrono::seconds PATIENCE{3};
 
-    explicit JobFolder(std::string path) : m_path(std::move(path)) {}
+    explicit JobInbox(std::string path) : m_path(std::move(path)) {}
 
     /// Takes out the job files that are there, in the order of their names, through a link that stands in the
     /// folder's place. A file that is not whole stays until its writer's time is over; one that cannot be

@@ -1,4 +1,4 @@
-// The two sockets of the service, and every connection to it, on one thread.
+// The two sockets of the control service, and every connection to it, on one thread.
 #pragma once
 
 #include <chrono>
@@ -16,7 +16,7 @@
 
 namespace udsim {
 
-class Server
+class ControlService
 {
 public:
     struct Handlers
@@ -26,11 +26,11 @@ public:
         std::function<void(std::chrono::milliseconds)> tick; ///< real time since the last one; may be empty
     };
 
-    /// The handlers are called on the server's thread, one at a time.
-    explicit Server(Handlers handlers);
-    Server(const Server&) = delete;
-    Server& operator=(const Server&) = delete;
-    ~Server();
+    /// The handlers are called on the service's thread, one at a time.
+    explicit ControlService(Handlers handlers);
+    ControlService(const ControlService&) = delete;
+    ControlService& operator=(const ControlService&) = delete;
+    ~ControlService();
 
     /// False, with the reason in `error`, when a socket cannot be made or another process listens there.
     bool start(bool listening, std::string& error);

@@ -9,18 +9,18 @@
 #include <unistd.h>
 
 #include "JobFile.h"
-#include "JobFolder.h"
-#include "JobFolderFixture.h"
+#include "JobFilesFixture.h"
+#include "JobInbox.h"
 #include "RoomFixture.h"
 
 namespace {
 
 using udsim::FoundFile;
-using udsim::JobFolder;
+using udsim::JobInbox;
 
 constexpr char PUBLISHER[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\n";
 constexpr char FOLDER[] = "/opt/arven/Ulmar Disc Maker/JOB";
-constexpr JobFolder::Clock::time_point START{};
+constexpr JobInbox::Clock::time_point START{};
 
 /// From here on file modes hold for this process as for everyone's.
 void giveUpPrivileges()
@@ -30,10 +30,10 @@ void giveUpPrivileges()
     ASSERT_EQ(::syscall(SYS_capset, &header, none), 0);
 }
 
-class SimJobFolder : public testing::Test
+class SimJobInbox : public testing::Test
 {
 protected:
-    SimJobFolder()
+    SimJobInbox()
     {
         std::filesystem::create_directory("/tmp/jobs");
     }
@@ -41,7 +41,7 @@ protected:
     std::vector<std::string> taken(std::chrono::milliseconds at = {})
     {
         std::vector<std::string> names;
-        for (const FoundFile& found : m_folder.take(START + at)) {
+        for (const FoundFile& found : m_inbox.take(START + at)) {
             names.push_back(found.name + (found.refusal.empty() ? "" : ": " + found.refusal));
         }
         return names;
@@ -56,14 +56,14 @@ protected:
                std::filesystem::file_type::not_found;
     }
 
-    JobFolder m_folder{"/tmp/jobs"};
+    JobInbox m_inbox{"/tmp/jobs"};
 };
 
 using Names = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(SimJobFolder, FilesInTheOrderOfTheirNames)
+TEST_F(SimJobInbox, FilesInTheOrderOfTheirNames)
 {
     for (const char* const name : {"b_0001.epj", "a_0002.epj", "b_0000.epj", "a_0010.epj"}) {
         put(name);
@@ -73,15 +73,15 @@ TEST_F(SimJobFolder, FilesInTheOrderOfTheirNames)
     EXPECT_EQ(taken(), Names{});
 }
 
-TEST_F(SimJobFolder, TheTextComesByteByByte)
+TEST_F(SimJobInbox, TheTextComesByteByByte)
 {
     put("a.epj", NOZZLE_CHECK);
-    const auto found = m_folder.take(START);
+    const auto found = m_inbox.take(START);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].text, NOZZLE_CHECK);
 }
 
-TEST_F(SimJobFolder, OtherFilesStay)
+TEST_F(SimJobInbox, OtherFilesStay)
 {
     for (const char* const name : {"a.eps", "a.EPJ", "a.epj.tmp", ".epj", ".a.epj", "epj"}) {
         put(name);
@@ -92,7 +92,7 @@ TEST_F(SimJobFolder, OtherFilesStay)
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator("/tmp/jobs"), {}), 7);
 }
 
-TEST_F(SimJobFolder, AWriterHasSomeSecondsToComeToTheEnd)
+TEST_F(SimJobInbox, AWriterHasSomeSecondsToComeToTheEnd)
 {
     using std::chrono::milliseconds;
     const std::string whole = HEAD_CLEANING;
@@ -109,7 +109,7 @@ TEST_F(SimJobFolder, AWriterHasSomeSecondsToComeToTheEnd)
     EXPECT_EQ(taken(milliseconds(3001)), Names{}) << "another file of that name has its own time";
 }
 
-TEST_F(SimJobFolder, SizeIsBounded)
+TEST_F(SimJobInbox, SizeIsBounded)
 {
     put("a.epj", std::string(65'517, 'x') + "\nPrintQuality = 0\n\n");
     put("b.epj", std::string(65'518, 'x') + "\nPrintQuality = 0\n");
@@ -120,7 +120,7 @@ TEST_F(SimJobFolder, SizeIsBounded)
     EXPECT_TRUE(std::filesystem::is_empty("/tmp/jobs"));
 }
 
-TEST_F(SimJobFolder, WhatIsNoFileIsRefused)
+TEST_F(SimJobInbox, WhatIsNoFileIsRefused)
 {
     putFile("/tmp/elsewhere", HEAD_CLEANING);
     std::filesystem::create_symlink("/tmp/elsewhere", "/tmp/jobs/link.epj");
@@ -132,7 +132,7 @@ TEST_F(SimJobFolder, WhatIsNoFileIsRefused)
     EXPECT_EQ(fileText("/tmp/elsewhere"), HEAD_CLEANING);
 }
 
-TEST_F(SimJobFolder, AFileThatNobodyMayRead)
+TEST_F(SimJobInbox, AFileThatNobodyMayRead)
 {
     put("a.epj");
     std::filesystem::permissions("/tmp/jobs/a.epj", std::filesystem::perms::none);
@@ -141,7 +141,7 @@ TEST_F(SimJobFolder, AFileThatNobodyMayRead)
     EXPECT_FALSE(isThere("a.epj"));
 }
 
-TEST_F(SimJobFolder, AFileThatCannotBeRemovedIsReportedOnce)
+TEST_F(SimJobInbox, AFileThatCannotBeRemovedIsReportedOnce)
 {
     put("a.epj");
     std::filesystem::permissions("/tmp/jobs", std::filesystem::perms{0555});
@@ -151,7 +151,7 @@ TEST_F(SimJobFolder, AFileThatCannotBeRemovedIsReportedOnce)
     EXPECT_TRUE(isThere("a.epj"));
 }
 
-TEST_F(SimJobFolder, NoFolderHasNoFiles)
+TEST_F(SimJobInbox, NoFolderHasNoFiles)
 {
     std::filesystem::remove("/tmp/jobs");
     EXPECT_EQ(taken(), Names{});
@@ -160,7 +160,7 @@ TEST_F(SimJobFolder, NoFolderHasNoFiles)
     EXPECT_EQ(taken(), Names{});
 }
 
-TEST_F(SimJobFolder, AnyBytesInAnyFile)
+TEST_F(SimJobInbox, AnyBytesInAnyFile)
 {
     std::mt19937 random(7); // NOLINT: the same bytes every time
     for (int file = 0; file < 300; ++file) {
@@ -170,7 +170,7 @@ TEST_F(SimJobFolder, AnyBytesInAnyFile)
     }
     EXPECT_EQ(taken(), Names{});
     size_t refused = 0;
-    for (const FoundFile& found : m_folder.take(START + JobFolder::PATIENCE)) {
+    for (const FoundFile& found : m_inbox.take(START + JobInbox::PATIENCE)) {
         std::string error;
         refused += udsim::parseJobFile(found.text, error) ? 0 : 1;
     }

@@ -1,7 +1,7 @@
-#include "Answers.h"
+#include "ServiceReplies.h"
 
 #include "Protocol.h"
-#include "Records.h"
+#include "ServicePayloads.h"
 
 namespace udsim {
 
@@ -44,7 +44,7 @@ bool needsNoPublisher(const Request& request)
            request.control == control::GET_UNIQUE_STRING_FOR_ID;
 }
 
-Reply answerForAll(const Request& request, const std::vector<Publisher>& all, uint64_t uniqueNumber)
+Reply replyForAll(const Request& request, const std::vector<Publisher>& all, uint64_t uniqueNumber)
 {
     switch (request.control) {
     case control::GET_JOB_NUM:
@@ -57,7 +57,7 @@ Reply answerForAll(const Request& request, const std::vector<Publisher>& all, ui
 }
 
 /// What only the device itself knows, and so nobody while it is not connected.
-Reply answerOfDevice(const Request& request, const Publisher& publisher)
+Reply replyOfDevice(const Request& request, const Publisher& publisher)
 {
     if (!publisher.connected()) {
         return failure(request, result::OFFLINE);
@@ -74,7 +74,7 @@ Reply answerOfDevice(const Request& request, const Publisher& publisher)
     }
 }
 
-Reply answerPrecision(const Request& request, const Publisher& publisher)
+Reply precisionReply(const Request& request, const Publisher& publisher)
 {
     // The oldest models cannot tell.
     return publisher.model().maintenanceBox ? number(request, publisher.model().highPrecision ? 1 : 0)
@@ -104,7 +104,7 @@ uint64_t carryOut(const Request& request, Publisher& publisher)
     }
 }
 
-Reply answerOne(const Request& request, Publisher& publisher, uint64_t uniqueNumber)
+Reply replyForOne(const Request& request, Publisher& publisher, uint64_t uniqueNumber)
 {
     switch (request.control) {
     case control::GET_JOB_STATUS:
@@ -123,7 +123,7 @@ Reply answerOne(const Request& request, Publisher& publisher, uint64_t uniqueNum
     case control::GET_DRV_INFO:
     case control::GET_PRT_INFO:
     case control::GET_MAINTENANCEINFO:
-        return answerOfDevice(request, publisher);
+        return replyOfDevice(request, publisher);
     case control::GET_JOB_NUM:
         return number(request, publisher.unfinishedJobs());
     case control::GET_ESTIMATE_CIRCULATION:
@@ -141,7 +141,7 @@ Reply answerOne(const Request& request, Publisher& publisher, uint64_t uniqueNum
     case control::GET_NOTIFY_STATUS:
         return number(request, activity(publisher));
     case control::GET_ABILITY_PNUM_PRECISION:
-        return answerPrecision(request, publisher);
+        return precisionReply(request, publisher);
     case control::GET_MAINTENANCEBOX_STATUS:
         return number(request, maintenanceBoxStatus(publisher));
     case control::GET_USB_MODE:
@@ -155,17 +155,17 @@ Reply answerOne(const Request& request, Publisher& publisher, uint64_t uniqueNum
 
 } // namespace
 
-Reply answer(const Request& request, Publisher* publisher, const std::vector<Publisher>& all,
-             uint64_t uniqueNumber)
+Reply replyTo(const Request& request, Publisher* publisher, const std::vector<Publisher>& all,
+              uint64_t uniqueNumber)
 {
     if (request.control < control::JOB_STOP || request.control > control::GET_UNIQUE_STRING_FOR_ID) {
         return failure(request, result::INVALID_CONTROL);
     }
     if (publisher != nullptr) {
-        return answerOne(request, *publisher, uniqueNumber);
+        return replyForOne(request, *publisher, uniqueNumber);
     }
     if (request.publisher.empty() && needsNoPublisher(request)) {
-        return answerForAll(request, all, uniqueNumber);
+        return replyForAll(request, all, uniqueNumber);
     }
     return failure(request, result::PUB_NAME);
 }
