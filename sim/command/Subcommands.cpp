@@ -5,11 +5,21 @@
 #include <cstdio>
 #include <cstring>
 
+#include <getopt.h>
 #include <unistd.h>
 
 #include "Nearest.h"
 
 namespace udsim {
+
+namespace {
+
+// What getopt_long() returns; ':' for an option without its value, '?' for any other mistake.
+constexpr int END = -1;
+constexpr int WORD = 1;
+constexpr int OPTION = 2;
+
+} // namespace
 
 int wrongUsage(const std::string& what)
 {
@@ -38,36 +48,50 @@ void printLine(const std::string& line)
 CommandLine::CommandLine(const Arguments& arguments, const std::vector<std::string>& valued,
                          const std::vector<std::string>& flags, bool wordsEnd)
 {
-    bool options = true;
-    for (size_t i = 0; i < arguments.size() && m_mistake.empty(); ++i) {
-        if (options && arguments[i] == "--") {
-            options = false;
-        } else if (options && arguments[i].starts_with("-")) {
-            takeOption(arguments, i, valued, flags);
+    std::vector<std::string> known = valued;
+    known.insert(known.end(), flags.begin(), flags.end());
+    std::vector<option> options;
+    for (const std::string& name : known) {
+        const bool takesValue = options.size() < valued.size();
+        options.push_back({name.c_str() + 2, takesValue ? required_argument : no_argument, nullptr, OPTION});
+    }
+    options.push_back({});
+    std::string program = "udsim";
+    std::vector<char*> words{program.data()};
+    for (const std::string& argument : arguments) {
+        words.push_back(
+            const_cast<char*>(argument.c_str())); // getopt_long() changes none, and their order stays
+    }
+    words.push_back(nullptr);
+    const auto count = static_cast<int>(words.size() - 1);
+    // A word is returned in its place ("-"), or ends the options ("+").
+    const char* const mode = wordsEnd ? "+:" : "-:";
+    optind = 0; // glibc: begins a new command line
+    int at = 1;
+    for (int code = 0; m_mistake.empty(); at = optind) {
+        code = ::getopt_long(count, words.data(), mode, options.data(), nullptr);
+        if (code == END) {
+            break;
+        }
+        if (code == WORD) {
+            m_words.emplace_back(optarg);
         } else {
-            m_words.push_back(arguments[i]);
-            options = options && !wordsEnd;
+            takeOption(words[static_cast<size_t>(at)], code, known);
         }
     }
+    m_words.insert(m_words.end(), words.begin() + optind, words.end() - 1);
 }
 
-void CommandLine::takeOption(const Arguments& arguments, size_t& at, const std::vector<std::string>& valued,
-                             const std::vector<std::string>& flags)
+/// `text` is the argument with the option, `code` what getopt_long() made of it.
+void CommandLine::takeOption(const std::string& text, int code, const std::vector<std::string>& known)
 {
-    const std::string& name = arguments[at];
-    const auto isIn = [&name](const std::vector<std::string>& list) {
-        return std::find(list.begin(), list.end(), name) != list.end();
-    };
-    if (isIn(flags)) {
-        m_options.emplace_back(name, "");
-    } else if (!isIn(valued)) {
-        std::vector<std::string> known = valued;
-        known.insert(known.end(), flags.begin(), flags.end());
+    const std::string name = text.substr(0, text.find('='));
+    if (std::find(known.begin(), known.end(), name) == known.end()) { // abbreviations are no options either
         m_mistake = "unknown option \"" + name + "\"" + suggestion(name, known);
-    } else if (at + 1 == arguments.size()) {
-        m_mistake = "\"" + name + "\" needs a value";
+    } else if (code == OPTION) {
+        m_options.emplace_back(name, optarg == nullptr ? "" : optarg);
     } else {
-        m_options.emplace_back(name, arguments[++at]);
+        m_mistake = "\"" + name + (code == ':' ? "\" needs a value" : "\" takes no value");
     }
 }
 

@@ -39,8 +39,8 @@ void printLine(const std::string& line);
 class CommandLine
 {
 public:
-    /// Both are lists of "--name". Options end with the first word when `wordsEnd`, so that what follows may
-    /// look like one.
+    /// Both are lists of "--name". A value follows its option, or "=" in the same word. Options end with the
+    /// first word when `wordsEnd`, so that what follows may look like one. One thread at a time.
     CommandLine(const Arguments& arguments, const std::vector<std::string>& valued,
                 const std::vector<std::string>& flags, bool wordsEnd = false);
 
@@ -57,8 +57,7 @@ public:
     }
 
 private:
-    void takeOption(const Arguments& arguments, size_t& at, const std::vector<std::string>& valued,
-                    const std::vector<std::string>& flags);
+    void takeOption(const std::string& text, int code, const std::vector<std::string>& known);
 
     std::string m_mistake;
     std::vector<std::pair<std::string, std::string>> m_options;

@@ -67,6 +67,13 @@ TEST(SimProgram, WrongArguments)
         {{SCENARIO, "--speed", "1001"}, "\"--speed\" needs a number above 0 and up to 1000"},
         {{SCENARIO, "--speed", "2x"}, "\"--speed\" needs a number above 0 and up to 1000"},
         {{SCENARIO, "--speed", "nan"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--speed=0"}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--speed="}, "\"--speed\" needs a number above 0 and up to 1000"},
+        {{SCENARIO, "--spede=2"}, "unknown option \"--spede\" (did you mean \"--speed\"?)"},
+        {{SCENARIO, "--spee", "2"}, "unknown option \"--spee\" (did you mean \"--speed\"?)"},
+        {{SCENARIO, "--spee"}, "unknown option \"--spee\" (did you mean \"--speed\"?)"},
+        {{SCENARIO, "--requests=1"}, "\"--requests\" takes no value"},
+        {{SCENARIO, "-xy"}, "unknown option \"-xy\""},
         {{"--check"}, "--check takes one scenario"},
         {{"--check", SCENARIO, SCENARIO}, "--check takes one scenario"},
         {{"--help", "me"}, "--help stands alone"},
@@ -94,6 +101,7 @@ TEST(SimProgram, WrongArguments)
         {{"record", "--server", "h", "--listen", ":80", "x"}, "\":80\" is no ADDRESS[:PORT]"},
         {{"replay"}, "replay needs one recording"},
         {{"replay", "--listen", "a:b", "x"}, "\"a:b\" is no ADDRESS[:PORT]"},
+        {{"replay", "--listen=a:b", "x"}, "\"a:b\" is no ADDRESS[:PORT]"},
     };
     for (const auto& [arguments, expected] : table) {
         const Ended ended = runProgram(UDSIM, arguments);
@@ -148,6 +156,22 @@ TEST(SimProgram, RunsUntilItIsEnded)
         EXPECT_NE(udsim.readToTheEnd().find("udsim: ended\n"), std::string::npos);
         EXPECT_EQ(udsim.wait(), 0);
         EXPECT_FALSE(RawClient().connected());
+    }
+}
+
+TEST(SimProgram, AnOptionAndItsValueInOneWord)
+{
+    putScenario("[publisher A]\nmodel = RT-30\n[event]\nat = 100s\npublisher = A\ndo = error 9\n");
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{SCENARIO, "--speed=1000", "--control=/tmp/here.socket"},
+          std::vector<std::string>{"--speed=1000", "--control=/tmp/here.socket", "--", SCENARIO}}) {
+        Udsim udsim(arguments);
+        udsim.readUntil("udsim: ready\n");
+        udsim.readUntil("A: error 9, 0 waiting\n");
+        const Ended list = runProgram(UDSIM, {"tell", "--control=/tmp/here.socket", "--list"});
+        EXPECT_EQ(list.output, "A  error 9, 0 waiting\n");
+        udsim.signal(SIGTERM);
+        EXPECT_EQ(udsim.wait(), 0);
     }
 }
 
