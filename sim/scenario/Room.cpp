@@ -22,13 +22,14 @@ namespace {
 constexpr size_t MOST_KEPT = 10'000;
 constexpr std::chrono::milliseconds LOOK{100}; ///< between two looks into the job folder
 
-template <class List, class Item>
-void keep(List& list, Item&& item)
+/// Appends to the latest ones.
+template <class Item>
+void keep(std::deque<Item>& latest, Item item)
 {
-    if (list.size() == MOST_KEPT) {
-        list.erase(list.begin());
+    if (latest.size() == MOST_KEPT) {
+        latest.pop_front();
     }
-    list.push_back(std::forward<Item>(item));
+    latest.push_back(std::move(item));
 }
 
 } // namespace
@@ -70,10 +71,10 @@ struct Room::State
     Fault current;               ///< the one that the request at hand meets
     std::vector<bool> connected; ///< as the registry file says
     std::vector<HttpFault> networkFaults;
-    std::vector<Request> requests;
-    std::deque<HttpRequest> httpRequests; ///< a long one loses its first without moving the others
-    std::vector<LogEntry> logEntries;
-    std::vector<TakenFile> takenFiles;
+    std::deque<Request> requests;
+    std::deque<HttpRequest> httpRequests;
+    std::deque<LogEntry> logEntries;
+    std::deque<TakenFile> takenFiles;
     JobInbox jobInbox{JOB_FOLDER};
     std::set<std::string> jobIds; ///< of all job files so far
     std::chrono::milliseconds sinceLook{0};
@@ -481,13 +482,13 @@ std::vector<JobProgress> Room::progress() const
 std::vector<Request> Room::requests() const
 {
     const std::lock_guard lock(m_state->mutex);
-    return m_state->requests;
+    return {m_state->requests.begin(), m_state->requests.end()};
 }
 
 std::vector<LogEntry> Room::logEntries() const
 {
     const std::lock_guard lock(m_state->mutex);
-    return m_state->logEntries;
+    return {m_state->logEntries.begin(), m_state->logEntries.end()};
 }
 
 std::vector<std::string> Room::logMessages() const
@@ -502,7 +503,7 @@ std::vector<std::string> Room::logMessages() const
 std::vector<TakenFile> Room::takenFiles() const
 {
     const std::lock_guard lock(m_state->mutex);
-    return m_state->takenFiles;
+    return {m_state->takenFiles.begin(), m_state->takenFiles.end()};
 }
 
 size_t Room::connections() const
@@ -539,7 +540,7 @@ bool Room::waitForHttpRequests(const std::string& target, size_t count, std::chr
 }
 
 bool Room::waitUntil(
-    const std::function<bool(const std::vector<Request>&, const std::vector<LogEntry>&)>& condition,
+    const std::function<bool(const std::deque<Request>&, const std::deque<LogEntry>&)>& condition,
     std::chrono::milliseconds bound) const
 {
     std::unique_lock lock(m_state->mutex);
@@ -550,7 +551,7 @@ bool Room::waitUntil(
 bool Room::waitForRequests(uint64_t control, size_t count, std::chrono::milliseconds bound) const
 {
     return waitUntil(
-        [&](const std::vector<Request>& requests, const std::vector<LogEntry>&) {
+        [&](const std::deque<Request>& requests, const std::deque<LogEntry>&) {
             return static_cast<size_t>(
                        std::count_if(requests.begin(), requests.end(),
                                      [&](const Request& one) { return one.control == control; })) >= count;

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -93,7 +94,7 @@ public:
     /// Waits until `condition`, called under the room's lock after every event, holds; false when it does not
     /// within the time. The condition must not call the room.
     bool
-    waitUntil(const std::function<bool(const std::vector<Request>&, const std::vector<LogEntry>&)>& condition,
+    waitUntil(const std::function<bool(const std::deque<Request>&, const std::deque<LogEntry>&)>& condition,
               std::chrono::milliseconds bound) const;
     /// Waits until `count` requests of one control have arrived since the start.
     bool waitForRequests(uint64_t control, size_t count,
