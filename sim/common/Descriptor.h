@@ -34,6 +34,12 @@ public:
         return m_fd >= 0;
     }
 
+    /// For an owner who closes it.
+    int release()
+    {
+        return std::exchange(m_fd, -1);
+    }
+
 private:
     int m_fd = -1;
 };

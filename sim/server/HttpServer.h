@@ -1,15 +1,16 @@
-// The addresses at which publisher servers listen, and every connection to them, each on a thread of its own.
+// The addresses at which publisher servers listen, each with a daemon of the HTTP library, and every
+// connection to them, each on a thread of its own.
 #pragma once
 
 #include <cstddef>
 #include <functional>
+#include <future>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <string>
-#include <thread>
 #include <vector>
 
-#include "Descriptor.h"
 #include "HttpFault.h"
 
 struct MHD_Daemon;
@@ -50,20 +51,22 @@ public:
     void connectionClosed(int socket);
 
 private:
-    void acceptConnections();
-    bool openListener(const std::string& address, std::string& error);
+    struct Stop
+    {
+        void operator()(MHD_Daemon* daemon) const;
+    };
+    /// Its end closes its connections and joins their threads.
+    using Daemon = std::unique_ptr<MHD_Daemon, Stop>;
+
+    bool listenAt(const std::string& address, std::string& error);
     void cut(const std::string& address);
-    void wake();
 
     Handler m_handler;
-    MHD_Daemon* m_daemon = nullptr;
-    std::thread m_thread; ///< takes connections
-    Descriptor m_wake;
 
-    mutable std::mutex m_mutex; ///< guards what follows
-    std::map<std::string, Descriptor> m_listeners;
-    std::vector<Descriptor> m_retired;        ///< listeners that are shut down, for the thread to close
-    std::map<int, std::string> m_connections; ///< sockets, and the addresses that they came to
+    mutable std::mutex m_mutex; ///< guards what follows; not held while a daemon ends, whose threads take it
+    std::map<std::string, Daemon> m_daemons;   ///< by the address that each listens at
+    std::vector<std::future<void>> m_stopping; ///< daemons that listen no more
+    std::map<int, std::string> m_connections;  ///< sockets, and the addresses that they came to
     bool m_running = false;
 };
 

@@ -154,6 +154,26 @@ TEST_F(SimNetworkRoom, AServerGoesAndComesBack)
               hex("02 00 00"));
 }
 
+TEST_F(SimNetworkRoom, AServerGoesAndComesBackOftenWithConnectionsThatStall)
+{
+    befall("stall", "/stalled");
+    for (int i = 0; i < 50; ++i) {
+        const HttpClient silent;
+        const HttpClient stalled;
+        ASSERT_TRUE(stalled.send("GET /stalled HTTP/1.1\r\nHost:localhost\r\n\r\n"));
+        ASSERT_TRUE(m_room.waitForHttpRequests("/stalled", static_cast<size_t>(i) + 1));
+        ASSERT_TRUE(m_room.tell("A", "server off"));
+        ASSERT_EQ(HttpClient().error(), ECONNREFUSED) << i;
+        bool ended = false;
+        ASSERT_EQ(stalled.readUntil("", ended), "");
+        ASSERT_TRUE(ended) << i;
+        ASSERT_EQ(silent.readUntil("", ended), "");
+        ASSERT_TRUE(ended) << i;
+        ASSERT_TRUE(m_room.tell("A", "server on"));
+        ASSERT_EQ(bodyOf(HttpClient().ask(MODE)), MODE_BODY) << i;
+    }
+}
+
 TEST_F(SimNetworkRoom, TheRoomEndsWithEverythingOpen)
 {
     befall("stall");
