@@ -89,7 +89,7 @@ protected:
     OpenRoom m_open{STUDIO};
 };
 
-std::string jobRecord(const std::string& id, const std::string& name, uint64_t status)
+std::string jobPayload(const std::string& id, const std::string& name, uint64_t status)
 {
     return Bytes(1088)
         .text(0, id)
@@ -134,12 +134,12 @@ TEST_F(SimControls, EveryJobCommandKnowsItsJobs)
 
 TEST_F(SimControls, JobStatusOfWaitingJobs)
 {
-    std::string first = jobRecord(FIRST_JOB, "Holiday", 1);
+    std::string first = jobPayload(FIRST_JOB, "Holiday", 1);
     first.replace(544, 8, Bytes(8).u64(0, 30).str()); // three discs of ten seconds
     first.replace(552, 8, Bytes(8).u64(0, 30).str());
     first.replace(568, 8, Bytes(8).u64(0, 3).str());
     first.replace(720, 8, Bytes(8).u64(0, 1 + 2).str()); // write and print
-    std::string second = jobRecord(SECOND_JOB, "Labels", 1);
+    std::string second = jobPayload(SECOND_JOB, "Labels", 1);
     second.replace(536, 8, Bytes(8).u64(0, 1).str()); // the second in the list
     second.replace(544, 8, Bytes(8).u64(0, 10).str());
     second.replace(552, 8, Bytes(8).u64(0, 10).str());
@@ -384,18 +384,18 @@ TEST_F(SimControls, MaintenanceBox)
 
 TEST_F(SimControls, MaintenanceInfo)
 {
-    Bytes record(344);
-    record.u64(0, 1200).u64(8, 100'000).u64(16, 23).u64(24, 100).u64(32, 1200);
+    Bytes payload(344);
+    payload.u64(0, 1200).u64(8, 100'000).u64(16, 23).u64(24, 100).u64(32, 1200);
     for (const size_t base : {88U, 184U}) { // drive 1, drive 2
-        record.u64(base, 600).u64(base + 8, 60'000);
-        record.u64(base + 16, 6000)
+        payload.u64(base, 600).u64(base + 8, 60'000);
+        payload.u64(base + 16, 6000)
             .u64(base + 24, 4'000'000)
             .u64(base + 40, 4'000'000)
             .u64(base + 56, 4'000'000);
-        record.u64(base + 64, 6000).u64(base + 72, 4'000'000).u64(base + 88, 8'000'000);
+        payload.u64(base + 64, 6000).u64(base + 72, 4'000'000).u64(base + 88, 8'000'000);
     }
-    record.u64(288, 1).u64(296, 1).u64(304, 1200).text(312, "ABC1234");
-    expectPayload(28, ID, record.str());
+    payload.u64(288, 1).u64(296, 1).u64(304, 1200).text(312, "ABC1234");
+    expectPayload(28, ID, payload.str());
 
     const std::string small = ask(28, "small").payload;
     ASSERT_EQ(small.size(), 344U);

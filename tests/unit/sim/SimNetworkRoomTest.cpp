@@ -1,4 +1,4 @@
-// Publisher servers at their addresses: the wire, the records of what came, and what goes wrong on demand.
+// Publisher servers at their addresses: the wire, the requests that are kept, and what goes wrong on demand.
 #include <fstream>
 #include <sstream>
 

@@ -226,25 +226,25 @@ TEST(SimNetworkServlet, TheRecordOfAJob)
     const std::string reply = server.get(JOBS + "1");
     ASSERT_EQ(reply.size(), 3U + 1178);
     EXPECT_EQ(reply.substr(0, 3), hex("00 04 9a"));
-    const std::string record = reply.substr(3);
-    EXPECT_EQ(bigEndianAt(record, 0, 1), 0U);
-    EXPECT_EQ(bigEndianAt(record, 1, 1), 0U);
-    EXPECT_EQ(bigEndianAt(record, 2, 2), 3U) << "ordered";
-    EXPECT_EQ(bigEndianAt(record, 4, 2), 0U) << "finished";
-    EXPECT_EQ(bigEndianAt(record, 6, 1), 10U);
-    EXPECT_EQ(record.substr(7, 11), hex("75 00 64 00 73 00 69 00 6d 00 00"));
-    EXPECT_EQ(bigEndianAt(record, 135, 1), 2U) << "prints";
-    EXPECT_EQ(bigEndianAt(record, 136, 2), 1U) << "from stacker 1";
-    EXPECT_EQ(bigEndianAt(record, 138, 2), 2U);
-    EXPECT_EQ(bigEndianAt(record, 140, 4), 30U) << "seconds";
-    EXPECT_EQ(bigEndianAt(record, 144, 2), 0U);
-    EXPECT_EQ(bigEndianAt(record, 146, 2), 10U);
-    EXPECT_EQ(record.substr(148, 11), hex("dc 00 62 00 75 00 6e 00 67 00 00"));
-    EXPECT_EQ(bigEndianAt(record, 658, 4), 0U);
-    EXPECT_EQ(bigEndianAt(record, 662, 1), 0U) << "no special print mode";
-    EXPECT_EQ(bigEndianAt(record, 663, 1), 2U) << "the server's mode";
-    EXPECT_EQ(record.substr(664, 10), hex("4c 00 4f 00 43 00 41 00 4c 00")); // LOCAL...
-    EXPECT_EQ(bigEndianAt(record, 1174, 4), 1U);
+    const std::string payload = reply.substr(3);
+    EXPECT_EQ(bigEndianAt(payload, 0, 1), 0U);
+    EXPECT_EQ(bigEndianAt(payload, 1, 1), 0U);
+    EXPECT_EQ(bigEndianAt(payload, 2, 2), 3U) << "ordered";
+    EXPECT_EQ(bigEndianAt(payload, 4, 2), 0U) << "finished";
+    EXPECT_EQ(bigEndianAt(payload, 6, 1), 10U);
+    EXPECT_EQ(payload.substr(7, 11), hex("75 00 64 00 73 00 69 00 6d 00 00"));
+    EXPECT_EQ(bigEndianAt(payload, 135, 1), 2U) << "prints";
+    EXPECT_EQ(bigEndianAt(payload, 136, 2), 1U) << "from stacker 1";
+    EXPECT_EQ(bigEndianAt(payload, 138, 2), 2U);
+    EXPECT_EQ(bigEndianAt(payload, 140, 4), 30U) << "seconds";
+    EXPECT_EQ(bigEndianAt(payload, 144, 2), 0U);
+    EXPECT_EQ(bigEndianAt(payload, 146, 2), 10U);
+    EXPECT_EQ(payload.substr(148, 11), hex("dc 00 62 00 75 00 6e 00 67 00 00"));
+    EXPECT_EQ(bigEndianAt(payload, 658, 4), 0U);
+    EXPECT_EQ(bigEndianAt(payload, 662, 1), 0U) << "no special print mode";
+    EXPECT_EQ(bigEndianAt(payload, 663, 1), 2U) << "the server's mode";
+    EXPECT_EQ(payload.substr(664, 10), hex("4c 00 4f 00 43 00 41 00 4c 00")); // LOCAL...
+    EXPECT_EQ(bigEndianAt(payload, 1174, 4), 1U);
     const std::string extended = server.get(JOBS + "3");
     ASSERT_EQ(extended.size(), 3U + 1182);
     EXPECT_EQ(bigEndianAt(extended, 3 + 1178, 4), 30U);
@@ -259,9 +259,9 @@ TEST(SimNetworkServlet, TextsAreCutAtWholeCharacters)
     udsim::JobSetup job;
     job.name = std::string(254, 'a') + "\xF0\x9F\x92\xBF";
     server.server.machine().addJob(job);
-    const std::string record = server.get(JOBS + "1").substr(3);
-    EXPECT_EQ(bigEndianAt(record, 146, 2), 508U);
-    EXPECT_EQ(record.substr(148 + 506, 4), hex("61 00 00 00"));
+    const std::string payload = server.get(JOBS + "1").substr(3);
+    EXPECT_EQ(bigEndianAt(payload, 146, 2), 508U);
+    EXPECT_EQ(payload.substr(148 + 506, 4), hex("61 00 00 00"));
 }
 
 TEST(SimNetworkServlet, StatusBytesOfJobs)

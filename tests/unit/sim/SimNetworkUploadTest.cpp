@@ -225,12 +225,12 @@ TEST(SimNetworkUpload, ANozzleCheck)
     ASSERT_EQ(net.put("/uploads/" + id + "/PrnData_Special.prn", "abc", credentials), 201U);
     EXPECT_EQ(net.hash(id, "PrnData_Special.prn", ABC_SHA1), 200U);
     EXPECT_EQ(net.control("0", id), 0);
-    const std::string record = net.get("/webapp2/JobInfoGetter?ifversion=02000000&type=1").substr(3);
-    ASSERT_EQ(record.size(), 1178U);
-    EXPECT_EQ(record.substr(148, 18), hex("44 00 fc 00 73 00 65 00 6e 00 74 00 65 00 73 00 74 00"));
-    EXPECT_EQ(record.substr(136, 4), hex("00 01 00 04")) << "from stacker 1 to stacker 4";
-    EXPECT_EQ(record[662], 5) << "print mode";
-    EXPECT_EQ(record.substr(664, 510), std::string(510, '\0')) << "the submitter gave no id";
+    const std::string payload = net.get("/webapp2/JobInfoGetter?ifversion=02000000&type=1").substr(3);
+    ASSERT_EQ(payload.size(), 1178U);
+    EXPECT_EQ(payload.substr(148, 18), hex("44 00 fc 00 73 00 65 00 6e 00 74 00 65 00 73 00 74 00"));
+    EXPECT_EQ(payload.substr(136, 4), hex("00 01 00 04")) << "from stacker 1 to stacker 4";
+    EXPECT_EQ(payload[662], 5) << "print mode";
+    EXPECT_EQ(payload.substr(664, 510), std::string(510, '\0')) << "the submitter gave no id";
     EXPECT_EQ(net.server.machine().jobs().at(0).isNozzleCheck(), true);
 }
 
@@ -248,9 +248,9 @@ TEST(SimNetworkUpload, AHeadCleaning)
     EXPECT_EQ(net.control("0", id), 0);
     net.server.step(50);
     net.server.step(50);
-    const std::string record = net.get("/webapp2/JobInfoGetter?ifversion=02000000&type=1").substr(3);
-    EXPECT_EQ(record.at(662), 4);
-    EXPECT_EQ(record.substr(136, 4), hex("ff ff ff ff"));
+    const std::string payload = net.get("/webapp2/JobInfoGetter?ifversion=02000000&type=1").substr(3);
+    EXPECT_EQ(payload.at(662), 4);
+    EXPECT_EQ(payload.substr(136, 4), hex("ff ff ff ff"));
     EXPECT_EQ(net.get("/webapp2/DevStatusGetter?ifversion=02000000&type=3"), item(hex("00 00 00 10")));
     for (int i = 0; i < 25; ++i) {
         net.server.step(50);

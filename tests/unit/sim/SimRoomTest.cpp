@@ -36,13 +36,13 @@ void sendDatagram(const std::string& text)
 
 } // namespace
 
-TEST(SimAgent, Records)
+TEST(SimAgent, Entries)
 {
-    const auto record = parseLogEntry("MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
-    ASSERT_TRUE(record);
-    EXPECT_EQ(record->message, "RT300API[42]: hello");
-    EXPECT_EQ(record->priority, 4);
-    EXPECT_EQ(record->datagram, "MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
+    const auto entry = parseLogEntry("MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->message, "RT300API[42]: hello");
+    EXPECT_EQ(entry->priority, 4);
+    EXPECT_EQ(entry->datagram, "MESSAGE=RT300API[42]: hello\nPRIORITY=4\n");
     EXPECT_EQ(parseLogEntry("MESSAGE=a\nPRIORITY=9\nb\nPRIORITY=7\n")->message, "a\nPRIORITY=9\nb");
     EXPECT_EQ(parseLogEntry("MESSAGE=\nPRIORITY=0")->priority, 0);
     for (const char* const text :
