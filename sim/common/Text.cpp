@@ -65,8 +65,9 @@ std::optional<uint64_t> parseNumber(std::string_view text, uint64_t highest)
         text.remove_prefix(2);
     }
     uint64_t value = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stopped, failure] = std::from_chars(text.data(), end, value, base);
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
+    const auto [stopped, failure] = std::from_chars(begin, end, value, base);
     if (failure != std::errc() || stopped != end || value > highest) {
         return std::nullopt;
     }

@@ -32,6 +32,19 @@ void keep(std::deque<Item>& latest, Item item)
     latest.push_back(std::move(item));
 }
 
+/// The fault, for one request; it is removed after its last one.
+template <class AnyFault>
+AnyFault takeOnce(std::vector<AnyFault>& faults, typename std::vector<AnyFault>::iterator found)
+{
+    AnyFault fault = *found;
+    if (found->times == 1) {
+        faults.erase(found);
+    } else if (found->times > 1) {
+        --found->times;
+    }
+    return fault;
+}
+
 } // namespace
 
 struct Room::State
@@ -48,7 +61,7 @@ struct Room::State
     void alter(Change&& change);
 
     Publisher* publisherOf(const Request& request);
-    const Fault* faultFor(const Request& request, const Publisher* publisher);
+    std::optional<Fault> faultFor(const Request& request, const Publisher* publisher);
     std::optional<HttpFault> faultFor(const HttpRequest& request, const std::string& publisher);
     void rereadSetting(const std::string& registId, Publisher& publisher);
     bool listens() const;
@@ -68,7 +81,6 @@ struct Room::State
     mutable std::condition_variable changed;
     World world;
     std::vector<Fault> faults;
-    Fault current;               ///< the one that the request at hand meets
     std::vector<bool> connected; ///< as the registry file says
     std::vector<HttpFault> networkFaults;
     std::deque<Request> requests;
@@ -190,7 +202,8 @@ Delivery Room::State::takeRequest(const Request& request)
                                             : publisher->state().shownName) +
                       ": " + printable(text));
         }
-        delivery = deliver(reply, faultFor(request, publisher));
+        const auto fault = faultFor(request, publisher);
+        delivery = deliver(reply, fault ? &*fault : nullptr);
     });
     if (requestOutput) {
         requestOutput(request);
@@ -225,14 +238,13 @@ HttpDelivery Room::State::takeHttpRequest(const HttpRequest& request)
 std::optional<HttpFault> Room::State::faultFor(const HttpRequest& request, const std::string& publisher)
 {
     for (auto fault = networkFaults.begin(); fault != networkFaults.end(); ++fault) {
-        if (!fault->fits(request, publisher) || (fault->after > 0 && fault->after-- > 0)) {
+        if (!fault->fits(request, publisher)) {
             continue;
         }
-        HttpFault found = *fault;
-        if (fault->times > 0 && --fault->times == 0) {
-            networkFaults.erase(fault);
+        if (fault->after == 0) {
+            return takeOnce(networkFaults, fault);
         }
-        return found;
+        --fault->after;
     }
     return std::nullopt;
 }
@@ -246,7 +258,7 @@ Publisher* Room::State::publisherOf(const Request& request)
     return request.publisher.empty() ? nullptr : world.byRegistId(request.publisher);
 }
 
-const Fault* Room::State::faultFor(const Request& request, const Publisher* publisher)
+std::optional<Fault> Room::State::faultFor(const Request& request, const Publisher* publisher)
 {
     const auto found = std::find_if(faults.begin(), faults.end(), [&](const Fault& fault) {
         return fault.kind != Fault::Kind::refuse &&
@@ -254,14 +266,7 @@ const Fault* Room::State::faultFor(const Request& request, const Publisher* publ
                (fault.publisher.empty() ||
                 (publisher != nullptr && publisher->state().name == fault.publisher));
     });
-    if (found == faults.end()) {
-        return nullptr;
-    }
-    current = *found;
-    if (found->times > 0 && --found->times == 0) {
-        faults.erase(found);
-    }
-    return &current;
+    return found == faults.end() ? std::nullopt : std::optional(takeOnce(faults, found));
 }
 
 void Room::State::rereadSetting(const std::string& registId, Publisher& publisher)
@@ -297,7 +302,7 @@ std::string Room::State::takeJob(const FoundFile& found, TakenFile& taken)
     }
     const auto setting = readSetting(job->publisher);
     Publisher* const publisher = setting ? world.byGuid(setting->guid) : nullptr;
-    if (publisher == nullptr) {
+    if (!setting || publisher == nullptr) {
         return "no publisher \"" + printable(job->publisher) + "\" is registered";
     }
     if (std::string refusal = refusalOf(*job, *setting, publisher->model()); !refusal.empty()) {

@@ -153,6 +153,7 @@ std::string unknownPublisher(const Scenario& scenario, const std::string& name)
         return {};
     }
     std::vector<std::string> names;
+    names.reserve(scenario.publishers.size() + scenario.servers.size());
     for (const PublisherSetup& setup : scenario.publishers) {
         names.push_back(setup.name);
     }
