@@ -45,7 +45,7 @@ void SendHashAtEnd(ST_NCL& ncl)
 try {
     const DWORD result = SendHashOfImage(&ncl, ncl.m_nServerJobID);
     if (result != NCL_SUCCESS) {
-        LogTrace("EndConnection", "SendHash()", result);
+        LogTrace("\t## trace ## EndConnection SendHash() %s", result);
     }
 } catch (const std::bad_alloc&) {
     OutOfMemory("EndConnection");

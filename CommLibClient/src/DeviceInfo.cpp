@@ -1,6 +1,5 @@
 // Settings and versions of a server's device.
 #include "BigEndian.h"
-#include "LogManager.h"
 #include "Operation.h"
 
 #include <cstring>
@@ -18,92 +17,87 @@ const DWORD dwCommValueMaxConst[9] = {
     1,          // NCL_DIT_SUPPORT_BDXL
 };
 
-namespace {
-
-/// A bad parameter that has a line of its own in the log.
-DWORD BadInfoParameter(const char* what)
-{
-    CLogManager log;
-    log.LOG_ERR("[CommLib] GetDeviceInfo \"%s\" %s", what, GetNCLErrorString(NCL_ERR_PARAMETER));
-    return NCL_ERR_PARAMETER;
-}
-
-} // namespace
-
 DWORD GetDeviceInfo(DWORD dwHandle, DWORD dwInfoType, char* pszBuf, DWORD dwSize)
 try {
-    NCLOperation operation(dwHandle, "GetDeviceInfo", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetDeviceInfo , Start");
     DWORD result = operation.Enter(pszBuf != nullptr && dwInfoType <= NCL_DIT_NAME_OF_DRV2);
     if (result != NCL_SUCCESS) {
         return result;
     }
     if (dwInfoType == NCL_DIT_VERSION_OF_SECURITY &&
         operation.Object()->m_dwServerMode != NCL_MODE_SECURITY) {
-        return BadInfoParameter("Mode!=Security && Type==version_of_toe");
+        return LogTrace(R"([CommLib] GetDeviceInfo "Mode!=Security && Type==version_of_toe" %s)",
+                        NCL_ERR_PARAMETER);
     }
     NCLRequest request;
     request.path = "/webapp2/DevInfoGetter?ifversion=02000000&type=" + std::to_string(dwInfoType);
-    result = operation.Exchange(request, 1);
+    result = operation.Exchange(request, 1,
+                                {.request = "\t## trace ## GetDeviceInfo SendRequest() %s",
+                                 .reply = "\t## trace ## GetDeviceInfo ParseCommReply() %s"});
     if (result != NCL_SUCCESS) {
         return result;
     }
     const ST_COMM_REPLY& item = operation.Item();
     if (dwSize < item.m_dwDataSize + 1) {
-        return BadInfoParameter("Buffer Size");
+        return LogTrace(R"([CommLib] GetDeviceInfo "Buffer Size" %s)", NCL_ERR_PARAMETER);
     }
     if (item.m_dwDataSize != 0) {
         std::memcpy(pszBuf, item.m_pData, item.m_dwDataSize);
     }
     pszBuf[item.m_dwDataSize] = '\0';
-    return operation.End();
+    return operation.End("%s , GetDeviceInfo , End");
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetDeviceInfo");
 }
 
 DWORD GetDeviceInfoInt(DWORD dwHandle, DWORD dwInfoType, DWORD* pdwValueOut)
 try {
-    NCLOperation operation(dwHandle, "GetDeviceInfoInt", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetDeviceInfoInt , Start");
     DWORD result = operation.Enter(pdwValueOut != nullptr && dwInfoType < std::size(dwCommValueMaxConst));
     if (result != NCL_SUCCESS) {
         return result;
     }
     NCLRequest request;
     request.path = "/webapp2/DevInfoIntGetter?ifversion=02000000&type=" + std::to_string(dwInfoType);
-    result = operation.Exchange(request, 1);
+    result = operation.Exchange(request, 1,
+                                {.request = "\t## trace ## GetDeviceInfoInt SendRequest() %s",
+                                 .reply = "\t## trace ## GetDeviceInfoInt ParseCommReply() %s"});
     if (result != NCL_SUCCESS) {
         return result;
     }
     if (operation.Item().m_dwDataSize != 4) {
-        return operation.Invalid(1);
+        return LogInvalid("[CommLib] GetDeviceInfoInt %s 1");
     }
     const DWORD value = BigEndian32(operation.Item().m_pData);
     if (value > dwCommValueMaxConst[dwInfoType]) {
-        return operation.Invalid(2);
+        return LogInvalid("[CommLib] GetDeviceInfoInt %s 2");
     }
     *pdwValueOut = value;
-    return operation.End(static_cast<int>(value));
+    return operation.End("%s , GetDeviceInfoInt , End(%d)", static_cast<int>(value));
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetDeviceInfoInt");
 }
 
 DWORD GetServerMode(DWORD dwHandle, DWORD* pdwModeOut)
 try {
-    NCLOperation operation(dwHandle, "GetServerMode", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetServerMode , Start");
     DWORD result = operation.Enter(pdwModeOut != nullptr);
     if (result != NCL_SUCCESS) {
         return result;
     }
     NCLRequest request;
     request.path = "/webapp2/ServerModeGetter";
-    result = operation.Exchange(request, 1);
+    result = operation.Exchange(request, 1,
+                                {.request = "\t## trace ## GetServerMode SendRequest() %s",
+                                 .reply = "\t## trace ## GetServerMode ParseCommReply() %s"});
     if (result != NCL_SUCCESS) {
         return result;
     }
     if (operation.Item().m_dwDataSize != 1) {
-        return operation.Invalid(1);
+        return LogInvalid("[CommLib] GetServerMode %s 1");
     }
     *pdwModeOut = static_cast<BYTE>(operation.Item().m_pData[0]);
-    return operation.End(static_cast<int>(*pdwModeOut));
+    return operation.End("%s , GetServerMode , End(%d)", static_cast<int>(*pdwModeOut));
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetServerMode");
 }

@@ -44,7 +44,7 @@ DWORD SendPiece(ST_NCL* pNCL, const NCLUpload& piece, ULONGLONG total)
         thread.join();
     }
     if (digestFailure != 0) {
-        LogDigestFailure("SendDiscImage", digestFailure);
+        LogDigestFailure("\t## trace ## SendDiscImage md.Update %s(%d)", digestFailure);
         if (result == NCL_SUCCESS) {
             return NCL_ERR_CANCEL_SENDING;
         }
@@ -66,20 +66,21 @@ DWORD SendHashOfImage(ST_NCL* pNCL, int nServerJobID)
 DWORD SendDiscImage(DWORD dwHandle, int nServerJobID, const BYTE* pDiscImage, DWORD dwSendSize,
                     DWORD dwTotalDiscSizeLow, DWORD dwTotalDiscSizeHigh, const char* pszImageName)
 try {
-    NCLOperation operation(dwHandle, "SendDiscImage", NCLOperation::ACTION, nServerJobID);
+    NCLOperation operation(dwHandle, NCLOperation::ACTION, "%s , SendDiscImage , Start(%d)", nServerJobID);
     DWORD result = operation.Enter(pDiscImage == nullptr || pszImageName != nullptr);
-    if (result == NCL_SUCCESS) {
-        result = CheckServerJobID(operation.Object(), nServerJobID, "SendDiscImage");
-    }
     if (result != NCL_SUCCESS) {
         return result;
+    }
+    if (nServerJobID != operation.Object()->m_nServerJobID) {
+        CLogManager().LOG_ERR("[CommLib] SendDiscImage Invalid ServerJobID");
+        return NCL_ERR_SERVER_JOB_ID;
     }
     ST_NCL* pNCL = operation.Object();
     const bool isCancel = pDiscImage == nullptr;
     std::atomic_ref(pNCL->m_bDiscImageCancelSending)
         .store(isCancel ? TRUE : FALSE, std::memory_order_relaxed);
     if (isCancel) {
-        return operation.End();
+        return operation.End("%s , SendDiscImage , End");
     }
 
     const std::string name = std::string("DiscImage_") + pszImageName;
@@ -87,7 +88,7 @@ try {
     const bool isOldServer = pNCL->m_dwCompatiMode == 1;
     result = SendPiece(pNCL, UploadOfJob(pNCL, name.c_str(), pDiscImage, dwSendSize), total);
     if (result != NCL_SUCCESS) {
-        operation.Trace("UploadFile()", result);
+        LogTrace("\t## trace ## SendDiscImage UploadFile() %s", result);
         if (!isOldServer) {
             SendHashOfImage(pNCL, nServerJobID);
         }
@@ -100,11 +101,11 @@ try {
         if (!isOldServer && pNCL->m_pMD != nullptr) {
             result = SendHashOfImage(pNCL, nServerJobID);
             if (result != NCL_SUCCESS) {
-                return operation.Trace("SendHash()", result);
+                return LogTrace("\t## trace ## SendDiscImage SendHash() %s", result);
             }
         }
     }
-    return operation.End();
+    return operation.End("%s , SendDiscImage , End");
 } catch (const std::bad_alloc&) {
     return OutOfMemory("SendDiscImage");
 }

@@ -2,7 +2,7 @@
 
 #include "Base64.h"
 #include "InternetResult.h"
-#include "LogManager.h"
+#include "LogFormat.h"
 
 #include <algorithm>
 #include <climits>
@@ -11,6 +11,23 @@
 namespace {
 
 constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; its head is held back until it follows
+
+/// The lines of a stage of an exchange that fails.
+struct StageLines
+{
+    LogFormat<const char*, const char*, const char*> timeout; ///< method, path, added header
+    const char* retry;
+};
+
+constexpr StageLines SEND_HEADER = {
+    .timeout = "CHttp::SendRequest SendHeader() Method = %s Path = %s, Add Header = %s",
+    .retry = "CHttp::SendRequest SendHeader() retry"};
+constexpr StageLines SEND_MESSAGE = {
+    .timeout = "CHttp::SendRequest SendMessage() Method = %s Path = %s, Add Header = %s",
+    .retry = "CHttp::SendRequest SendMessage() retry"};
+constexpr StageLines RECV_RESPONSE = {
+    .timeout = "CHttp::SendRequest RecvResponse() Method = %s Path = %s, Add Header = %s",
+    .retry = "CHttp::SendRequest RecvResponse() retry"};
 
 const char* OrNull(const char* text)
 {
@@ -57,16 +74,16 @@ try {
 
     m_isReplyTooLarge = false;
     for (int nRetryNum = 0;; ++nRetryNum) {
-        const char* stage = "SendHeader";
+        const StageLines* stage = &SEND_HEADER;
         m_Con.SetMoreFollows(pMsgBody != nullptr && dwMsgSize != 0 && dwMsgSize <= LARGEST_SMALL_BODY);
         int result = SendHeader(eMethod, pszPath, eVersion, pszHost, pszUser, pszPassword, header.c_str());
         m_Con.SetMoreFollows(false);
         if (result >= 0 && pMsgBody != nullptr) {
-            stage = "SendMessage";
+            stage = &SEND_MESSAGE;
             result = SendMessage(pMsgBody, dwMsgSize);
         }
         if (result >= 0) {
-            stage = "RecvResponse";
+            stage = &RECV_RESPONSE;
             result = RecvResponse(pstHttpRes);
         }
         if (result >= 0) {
@@ -74,16 +91,14 @@ try {
             return 0;
         }
 
-        CLogManager log;
         if (IsNetworkTimeoutError(result)) {
-            log.LOG_WARN("CHttp::SendRequest %s() Method = %s Path = %s, Add Header = %s", stage,
-                         GetMethodStringPtr(eMethod), OrNull(pszPath), OrNull(pszAddHeader));
+            stage->timeout.Warn(GetMethodStringPtr(eMethod), OrNull(pszPath), OrNull(pszAddHeader));
             return result;
         }
         if (nRetryNum > 0 || m_isReplyTooLarge) {
             return result;
         }
-        log.LOG_WARN("CHttp::SendRequest %s() retry", stage);
+        CLogManager().LOG_WARN("%s", stage->retry);
     }
 } catch (const std::bad_alloc&) {
     m_Con.Shutdown(); // the next request must not read what is left of this exchange

@@ -1,18 +1,14 @@
 // Job control under the id that the submitter gave to a job. Nobody counts these operations, and a connection
 // that is being closed does not refuse them.
-#include "LogManager.h"
 #include "Operation.h"
 
 namespace {
 
-// Both operations log their failures under the name of the first.
-constexpr char TRACE_NAME[] = "CancelJobForBridge";
-
-DWORD ControlForBridge(const char* pszOperation, const char* pszAction, DWORD dwHandle, const char* pszJobID)
+DWORD ControlForBridge(const char* pszOperation, const char* pszAction, DWORD dwHandle, const char* pszJobID,
+                       NCLLine start, NCLLine end)
 try {
     ST_NCL* pNCL = GetNCLObj(dwHandle);
-    CLogManager log;
-    log.LOG_INFO("%s , %s , Start", GetNCLHostName(pNCL), pszOperation);
+    start.Info(GetNCLHostName(pNCL));
     if (pNCL == nullptr || pszJobID == nullptr) {
         return ReturnErrParam();
     }
@@ -27,15 +23,16 @@ try {
                                 .option = SEND_OPTION_FORM},
                                &response);
     if (result != NCL_SUCCESS) {
-        return LogTrace(TRACE_NAME, "SendRequest()", result);
+        // Both operations log their failures under the name of the first.
+        return LogTrace("\t## trace ## CancelJobForBridge SendRequest() %s", result);
     }
     NoteAnswer(*pNCL);
     std::list<ST_COMM_REPLY> items;
     result = ParseCommReply(response.m_pContent, response.m_dwContentLength, items, 1);
     if (result != NCL_SUCCESS) {
-        return LogTrace(TRACE_NAME, "ParseCommReply()", result);
+        return LogTrace("\t## trace ## CancelJobForBridge ParseCommReply() %s", result);
     }
-    log.LOG_INFO("%s , %s , End", GetNCLHostName(pNCL), pszOperation);
+    end.Info(GetNCLHostName(pNCL));
     return NCL_SUCCESS;
 } catch (const std::bad_alloc&) {
     return OutOfMemory(pszOperation);
@@ -45,10 +42,13 @@ try {
 
 DWORD CancelJobForBridge(DWORD dwHandle, const char* pszJobID, const char*, const char*)
 {
-    return ControlForBridge("CancelJobForBridge", "0", dwHandle, pszJobID);
+    return ControlForBridge("CancelJobForBridge", "0", dwHandle, pszJobID, "%s , CancelJobForBridge , Start",
+                            "%s , CancelJobForBridge , End");
 }
 
 DWORD ChangeJobPriorityForBridge(DWORD dwHandle, const char* pszJobID, const char*, const char*)
 {
-    return ControlForBridge("ChangeJobPriorityForBridge", "1", dwHandle, pszJobID);
+    return ControlForBridge("ChangeJobPriorityForBridge", "1", dwHandle, pszJobID,
+                            "%s , ChangeJobPriorityForBridge , Start",
+                            "%s , ChangeJobPriorityForBridge , End");
 }

@@ -4,17 +4,18 @@
 
 #include <cassert>
 #include <cstdio>
+#include <functional>
 #include <iterator>
 
 const char* const pszJobControlQueryValueConst[7] = {"0", "1", "2", "3", "6", "4", "5"};
 
 namespace {
 
-/// What a submission ends with. A failure is logged as one of `pszCallee`.
-DWORD EndSubmission(const char* pszOperation, const char* pszCallee, DWORD dwHandle, int nServerJobID,
-                    JobControlType eType)
+/// What a submission ends with. `logFailure` gets the text of the code.
+DWORD EndSubmission(const char* pszOperation, DWORD dwHandle, int nServerJobID, JobControlType eType,
+                    NCLNumberedLine start, NCLLine end, const std::function<void(const char*)>& logFailure)
 try {
-    NCLOperation operation(dwHandle, pszOperation, NCLOperation::ACTION, nServerJobID);
+    NCLOperation operation(dwHandle, NCLOperation::ACTION, start, nServerJobID);
     DWORD result = operation.Enter(true);
     if (result != NCL_SUCCESS) {
         return result;
@@ -22,26 +23,34 @@ try {
     result =
         ControlJob(operation.Object(), operation.Response(), operation.Items(), nServerJobID, eType, FALSE);
     if (result != NCL_SUCCESS) {
-        return operation.Trace(pszCallee, result);
+        logFailure(GetNCLErrorString(result));
+        return result;
     }
     operation.Object()->m_nServerJobID = 0;
-    return operation.End();
+    return operation.End(end);
 } catch (const std::bad_alloc&) {
     return OutOfMemory(pszOperation);
 }
 
+struct MonitorLines
+{
+    NCLNumberedLine start;
+    NCLLine trace;
+    NCLLine end;
+};
+
 /// One of the operations of a monitor.
 DWORD ControlForMonitor(const char* pszOperation, DWORD dwHandle, int nServerJobID, JobControlType eType,
-                        const char* pszUserName, const char* pszPassword)
+                        const char* pszUserName, const char* pszPassword, const MonitorLines& lines)
 try {
-    NCLOperation operation(dwHandle, pszOperation, NCLOperation::ACTION, nServerJobID);
+    NCLOperation operation(dwHandle, NCLOperation::ACTION, lines.start, nServerJobID);
     DWORD result = operation.Enter(pszUserName != nullptr && pszPassword != nullptr);
     if (result != NCL_SUCCESS) {
         return result;
     }
     result = ControlJobForMonitor(operation.Object(), operation.Response(), operation.Items(), nServerJobID,
                                   eType, pszUserName, pszPassword);
-    return result == NCL_SUCCESS ? operation.End() : operation.Trace("ControlJobForMonitor()", result);
+    return result == NCL_SUCCESS ? operation.End(lines.end) : LogTrace(lines.trace, result);
 } catch (const std::bad_alloc&) {
     return OutOfMemory(pszOperation);
 }
@@ -80,15 +89,19 @@ DWORD ControlJob(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_R
 
 DWORD CommitJob(DWORD dwHandle, int nServerJobID)
 {
-    return EndSubmission("CommitJob", "ControlJob()", dwHandle, nServerJobID, JOB_CONTROL_TYPE_COMMIT);
+    return EndSubmission("CommitJob", dwHandle, nServerJobID, JOB_CONTROL_TYPE_COMMIT,
+                         "%s , CommitJob , Start(%d)", "%s , CommitJob , End", [](const char* error) {
+                             CLogManager().LOG_ERR("\t## trace ## CommitJob ControlJob() %s", error);
+                         });
 }
 
 DWORD CancelJob(DWORD dwHandle, int nServerJobID)
-try {
-    const std::string callee = "ControlJob(" + std::to_string(nServerJobID) + ")";
-    return EndSubmission("CancelJob", callee.c_str(), dwHandle, nServerJobID, JOB_CONTROL_TYPE_CANCEL);
-} catch (const std::bad_alloc&) {
-    return OutOfMemory("CancelJob");
+{
+    return EndSubmission(
+        "CancelJob", dwHandle, nServerJobID, JOB_CONTROL_TYPE_CANCEL, "%s , CancelJob , Start(%d)",
+        "%s , CancelJob , End", [nServerJobID](const char* error) {
+            CLogManager().LOG_ERR("\t## trace ## CancelJob ControlJob(%d) %s", nServerJobID, error);
+        });
 }
 
 DWORD ControlJobForMonitor(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list<ST_COMM_REPLY>& rliReply,
@@ -110,24 +123,36 @@ DWORD ControlJobForMonitor(ST_NCL* pNCL, ST_HTTP_RESPONSE* pstHttpRes, std::list
 DWORD CancelJobForMonitor(DWORD dwHandle, int nServerJobID, const char* pszUserName, const char* pszPassword)
 {
     return ControlForMonitor("CancelJobForMonitor", dwHandle, nServerJobID, JOB_CONTROL_TYPE_CANCEL,
-                             pszUserName, pszPassword);
+                             pszUserName, pszPassword,
+                             {.start = "%s , CancelJobForMonitor , Start(%d)",
+                              .trace = "\t## trace ## CancelJobForMonitor ControlJobForMonitor() %s",
+                              .end = "%s , CancelJobForMonitor , End"});
 }
 
 DWORD StopJobForMonitor(DWORD dwHandle, int nServerJobID, const char* pszUserName, const char* pszPassword)
 {
     return ControlForMonitor("StopJobForMonitor", dwHandle, nServerJobID, JOB_CONTROL_TYPE_STOP, pszUserName,
-                             pszPassword);
+                             pszPassword,
+                             {.start = "%s , StopJobForMonitor , Start(%d)",
+                              .trace = "\t## trace ## StopJobForMonitor ControlJobForMonitor() %s",
+                              .end = "%s , StopJobForMonitor , End"});
 }
 
 DWORD RestartJobForMonitor(DWORD dwHandle, int nServerJobID, const char* pszUserName, const char* pszPassword)
 {
     return ControlForMonitor("RestartJobForMonitor", dwHandle, nServerJobID, JOB_CONTROL_TYPE_RESTART,
-                             pszUserName, pszPassword);
+                             pszUserName, pszPassword,
+                             {.start = "%s , RestartJobForMonitor , Start(%d)",
+                              .trace = "\t## trace ## RestartJobForMonitor ControlJobForMonitor() %s",
+                              .end = "%s , RestartJobForMonitor , End"});
 }
 
 DWORD ChangeJobPriorityForMonitor(DWORD dwHandle, int nServerJobID, const char* pszUserName,
                                   const char* pszPassword)
 {
     return ControlForMonitor("ChangeJobPriorityForMonitor", dwHandle, nServerJobID,
-                             JOB_CONTROL_TYPE_CHANGE_PRIORITY, pszUserName, pszPassword);
+                             JOB_CONTROL_TYPE_CHANGE_PRIORITY, pszUserName, pszPassword,
+                             {.start = "%s , ChangeJobPriorityForMonitor , Start(%d)",
+                              .trace = "\t## trace ## ChangeJobPriorityForMonitor ControlJobForMonitor() %s",
+                              .end = "%s , ChangeJobPriorityForMonitor , End"});
 }

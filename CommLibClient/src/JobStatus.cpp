@@ -13,13 +13,13 @@ const char* const jobStatusQueryValues[] = {"1", "2", "0", "3"}; ///< by NCL_JST
 /// bytes of each, side by side from the array's begin on. `unpack` fills one record from an item.
 template <class Record, class Unpack>
 DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLength, size_t clearSize,
-               DWORD* pdwCount, Unpack unpack)
+               DWORD* pdwCount, const NCLExchangeLines& lines, NCLNumberedLine invalid, Unpack unpack)
 {
     *pdwCount = 0;
     const DWORD result =
         operation.Exchange({.path = std::string("/webapp2/JobInfoGetter?ifversion=02000000&type=") +
                                     jobStatusQueryValues[dwType]},
-                           0);
+                           0, lines);
     if (result != NCL_SUCCESS) {
         return result;
     }
@@ -28,7 +28,7 @@ DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLen
         return NCL_SUCCESS; // no jobs
     }
     if (items.size() > dwJobCountMaxCost[dwType]) {
-        return operation.Invalid(1);
+        return LogInvalid(invalid, 1);
     }
     std::memset(static_cast<void*>(pJobs), 0, clearSize * dwLength);
     DWORD count = 0;
@@ -41,7 +41,7 @@ DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLen
             return NCL_ERR_BAD_PUBLISH_MODE;
         }
         if (check != JOB_RECORD_GOOD) {
-            return operation.Invalid(check);
+            return LogInvalid(invalid, check);
         }
         ++count;
     }
@@ -53,39 +53,43 @@ DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLen
 
 DWORD GetJobNumber(DWORD dwHandle, DWORD dwType, DWORD* pdwJobNum)
 try {
-    NCLOperation operation(dwHandle, "GetJobNumber", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetJobNumber , Start");
     DWORD result = operation.Enter(dwType <= NCL_JNT_FINISH_JOB && pdwJobNum != nullptr);
     if (result == NCL_SUCCESS) {
         result = operation.Exchange(
-            {.path = std::string("/webapp2/JobNumGetter?type=") + jobNumberQueryValues[dwType]}, 1);
+            {.path = std::string("/webapp2/JobNumGetter?type=") + jobNumberQueryValues[dwType]}, 1,
+            {.request = "\t## trace ## GetJobNumber SendRequest() %s",
+             .reply = "\t## trace ## GetJobNumber ParseCommReply() %s"});
     }
     if (result != NCL_SUCCESS) {
         return result;
     }
     if (operation.Item().m_dwDataSize != sizeof(WORD)) {
-        return operation.Invalid(1);
+        return LogInvalid("[CommLib] GetJobNumber %s 1");
     }
     *pdwJobNum = BigEndian16(operation.Item().m_pData);
-    return operation.End(static_cast<int>(*pdwJobNum));
+    return operation.End("%s , GetJobNumber , End(%d)", static_cast<int>(*pdwJobNum));
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetJobNumber");
 }
 
 DWORD GetPrnPossibilityNumber(DWORD dwHandle, DWORD* pdwNum)
 try {
-    NCLOperation operation(dwHandle, "GetPrnPossibilityNumber", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetPrnPossibilityNumber , Start");
     DWORD result = operation.Enter(pdwNum != nullptr);
     if (result == NCL_SUCCESS) {
-        result = operation.Exchange({.path = "/webapp2/PrnPosNumGetter"}, 1);
+        result = operation.Exchange({.path = "/webapp2/PrnPosNumGetter"}, 1,
+                                    {.request = "\t## trace ## GetPrnPossibilityNumber SendRequest() %s",
+                                     .reply = "\t## trace ## GetPrnPossibilityNumber ParseCommReply() %s"});
     }
     if (result != NCL_SUCCESS) {
         return result;
     }
     if (operation.Item().m_dwDataSize != sizeof(DWORD)) {
-        return operation.Invalid(1);
+        return LogInvalid("[CommLib] GetPrnPossibilityNumber %s 1");
     }
     *pdwNum = BigEndian32(operation.Item().m_pData);
-    return operation.End(static_cast<int>(*pdwNum));
+    return operation.End("%s , GetPrnPossibilityNumber , End(%d)", static_cast<int>(*pdwNum));
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetPrnPossibilityNumber");
 }
@@ -93,16 +97,20 @@ try {
 DWORD GetJobStatus(DWORD dwHandle, DWORD dwType, JobStatus* pJobStatusArrayOut, DWORD dwLength,
                    DWORD* pdwGetLengthOut)
 try {
-    NCLOperation operation(dwHandle, "GetJobStatus", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetJobStatus , Start");
     DWORD result = operation.Enter(dwType <= NCL_JST_ALL_JOB && pJobStatusArrayOut != nullptr &&
                                    pdwGetLengthOut != nullptr);
     if (result == NCL_SUCCESS) {
         result = ListJobs(operation, dwType, pJobStatusArrayOut, dwLength, sizeof(JobStatus), pdwGetLengthOut,
-                          [](const ST_COMM_REPLY& item, JobStatus* pJob) {
+                          {.request = "\t## trace ## GetJobStatus SendRequest() %s",
+                           .reply = "\t## trace ## GetJobStatus ParseCommReply() %s"},
+                          "[CommLib] GetJobStatus %s %d", [](const ST_COMM_REPLY& item, JobStatus* pJob) {
                               return UnpackJobStatus(item.m_pData, item.m_dwDataSize, pJob);
                           });
     }
-    return result == NCL_SUCCESS ? operation.End(static_cast<int>(*pdwGetLengthOut)) : result;
+    return result == NCL_SUCCESS
+               ? operation.End("%s , GetJobStatus , End(%d)", static_cast<int>(*pdwGetLengthOut))
+               : result;
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetJobStatus");
 }
@@ -110,18 +118,21 @@ try {
 DWORD GetJobStatusEx(DWORD dwHandle, DWORD dwType, JobStatusEx* pJobStatusArrayOut, DWORD dwLength,
                      DWORD* pdwGetLengthOut)
 try {
-    NCLOperation operation(dwHandle, "GetJobStatusEx", NCLOperation::QUERY);
+    NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetJobStatusEx , Start");
     DWORD result = operation.Enter(dwType <= NCL_JST_PROCESS_JOB_EX && pJobStatusArrayOut != nullptr &&
                                    pdwGetLengthOut != nullptr);
     if (result == NCL_SUCCESS) {
         // Callers rely on it: what lies behind the smaller records is theirs.
         const size_t clearSize = dwType == NCL_JST_PROCESS_JOB_EX ? sizeof(JobStatusEx) : sizeof(JobStatus);
         result = ListJobs(operation, dwType, pJobStatusArrayOut, dwLength, clearSize, pdwGetLengthOut,
+                          {.request = "\t## trace ## GetJobStatusEx SendRequest() %s",
+                           .reply = "\t## trace ## GetJobStatusEx ParseCommReply() %s"},
+                          "[CommLib] GetJobStatusEx %s %d",
                           [dwType](const ST_COMM_REPLY& item, JobStatusEx* pJob) {
                               return UnpackJobStatusEx(item.m_pData, item.m_dwDataSize, dwType, pJob);
                           });
     }
-    return result == NCL_SUCCESS ? operation.End() : result;
+    return result == NCL_SUCCESS ? operation.End("%s , GetJobStatusEx , End") : result;
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetJobStatusEx");
 }

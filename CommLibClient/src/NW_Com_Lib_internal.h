@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Http.h"
+#include "LogFormat.h"
 #include "MessageDigest.h"
 #include "NW_Com_Lib.h"
 
@@ -11,6 +12,9 @@
 #include <mutex>
 #include <string>
 #include <vector>
+
+using NCLLine = LogFormat<const char*>;              ///< a text: the host's name, or that of a result code
+using NCLNumberedLine = LogFormat<const char*, int>; ///< a text and a number
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Replies of a servlet: items of a status byte, a length of 16 bits (big-endian) and that many bytes of data.
@@ -297,20 +301,25 @@ struct NCLUpload
     std::string password = {};
 };
 
-/// NCL_ERR_SERVER_JOB_ID, logged, unless the job is the one that is being submitted.
-DWORD CheckServerJobID(const ST_NCL* pNCL, int nServerJobID, const char* pszOperation);
 /// A file of the job that is being submitted, sent with the account that SendJobData was given.
 NCLUpload UploadOfJob(const ST_NCL* pNCL, const char* pszFileName, const BYTE* pData, DWORD dwSize);
 
-/// Uploads the file, and its digest unless the server is an old one. The digest goes out after a failed
-/// upload too, whose code is the result then. Failures are logged under the name of the operation.
-DWORD UploadWithHash(ST_NCL* pNCL, const NCLUpload& upload, const char* pszOperation);
+/// The lines of a digest that fails.
+struct NCLHashLines
+{
+    NCLNumberedLine digest; ///< it cannot be computed; with the value of the failure
+    NCLLine hash;           ///< it cannot be sent
+};
+
+/// Uploads the file, and its digest unless the server is an old one. The digest is sent after a failed upload
+/// too, whose code is the result then. A failed upload is logged with the line.
+DWORD UploadWithHash(ST_NCL* pNCL, const NCLUpload& upload, NCLLine line, const NCLHashLines& hashLines);
 /// The second half of it: the digest `md` of the file, and the result of both. A digest that fails counts as
-/// NCL_ERR_CANCEL_SENDING; it is logged under a name of its own.
+/// NCL_ERR_CANCEL_SENDING.
 DWORD SendHashOfUpload(ST_NCL* pNCL, const NCLUpload& upload, MessageDigestIF& md, DWORD dwUploadResult,
-                       const char* pszOperation, const char* pszDigestOperation);
+                       const NCLHashLines& lines);
 /// Logs that a digest failed with the value.
-void LogDigestFailure(const char* pszOperation, DWORD dwFailure);
+void LogDigestFailure(NCLNumberedLine line, DWORD dwFailure);
 
 /// Ends the digest of the disc image that is being uploaded, which there must be, and tells it to the server.
 DWORD SendHashOfImage(ST_NCL* pNCL, int nServerJobID);

@@ -2,16 +2,28 @@
 
 #include "LogManager.h"
 
-DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode)
+DWORD LogTrace(NCLLine line, DWORD dwCode)
 {
-    CLogManager log;
-    log.LOG_ERR("\t## trace ## %s %s %s", pszOperation, pszCallee, GetNCLErrorString(dwCode));
+    line.Error(GetNCLErrorString(dwCode));
     return dwCode;
+}
+
+DWORD LogInvalid(NCLLine line)
+{
+    return LogTrace(line, NCL_ERR_INVALID_COMM_SPEC);
+}
+
+DWORD LogInvalid(NCLNumberedLine line, int nCheck)
+{
+    line.Error(GetNCLErrorString(NCL_ERR_INVALID_COMM_SPEC), nCheck);
+    return NCL_ERR_INVALID_COMM_SPEC;
 }
 
 DWORD OutOfMemory(const char* pszOperation)
 {
-    return LogTrace(pszOperation, "allocation", NCL_ERR_GET_MEMORY);
+    CLogManager log;
+    log.LOG_ERR("\t## trace ## %s allocation %s", pszOperation, GetNCLErrorString(NCL_ERR_GET_MEMORY));
+    return NCL_ERR_GET_MEMORY;
 }
 
 void NoteAnswer(ST_NCL& ncl)
@@ -21,10 +33,15 @@ void NoteAnswer(ST_NCL& ncl)
     }
 }
 
-NCLOperation::NCLOperation(DWORD dwHandle, const char* pszName, Level eLevel, std::optional<int> value)
-    : m_guard(dwHandle), m_pszName(pszName), m_eLevel(eLevel)
+NCLOperation::NCLOperation(DWORD dwHandle, Level eLevel, NCLLine line) : m_guard(dwHandle), m_eLevel(eLevel)
 {
-    LogLine("Start", value);
+    Log<>(line);
+}
+
+NCLOperation::NCLOperation(DWORD dwHandle, Level eLevel, NCLNumberedLine line, int nValue)
+    : m_guard(dwHandle), m_eLevel(eLevel)
+{
+    Log<int>(line, nValue);
 }
 
 bool NCLOperation::MayStart() const
@@ -32,39 +49,37 @@ bool NCLOperation::MayStart() const
     return Object() != nullptr && std::atomic_ref(Object()->m_bEndConnection) == FALSE;
 }
 
-DWORD NCLOperation::Exchange(const NCLRequest& request, DWORD dwItemCount)
+DWORD NCLOperation::Exchange(const NCLRequest& request, DWORD dwItemCount, const NCLExchangeLines& lines)
 {
     DWORD result = SendRequest(Object(), request, &m_response);
     if (result != NCL_SUCCESS) {
-        return Trace("SendRequest()", result);
+        return LogTrace(lines.request, result);
     }
     NoteAnswer(*Object());
     result = ParseCommReply(m_response.m_pContent, m_response.m_dwContentLength, m_items, dwItemCount);
-    return result == NCL_SUCCESS ? result : Trace("ParseCommReply()", result);
+    return result == NCL_SUCCESS ? result : LogTrace(lines.reply, result);
 }
 
-DWORD NCLOperation::Invalid(int nCheck) const
+DWORD NCLOperation::End(NCLLine line) const
 {
-    CLogManager log;
-    log.LOG_ERR("[CommLib] %s %s %d", m_pszName, GetNCLErrorString(NCL_ERR_INVALID_COMM_SPEC), nCheck);
-    return NCL_ERR_INVALID_COMM_SPEC;
-}
-
-DWORD NCLOperation::End(std::optional<int> value) const
-{
-    LogLine("End", value);
+    Log<>(line);
     return NCL_SUCCESS;
 }
 
-void NCLOperation::LogLine(const char* pszWhat, std::optional<int> value) const
+DWORD NCLOperation::End(NCLNumberedLine line, int nValue) const
 {
-    CLogManager log;
+    Log<int>(line, nValue);
+    return NCL_SUCCESS;
+}
+
+template <class... Args>
+void NCLOperation::Log(LogFormat<const char*, Args...> line, Args... args) const
+{
+    // A null host is passed to the log's formatting as it is.
     const char* const host = GetNCLHostName(Object());
-    // A null host goes on as it is, which is why the whole line is left to the log's own formatting.
-    const std::string number = value ? "(" + std::to_string(*value) + ")" : "";
     if (m_eLevel == QUERY) {
-        log.LOG_DEBUG("%s , %s , %s%s", host, m_pszName, pszWhat, number.c_str());
+        line.Debug(host, args...);
     } else {
-        log.LOG_INFO("%s , %s , %s%s", host, m_pszName, pszWhat, number.c_str());
+        line.Info(host, args...);
     }
 }

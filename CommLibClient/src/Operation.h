@@ -1,18 +1,20 @@
 // What all operations on a handle share, from the start line in the log to the end line.
 //
-//     NCLOperation operation(dwHandle, "GetSomething", NCLOperation::QUERY);
+//     NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetSomething , Start");
 //     DWORD result = operation.Enter(pOut != nullptr);
 //     if (result == NCL_SUCCESS) {
-//         result = operation.Exchange({.path = "/webapp2/SomethingGetter"}, 1);
+//         result = operation.Exchange({.path = "/webapp2/SomethingGetter"}, 1,
+//                                     {.request = "\t## trace ## GetSomething SendRequest() %s",
+//                                      .reply = "\t## trace ## GetSomething ParseCommReply() %s"});
 //     }
 //     if (result != NCL_SUCCESS) {
 //         return result;
 //     }
 //     if (operation.Item().m_dwDataSize != 4) {
-//         return operation.Invalid(1);
+//         return LogInvalid("[CommLib] GetSomething %s 1");
 //     }
 //     *pOut = BigEndian32(operation.Item().m_pData);
-//     return operation.End();
+//     return operation.End("%s , GetSomething , End");
 #pragma once
 
 #include "NW_Com_Lib_internal.h"
@@ -69,12 +71,22 @@ struct NCLRequest
 /// Sends the request in the one form that the servlets know, without credentials or further headers.
 DWORD SendRequest(ST_NCL* pNCL, const NCLRequest& request, ST_HTTP_RESPONSE* pstHttpRes);
 
-/// Logs "\t## trace ## OPERATION CALLEE TEXT", where the text is that of the code, which is the result.
-/// `pszCallee` has its parentheses: "ControlJob() 1".
-DWORD LogTrace(const char* pszOperation, const char* pszCallee, DWORD dwCode);
+/// Logs that a callee failed, with the text of the code, which is the result.
+DWORD LogTrace(NCLLine line, DWORD dwCode);
+/// Logs that a check of a reply failed. NCL_ERR_INVALID_COMM_SPEC.
+DWORD LogInvalid(NCLLine line);
+/// The same, with the number of the check, counted from 1.
+DWORD LogInvalid(NCLNumberedLine line, int nCheck);
 
 /// Logs that an allocation failed in a public operation. NCL_ERR_GET_MEMORY. No exception leaves the library.
 DWORD OutOfMemory(const char* pszOperation);
+
+/// The lines of an exchange that fails.
+struct NCLExchangeLines
+{
+    NCLLine request; ///< the request got no good answer
+    NCLLine reply;   ///< the reply could not be parsed
+};
 
 /// One call of a public operation.
 class NCLOperation
@@ -86,8 +98,9 @@ public:
         ACTION ///< at LOG_INFO
     };
 
-    /// Logs the start line, with the value if there is one. `pszName` outlives the object.
-    NCLOperation(DWORD dwHandle, const char* pszName, Level eLevel, std::optional<int> value = std::nullopt);
+    /// Logs the start line.
+    NCLOperation(DWORD dwHandle, Level eLevel, NCLLine line);
+    NCLOperation(DWORD dwHandle, Level eLevel, NCLNumberedLine line, int nValue);
     NCLOperation(const NCLOperation&) = delete;
     NCLOperation& operator=(const NCLOperation&) = delete;
 
@@ -111,7 +124,7 @@ public:
 
     /// Sends a request and takes its reply apart into `dwItemCount` items, 0 for any number. A failure is
     /// logged.
-    DWORD Exchange(const NCLRequest& request, DWORD dwItemCount);
+    DWORD Exchange(const NCLRequest& request, DWORD dwItemCount, const NCLExchangeLines& lines);
 
     /// The reply, good as long as the operation.
     std::list<ST_COMM_REPLY>& Items()
@@ -128,23 +141,16 @@ public:
         return &m_response;
     }
 
-    /// A callee failed with the code, which is the result.
-    DWORD Trace(const char* pszCallee, DWORD dwCode) const
-    {
-        return LogTrace(m_pszName, pszCallee, dwCode);
-    }
-    /// The check of this number, counted from 1, found a reply that is not as agreed.
-    DWORD Invalid(int nCheck) const;
-
-    /// Logs the end line, with the value if there is one. NCL_SUCCESS.
-    DWORD End(std::optional<int> value = std::nullopt) const;
+    /// Logs the end line. NCL_SUCCESS.
+    DWORD End(NCLLine line) const;
+    DWORD End(NCLNumberedLine line, int nValue) const;
 
 private:
     bool MayStart() const;
-    void LogLine(const char* pszWhat, std::optional<int> value) const;
+    template <class... Args>
+    void Log(LogFormat<const char*, Args...> line, Args... args) const;
 
     NCLGuard m_guard;
-    const char* m_pszName;
     Level m_eLevel;
     ST_HTTP_RESPONSE m_response;
     std::list<ST_COMM_REPLY> m_items;

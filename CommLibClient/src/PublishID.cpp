@@ -21,7 +21,7 @@ bool CopyID(const std::string& id, char* pszOut, DWORD dwSize, DWORD* pdwNeedSiz
 
 DWORD GetPublishID(DWORD dwHandle, char* pszPublishIDOut, DWORD dwSize, DWORD* pdwNeedSize)
 try {
-    NCLOperation operation(dwHandle, "GetPublishID", NCLOperation::ACTION);
+    NCLOperation operation(dwHandle, NCLOperation::ACTION, "%s , GetPublishID , Start");
     DWORD result = operation.Enter(pszPublishIDOut != nullptr && pdwNeedSize != nullptr);
     if (result != NCL_SUCCESS) {
         return result;
@@ -36,7 +36,9 @@ try {
         return NCL_SUCCESS;
     }
 
-    result = operation.Exchange({.path = "/webapp2/PublishIDGetter"}, 1);
+    result = operation.Exchange({.path = "/webapp2/PublishIDGetter"}, 1,
+                                {.request = "\t## trace ## GetPublishID SendRequest() %s",
+                                 .reply = "\t## trace ## GetPublishID ParseCommReply() %s"});
     if (result != NCL_SUCCESS) {
         return result;
     }
@@ -48,7 +50,7 @@ try {
         log.LOG_ERR("%s , GetPublishID , ErrBuffer", GetNCLHostName(operation.Object()));
         return NCL_ERR_BUF_SIZE;
     }
-    return operation.End();
+    return operation.End("%s , GetPublishID , End");
 } catch (const std::bad_alloc&) {
     return OutOfMemory("GetPublishID");
 }

@@ -1,4 +1,3 @@
-#include "LogManager.h"
 #include "NW_Com_Lib_internal.h"
 
 #include <new>
@@ -7,23 +6,21 @@ namespace {
 
 constexpr DWORD ITEM_HEAD_SIZE = 3;
 
-/// Refuses a reply: logs the code and the number of the check that failed.
-DWORD Refuse(std::list<ST_COMM_REPLY>& items, DWORD code, int check)
+DWORD Refuse(std::list<ST_COMM_REPLY>& items, DWORD code, NCLLine line)
 {
-    CLogManager log;
-    log.LOG_ERR("[CommLib] ParseCommReply %s %d", GetNCLErrorString(code), check);
+    line.Error(GetNCLErrorString(code));
     items.clear();
     return code;
 }
 
-DWORD Invalid(std::list<ST_COMM_REPLY>& items, int check)
+DWORD Invalid(std::list<ST_COMM_REPLY>& items, NCLLine line)
 {
-    return Refuse(items, NCL_ERR_INVALID_COMM_SPEC, check);
+    return Refuse(items, NCL_ERR_INVALID_COMM_SPEC, line);
 }
 
 DWORD OutOfMemory(std::list<ST_COMM_REPLY>& items)
 {
-    return Refuse(items, NCL_ERR_GET_MEMORY, 5);
+    return Refuse(items, NCL_ERR_GET_MEMORY, "[CommLib] ParseCommReply %s 5");
 }
 
 } // namespace
@@ -33,7 +30,7 @@ DWORD ParseCommReply(const char* pContent, DWORD dwContentLen, std::list<ST_COMM
 try {
     rliReply.clear();
     if (pContent == nullptr) {
-        return Invalid(rliReply, 1);
+        return Invalid(rliReply, "[CommLib] ParseCommReply %s 1");
     }
     const DWORD limit = dwCheckReplyCount != 0 ? dwCheckReplyCount : MAX_REPLY_ITEMS;
     DWORD count = 0;
@@ -41,7 +38,7 @@ try {
     while (offset < dwContentLen) {
         const DWORD left = dwContentLen - offset;
         if (left < ITEM_HEAD_SIZE) {
-            return Invalid(rliReply, 2);
+            return Invalid(rliReply, "[CommLib] ParseCommReply %s 2");
         }
         const auto* head = reinterpret_cast<const BYTE*>(pContent + offset);
         const DWORD result = ConvertServerStatus(head[0]);
@@ -52,7 +49,7 @@ try {
         ST_COMM_REPLY item;
         item.m_dwDataSize = static_cast<DWORD>(head[1]) << 8 | head[2];
         if (item.m_dwDataSize > left - ITEM_HEAD_SIZE) {
-            return Invalid(rliReply, 3);
+            return Invalid(rliReply, "[CommLib] ParseCommReply %s 3");
         }
         if (item.m_dwDataSize != 0) {
             item.m_pData = pContent + offset + ITEM_HEAD_SIZE;
@@ -64,7 +61,7 @@ try {
         offset += ITEM_HEAD_SIZE + item.m_dwDataSize;
     }
     if (dwCheckReplyCount != 0 && count != dwCheckReplyCount) {
-        return Invalid(rliReply, 4);
+        return Invalid(rliReply, "[CommLib] ParseCommReply %s 4");
     }
     return count > limit ? OutOfMemory(rliReply) : DWORD{NCL_SUCCESS};
 } catch (const std::bad_alloc&) {

@@ -49,7 +49,7 @@ DWORD LearnKind(DWORD dwHandle, ST_NCL& ncl)
         return NCL_SUCCESS;
     }
     if (result != NCL_SUCCESS) {
-        return LogTrace("StartConnection", "GetDeviceInfoInt()", result);
+        return LogTrace("\t## trace ## StartConnection GetDeviceInfoInt() %s", result);
     }
     ncl.m_dwNPType = support == NCL_SUPPORT_BDXL_YES ? NCL_NPTYPE_300NII_BDXL : NCL_NPTYPE_300NII;
     return NCL_SUCCESS;
@@ -79,7 +79,7 @@ DWORD MeetServer(DWORD dwHandle, ST_NCL& ncl, DWORD oldKind)
 {
     DWORD result = GetServerMode(dwHandle, &ncl.m_dwServerMode);
     if (result != NCL_SUCCESS) {
-        return LogTrace("StartConnection", "GetServerMode()", result);
+        return LogTrace("\t## trace ## StartConnection GetServerMode() %s", result);
     }
     result = LearnKind(dwHandle, ncl);
     if (result != NCL_SUCCESS) {
@@ -90,7 +90,7 @@ DWORD MeetServer(DWORD dwHandle, ST_NCL& ncl, DWORD oldKind)
     }
     result = CheckIFVersion(&ncl, INTERFACE_VERSION);
     if (result != NCL_SUCCESS) {
-        return LogTrace("StartConnection", "CheckIFVersion()", result);
+        return LogTrace("\t## trace ## StartConnection CheckIFVersion() %s", result);
     }
     return CheckServerVersion(dwHandle, ncl);
 }
@@ -105,9 +105,7 @@ DWORD OpenHttp(ST_NCL& ncl)
     }
     const DWORD result = ConvertInternetError(http->Open(ncl.m_strServerAddress.c_str(), SERVER_PORT, FALSE));
     if (result != NCL_SUCCESS) {
-        CLogManager log;
-        log.LOG_ERR("[CommLib] StartConnection pHttp->Open() %s", GetNCLErrorString(result));
-        return result;
+        return LogTrace("[CommLib] StartConnection pHttp->Open() %s", result);
     }
     http->SetTimeout(CONNECT_TIMEOUT);
     http->SetNoCommTimeout(SILENCE_TIMEOUT);

@@ -58,16 +58,6 @@ DWORD MakeUploadDir(ST_NCL* pNCL, int nServerJobID, const char* pszUserName, con
                        pszUserName, pszPassword, nullptr, nullptr, 0, &response, eCommType, 0);
 }
 
-DWORD CheckServerJobID(const ST_NCL* pNCL, int nServerJobID, const char* pszOperation)
-{
-    if (nServerJobID == pNCL->m_nServerJobID) {
-        return NCL_SUCCESS;
-    }
-    CLogManager log;
-    log.LOG_ERR("[CommLib] %s Invalid ServerJobID", pszOperation);
-    return NCL_ERR_SERVER_JOB_ID;
-}
-
 NCLUpload UploadOfJob(const ST_NCL* pNCL, const char* pszFileName, const BYTE* pData, DWORD dwSize)
 {
     return {.nServerJobID = pNCL->m_nServerJobID,
@@ -135,28 +125,28 @@ DWORD SendHash(ST_NCL* pNCL, CommType eCommType, int nServerJobID, const char* s
     return result;
 }
 
-DWORD UploadWithHash(ST_NCL* pNCL, const NCLUpload& upload, const char* pszOperation)
+DWORD UploadWithHash(ST_NCL* pNCL, const NCLUpload& upload, NCLLine line, const NCLHashLines& hashLines)
 {
     const DWORD result =
         UploadFile(pNCL, COMM_TYPE_SELECT, upload.nServerJobID, upload.userName.c_str(),
                    upload.password.c_str(), upload.pszFileName, upload.pData, upload.dwSize, 0, 0, nullptr);
     if (result != NCL_SUCCESS) {
-        LogTrace(pszOperation, "UploadFile()", result);
+        LogTrace(line, result);
     }
     if (pNCL->m_dwCompatiMode == 1) {
         return result;
     }
     MessageDigest md(BCH_HASH_TYPE_SHA1);
-    return SendHashOfUpload(pNCL, upload, md, result, pszOperation, pszOperation);
+    return SendHashOfUpload(pNCL, upload, md, result, hashLines);
 }
 
 DWORD SendHashOfUpload(ST_NCL* pNCL, const NCLUpload& upload, MessageDigestIF& md, DWORD dwUploadResult,
-                       const char* pszOperation, const char* pszDigestOperation)
+                       const NCLHashLines& lines)
 {
     DWORD result = dwUploadResult;
     const DWORD failure = md.Update(upload.pData, upload.dwSize);
     if (failure != 0) {
-        LogDigestFailure(pszDigestOperation, failure);
+        LogDigestFailure(lines.digest, failure);
         if (result == NCL_SUCCESS) {
             result = NCL_ERR_CANCEL_SENDING;
         }
@@ -165,12 +155,10 @@ DWORD SendHashOfUpload(ST_NCL* pNCL, const NCLUpload& upload, MessageDigestIF& m
     if (result != NCL_SUCCESS || hashResult == NCL_SUCCESS) {
         return result;
     }
-    return LogTrace(pszOperation, "SendHash()", hashResult);
+    return LogTrace(lines.hash, hashResult);
 }
 
-void LogDigestFailure(const char* pszOperation, DWORD dwFailure)
+void LogDigestFailure(NCLNumberedLine line, DWORD dwFailure)
 {
-    CLogManager log;
-    log.LOG_ERR("\t## trace ## %s md.Update %s(%d)", pszOperation, GetNCLErrorString(NCL_ERR_CALC_HASH),
-                static_cast<int>(dwFailure));
+    line.Error(GetNCLErrorString(NCL_ERR_CALC_HASH), static_cast<int>(dwFailure));
 }

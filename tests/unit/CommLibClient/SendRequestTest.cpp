@@ -217,13 +217,13 @@ TEST(Operation, HasItsLinesAtItsLevel)
     FakeServer server;
     SyslogLines lines;
     {
-        NCLOperation operation(server.Handle(), "GetSomething", NCLOperation::QUERY);
+        NCLOperation operation(server.Handle(), NCLOperation::QUERY, "%s , GetSomething , Start");
         EXPECT_EQ(server.Object().m_refCount.load(), 1);
         EXPECT_EQ(operation.Enter(true), 0U);
-        EXPECT_EQ(operation.End(), 0U);
-        EXPECT_EQ(operation.End(-1), 0U);
-        EXPECT_EQ(operation.Trace("Callee() 2", 8005), 8005U);
-        EXPECT_EQ(operation.Invalid(7), 13U);
+        EXPECT_EQ(operation.End("%s , GetSomething , End"), 0U);
+        EXPECT_EQ(operation.End("%s , GetSomething , End(%d)", -1), 0U);
+        EXPECT_EQ(LogTrace("\t## trace ## GetSomething Callee() 2 %s", 8005), 8005U);
+        EXPECT_EQ(LogInvalid("[CommLib] GetSomething %s %d", 7), 13U);
     }
     EXPECT_EQ(server.Object().m_refCount.load(), 0);
     EXPECT_THAT(lines.Take(),
@@ -231,10 +231,10 @@ TEST(Operation, HasItsLinesAtItsLevel)
                             "<7>server , GetSomething , End(-1)",
                             "<3>\t## trace ## GetSomething Callee() 2 Registration Busy",
                             "<3>[CommLib] GetSomething Invalid Comm Spec 7"));
-    NCLOperation operation(server.Handle(), "DoSomething", NCLOperation::ACTION, 18);
+    NCLOperation operation(server.Handle(), NCLOperation::ACTION, "%s , DoSomething , Start(%d)", 18);
     EXPECT_EQ(operation.Enter(false), 1U);
-    operation.End(3);
-    operation.End();
+    operation.End("%s , DoSomething , End(%d)", 3);
+    operation.End("%s , DoSomething , End");
     EXPECT_THAT(lines.Take(),
                 ElementsAre("<6>server , DoSomething , Start(18)", "<3>[CommLib] ***Common Parameta Error***",
                             "<6>server , DoSomething , End(3)", "<6>server , DoSomething , End"));

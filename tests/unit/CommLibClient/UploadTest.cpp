@@ -65,6 +65,11 @@ private:
 
 const std::string FIXED_BODY = "serverjobid=000004d2&filename=a b&c&hashtype=FIXED-1&hash=01ab";
 
+constexpr NCLHashLines LINES = {.digest = "\t## trace ## DigestOp md.Update %s(%d)",
+                                .hash = "\t## trace ## Op SendHash() %s"};
+constexpr NCLHashLines LINES_OF_ONE_NAME = {.digest = "\t## trace ## Op md.Update %s(%d)",
+                                            .hash = "\t## trace ## Op SendHash() %s"};
+
 } // namespace
 
 TEST(UploadPath, NamesTheJobsFolder)
@@ -296,8 +301,7 @@ TEST(HashOfUpload, ADigestThatFailsCountsAsACancel)
     const std::string data = "x";
     const NCLUpload upload{.nServerJobID = 1234, .pszFileName = "a b&c", .pData = Bytes(data), .dwSize = 1};
     FixedDigest md(17);
-    EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, md, NCL_SUCCESS, "Op", "DigestOp"),
-              NCL_ERR_CANCEL_SENDING);
+    EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, md, NCL_SUCCESS, LINES), NCL_ERR_CANCEL_SENDING);
     EXPECT_THAT(log.Take(), ElementsAre("<3>\t## trace ## DigestOp md.Update Hash calculation error(17)"));
     EXPECT_EQ(publisher.Requests().at(0).body, FIXED_BODY); // it goes out all the same
 }
@@ -309,12 +313,14 @@ TEST(HashOfUpload, AnEarlierFailureIsTheResult)
     const std::string data = "x";
     const NCLUpload upload{.nServerJobID = 1, .pszFileName = "F", .pData = Bytes(data), .dwSize = 1};
     FixedDigest failing(17);
-    EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, failing, NCL_ERR_HARD_DISC_CAPACITY, "Op", "Op"),
-              NCL_ERR_HARD_DISC_CAPACITY);
+    EXPECT_EQ(
+        SendHashOfUpload(&publisher.Object(), upload, failing, NCL_ERR_HARD_DISC_CAPACITY, LINES_OF_ONE_NAME),
+        NCL_ERR_HARD_DISC_CAPACITY);
     EXPECT_THAT(log.Take(), ElementsAre("<3>\t## trace ## Op md.Update Hash calculation error(17)"));
     FixedDigest md;
-    EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, md, NCL_ERR_HARD_DISC_CAPACITY, "Op", "Op"),
-              NCL_ERR_HARD_DISC_CAPACITY);
+    EXPECT_EQ(
+        SendHashOfUpload(&publisher.Object(), upload, md, NCL_ERR_HARD_DISC_CAPACITY, LINES_OF_ONE_NAME),
+        NCL_ERR_HARD_DISC_CAPACITY);
     EXPECT_THAT(log.Take(), ElementsAre("<3>[Apache/Tomcat] HTTP 500 error (POST, /webapp2/FileHashSetter)"));
     EXPECT_EQ(publisher.Requests().size(), 2U);
 }
@@ -326,7 +332,7 @@ TEST(HashOfUpload, AFailureOfItsOwnIsTraced)
     const std::string data = "x";
     const NCLUpload upload{.nServerJobID = 1, .pszFileName = "F", .pData = Bytes(data), .dwSize = 1};
     FixedDigest md;
-    EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, md, NCL_SUCCESS, "Op", "DigestOp"),
+    EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, md, NCL_SUCCESS, LINES),
               NCL_ERR_HARD_DISC_CAPACITY);
     EXPECT_EQ(log.Take().back(), "<3>\t## trace ## Op SendHash() Hard Disc Capacity");
 }
