@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 #include <fcntl.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,31 +28,6 @@ off64_t Seek(HANDLE hFile, off64_t distance, DWORD method)
 }
 
 } // namespace
-
-WinFileHandle::WinFileHandle(int descriptor) : fd(descriptor) {}
-
-WinFileHandle::~WinFileHandle()
-{
-    WinFileHandle::Close();
-}
-
-const char* WinFileHandle::name()
-{
-    return "WinFileHandle";
-}
-
-bool WinFileHandle::Close()
-{
-    // The number is given up even when close fails: by then the kernel has freed it, and it may be another's.
-    const int descriptor = std::exchange(fd, 0);
-    return descriptor == 0 || close(descriptor) == 0;
-}
-
-void WinFileHandle::Shutdown()
-{
-    const ErrnoKeeper keeper;
-    shutdown(fd, SHUT_RDWR);
-}
 
 BOOL ReadFile(HANDLE hFile, LPVOID lpBuffer, DWORD nNumberOfBytesToRead, LPDWORD lpNumberOfBytesRead,
               LPOVERLAPPED)

@@ -1,20 +1,5 @@
 #include "WinFunc.h"
 
-const char* IWinHandle::name()
-{
-    return "IWinHandle";
-}
-
-const char* WinClosableHandle::name()
-{
-    return "WinClosableHandle";
-}
-
-const char* WinWaitableHandle::name()
-{
-    return "WinWaitableHandle";
-}
-
 BOOL CloseHandle(HANDLE hObject)
 {
     if (!IsObject(hObject)) {
@@ -30,13 +15,4 @@ BOOL CloseHandle(HANDLE hObject)
     }
     delete object;
     return closed ? TRUE : FALSE;
-}
-
-void LogNoObject(const char* wrapper, const std::string& caller, HANDLE handle)
-{
-    if (handle == nullptr) {
-        LogWarning("%s called from %s with NULL", wrapper, caller.c_str());
-    } else {
-        LogWarning("%s called from %s with INVALID_HANDLE_VALUE", wrapper, caller.c_str());
-    }
 }
