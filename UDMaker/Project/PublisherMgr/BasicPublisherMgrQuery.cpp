@@ -6,41 +6,56 @@
 
 namespace {
 
-PUBMAINTINFODRIVE DriveMaintenance(CBasicPublisherMgr& mgr, const ST_PC_MAINTENANCE_INFO& wire, bool bSecond)
+using Wear = PUBMAINTINFODRIVE;
+using WireWear = ST_PC_MAINTENANCE_INFO;
+
+/// A count with its life limit, and the fields of the wire record for drive 1 and drive 2.
+struct WearField
 {
-    const auto life = [](unsigned long ulValue) { return static_cast<UINT>(ulValue); };
-    const auto count = [&mgr](unsigned long ulUsed, unsigned long ulLife) {
-        return static_cast<UINT>(mgr.CalcDriveMaintenanceValueCorrection(ulUsed, ulLife));
-    };
-    PUBMAINTINFODRIVE drive;
-    if (!bSecond) {
-        drive.uiTrayCount = count(wire.ulDrive1TrayNum, wire.ulDrive1TrayNumLife);
-        drive.uiTrayLife = life(wire.ulDrive1TrayNumLife);
-        drive.uiWriteCDCount = count(wire.ulDrive1WriteTimeCD, wire.ulDrive1WriteTimeCDLife);
-        drive.uiWriteCDLife = life(wire.ulDrive1WriteTimeCDLife);
-        drive.uiWriteDVDCount = count(wire.ulDrive1WriteTimeDVD, wire.ulDrive1WriteTimeDVDLife);
-        drive.uiWriteDVDLife = life(wire.ulDrive1WriteTimeDVDLife);
-        drive.uiWriteBDCount = count(wire.ulDrive1WriteTimeBD, wire.ulDrive1WriteTimeBDLife);
-        drive.uiWriteBDLife = life(wire.ulDrive1WriteTimeBDLife);
-        drive.uiDriveWriteTimeTotal = count(wire.ulDrive1WriteTimeTotal, wire.ulDrive1WriteTimeTotalLife);
-        drive.uiDriveWriteTimeTotalLife = life(wire.ulDrive1WriteTimeTotalLife);
-        drive.uiDriveReadTimeTotal = count(wire.ulDrive1ReadTimeTotal, wire.ulDrive1ReadTimeTotalLife);
-        drive.uiDriveReadTimeTotalLife = life(wire.ulDrive1ReadTimeTotalLife);
-    } else {
-        drive.uiTrayCount = count(wire.ulDrive2TrayNum, wire.ulDrive2TrayNumLife);
-        drive.uiTrayLife = life(wire.ulDrive2TrayNumLife);
-        drive.uiWriteCDCount = count(wire.ulDrive2WriteTimeCD, wire.ulDrive2WriteTimeCDLife);
-        drive.uiWriteCDLife = life(wire.ulDrive2WriteTimeCDLife);
-        drive.uiWriteDVDCount = count(wire.ulDrive2WriteTimeDVD, wire.ulDrive2WriteTimeDVDLife);
-        drive.uiWriteDVDLife = life(wire.ulDrive2WriteTimeDVDLife);
-        drive.uiWriteBDCount = count(wire.ulDrive2WriteTimeBD, wire.ulDrive2WriteTimeBDLife);
-        drive.uiWriteBDLife = life(wire.ulDrive2WriteTimeBDLife);
-        drive.uiDriveWriteTimeTotal = count(wire.ulDrive2WriteTimeTotal, wire.ulDrive2WriteTimeTotalLife);
-        drive.uiDriveWriteTimeTotalLife = life(wire.ulDrive2WriteTimeTotalLife);
-        drive.uiDriveReadTimeTotal = count(wire.ulDrive2ReadTimeTotal, wire.ulDrive2ReadTimeTotalLife);
-        drive.uiDriveReadTimeTotalLife = life(wire.ulDrive2ReadTimeTotalLife);
+    UINT Wear::* count;
+    UINT Wear::* life;
+    unsigned long WireWear::* wireCount[2];
+    unsigned long WireWear::* wireLife[2];
+};
+
+constexpr WearField WEAR_FIELDS[] = {
+    {&Wear::uiTrayCount,
+     &Wear::uiTrayLife,
+     {&WireWear::ulDrive1TrayNum, &WireWear::ulDrive2TrayNum},
+     {&WireWear::ulDrive1TrayNumLife, &WireWear::ulDrive2TrayNumLife}},
+    {&Wear::uiWriteCDCount,
+     &Wear::uiWriteCDLife,
+     {&WireWear::ulDrive1WriteTimeCD, &WireWear::ulDrive2WriteTimeCD},
+     {&WireWear::ulDrive1WriteTimeCDLife, &WireWear::ulDrive2WriteTimeCDLife}},
+    {&Wear::uiWriteDVDCount,
+     &Wear::uiWriteDVDLife,
+     {&WireWear::ulDrive1WriteTimeDVD, &WireWear::ulDrive2WriteTimeDVD},
+     {&WireWear::ulDrive1WriteTimeDVDLife, &WireWear::ulDrive2WriteTimeDVDLife}},
+    {&Wear::uiWriteBDCount,
+     &Wear::uiWriteBDLife,
+     {&WireWear::ulDrive1WriteTimeBD, &WireWear::ulDrive2WriteTimeBD},
+     {&WireWear::ulDrive1WriteTimeBDLife, &WireWear::ulDrive2WriteTimeBDLife}},
+    {&Wear::uiDriveWriteTimeTotal,
+     &Wear::uiDriveWriteTimeTotalLife,
+     {&WireWear::ulDrive1WriteTimeTotal, &WireWear::ulDrive2WriteTimeTotal},
+     {&WireWear::ulDrive1WriteTimeTotalLife, &WireWear::ulDrive2WriteTimeTotalLife}},
+    {&Wear::uiDriveReadTimeTotal,
+     &Wear::uiDriveReadTimeTotalLife,
+     {&WireWear::ulDrive1ReadTimeTotal, &WireWear::ulDrive2ReadTimeTotal},
+     {&WireWear::ulDrive1ReadTimeTotalLife, &WireWear::ulDrive2ReadTimeTotalLife}},
+};
+
+/// `drive` is 0 or 1.
+Wear DriveMaintenance(CBasicPublisherMgr& mgr, const WireWear& wire, size_t drive)
+{
+    Wear wear;
+    for (const WearField& field : WEAR_FIELDS) {
+        const unsigned long life = wire.*field.wireLife[drive];
+        wear.*field.count =
+            static_cast<UINT>(mgr.CalcDriveMaintenanceValueCorrection(wire.*field.wireCount[drive], life));
+        wear.*field.life = static_cast<UINT>(life);
     }
-    return drive;
+    return wear;
 }
 
 } // namespace
@@ -438,8 +453,8 @@ bool CBasicPublisherMgr::GetPublisherMaintenanceInfo(LPCTSTR szPublisherRegistID
     info.uiPrintCount = static_cast<UINT>(wire.ulPrintCount);
     info.uiMainteBoxCount = static_cast<UINT>(wire.ulMaintenanceBox);
     info.uiMainteBoxLife = static_cast<UINT>(wire.ulMaintenanceBoxLife);
-    info.midrvDrive1 = DriveMaintenance(*this, wire, false);
-    info.midrvDrive2 = DriveMaintenance(*this, wire, true);
+    info.midrvDrive1 = DriveMaintenance(*this, wire, 0);
+    info.midrvDrive2 = DriveMaintenance(*this, wire, 1);
     info.uiUsedPlugin = static_cast<UINT>(wire.ulPlugInUsed);
     info.strSerialNo = WireText(wire.acUlmarUnitSN);
     info.ulDRV1Life = wire.ulDRV1Life;
