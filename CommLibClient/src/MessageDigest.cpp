@@ -19,68 +19,14 @@ std::string MessageDigestIF::Encode(const std::vector<unsigned char>& vHash)
     return text;
 }
 
-MessageDigest_MD5::MessageDigest_MD5() : m_ctx()
-{
-    MD5Init(&m_ctx);
-}
-
-DWORD MessageDigest_MD5::Update(const uint8_t* input, size_t len)
-{
-    MD5Update(&m_ctx, input, len);
-    return 0;
-}
-
-DWORD MessageDigest_MD5::Final(std::vector<unsigned char>& vHash)
-{
-    vHash.resize(MD5_DIGEST_LENGTH);
-    MD5Final(vHash.data(), &m_ctx);
-    return 0;
-}
-
 std::string MessageDigest_MD5::GetTypeName()
 {
     return "MD5";
 }
 
-MessageDigest_SHA1::MessageDigest_SHA1() : m_ctx()
-{
-    SHA1Init(&m_ctx);
-}
-
-DWORD MessageDigest_SHA1::Update(const uint8_t* input, size_t len)
-{
-    SHA1Update(&m_ctx, input, len);
-    return 0;
-}
-
-DWORD MessageDigest_SHA1::Final(std::vector<unsigned char>& vHash)
-{
-    vHash.resize(SHA1_DIGEST_LENGTH);
-    SHA1Final(vHash.data(), &m_ctx);
-    return 0;
-}
-
 std::string MessageDigest_SHA1::GetTypeName()
 {
     return "SHA-1";
-}
-
-MessageDigest_SHA256::MessageDigest_SHA256() : m_ctx()
-{
-    SHA256Init(&m_ctx);
-}
-
-DWORD MessageDigest_SHA256::Update(const uint8_t* input, size_t len)
-{
-    SHA256Update(&m_ctx, input, len);
-    return 0;
-}
-
-DWORD MessageDigest_SHA256::Final(std::vector<unsigned char>& vHash)
-{
-    vHash.resize(SHA256_DIGEST_LENGTH);
-    SHA256Final(vHash.data(), &m_ctx);
-    return 0;
 }
 
 std::string MessageDigest_SHA256::GetTypeName()

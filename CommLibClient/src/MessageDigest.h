@@ -33,40 +33,49 @@ public:
     std::string Encode(const std::vector<unsigned char>& vHash);
 };
 
-class MessageDigest_MD5 : public MessageDigestIF
+/// A digest by libmd.
+template <class Context, void (*INIT)(Context*), void (*UPDATE)(Context*, const uint8_t*, size_t),
+          void (*FINAL)(uint8_t*, Context*), size_t SIZE>
+class LibmdDigest : public MessageDigestIF
 {
 public:
-    MessageDigest_MD5();
-    DWORD Update(const uint8_t* input, size_t len) override;
-    DWORD Final(std::vector<unsigned char>& vHash) override;
-    std::string GetTypeName() override;
+    LibmdDigest() : m_ctx()
+    {
+        INIT(&m_ctx);
+    }
+    DWORD Update(const uint8_t* input, size_t len) override
+    {
+        UPDATE(&m_ctx, input, len);
+        return 0;
+    }
+    DWORD Final(std::vector<unsigned char>& vHash) override
+    {
+        vHash.resize(SIZE);
+        FINAL(vHash.data(), &m_ctx);
+        return 0;
+    }
 
 protected:
-    MD5_CTX m_ctx;
+    Context m_ctx;
 };
 
-class MessageDigest_SHA1 : public MessageDigestIF
+class MessageDigest_MD5 : public LibmdDigest<MD5_CTX, MD5Init, MD5Update, MD5Final, MD5_DIGEST_LENGTH>
 {
 public:
-    MessageDigest_SHA1();
-    DWORD Update(const uint8_t* input, size_t len) override;
-    DWORD Final(std::vector<unsigned char>& vHash) override;
     std::string GetTypeName() override;
-
-protected:
-    SHA1_CTX m_ctx;
 };
 
-class MessageDigest_SHA256 : public MessageDigestIF
+class MessageDigest_SHA1 : public LibmdDigest<SHA1_CTX, SHA1Init, SHA1Update, SHA1Final, SHA1_DIGEST_LENGTH>
 {
 public:
-    MessageDigest_SHA256();
-    DWORD Update(const uint8_t* input, size_t len) override;
-    DWORD Final(std::vector<unsigned char>& vHash) override;
     std::string GetTypeName() override;
+};
 
-protected:
-    SHA2_CTX m_ctx;
+class MessageDigest_SHA256
+    : public LibmdDigest<SHA2_CTX, SHA256Init, SHA256Update, SHA256Final, SHA256_DIGEST_LENGTH>
+{
+public:
+    std::string GetTypeName() override;
 };
 
 /// The digest of a BCH_HASH_TYPE_ value: SHA-1 and SHA-256 by theirs, MD5 by any other.
