@@ -122,7 +122,7 @@ void CFerroJob::writeJobFile(const PUBLISHERINFO& info, const std::string& text)
     if (fd < 0) {
         return;
     }
-    std::FILE* file = ::fdopen(fd, "w"); // house-rule: close-on-exec: the descriptor has the flag
+    std::FILE* file = ::fdopen(fd, "w");
     if (!file) {
         ::close(fd);
         return;

@@ -110,7 +110,7 @@ int fopen_s(FILE** pFile, const char* filename, const char* mode)
     std::string closeOnExec = mode;
     const size_t behindFirst = closeOnExec.empty() ? 0 : 1;
     closeOnExec.insert(behindFirst, 1, 'e');
-    *pFile = std::fopen(filename, closeOnExec.c_str()); // house-rule: close-on-exec: the mode has it
+    *pFile = std::fopen(filename, closeOnExec.c_str());
     return *pFile != nullptr ? 0 : static_cast<int>(ERROR_ACCESS_DENIED);
 }
 

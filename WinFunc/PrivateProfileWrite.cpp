@@ -159,14 +159,12 @@ void LogFailure(Step step, int error)
         LogWarning("WritePrivateProfileStringA, lstat failed with errno=%d", error);
         break;
     case Step::OPEN_EXISTING_FILE:
-        // house-rule: close-on-exec: the words of a log line
         LogWarning("WritePrivateProfileStringA, open(,O_RDWR) failed with errno=%d", error);
         break;
     case Step::READ:
         LogWarning("WritePrivateProfileStringA, read failed with errno=%d", error);
         break;
     case Step::OPEN_NEW_FILE:
-        // house-rule: close-on-exec: the words of a log line
         LogWarning("WritePrivateProfileStringA, open(,O_RDWR|O_CREAT|O_EXCL) failed with errno=%d", error);
         break;
     case Step::WRITE:

@@ -132,7 +132,6 @@ int CSocket::Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec)
     address.sin_port = htons(wPort);
     address.sin_addr.s_addr = inet_addr(pszServerAddress);
     if (address.sin_addr.s_addr == INADDR_NONE && !FindHost(pszServerAddress, &address.sin_addr)) {
-        // house-rule: banned: this is a text
         log.LOG_WARN("CSocket::Connect gethostbyname() error = %d", errno);
         return INTERNET_ERR_CONNECT;
     }

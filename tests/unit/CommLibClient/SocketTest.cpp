@@ -192,7 +192,6 @@ TEST(Socket, CannotFindANameThatNobodyHas)
         CSocket socket;
         ASSERT_EQ(socket.Open(AF_INET, SOCK_STREAM), 0);
         EXPECT_EQ(socket.Connect(name, 80, 5000), -14) << name;
-        // house-rule: banned: this is a text
         EXPECT_THAT(lines.Take(), ElementsAre(StartsWith("<4>CSocket::Connect gethostbyname() error = ")));
     }
 }
