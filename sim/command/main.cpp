@@ -10,23 +10,22 @@
 #include "Nearest.h"
 #include "Subcommands.h"
 
-int main(int argc, char** argv)
+namespace udsim {
+namespace {
+
+int run(const Arguments& arguments)
 {
-    using namespace udsim;
-    std::signal(SIGPIPE, SIG_IGN); // a lost terminal ends nothing
-    ::umask(022);                  // as a service's: other users read its log and the setting files
     constexpr std::pair<const char*, int (*)(const Arguments&)> SUBCOMMANDS[] = {
         {"tell", tellRoom},        {"forget", forgetScenario}, {"record", recordSession},
         {"replay", replaySession}, {"--check", checkScenario}, {"--help", showHelp},
         {"-h", showHelp},          {"--version", showVersion},
     };
-    const Arguments arguments(argv + 1, argv + argc);
     const std::string first = arguments.empty() ? "" : arguments.front();
     std::vector<std::string> known;
-    for (const auto& [name, run] : SUBCOMMANDS) {
+    for (const auto& [name, subcommand] : SUBCOMMANDS) {
         if (first == name) {
             const bool asksForHelp = arguments.size() == 2 && arguments.back() == "--help";
-            return asksForHelp ? showHelp({}) : run(Arguments(arguments.begin() + 1, arguments.end()));
+            return asksForHelp ? showHelp({}) : subcommand(Arguments(arguments.begin() + 1, arguments.end()));
         }
         known.emplace_back(name);
     }
@@ -36,4 +35,14 @@ int main(int argc, char** argv)
         return wrongUsage("\"" + first + "\" is neither a scenario nor a command" + meant);
     }
     return runRoom(arguments);
+}
+
+} // namespace
+} // namespace udsim
+
+int main(int argc, char** argv)
+{
+    std::signal(SIGPIPE, SIG_IGN); // a lost terminal ends nothing
+    ::umask(022);                  // as a service's: other users read its log and the setting files
+    return udsim::run(udsim::Arguments(argv + 1, argv + argc));
 }
