@@ -2,8 +2,8 @@
 #include "Boxes.h"
 #include "DirectStart.h"
 #include "Installation.h"
+#include "LocalRoom.h"
 #include "PubSetup.h"
-#include "ScriptedService.h"
 #include "Shown.h"
 #include "propertyDialog.h"
 
@@ -65,15 +65,13 @@ private slots:
 
 private:
     Installation m_installation;
-    std::optional<ScriptedService> m_service;
+    std::optional<LocalRoom> m_service;
 };
 
 void DirectStartDialogTest::init()
 {
     m_installation = Installation();
-    m_service.emplace();
-    m_service->setPublishMode("a", 0);
-    m_service->setPublishMode("b", 0);
+    m_service.emplace(std::vector<std::string>{"a", "b"});
 }
 
 void DirectStartDialogTest::cleanup()

@@ -1,8 +1,8 @@
 // Closing the window while the service is asked, and answers that come when there is no window any more.
 #include "Installation.h"
+#include "LocalRoom.h"
 #include "MyRunnable.h"
 #include "PubSetup.h"
-#include "ScriptedService.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -51,8 +51,8 @@ void LateAnswerTest::taskThatRunsOutOfMemoryEndsAlone()
 
 void LateAnswerTest::closingWaitsForTheAnswer()
 {
-    ScriptedService service;
-    service.stall("a");
+    LocalRoom service({"a", "b"});
+    service.hold("a");
     m_installation.addLocal("a", "A");
     auto window = std::make_unique<PubSetup>(nullptr);
     window->show();
@@ -75,11 +75,11 @@ void LateAnswerTest::closingWaitsForTheAnswer()
 
 void LateAnswerTest::closingStopsAskingTheOthers()
 {
-    ScriptedService service;
+    LocalRoom service({"a", "b"});
     m_installation.addLocal("a", "A");
     m_installation.addLocal("b", "B");
-    service.stall("a");
-    service.stall("b");
+    service.hold("a");
+    service.hold("b");
     auto window = std::make_unique<PubSetup>(nullptr);
     QTRY_COMPARE(service.count("22 a") + service.count("22 b"), 1); // whichever the folder names first
     std::thread answer([&] {
@@ -95,8 +95,8 @@ void LateAnswerTest::closingStopsAskingTheOthers()
 
 void LateAnswerTest::answerAfterTheWindowIsGone()
 {
-    ScriptedService service;
-    service.stall("a");
+    LocalRoom service({"a", "b"});
+    service.hold("a");
     m_installation.addLocal("a", "A");
     auto window = std::make_unique<PubSetup>(nullptr);
     window->show();

@@ -1,9 +1,9 @@
 // The ways to the dialogs, what stands before them, and what goes on behind them.
 #include "Boxes.h"
 #include "Installation.h"
+#include "LocalRoom.h"
 #include "MyRunnable.h"
 #include "PubSetup.h"
-#include "ScriptedService.h"
 #include "Shown.h"
 #include "propertyDialog.h"
 #include "settingDialog.h"
@@ -47,17 +47,16 @@ private:
     void doubleClick(const QString& name, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     Installation m_installation;
-    std::optional<ScriptedService> m_service;
+    std::optional<LocalRoom> m_service;
     std::unique_ptr<PubSetup> m_window;
 };
 
 void OpenDialogsTest::init()
 {
     m_installation = Installation();
-    m_service.emplace();
+    m_service.emplace(std::vector<std::string>{"a", "b", "c"});
     for (const char* id : {"a", "b", "c"}) {
         m_installation.addLocal(id, QByteArray(id).toUpper().toStdString());
-        m_service->setPublishMode(id, 0);
     }
     m_window = std::make_unique<PubSetup>(nullptr);
     m_window->show();
@@ -239,7 +238,7 @@ void OpenDialogsTest::publishModeThatCannotBeHadIsSaidFirst()
 
 void OpenDialogsTest::stalledServiceShowsTheIndicator()
 {
-    m_service->stall("b");
+    m_service->hold("b");
     m_window->treePublisherList->setCurrentItem(row("B"));
     int served = 0;
     bool early = false;
@@ -266,7 +265,7 @@ void OpenDialogsTest::stalledServiceShowsTheIndicator()
 
 void OpenDialogsTest::impatientDoubleClicksOpenOneDialog()
 {
-    m_service->stall("b");
+    m_service->hold("b");
     int clicks = 0, opened = 0;
     QTimer impatience;
     connect(&impatience, &QTimer::timeout, this, [&] {
@@ -432,7 +431,7 @@ void OpenDialogsTest::pollsGoOnBehindTheDialog()
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
         open = &shown;
         before = m_service->count("22 a");
-        m_service->setFatalCode("a", 19);
+        (*m_service)->tell("a", "error 19");
         m_installation.addLocal("d", "D");
         end.start(20);
         QTimer::singleShot(15000, &shown, &QDialog::reject);

@@ -156,10 +156,8 @@ void PropertyRefusalTest::unfinishedJobs()
 
 void PropertyRefusalTest::jobListThatCannotBeFetched()
 {
-    m_service.reset();
-    ScriptedService service;
-    service.setJobs("X", {2});
-    service.setJobsResult("X", 1001);
+    (*m_service)->addJob("Studio");
+    m_service->refuse(PropertyService::jobList, 0, 1001);
     m_stage->spinRetryCount->stepUp();
     okIsAccepted();
     QCOMPARE(setting("RetryTimes"), "4");

@@ -1,6 +1,7 @@
 // What the rows say about publishers behind a control service, from the question on a pool thread to the
 // text.
 #include "Installation.h"
+#include "LocalRoom.h"
 #include "MyRunnable.h"
 #include "PubSetup.h"
 #include "ScriptedService.h"
@@ -39,7 +40,7 @@ private:
     QStringList texts(const QString& key) const;
 
     Installation m_installation;
-    std::optional<ScriptedService> m_service;
+    std::optional<LocalRoom> m_service;
     std::unique_ptr<PubSetup> m_window;
 };
 
@@ -115,10 +116,10 @@ void PublisherStatusTest::everyStateHasItsRow()
     QFETCH(uint, jobsResult);
     QFETCH(QString, status);
     QFETCH(QString, waiting);
-    m_service.emplace();
-    m_service->setFatalCode("X", fatalCode);
-    m_service->setJobs("X", std::vector<uint64_t>(jobs.begin(), jobs.end()));
-    m_service->setJobsResult("X", jobsResult);
+    ScriptedService service;
+    service.setFatalCode("X", fatalCode);
+    service.setJobs("X", std::vector<uint64_t>(jobs.begin(), jobs.end()));
+    service.setJobsResult("X", jobsResult);
     m_installation.addLocal("X", "Studio", 0x30000009, attached);
     open();
     m_window->findItemByPublisherRegistID("X")->setText(3, "before the answer");
@@ -137,34 +138,34 @@ void PublisherStatusTest::withoutAServiceNothingIsConnected()
 
 void PublisherStatusTest::theTimerKeepsTheRowsUpToDate()
 {
-    m_service.emplace();
+    m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("X", "Studio");
     m_window = std::make_unique<PubSetup>(nullptr);
     QVERIFY2(m_service->waitFor("22 X", 1), "asked at once: no event loop runs, so the timer cannot tick");
     QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Ready", 20000);
-    m_service->setFatalCode("X", 19);
+    (*m_service)->tell("X", "error 19");
     QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Error", 20000);
     QCOMPARE(texts("X")[4], "-");
 }
 
 void PublisherStatusTest::aReturningServiceIsNoticed()
 {
-    m_service.emplace();
+    m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("X", "Studio");
     open();
     QTRY_COMPARE(texts("X")[3], "Ready");
     m_service.reset();
     ask();
     QTRY_COMPARE(texts("X")[3], "Not connected");
-    m_service.emplace();
+    m_service.emplace(std::vector<std::string>{"A", "X"});
     ask();
     QTRY_COMPARE(texts("X")[3], "Ready");
 }
 
 void PublisherStatusTest::aStalledPublisherIsAskedOnce()
 {
-    m_service.emplace();
-    m_service->stall("A");
+    m_service.emplace(std::vector<std::string>{"A", "X"});
+    m_service->hold("A");
     m_installation.addLocal("A", "A");
     open();
     QVERIFY(m_service->waitFor("22 A", 1));
@@ -181,8 +182,8 @@ void PublisherStatusTest::aStalledPublisherIsAskedOnce()
 
 void PublisherStatusTest::publisherRemovedWhileItIsAsked()
 {
-    m_service.emplace();
-    m_service->stall("A");
+    m_service.emplace(std::vector<std::string>{"A", "X"});
+    m_service->hold("A");
     m_installation.addLocal("A", "A");
     open();
     QVERIFY(m_service->waitFor("22 A", 1));
@@ -253,7 +254,7 @@ void PublisherStatusTest::unreadablePublisherIsNotReported()
 
 void PublisherStatusTest::absentPublisherIsNotAsked()
 {
-    m_service.emplace();
+    m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("A", "A", 0x20000009, false);
     open();
     QVERIFY(waitForTasks(10000));

@@ -1,6 +1,7 @@
 // Removing publishers, as a user does it: with the key, the menus and the answers in the boxes.
 #include "Boxes.h"
 #include "Installation.h"
+#include "LocalRoom.h"
 #include "MyRunnable.h"
 #include "OrdinaryRights.h"
 #include "PubSetup.h"
@@ -44,14 +45,14 @@ private:
     static bool registered(const char* id);
 
     Installation m_installation;
-    std::optional<ScriptedService> m_service;
+    std::optional<LocalRoom> m_service;
     std::unique_ptr<PubSetup> m_window;
 };
 
 void RemovePublisherTest::init()
 {
     m_installation = Installation();
-    m_service.emplace();
+    m_service.emplace(std::vector<std::string>{"a", "b", "c"});
     m_installation.addLocal("a", "A");
     m_installation.addLocal("b", "B");
     m_installation.addLocal("c", "C");
@@ -202,7 +203,7 @@ void RemovePublisherTest::contextMenuRemoves()
 
 void RemovePublisherTest::runningJobStopsTheLoop()
 {
-    m_service->setJobs("b", {9, 2, 8});
+    (*m_service)->addJob("b");
     open();
     select({"A", "B", "C"});
     Boxes boxes({QMessageBox::Yes, QMessageBox::Ok});
@@ -232,7 +233,9 @@ void RemovePublisherTest::everyUnfinishedJobStopsTheRemoval()
 {
     QFETCH(quint64, state);
     QFETCH(bool, stops);
-    m_service->setJobs("a", {9, state, 8});
+    m_service.reset();
+    ScriptedService service;
+    service.setJobs("a", {9, state, 8});
     open();
     select({"A"});
     Boxes boxes(stops ? std::vector{QMessageBox::Yes, QMessageBox::Ok} : std::vector{QMessageBox::Yes});
@@ -243,8 +246,12 @@ void RemovePublisherTest::everyUnfinishedJobStopsTheRemoval()
 
 void RemovePublisherTest::jobListThatCannotBeFetchedDoesNotPreventIt()
 {
-    m_service->setJobs("a", {2});
-    m_service->setJobsResult("a", 1001);
+    (*m_service)->addJob("a");
+    udsim::Fault fault;
+    fault.kind = udsim::Fault::Kind::result;
+    fault.number = 1001;
+    fault.control = 4;
+    (*m_service)->setFault(fault);
     open();
     select({"A"});
     Boxes boxes({QMessageBox::Yes});

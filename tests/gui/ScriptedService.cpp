@@ -2,9 +2,7 @@
 
 #include "InstallPaths.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstring>
 #include <stdexcept>
 
@@ -22,15 +20,7 @@ constexpr size_t idSize = 129;
 constexpr size_t jobSize = 1088;
 constexpr size_t jobStatusOffset = 512;
 constexpr uint64_t getJobStatus = 4;
-constexpr uint64_t getPublishMode = 18;
 constexpr uint64_t getFatalCode = 22;
-
-/// The records of a device that the properties show; all zero until the script says more.
-constexpr struct
-{
-    uint64_t control;
-    size_t size;
-} deviceRecords[] = {{10, 128}, {11, 320}, {12, 128}, {28, 344}}; // autoloader, drives, printer, wear
 
 void append(std::string& bytes, const void* value, size_t size)
 {
@@ -60,9 +50,6 @@ ScriptedService::ScriptedService()
         ::listen(m_listener, 128) != 0) {
         throw std::runtime_error(std::string("ScriptedService: ") + std::strerror(errno));
     }
-    for (const auto& record : deviceRecords) {
-        m_payloads[record.control] = std::string(record.size, '\0');
-    }
     m_thread = std::thread([this] { serve(); });
 }
 
@@ -73,9 +60,6 @@ ScriptedService::~ScriptedService()
     ::close(m_stopPipe[0]);
     ::close(m_listener);
     ::unlink(SERVICE_SOCKET);
-    for (const Stalled& request : m_stalled) {
-        ::close(request.descriptor);
-    }
 }
 
 void ScriptedService::setFatalCode(const std::string& id, uint32_t code)
@@ -96,48 +80,16 @@ void ScriptedService::setJobsResult(const std::string& id, uint64_t result)
     m_publishers[id].jobsResult = result;
 }
 
-void ScriptedService::setPublishMode(const std::string& id, uint32_t mode)
-{
-    const std::lock_guard lock(m_mutex);
-    m_publishers[id].publishMode = mode;
-}
-
 void ScriptedService::setPayload(uint64_t control, const std::string& payload)
 {
     const std::lock_guard lock(m_mutex);
     m_payloads[control] = payload;
 }
 
-void ScriptedService::stall(const std::string& id)
-{
-    const std::lock_guard lock(m_mutex);
-    m_publishers[id].stalled = true;
-}
-
-void ScriptedService::release(const std::string& id)
-{
-    const std::lock_guard lock(m_mutex);
-    m_publishers[id].stalled = false;
-    for (const Stalled& request : m_stalled) {
-        if (request.id == id) {
-            const std::string bytes = reply(request.control, id);
-            ::send(request.descriptor, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-            ::close(request.descriptor);
-        }
-    }
-    std::erase_if(m_stalled, [&](const Stalled& request) { return request.id == id; });
-}
-
 int ScriptedService::count(const std::string& request)
 {
     const std::lock_guard lock(m_mutex);
     return m_counts[request];
-}
-
-bool ScriptedService::waitFor(const std::string& request, int count)
-{
-    std::unique_lock lock(m_mutex);
-    return m_changed.wait_for(lock, std::chrono::seconds(15), [&] { return m_counts[request] >= count; });
 }
 
 void ScriptedService::serve()
@@ -170,14 +122,9 @@ void ScriptedService::handle(int descriptor)
 
     const std::lock_guard lock(m_mutex);
     ++m_counts[std::to_string(control) + " " + id];
-    if (m_publishers[id].stalled) {
-        m_stalled.push_back({descriptor, id, control});
-    } else {
-        const std::string bytes = reply(control, id);
-        ::send(descriptor, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        ::close(descriptor);
-    }
-    m_changed.notify_all();
+    const std::string bytes = reply(control, id);
+    ::send(descriptor, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    ::close(descriptor);
 }
 
 std::string ScriptedService::reply(uint64_t control, const std::string& id)
@@ -190,8 +137,6 @@ std::string ScriptedService::reply(uint64_t control, const std::string& id)
     std::string payload;
     if (control == getFatalCode) {
         append(payload, &publisher.fatalCode, sizeof publisher.fatalCode);
-    } else if (control == getPublishMode && publisher.publishMode) {
-        append(payload, &*publisher.publishMode, sizeof *publisher.publishMode);
     } else if (control == getJobStatus) {
         if (publisher.jobsResult != 0) {
             return frame(control, publisher.jobsResult, "");

@@ -120,9 +120,8 @@ TEST_F(AdministratorTest, FindsTheUsersScreenLanguageAndScale)
 
 TEST_F(AdministratorTest, ShowsThePropertiesOfThePublisherThatIsNamed)
 {
-    ScriptedService service;
+    const LocalRoom service({"a"});
     m_installation.addLocal("a", "Studio A");
-    service.setPublishMode("a", 0);
     launch({"--administrator", "Studio A"});
     const QString id = window("Eigenschaften - Studio A.*");
     ASSERT_FALSE(id.isEmpty());

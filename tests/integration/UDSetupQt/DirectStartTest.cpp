@@ -10,7 +10,6 @@ protected:
     {
         RunningProgram::SetUp();
         m_installation.addLocal("a", "Studio A");
-        m_service.setPublishMode("a", 0);
     }
 
     /// The ids of the program's visible windows.
@@ -54,7 +53,7 @@ protected:
         return !xdotool({"search", "--onlyvisible", "--name", "^" + mainTitle + "$"}).isEmpty();
     }
 
-    ScriptedService m_service;
+    LocalRoom m_service{{"a"}};
 };
 
 TEST_F(DirectStartTest, ShowsThePropertiesAndEndsWithThem)
@@ -112,7 +111,7 @@ TEST_F(DirectStartTest, AnEnvironmentArgumentBehindTheNameDoesNoHarm)
 
 TEST_F(DirectStartTest, AStalledServiceShowsTheIndicatorMeanwhile)
 {
-    m_service.stall("a");
+    m_service.hold("a");
     start({"Studio A"});
     const QString indicator = window(mainTitle);
     ASSERT_FALSE(indicator.isEmpty());

@@ -117,8 +117,8 @@ TEST_F(ProgramTest, NameThatNoPublisherBearsLeadsToTheList)
 
 TEST_F(ProgramTest, EndsAlthoughTheServiceNeverAnswers)
 {
-    ScriptedService service;
-    service.stall("a");
+    LocalRoom service({"a"});
+    service.hold("a");
     m_installation.addLocal("a", "Studio A");
     start();
     const QString id = window(mainTitle);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Installation.h"
-#include "ScriptedService.h"
+#include "LocalRoom.h"
 
 #include <gtest/gtest.h>
 
