@@ -1,16 +1,6 @@
 #include "ScriptedService.h"
 
-#include "InstallPaths.h"
-
-#include <cerrno>
 #include <cstring>
-#include <stdexcept>
-
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace {
 
@@ -38,29 +28,6 @@ std::string frame(uint64_t control, uint64_t result, const std::string& payload)
 }
 
 } // namespace
-
-ScriptedService::ScriptedService()
-{
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::memcpy(address.sun_path, SERVICE_SOCKET, sizeof SERVICE_SOCKET);
-    m_listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (m_listener < 0 || ::pipe2(m_stopPipe, O_CLOEXEC) != 0 ||
-        ::bind(m_listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        ::listen(m_listener, 128) != 0) {
-        throw std::runtime_error(std::string("ScriptedService: ") + std::strerror(errno));
-    }
-    m_thread = std::thread([this] { serve(); });
-}
-
-ScriptedService::~ScriptedService()
-{
-    ::close(m_stopPipe[1]);
-    m_thread.join();
-    ::close(m_stopPipe[0]);
-    ::close(m_listener);
-    ::unlink(SERVICE_SOCKET);
-}
 
 void ScriptedService::setFatalCode(const std::string& id, uint32_t code)
 {
@@ -92,39 +59,20 @@ int ScriptedService::count(const std::string& request)
     return m_counts[request];
 }
 
-void ScriptedService::serve()
+void ScriptedService::serve(const std::stop_token& stop)
 {
-    while (true) {
-        pollfd entries[2] = {{m_listener, POLLIN, 0}, {m_stopPipe[0], POLLIN, 0}};
-        if (::poll(entries, 2, -1) < 0 && errno == EINTR) {
-            continue;
-        }
-        if (entries[1].revents != 0) {
-            return;
-        }
-        const int descriptor = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
-        if (descriptor >= 0) {
-            handle(descriptor);
+    while (!stop.stop_requested()) {
+        UnixPeer client = m_listener.Accept(20);
+        const std::string request = client.ReadExactly(requestSize);
+        if (request.size() == requestSize) {
+            uint64_t control = 0;
+            std::memcpy(&control, request.data(), sizeof control);
+            const std::string id(&request[idOffset], ::strnlen(&request[idOffset], idSize));
+            const std::lock_guard lock(m_mutex);
+            ++m_counts[std::to_string(control) + " " + id];
+            client.Write(reply(control, id));
         }
     }
-}
-
-void ScriptedService::handle(int descriptor)
-{
-    char request[requestSize];
-    if (::recv(descriptor, request, sizeof request, MSG_WAITALL) != static_cast<ssize_t>(sizeof request)) {
-        ::close(descriptor);
-        return;
-    }
-    uint64_t control = 0;
-    std::memcpy(&control, request, sizeof control);
-    const std::string id(request + idOffset, ::strnlen(request + idOffset, idSize));
-
-    const std::lock_guard lock(m_mutex);
-    ++m_counts[std::to_string(control) + " " + id];
-    const std::string bytes = reply(control, id);
-    ::send(descriptor, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    ::close(descriptor);
 }
 
 std::string ScriptedService::reply(uint64_t control, const std::string& id)

@@ -3,6 +3,9 @@
 // succeeds with an empty payload.
 #pragma once
 
+#include "InstallPaths.h"
+#include "UnixListener.h"
+
 #include <cstdint>
 #include <map>
 #include <mutex>
@@ -10,15 +13,10 @@
 #include <thread>
 #include <vector>
 
+/// Throws std::runtime_error when it cannot listen on the service's socket.
 class ScriptedService
 {
 public:
-    /// Listens on the service's socket; throws std::runtime_error when it cannot.
-    ScriptedService();
-    ScriptedService(const ScriptedService&) = delete;
-    ScriptedService& operator=(const ScriptedService&) = delete;
-    ~ScriptedService();
-
     void setFatalCode(const std::string& id, uint32_t code);
     void setJobs(const std::string& id, const std::vector<uint64_t>& jobStates);
     /// The job list is answered with this result code.
@@ -37,15 +35,13 @@ private:
         uint64_t jobsResult = 0;
     };
 
-    void serve();
-    void handle(int descriptor);
+    void serve(const std::stop_token& stop);
     std::string reply(uint64_t control, const std::string& id);
 
-    int m_listener = -1;
-    int m_stopPipe[2] = {-1, -1};
+    UnixListener m_listener{SERVICE_SOCKET};
     std::mutex m_mutex;
     std::map<std::string, Publisher> m_publishers;
     std::map<uint64_t, std::string> m_payloads; ///< by control id
     std::map<std::string, int> m_counts;
-    std::thread m_thread;
+    std::jthread m_thread{[this](const std::stop_token& stop) { serve(stop); }}; ///< last: it uses the others
 };
