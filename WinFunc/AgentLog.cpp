@@ -15,16 +15,17 @@ int g_logLebel = 4;
 
 namespace {
 
-/// The longest wait for room in the agent's queue, which takes about ten lines.
+/// The longest wait for space in the agent's queue, which holds about ten lines.
 constexpr timeval AGENT_PATIENCE{0, 200000};
-/// The time after such a timeout in which no call waits, so that a hung agent does not slow the program.
+/// The pause after such a timeout, in which no call waits, so that a hung agent does not slow the program
+/// down.
 constexpr std::chrono::seconds AGENT_PAUSE{5};
 
-/// The end of that time, as a count of the steady clock.
+/// The end of this pause, in ticks of the steady clock.
 std::atomic<std::chrono::steady_clock::rep> agentPauseEnd =
     std::chrono::steady_clock::time_point::min().time_since_epoch().count();
 
-/// One socket for a line: none stays open that a restart of the service would make stale.
+/// Opens a socket for each line: a restart of the service would make a permanent one stale.
 void SendToAgent(const char* datagram)
 {
     using std::chrono::steady_clock;
@@ -54,8 +55,8 @@ void SendToAgent(const char* datagram)
 void LogLine(int priority, const char* before, const char* behind, const char* format, va_list args)
     __attribute__((format(printf, 4, 0)));
 
-/// One line to the console and to syslog. The console's starts with the thread, in magenta, and the
-/// indentation of its trace depth; `before` and `behind` colour the text there.
+/// Writes one line to the console and to syslog. The console line starts with the thread name in magenta and
+/// the indentation of its trace depth; `before` and `behind` set and reset the colour of the text.
 void LogLine(int priority, const char* before, const char* behind, const char* format, va_list args)
 {
     const ErrnoKeeper keeper;
@@ -82,7 +83,7 @@ void SetLogLevel(int level)
 
 void logViaAgent(int priority, const char* format, ...)
 {
-    const ErrnoKeeper keeper; // callers log between a failed call and their look at its error
+    const ErrnoKeeper keeper; // callers may log before they check the errno of a failed call
     char message[512] = {};
     va_list args;
     va_start(args, format);

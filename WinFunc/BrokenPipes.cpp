@@ -1,11 +1,12 @@
 #include <csignal>
 
-/// A service that goes away in mid-request, or a console that does, would end the process by SIGPIPE. The
-/// signal is set aside before main and before any object of the program is made: a later moment would leave a
-/// window in which it kills. A child process inherits this; QProcess gives its children the default back.
+/// Ignores SIGPIPE, which would end the process when the control service or a console closes its end. The
+/// signal is ignored before main and before any object of the program is constructed, so that it cannot kill
+/// the process at any later moment. Child processes inherit this; QProcess restores the default in its
+/// children.
 ///
-/// No code calls this by name. The library's build puts it into every program, also into one that prints and
-/// opens no handle.
+/// No code calls this function. The library's link options add it to every program, including one that only
+/// prints and opens no handle.
 extern "C" [[gnu::constructor(101)]] void IgnoreBrokenPipes()
 {
     struct sigaction action = {};

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// What the C library's functions return on the heap.
+/// Frees memory that the C library allocated.
 struct Free
 {
     void operator()(void* memory) const
@@ -22,7 +22,7 @@ constexpr size_t longestMangledName = 1023;
 
 } // namespace
 
-// Not inlined, nor is a caller a tail call: the third frame is the one that is wanted.
+// Must not be inlined, and no caller may reach it by a tail call: the third frame is the one reported.
 [[gnu::noinline]] std::string caller_name()
 {
     constexpr int depth = 3;

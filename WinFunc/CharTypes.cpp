@@ -30,7 +30,7 @@ bool IsOneOf(char ch, std::string_view set)
     return set.find(ch) != std::string_view::npos;
 }
 
-/// What the character is: blank, digit, letter with its case and hexadecimal use, punctuation.
+/// The class of the character: blank, digit, letter with its case and hexadecimal use, or punctuation.
 std::optional<WORD> Ctype1(char ch)
 {
     if (ch == ' ') {
@@ -50,7 +50,7 @@ std::optional<WORD> Ctype1(char ch)
     return std::nullopt;
 }
 
-/// How the character serves in text processing: symbol, letter, half width and the like.
+/// The text-processing class of the character: symbol, letter, half width and so on.
 std::optional<WORD> Ctype3(char ch)
 {
     if (IsOneOf(ch, " !#%&()*+,.:;<>?[]{|}")) {
@@ -82,7 +82,7 @@ BOOL GetStringTypeA(LCID Locale, DWORD dwInfoType, LPCSTR lpSrcStr, int cchSrc, 
         (dwInfoType != CT_CTYPE1 && dwInfoType != CT_CTYPE3)) {
         return FALSE;
     }
-    // A negative length means a text up to its NUL.
+    // A negative length means that the text ends at its NUL.
     const size_t length = strnlen(lpSrcStr, static_cast<size_t>(cchSrc));
     for (size_t i = 0; i < length; ++i) {
         const std::optional<WORD> type = dwInfoType == CT_CTYPE1 ? Ctype1(lpSrcStr[i]) : Ctype3(lpSrcStr[i]);

@@ -18,7 +18,8 @@ namespace {
 constexpr std::string_view pipePrefix = R"(\\.\pipe\)";
 constexpr mode_t newFileMode = 0600;
 
-/// A new handle that owns the descriptor; INVALID_HANDLE_VALUE for a negative one.
+/// A new handle that owns the descriptor. INVALID_HANDLE_VALUE if the descriptor is negative or memory runs
+/// out.
 HANDLE FileHandle(int fd)
 {
     if (fd < 0) {
@@ -38,7 +39,7 @@ std::optional<int> CreationFlags(DWORD disposition)
     switch (disposition) {
     case CREATE_NEW:
         return O_CREAT | O_EXCL;
-    case CREATE_ALWAYS: // without O_TRUNC: an old tail stays behind a shorter new text
+    case CREATE_ALWAYS: // no O_TRUNC: the end of a longer old text stays after a shorter new one
         return O_CREAT;
     case OPEN_EXISTING:
         return 0;
@@ -47,7 +48,7 @@ std::optional<int> CreationFlags(DWORD disposition)
     }
 }
 
-/// The flags of open(2), or none when access and disposition do not go together.
+/// The flags of open(2), or none for an unsupported combination of access and disposition.
 std::optional<int> OpenFlags(DWORD access, DWORD disposition)
 {
     const std::optional<int> creation = CreationFlags(disposition);
@@ -56,7 +57,7 @@ std::optional<int> OpenFlags(DWORD access, DWORD disposition)
     }
     switch (access) {
     case 0:
-    case GENERIC_READ: // nothing could be put into a new file
+    case GENERIC_READ: // a new file could not be written
         return disposition == OPEN_EXISTING ? std::optional(O_RDONLY) : std::nullopt;
     case GENERIC_WRITE:
         return O_WRONLY | *creation;
@@ -78,7 +79,7 @@ HANDLE OpenServicePipe()
     static_assert(sizeof SERVICE_SOCKET <= sizeof address.sun_path);
     std::copy_n(SERVICE_SOCKET, sizeof SERVICE_SOCKET, address.sun_path);
 
-    // An interrupted connect of this family leaves the socket unconnected.
+    // An interrupted connect of an AF_UNIX socket leaves it unconnected, so it can be repeated.
     const auto* target = reinterpret_cast<const sockaddr*>(&address);
     if (Uninterrupted([&] { return connect(fd, target, sizeof address); }) == 0) {
         return FileHandle(fd);

@@ -49,7 +49,7 @@ DWORD WinEvent::WaitForSingleObject(DWORD dwMilliseconds)
             SleepMilliseconds(coarseStep);
         }
     } else {
-        // Counted down: a sum would overflow for a timeout close to the end of the 32 bits.
+        // Counts down, because a sum would overflow for a timeout near the 32-bit maximum.
         DWORD remaining = dwMilliseconds;
         while (remaining > coarseStep && !signal) {
             SleepMilliseconds(coarseStep);

@@ -22,7 +22,8 @@ const char* WinFileHandle::name()
 
 bool WinFileHandle::Close()
 {
-    // The number is given up even when close fails: by then the kernel has freed it, and it may be another's.
+    // The number is forgotten even if close fails: the kernel has already released it, and another file may
+    // use it.
     const int descriptor = std::exchange(fd, 0);
     return descriptor == 0 || close(descriptor) == 0;
 }

@@ -1,4 +1,4 @@
-// Tells one state of a file from another, without reading it.
+// Distinguishes states of a file without reading it.
 #pragma once
 
 #include <ctime>
@@ -18,9 +18,9 @@ struct FileStamp
         return device == other.device && inode == other.inode && size == other.size &&
                SameTime(modified, other.modified) && SameTime(changed, other.changed);
     }
-    /// False when a change yet to come could leave the same stamp: the kernel's clock stands still between
-    /// two ticks, and 100 ms is longer than any tick. Some file systems keep whole seconds only, and a time
-    /// without a fraction is taken for one of theirs. `now`: CLOCK_REALTIME_COARSE, taken before the stamp.
+    /// False if a later change could leave the same stamp. The kernel's clock advances once per tick, and 100
+    /// ms is longer than any tick. Some file systems store whole seconds only; a time without a fraction is
+    /// assumed to come from one of them. `now` is CLOCK_REALTIME_COARSE, read before the stamp.
     bool IsSettled(const timespec& now) const
     {
         constexpr long long nsPerSecond = 1'000'000'000;

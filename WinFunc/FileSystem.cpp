@@ -105,8 +105,8 @@ int fopen_s(FILE** pFile, const char* filename, const char* mode)
     if (pFile == nullptr || filename == nullptr || mode == nullptr) {
         return EINVAL;
     }
-    // "e" is close-on-exec. It stands behind the first letter: further on it could fall into a ",ccs="
-    // clause.
+    // "e" sets close-on-exec. It is inserted after the first letter: further back it could become part of a
+    // ",ccs=" clause.
     std::string closeOnExec = mode;
     const size_t behindFirst = closeOnExec.empty() ? 0 : 1;
     closeOnExec.insert(behindFirst, 1, 'e');

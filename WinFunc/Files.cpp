@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The position after the move, negative after a failure. An unknown method moves nothing and counts as 0.
+/// Returns the new position, or a negative value on failure. An unknown method moves nothing and returns 0.
 off64_t Seek(HANDLE hFile, off64_t distance, DWORD method)
 {
     const int fd = ObjectOf<WinFileHandle>(hFile).fd;

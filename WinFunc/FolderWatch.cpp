@@ -14,7 +14,7 @@ namespace {
 constexpr uint32_t FILE_CHANGED = IN_MODIFY | IN_ATTRIB | IN_CLOSE_WRITE;
 constexpr uint32_t LIST_CHANGED = IN_CREATE | IN_DELETE | IN_MOVE | IN_DELETE_SELF | IN_MOVE_SELF;
 
-/// Whether every change passes through the kernel of this computer.
+/// True if every change goes through the kernel of this computer.
 bool IsLocalFileSystem(const char* folder)
 {
     struct statfs info = {};
@@ -22,7 +22,7 @@ bool IsLocalFileSystem(const char* folder)
         return false;
     }
     switch (info.f_type) {
-    case EXT4_SUPER_MAGIC: // of its predecessors too
+    case EXT4_SUPER_MAGIC: // ext2 and ext3 too
     case XFS_SUPER_MAGIC:
     case BTRFS_SUPER_MAGIC:
     case F2FS_SUPER_MAGIC:
@@ -52,7 +52,7 @@ bool FolderWatch::Start(const char* folder)
                   ? inotify_add_watch(m_descriptor, folder, FILE_CHANGED | LIST_CHANGED | IN_ONLYDIR)
                   : -1;
     if (before >= 0 && before != m_watch) {
-        inotify_rm_watch(m_descriptor, before); // fails when the folder is gone, and the watch with it
+        inotify_rm_watch(m_descriptor, before); // fails if the folder, and with it the watch, is gone
     }
     return IsActive();
 }
@@ -69,7 +69,7 @@ bool FolderWatch::Report(const std::function<void(std::string_view)>& changed)
              place += static_cast<ssize_t>(sizeof(inotify_event) + event->len)) {
             event = reinterpret_cast<const inotify_event*>(buffer.data() + place);
             if (event->wd != m_watch && event->wd != -1) { // -1: reports were lost
-                continue;                                  // of a folder watched before
+                continue;                                  // from a folder watched earlier
             }
             if (event->len > 0 && (event->mask & FILE_CHANGED) != 0) {
                 changed(event->name);

@@ -3,7 +3,8 @@
 #include <cctype>
 #include <cstdlib>
 
-// Bounds are ignored on purpose in all of this file but _vsnprintf_s: the caller sizes the destination.
+// All functions of this file except _vsnprintf_s deliberately ignore bounds: the caller sizes the
+// destination.
 
 int snprintf(char* Buffer, size_t, const char* String, ...)
 {
@@ -56,7 +57,7 @@ bool WritesDecimal(const char* buffer, size_t size, int radix)
 
 } // namespace
 
-// These three give 22 after success too, so that no caller looks at the result.
+// These three return 22 (EINVAL) even after success, so callers must ignore the result.
 
 int _itoa_s(int value, char* buffer, size_t size, int radix)
 {

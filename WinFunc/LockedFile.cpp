@@ -29,7 +29,7 @@ LockedFile::LockedFile(const char* path, int flags, mode_t mode) : m_fd(Open(pat
 
 LockedFile::~LockedFile()
 {
-    const ErrnoKeeper keeper; // the caller still wants to know what failed
+    const ErrnoKeeper keeper; // the caller may still read the errno of an earlier failure
     Close();
 }
 
@@ -75,7 +75,7 @@ bool LockedFile::Close()
     if (!IsOpen()) {
         return true;
     }
-    // Unlocked by hand: a child just forked shares the lock and would keep it until it runs its own program.
+    // Unlock explicitly: a child that has just forked shares the lock and would hold it until its exec.
     flock(m_fd, LOCK_UN);
     const bool closed = close(m_fd) == 0;
     m_fd = -1;

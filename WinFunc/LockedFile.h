@@ -1,16 +1,19 @@
-// A file opened for one pass over it, under a lock that every program of the suite takes.
+// An open file under an exclusive lock. Every program of the suite takes this lock while it reads or writes
+// the file.
 #pragma once
 
 #include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
 
-/// A descriptor under an exclusive flock for as long as the object lives. Close-on-exec, never that of a
-/// standard stream, and never waiting for the other end of a FIFO that lies in the place of a file.
+/// Owns a descriptor and holds an exclusive flock on it for the lifetime of the object. The descriptor is
+/// close-on-exec and never that of a standard stream. Opening does not wait for the other end if the path is
+/// a FIFO.
 class LockedFile
 {
 public:
-    /// Opens and locks. `flags` and `mode` as for open(2); errno tells why it failed.
+    /// Opens and locks the file. `flags` and `mode` are those of open(2). On failure IsOpen returns false and
+    /// errno holds the reason.
     LockedFile(const char* path, int flags, mode_t mode = 0);
     ~LockedFile();
     LockedFile(const LockedFile&) = delete;
@@ -24,15 +27,16 @@ public:
     {
         return m_fd;
     }
-    /// Length in bytes, taken under the lock; 0 for all but regular files, which have no text to read.
+    /// Length in bytes, read under the lock. 0 for anything but a regular file: nothing else holds text to
+    /// read.
     off_t Size() const;
 
-    /// Reads on from the current position, through interruptions. The count is below `size` at the end of the
-    /// file alone; -1 with errno on failure.
+    /// Reads from the current position and retries after signals. Returns less than `size` only at the end of
+    /// the file, and -1 with errno on failure.
     ssize_t Read(char* buffer, size_t size) const;
-    /// Writes all of the text from the current position on; false when not all of it could be written.
+    /// Writes the whole text at the current position. False if any part of it was not written.
     bool WriteAll(const std::string& text) const;
-    /// Unlocks and closes now; false when the system reports a late write failure.
+    /// Unlocks and closes. False if the system reports a late write failure.
     bool Close();
 
 private:

@@ -1,4 +1,4 @@
-// Reading private profile (ini) files: one key at a time, or all keys of a file at once.
+// Reads private profile (ini) files: one key at a time, or all keys of a file at once.
 #include "LockedFile.h"
 #include "ProfileLines.h"
 #include "ProfileText.h"
@@ -14,7 +14,8 @@
 
 namespace {
 
-/// A file beyond it is no setting file. What ProfileText keeps of a file is a small multiple of its size.
+/// Bytes. A larger file is not a setting file and is not kept. ProfileText keeps a small multiple of the size
+/// of a file.
 constexpr off_t KEPT_SIZE_MAX = 1 << 20;
 
 /// Calls `visit(section, key, value)` for each key in the next `left` bytes of the file until it returns
@@ -44,7 +45,7 @@ bool IsKey(std::string_view section, std::string_view key, std::string_view want
     return EqualNoCase(key, wantedKey) && EqualNoCase(section, wantedSection);
 }
 
-/// A number out of range is no failure of the caller's: errno is kept.
+/// Keeps errno: a number out of range is not an error of the caller.
 UINT ToNumber(const char* text)
 {
     const ErrnoKeeper keeper;
@@ -56,7 +57,7 @@ UINT ToNumber(const char* text)
 DWORD GetPrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpDefault, LPSTR lpReturnedString,
                                DWORD nSize, LPCSTR lpFileName)
 {
-    // NOLINTBEGIN(modernize-use-nullptr): callers know the texts of these assertions
+    // NOLINTBEGIN(modernize-use-nullptr): the texts of these assertions are fixed
     assert(lpAppName != NULL);
     assert(lpKeyName != NULL);
     // NOLINTEND(modernize-use-nullptr)

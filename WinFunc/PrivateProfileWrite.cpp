@@ -1,5 +1,6 @@
-// Writing private profile (ini) files: a splice of text in the whole file, written over the old text in
-// place. The file's length never shrinks, so the end of a longer old text stays behind a shorter new one.
+// Writes private profile (ini) files: splices the change into the text of the whole file and writes it over
+// the old text in place. The file never shrinks, so the end of a longer old text remains after a shorter new
+// one.
 #include "LockedFile.h"
 #include "ReadPass.h"
 #include "TrustedLink.h"
@@ -17,14 +18,14 @@
 
 namespace {
 
-/// What a writer puts into the file, and where.
+/// The text to write, and where.
 struct Splice
 {
     int whence; ///< SEEK_SET or SEEK_END, at offset 0
     std::string text;
 };
 
-/// The text up to the first NUL: searches end there, while splices keep every byte of the file.
+/// The text up to the first NUL. Searches end there; splices keep every byte of the file.
 std::string_view Visible(const std::string& text)
 {
     return std::string_view(text).substr(0, text.find('\0'));
@@ -35,21 +36,21 @@ std::string SectionText(LPCSTR lpAppName)
     return std::string("[").append(lpAppName).append("]");
 }
 
-/// A new section for the end of the file.
+/// A new section at the end of the file.
 Splice NewSection(const std::string& old, const std::string& section, const std::string& lines)
 {
     const bool needsLineFeed = old.size() >= 2 && old.back() != '\n';
     return {SEEK_END, std::string(needsLineFeed ? "\n" : "").append(section).append("\n").append(lines)};
 }
 
-/// The file with `key` set, or none when the place found cannot be written without touching another line.
+/// The file with `key` set, or none if the write would damage another line.
 std::optional<Splice> SetKey(const std::string& old, const std::string& section, std::string_view key,
                              const std::string& value)
 {
     constexpr auto npos = std::string_view::npos;
 
     if (key.empty()) {
-        return std::nullopt; // would be found in front of any other key
+        return std::nullopt; // would match before any other key
     }
     const std::string_view visible = Visible(old);
     const std::string line = std::string(key).append("=").append(value).append("\n");
@@ -61,20 +62,20 @@ std::optional<Splice> SetKey(const std::string& old, const std::string& section,
     const size_t keyStart = visible.find(key, behind);
     if (keyStart == npos || visible.find('[', behind) < keyStart) {
         if (behind == visible.size()) {
-            return std::nullopt; // the section line has no line feed whose place the new line could take
+            return std::nullopt; // the section line has no line feed that the new line could replace
         }
         return Splice{SEEK_SET, old.substr(0, behind).append("\n").append(line).append(old, behind + 1)};
     }
     const size_t delimiter = visible.find_first_of(" \t=", keyStart);
     const size_t lineFeed = visible.find('\n', delimiter);
     if (delimiter == npos || lineFeed == npos) {
-        return std::nullopt; // the line has no end, so nobody knows where its value ends
+        return std::nullopt; // the line has no delimiter or line feed, so the end of its value is unknown
     }
     return Splice{SEEK_SET,
                   old.substr(0, delimiter + 1).append(value).append("\n").append(old, lineFeed + 1)};
 }
 
-/// The file with `lines` in the place of all lines of the section, or none as above.
+/// The file with all lines of the section replaced by `lines`, or none as above.
 std::optional<Splice> SetSection(const std::string& old, const std::string& section, const std::string& lines)
 {
     const std::string_view visible = Visible(old);
@@ -90,8 +91,8 @@ std::optional<Splice> SetSection(const std::string& old, const std::string& sect
     return Splice{SEEK_SET, old.substr(0, behind + 1).append(lines).append(old, next)};
 }
 
-/// All of the file, measured under the lock: a writer that came first loses nothing. None, with errno, when
-/// it cannot be read or is no text of a size that one write could take.
+/// The whole file. Its size is read under the lock, so that the text of an earlier writer is not lost. None,
+/// with errno, if the file cannot be read or is too large for one write.
 std::optional<std::string> ReadWhole(const LockedFile& file)
 {
     const off_t size = file.Size();
@@ -119,7 +120,7 @@ enum class Step
     WRITE
 };
 
-/// Runs `splice` over the file's text and writes what it gives. The step that failed, with errno, or NONE.
+/// Runs `splice` on the file's text and writes the result. Returns the step that failed, with errno, or NONE.
 template <class Splicer>
 Step Rewrite(LPCSTR lpFileName, mode_t mode, Splicer splice)
 try {
@@ -145,7 +146,7 @@ try {
     lseek(file.Descriptor(), 0, change->whence);
     return write(file.Descriptor(), change->text.data(), change->text.size()) < 0 ? Step::WRITE : Step::NONE;
 } catch (const std::bad_alloc&) {
-    errno = ENOMEM; // a file too large to be held twice
+    errno = ENOMEM; // the file is too large to hold in memory twice
     return Step::READ;
 }
 
@@ -180,7 +181,7 @@ void LogFailure(Step step, int error)
 
 BOOL WritePrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpString, LPCSTR lpFileName)
 {
-    // NOLINTBEGIN(modernize-use-nullptr): callers know the texts of these assertions
+    // NOLINTBEGIN(modernize-use-nullptr): the texts of these assertions are fixed
     assert(lpAppName != NULL);
     assert(lpKeyName != NULL);
     assert(lpString != NULL);
@@ -196,7 +197,7 @@ BOOL WritePrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpStr
 
 BOOL WritePrivateProfileSectionA(LPCSTR lpAppName, LPCSTR lpKeyValuePairs, LPCSTR lpFileName)
 {
-    // NOLINTBEGIN(modernize-use-nullptr): callers know the texts of these assertions
+    // NOLINTBEGIN(modernize-use-nullptr): the texts of these assertions are fixed
     assert(lpAppName != NULL);
     assert(lpKeyValuePairs != NULL);
     assert(lpFileName != NULL);

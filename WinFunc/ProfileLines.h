@@ -1,4 +1,4 @@
-// The rules by which private profile (ini) files are read: a line scanner that accepts hand-written files.
+// Scans the lines of private profile (ini) files. Accepts hand-written files.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-/// Upper and lower case of the letters A to Z are equal, in any locale.
+/// Compares without regard to the case of the letters A to Z, in any locale.
 inline bool EqualNoCase(std::string_view one, std::string_view two)
 {
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
@@ -14,12 +14,12 @@ inline bool EqualNoCase(std::string_view one, std::string_view two)
                       [&](char a, char b) { return a == b || lower(a) == lower(b); });
 }
 
-/// Takes the bytes of a file in pieces of any size and reports its keys that have a value.
+/// Scans the bytes of a file, in pieces of any size, and reports the keys that have a value.
 class ProfileLines
 {
 public:
-    /// Calls `visit(section, key, value)` for each key in file order, until it returns true, which is the
-    /// result. The texts are valid during the call.
+    /// Calls `visit(section, key, value)` for each key in file order until it returns true. Returns true in
+    /// that case. The texts are valid during the call only.
     template <class Visit>
     bool Take(std::string_view bytes, Visit& visit)
     {
@@ -35,13 +35,13 @@ public:
         return false;
     }
 
-    /// For the last line too, which may have no line feed.
+    /// Ends the current line. Call it after the last piece too: the last line may have no line feed.
     template <class Visit>
     bool EndLine(Visit& visit)
     {
         std::string_view line(m_line.data(), m_length);
         m_length = 0;
-        line = line.substr(0, line.find(';')); // what follows is a comment, in section lines too
+        line = line.substr(0, line.find(';')); // the rest is a comment, in section lines too
         if (line.starts_with('[')) {
             const size_t end = line.find(']');
             if (end != std::string_view::npos) {
@@ -70,7 +70,7 @@ private:
     }
 
     std::string m_section;
-    bool m_isInSection = false; // keys ahead of the first section line belong to none
+    bool m_isInSection = false; // keys before the first section line belong to no section
     size_t m_length = 0;
-    std::array<char, 1023> m_line; // what a line holds beyond this is dropped
+    std::array<char, 1023> m_line; // the rest of a longer line is dropped
 };

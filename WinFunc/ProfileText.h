@@ -1,4 +1,4 @@
-// The keys of a private profile (ini) file as one reading found them.
+// A snapshot of the keys of a private profile (ini) file.
 #pragma once
 
 #include "Win_def.h"
@@ -9,22 +9,21 @@
 #include <string_view>
 #include <vector>
 
-/// Keys and values that were read with one open and one lock, so that no writer comes between two keys. Finds
-/// what GetPrivateProfileStringA finds in the same text. Immutable: any thread may ask.
+/// Keys and values read with one open and one lock, so that no writer can change the file between two keys.
+/// Returns what GetPrivateProfileStringA returns for the same text. Immutable: any thread may use it.
 class ProfileText
 {
 public:
-    /// Null, with errno, when the file cannot be opened.
+    /// Null, with errno, if the file cannot be opened.
     static std::shared_ptr<const ProfileText> Read(const char* path);
 
-    /// The first value of the key that is not empty, at most `maxLength` bytes of it; empty when there is
-    /// none.
+    /// The first non-empty value of the key, cut to `maxLength` bytes; empty if there is none.
     std::string Value(LPCSTR section, LPCSTR key, size_t maxLength) const;
-    /// As GetPrivateProfileIntA.
+    /// Like GetPrivateProfileIntA.
     UINT Number(LPCSTR section, LPCSTR key, INT nDefault) const;
 
 private:
-    /// Places in `m_text`.
+    /// A range of `m_text`, in bytes.
     struct Piece
     {
         uint32_t start;
@@ -42,5 +41,5 @@ private:
 
     std::string m_text;
     std::vector<Entry> m_entries;
-    std::string m_largePath; // of a file that is too large to be kept: each key is looked up in the file
+    std::string m_largePath; // set if the file is too large to keep: each lookup reads the file
 };

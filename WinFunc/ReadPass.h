@@ -1,4 +1,4 @@
-// Sharing what was read of setting files and of the registry within one piece of work.
+// Shares one read of a setting file and one load of the registry within one operation.
 #pragma once
 
 #include "ProfileText.h"
@@ -6,13 +6,13 @@
 #include <memory>
 #include <string>
 
-/// While an object of this class lives, its thread reads the same profile file once, as long as no other one
-/// comes in between, and loads the registry file once. Everything that the work asks then belongs to one
-/// moment; what another program or thread changes meanwhile is seen by the next pass. What the thread itself
-/// writes ends the sharing: the next reading goes to the file again.
+/// While an object of this class lives, its thread reads a profile file once, unless it reads another one in
+/// between, and loads the registry file once. All values read in the pass thus belong to one moment; changes
+/// by other programs are visible from the next pass on. A write by the thread itself, and any change of the
+/// registry by this process, ends the sharing: the next read goes to the file again.
 ///
-/// A pass within another one of the same thread has no effect of its own. GetPrivateProfileStringA and
-/// GetPrivateProfileIntA always read the file.
+/// A nested pass in the same thread has no effect. GetPrivateProfileStringA and GetPrivateProfileIntA always
+/// read the file.
 class ReadPass
 {
 public:
@@ -21,19 +21,19 @@ public:
     ReadPass(const ReadPass&) = delete;
     ReadPass& operator=(const ReadPass&) = delete;
 
-    /// The file as this thread's pass has read it, or read now. Null when it cannot be opened.
+    /// The file as this thread's pass read it, or as it is now. Null if it cannot be opened.
     static std::shared_ptr<const ProfileText> Profile(const std::string& path);
-    /// To be called when this thread has changed a profile file.
+    /// Call after this thread changed a profile file.
     static void ForgetProfile();
 
-    /// Whether the pass of this thread has loaded the registry in the given state of the map, and then
-    /// whether the file could be opened for writing.
+    /// True if this thread's pass has loaded the registry in the given state of the map (see RegState).
+    /// `isWritable` is then set to whether the file could be opened for writing.
     static bool HasRegistry(unsigned long state, bool& isWritable);
     static void KeepRegistry(unsigned long state, bool isWritable);
 
 private:
     std::string m_path;
-    std::shared_ptr<const ProfileText> m_profile; // null: none is kept
+    std::shared_ptr<const ProfileText> m_profile; // null: no file is kept
     bool m_hasRegistry = false;
     unsigned long m_registryState = 0;
     bool m_isRegistryWritable = false;

@@ -1,4 +1,4 @@
-// Keys and values of the registry: opening, closing, setting, asking and enumerating.
+// Opens, closes, sets, queries and enumerates the keys and values of the registry.
 #include "ReadPass.h"
 #include "RegistryFile.h"
 #include "RegistryPath.h"
@@ -24,13 +24,13 @@ const Root ROOTS[] = {
     {HKEY_USERS, "HKU"},         {HKEY_CURRENT_CONFIG, "HKCC"}, {HKEY_DYN_DATA, "HKDD"},
 };
 
-/// Windows names the default value with NULL; here that is the value of the empty name.
+/// Windows uses NULL for the default value; here it is the value with the empty name.
 std::string ValueName(LPCSTR lpValueName)
 {
     return lpValueName == nullptr ? "" : lpValueName;
 }
 
-/// Calls `visit` with the part behind the prefix for every key below `hKey`, in order, until it gives false.
+/// Calls `visit` with the path relative to `hKey` of every key below it, in order, until it returns false.
 template <class Visitor>
 void ForEachKeyBelow(HKEY hKey, Visitor visit)
 {
@@ -191,7 +191,7 @@ LSTATUS RegQueryValueExA(HKEY hKey, LPCSTR lpValueName, LPDWORD /*lpReserved*/, 
 LSTATUS RegEnumKeyExA(HKEY hKey, DWORD dwIndex, LPSTR lpName, LPDWORD lpcchName, LPDWORD /*lpReserved*/,
                       LPSTR /*lpClass*/, LPDWORD /*lpcchClass*/, LPFILETIME /*lpftLastWriteTime*/)
 {
-    // NOLINTBEGIN(modernize-use-nullptr): callers know the texts of these assertions
+    // NOLINTBEGIN(modernize-use-nullptr): the texts of these assertions are fixed
     assert(lpName != NULL);
     assert(lpcchName != NULL);
     // NOLINTEND(modernize-use-nullptr)
@@ -224,7 +224,7 @@ LSTATUS RegQueryInfoKeyA(HKEY hKey, LPSTR lpClass, LPDWORD lpcchClass, LPDWORD l
     if (!asksForKeys || asksForMore) {
         assert(false);
     }
-    DWORD count = 0; // at any depth, although the enumeration shows direct children only
+    DWORD count = 0; // at any depth, although the enumeration lists direct children only
     size_t longest = 0;
     ForEachKeyBelow(hKey, [&](std::string_view name) {
         ++count;

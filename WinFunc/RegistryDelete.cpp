@@ -1,4 +1,4 @@
-// Deleting keys and values: the registry's text is edited, the map keeps what it holds.
+// Deletes keys and values from the registry's text file. The map keeps them.
 #include "RegistryFile.h"
 #include "RegistryPath.h"
 
@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Hands every piece of the file to `keep`, as text up to its first NUL, and puts those in the file's place
-/// for which it gives true. The file stays untouched unless `changed` gives true afterwards.
+/// Calls `keep` with each piece of the file, as text up to its first NUL, and rewrites the file with the
+/// pieces for which it returns true. Leaves the file unchanged if `changed` then returns false.
 template <class Keep, class Changed>
 LSTATUS EditFile(Keep keep, Changed changed)
 {
@@ -27,7 +27,7 @@ LSTATUS EditFile(Keep keep, Changed changed)
         }
     }
     if (!pieces.Complete()) {
-        return ERROR_INVALID_ACCESS; // to write now would lose what could not be read
+        return ERROR_INVALID_ACCESS; // writing now would lose the part that could not be read
     }
     file.Close();
     if (!changed()) {
@@ -79,7 +79,7 @@ LSTATUS RegDeleteValueA(HKEY hKey, LPCSTR lpValueName)
         assert(false);
     }
     if (lpValueName == nullptr) {
-        return ERROR_SUCCESS; // names no value, and a missing value is no error
+        return ERROR_SUCCESS; // NULL names no value, and a missing value is not an error
     }
 
     enum

@@ -1,4 +1,4 @@
-// Loading the registry's text file into the map and writing the map back.
+// Loads the registry's text file into the map and writes the map back.
 #include "RegistryFile.h"
 
 #include "FileStamp.h"
@@ -20,13 +20,13 @@ namespace {
 constexpr size_t PIECE_MAX = 1023;
 constexpr mode_t REGISTRY_FILE_MODE = 0644;
 
-// The state of the file that the map holds in full. Every key is opened through a load, and reading the same
+// The stamp of the file state that the map holds in full. Opening a key loads the file, but reading the same
 // bytes again would not change the map.
 std::optional<FileStamp> g_loadedFile;
 
 unsigned long g_state = 0;
 
-/// The stamp, or none when it does not tell the state from any later one.
+/// The stamp of the file, or none if a later state could have the same stamp.
 std::optional<FileStamp> TakeStamp(const LockedFile& file)
 {
     timespec now = {};
@@ -41,12 +41,12 @@ std::optional<FileStamp> TakeStamp(const LockedFile& file)
 bool CreateEmptyFile()
 {
     CreateDirectoryA(CONF_DIR, nullptr);
-    // Without O_TRUNC: another program may just have made the file and filled it.
+    // No O_TRUNC: another program may have just created and filled the file.
     LockedFile file(REGISTRY_FILE, O_WRONLY | O_CREAT, REGISTRY_FILE_MODE);
     return file.IsOpen();
 }
 
-/// The entry of the name, made when it is not there; no text is allocated to find one that is.
+/// Returns the entry of the name and creates it if missing. Finding an existing entry allocates no string.
 template <class Map>
 typename Map::mapped_type& Entry(Map& map, std::string_view name)
 {
@@ -76,14 +76,14 @@ void ReadValueLine(std::string_view line, CRegistryValueStore& store)
     } else if (data.starts_with(numberMark)) {
         // The line lies in a NUL-terminated piece, so the conversion ends inside it.
         const char* digits = data.data() + numberMark.size();
-        const ErrnoKeeper keeper; // a number out of range is no failure of the caller's
+        const ErrnoKeeper keeper; // strtol sets errno for a number out of range, which is no error here
         Entry(store.dwordValues, name) = static_cast<uint32_t>(std::strtol(digits, nullptr, 16));
     }
 }
 
 void ReadPieces(RegistryPieces& pieces)
 {
-    CRegistryValueStore* store = nullptr; // none ahead of the first section: values there belong to no key
+    CRegistryValueStore* store = nullptr; // null before the first section: values there belong to no key
     std::string piece;
     while (pieces.Next(piece)) {
         // A line ends at a NUL.
@@ -137,7 +137,7 @@ bool RegistryPieces::Next(std::string& piece)
     while (piece.size() < PIECE_MAX) {
         if (m_position == m_filled && !Fill()) {
             if (!Complete()) {
-                piece.clear(); // half a number would be another number
+                piece.clear(); // a truncated number would be a different number
             }
             break;
         }
@@ -157,10 +157,10 @@ bool RegistryPieces::Next(std::string& piece)
 
 bool RegReplaceFile(const std::string& text)
 {
-    RegForgetLoad(); // whatever the clock will say about the new text
+    RegForgetLoad(); // the new text may get the same stamp if the clock was set back
     LockedFile file(REGISTRY_FILE, O_WRONLY | O_CREAT | O_TRUNC, REGISTRY_FILE_MODE);
-    // Emptied once more under the lock: another program may have written while this one waited for it, and
-    // the end of a longer text would stay behind ours.
+    // Truncate again under the lock: another program may have written while this one waited, and the end of
+    // its longer text would remain after the new one.
     return file.IsOpen() && ftruncate(file.Descriptor(), 0) == 0 && file.WriteAll(text) && file.Close();
 }
 

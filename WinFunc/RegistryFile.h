@@ -1,4 +1,4 @@
-// The registry's text file: what the store's own sources share.
+// Internal to the registry store: access to its text file.
 #pragma once
 
 #include "LockedFile.h"
@@ -6,16 +6,17 @@
 #include <array>
 #include <string>
 
-/// Cuts the file into pieces: lines with their line feed, a longer line in runs of at most 1023 bytes.
+/// Splits the file into pieces of at most 1023 bytes. A piece is a line with its line feed or a part of a
+/// longer line.
 class RegistryPieces
 {
 public:
-    /// Reads `file`, which must outlive the object, from its current position to the size it has now.
+    /// Reads `file` from its current position to its present size. `file` must outlive the object.
     explicit RegistryPieces(const LockedFile& file);
-    /// False at the end. A piece may hold any bytes, NUL among them. One whose end could not be read is not
-    /// given out.
+    /// False at the end. A piece may hold any bytes, including NUL. A piece that could not be read to its end
+    /// is discarded.
     bool Next(std::string& piece);
-    /// True when every byte was read; false after a read error and when the file shrank meanwhile.
+    /// False after a read error, or if the file shrank during the read; true once every byte was read.
     bool Complete() const
     {
         return m_left == 0;
@@ -31,13 +32,13 @@ private:
     std::array<char, 16384> m_buffer;
 };
 
-/// Puts `text` in the place of all that the file holds. False when it was not written in full.
+/// Replaces the contents of the file with `text`. False if not all of it was written.
 bool RegReplaceFile(const std::string& text);
 
-/// To be called when a value in the map changed: the next load reads the file in any case, since it takes
-/// back values that were not written.
+/// Call after changing a value in the map. The next load then reads the file even if the file is unchanged,
+/// because a load reverts values that were not written.
 void RegForgetLoad();
 
-/// A number that changes whenever this process changes a value in the map or the file. Under the lock of the
-/// registry.
+/// A counter that changes each time this process changes a value in the map or the file. Call with
+/// RegistryMutex locked.
 unsigned long RegState();

@@ -1,4 +1,4 @@
-// How the store's sources tell keys apart.
+// Internal to the registry store: root keys, open keys and their paths.
 #pragma once
 
 #include "WinFunc.h"
@@ -14,7 +14,7 @@ inline bool RegIsInvalid(HKEY hKey)
 /// The short name of a root, or NULL for an open key.
 const char* RegRootName(HKEY hKey);
 
-/// The object of an open key. A root in its place stops the process.
+/// The object of an open key. A root key stops the process.
 CRegistryKey& RegOpenKeyObject(HKEY hKey);
 
 /// The path of a root or an open key.

@@ -20,8 +20,8 @@ struct CloseDirectory
     }
 };
 
-/// The names in a folder but "." and ".."; nothing when it cannot be read or is a link to a folder. The
-/// folder is closed again before its entries are looked at: a deep tree holds one descriptor at a time.
+/// The names in a folder except "." and "..", or none if the folder cannot be read or is a symbolic link. The
+/// folder is closed before its entries are processed, so that a deep tree needs one descriptor at a time.
 std::optional<std::vector<std::string>> NamesIn(const std::string& path)
 {
     const int fd = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
@@ -34,7 +34,7 @@ std::optional<std::vector<std::string>> NamesIn(const std::string& path)
         return std::nullopt;
     }
     std::vector<std::string> names;
-    const int before = errno; // what it is again behind a success
+    const int before = errno; // restored on success
     errno = 0;
     while (const dirent* entry = readdir(directory.get())) {
         const std::string name = entry->d_name;
@@ -59,7 +59,8 @@ int is_file_delete(const std::string& path)
     if (stat(path.c_str(), &target) != 0 || lstat(path.c_str(), &entry) != 0) {
         return -1;
     }
-    // A link to a folder counts as a link, on purpose: the target lies elsewhere and must not be emptied.
+    // A link to a folder is deliberately treated as a link: its target lies elsewhere and must not be
+    // emptied.
     if (S_ISDIR(entry.st_mode)) {
         return 0;
     }
@@ -99,7 +100,7 @@ BOOL RemoveDirectoryA(LPCSTR lpPathName)
     if (lpPathName == nullptr) {
         return FALSE;
     }
-    // A slash at the end would lead through a link.
+    // With a trailing slash the system would follow a symbolic link.
     std::string path = lpPathName;
     while (path.size() > 1 && path.ends_with('/')) {
         path.pop_back();

@@ -20,7 +20,7 @@ unsigned char ByteOf(char ch)
     return static_cast<unsigned char>(ch);
 }
 
-/// The left byte's class decides how it is compared; what is none of these matches anything.
+/// The class of the left byte decides the comparison. A byte of any other class matches anything.
 bool Matches(unsigned char left, unsigned char right)
 {
     if (isalpha(left) != 0) {
@@ -136,7 +136,7 @@ int _strnicmp(const char* string1, const char* string2, size_t count)
         if (!Matches(ByteOf(string1[i]), ByteOf(*other))) {
             return exact;
         }
-        // Behind its end the other text reads as NULs, for bytes that match anything may outlast it.
+        // Stays at the NUL of the other text: bytes that match anything may go on past its end.
         if (*other != '\0') {
             ++other;
         }

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// One output of the call: a buffer of the caller, NULL with size 0 when the part is not wanted.
+/// An output buffer of the caller; NULL with size 0 if the part is not requested.
 struct Output
 {
     char* buffer;
@@ -16,7 +16,7 @@ struct Output
         return (buffer == nullptr) == (size == 0);
     }
 
-    /// The buffer stays zeroed when the part and its NUL do not fit.
+    /// The buffer stays zeroed if the part and its NUL do not fit.
     void Put(std::string_view part) const
     {
         if (buffer == nullptr) {
@@ -29,7 +29,7 @@ struct Output
     }
 };
 
-/// "C:" of the first colon and the byte before it; a colon that leads the path names no drive.
+/// The first colon and the byte before it, such as "C:". A leading colon is not a drive.
 std::string_view DriveOf(std::string_view path)
 {
     const size_t colon = path.find(':');

@@ -1,4 +1,4 @@
-// What the calls of this layer do about errno and about the descriptors that they get.
+// Helpers for errno, interrupted system calls and descriptor numbers.
 #pragma once
 
 #include <cerrno>
@@ -6,8 +6,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-/// At the end of its scope errno is again what it was at the start, so that GetLastError tells of the call
-/// that failed and not of what was done about the failure.
+/// Restores errno at the end of its scope, so that GetLastError reports the call that failed and not its
+/// cleanup.
 class ErrnoKeeper
 {
 public:
@@ -22,7 +22,7 @@ public:
     const int number = errno;
 };
 
-/// Runs a system call again for as long as a signal interrupts it before anything was done.
+/// Repeats a system call while a signal interrupts it before it has done anything.
 template <class Call>
 auto Uninterrupted(Call call)
 {
@@ -33,8 +33,9 @@ auto Uninterrupted(Call call)
     return result;
 }
 
-/// A program whose standard streams are closed gets their numbers for its files. 0 stands for no descriptor,
-/// and whatever is printed goes to 1 and 2: so those move up. Negative, with errno, when that fails.
+/// Returns a descriptor above those of the standard streams; `fd` is closed if it had to be moved. If the
+/// standard streams are closed, open(2) returns 0 to 2, but in this layer 0 means no descriptor and printed
+/// text goes to 1 and 2. Negative, with errno, on failure.
 inline int AboveStandardStreams(int fd)
 {
     if (fd < 0 || fd > STDERR_FILENO) {

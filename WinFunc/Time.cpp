@@ -26,10 +26,10 @@ tm Utc(time_t seconds)
     return fields;
 }
 
-/// As localtime, which looks at the zone each time, but with a result of its own for each caller.
+/// Like localtime, which reads the time zone on each call, but returns a separate result to each caller.
 tm Local(time_t seconds)
 {
-    // The C library's own lock around the zone's data is hidden from the race detector.
+    // The thread sanitizer cannot see the C library's own lock around the time zone data.
     static std::mutex zone;
     const std::lock_guard lock(zone);
     tzset();
@@ -86,7 +86,7 @@ void Sleep(DWORD dwMilliseconds)
     }
     unsigned int seconds = dwMilliseconds / 1000;
     while (seconds > 0) {
-        seconds = sleep(seconds); // what a signal left over
+        seconds = sleep(seconds); // the time left when a signal arrived
     }
     usleep(dwMilliseconds % 1000 * 1000);
 }

@@ -7,7 +7,7 @@ DWORD WaitForOne(HANDLE handle, DWORD milliseconds)
     return ObjectOf<WinWaitableHandle>(handle).WaitForSingleObject(milliseconds);
 }
 
-/// The index of the first handle from `from` on that is signalled now, or WAIT_TIMEOUT.
+/// The index of the first signalled handle from `from` on, or WAIT_TIMEOUT.
 DWORD PollAny(DWORD nCount, const HANDLE* ph, DWORD from)
 {
     for (DWORD i = from; i < nCount; ++i) {
@@ -18,7 +18,7 @@ DWORD PollAny(DWORD nCount, const HANDLE* ph, DWORD from)
     return WAIT_TIMEOUT;
 }
 
-/// The first handle carries the timing of the whole wait.
+/// Waits for the first handle in steps and polls the others after each step.
 DWORD WaitForAny(DWORD nCount, const HANDLE* ph, DWORD dwMilliseconds)
 {
     if (dwMilliseconds == 0) {
@@ -26,7 +26,7 @@ DWORD WaitForAny(DWORD nCount, const HANDLE* ph, DWORD dwMilliseconds)
     }
     assert(nCount > 0);
     constexpr DWORD step = 10;
-    // 64 bits, for a timeout close to the end of the 32.
+    // 64 bits, because the sum would overflow for a timeout near the 32-bit maximum.
     for (uint64_t elapsed = 0; dwMilliseconds == INFINITE || elapsed < dwMilliseconds; elapsed += step) {
         const DWORD first = WaitForOne(ph[0], step);
         if (first == WAIT_OBJECT_0) {
@@ -42,7 +42,7 @@ DWORD WaitForAny(DWORD nCount, const HANDLE* ph, DWORD dwMilliseconds)
     return WAIT_TIMEOUT;
 }
 
-/// Each wait with the same timeout; the first result but WAIT_OBJECT_0 ends it.
+/// Waits for each handle with the same timeout and stops at the first result other than WAIT_OBJECT_0.
 DWORD WaitForEach(DWORD nCount, const HANDLE* ph, DWORD dwMilliseconds)
 {
     for (DWORD i = 0; i < nCount; ++i) {
@@ -54,8 +54,8 @@ DWORD WaitForEach(DWORD nCount, const HANDLE* ph, DWORD dwMilliseconds)
     return WAIT_OBJECT_0;
 }
 
-/// One after the other and not atomically: an auto-reset event taken early stays consumed when a later one
-/// times out.
+/// Waits for the handles in order, not atomically: an auto-reset event taken early stays consumed if a later
+/// wait times out.
 DWORD WaitForAll(DWORD nCount, const HANDLE* ph, DWORD dwMilliseconds)
 {
     if (dwMilliseconds == 0 || dwMilliseconds == INFINITE) {

@@ -1,4 +1,5 @@
-// What the platform layer's own files share: the classes behind a HANDLE, and the layer's log lines.
+// Shared by the platform layer's own sources: the classes behind a HANDLE, folder removal, the layer's log
+// lines and the registry store.
 #pragma once
 
 #include "Win_def.h"
@@ -26,7 +27,7 @@ class WinClosableHandle : public virtual IWinHandle
 {
 public:
     const char* name() override;
-    /// True on success and when there is nothing left to close.
+    /// True on success, or if there is nothing left to close.
     virtual bool Close() = 0;
 };
 
@@ -34,7 +35,8 @@ class WinWaitableHandle : public virtual WinClosableHandle
 {
 public:
     const char* name() override;
-    /// WAIT_OBJECT_0 or WAIT_TIMEOUT. Time is counted in nominal sleep, not by a clock.
+    /// Returns WAIT_OBJECT_0 or WAIT_TIMEOUT. The timeout is measured by adding up nominal sleep times, not
+    /// by a clock.
     virtual DWORD WaitForSingleObject(DWORD dwMilliseconds) = 0;
 };
 
@@ -53,7 +55,7 @@ public:
     bool manualReset;
 };
 
-/// Once taken it stays taken until the object goes: no call releases it. Not recursive.
+/// A mutex that is taken stays taken until the object is destroyed: no call releases it. Not recursive.
 class WinMutex : public virtual WinWaitableHandle
 {
 public:
@@ -65,7 +67,7 @@ public:
     std::mutex mtx;
 };
 
-/// Owns one descriptor, of a file or of a connected socket; 0 stands for none.
+/// Owns one descriptor, of a file or of a connected socket; 0 means none.
 class WinFileHandle : public virtual WinClosableHandle
 {
 public:
@@ -75,15 +77,15 @@ public:
     WinFileHandle& operator=(const WinFileHandle&) = delete;
     const char* name() override;
     bool Close() override;
-    /// Ends a socket's traffic in both directions and keeps the descriptor: a read that blocks in another
-    /// thread returns with 0 bytes, a later write fails. Safe beside ReadFile and WriteFile of another
-    /// thread, but not beside CloseHandle. Nothing happens to a file.
+    /// Shuts a socket down in both directions and keeps the descriptor open: a blocked read in another thread
+    /// returns 0 bytes, and later writes fail. Safe while another thread calls ReadFile or WriteFile, but not
+    /// CloseHandle. No effect on a file.
     void Shutdown();
 
     int fd;
 };
 
-/// The handle of an object, as the calls take it.
+/// The handle of an object: the address of its IWinHandle part.
 inline HANDLE ToHandle(IWinHandle* object)
 {
     return object;
@@ -95,7 +97,7 @@ inline bool IsObject(HANDLE handle)
     return handle != nullptr && handle != INVALID_HANDLE_VALUE;
 }
 
-/// The object behind a handle; one of another class, or none at all, stops the process.
+/// The object behind a handle. An invalid handle or an object of another class stops the process.
 template <class T>
 T& ObjectOf(HANDLE handle)
 {
@@ -105,50 +107,50 @@ T& ObjectOf(HANDLE handle)
     return *object;
 }
 
-/// The function that called the function that calls this, for the log; a diagnostic only. May be empty.
+/// The name of the caller's caller, for log lines only. May be empty.
 std::string caller_name();
-/// The warning about a handle that is no object: `wrapper` is the call's full signature, `caller` who made
-/// it.
+/// Logs a warning about a handle that is no object. `wrapper` is the full signature of the called function,
+/// `caller` the name of the calling one.
 void LogNoObject(const char* wrapper, const std::string& caller, HANDLE handle);
-/// The function in a line of `backtrace_symbols`, without return type and parameters.
+/// The function name in a line of `backtrace_symbols`, without return type and parameters.
 std::string FunctionOfSymbol(const std::string& symbol);
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Removal of a folder with its contents. A symbolic link is removed as a link and never followed, also a link
-// to a folder: nothing outside the folder is touched. A link whose target cannot be examined is a failure and
-// stays.
+// Removal of a folder with its contents. A symbolic link, even one to a folder, is removed and never
+// followed, so that nothing outside the folder is touched. A link whose target cannot be examined is not
+// removed and counts as a failure.
 
 /// Empties the folder and removes it.
 bool rmdir_path(const std::string& path);
-/// Removes all entries of the folder and stops at the first that cannot be removed.
+/// Removes all entries of the folder. Stops at the first one that cannot be removed.
 bool dir_clear(const std::string& path);
-/// Removes one entry, with all below it when it is a folder.
+/// Removes one entry; a folder is removed with its contents.
 bool recursive_dir_clear(const std::string& path);
-/// 0: a folder, left as it is; 1: anything else, removed; -1: failed.
+/// 0: a folder, not removed; 1: anything else, removed; -1: failed.
 int is_file_delete(const std::string& path);
 
 // ---------------------------------------------------------------------------------------------------------------------
-// The layer's log lines: the console in colour, and syslog. Call sites test the level:
+// The layer's log lines go to the console, in colour, and to syslog. Call sites test the level:
 //     if (GetLogLevel() > 1) { LogWarning(...); }        if (GetLogLevel() > 3) { LogDebug(...); }
 
 void LogWarning(const char* format, ...) __attribute__((format(printf, 1, 2)));
 void LogDebug(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Registry. The store has no lock: whoever calls it holds this one from the opening of a key until its close,
-// for the next opening reads the file anew and would take back a value that was set and not yet written.
+// Registry. The store does not lock. The caller holds this mutex from opening a key until closing it: opening
+// another key reads the file again and would revert a value that was set but not yet written.
 
 std::recursive_mutex& RegistryMutex();
 
-/// What an HKEY other than a root points to. Owned by the caller until RegCloseKey.
+/// The object behind an HKEY other than a root. Owned by the caller until RegCloseKey.
 struct CRegistryKey
 {
-    std::string key;        ///< full path: root short name, "/", sub key path; forward slashes alone
+    std::string key;        ///< full path: root short name, "/", sub key path; forward slashes only
     bool bWritable = false; ///< the file could be opened for writing when the key was opened
     bool bDirty = false;    ///< the file is written when the key is closed
 };
 
-/// The values of one key. A name may stand in both maps; a query sees the string then.
+/// The values of one key. A name may be in both maps; a query then returns the string.
 struct CRegistryValueStore
 {
     std::map<std::string, std::string, std::less<>> stringValues;
@@ -157,15 +159,14 @@ struct CRegistryValueStore
 
 using RegistryMap = std::map<std::string, CRegistryValueStore, std::less<>>;
 
-/// All keys by full path, in byte order. Grows with each load and is never pruned, nor destroyed at the end
-/// of the process: a thread that is still at work then reads it safely. Values change through RegSetValueExA
-/// alone.
+/// All keys by full path, in byte order. Loads add keys; keys are never removed. Never destroyed, so that
+/// threads still running at exit can read it safely. Apart from loads, only RegSetValueExA changes values.
 extern RegistryMap& g_Registry;
 
-/// The full path of a key: root short name or open key's path, "/", sub key; forward slashes alone.
+/// The full path of a key: root short name or path of the open key, "/", sub key; forward slashes only.
 std::string RegGetFullPath(HKEY hKey, LPCSTR lpSubKey);
-/// Merges the file into the map: equal names take the file's values, what the map holds beyond the file
-/// stays. `flags` are those of open(2). False when the file can neither be read nor created.
+/// Merges the file into the map: its values replace those of equal names, and everything else in the map
+/// stays. `flags` are those of open(2). False if the file can neither be read nor created.
 bool RegReadIn(int flags);
-/// Writes the whole map; true when all of it was written.
+/// Writes the whole map. False if not all of it was written.
 bool RegWriteOut();
