@@ -1,4 +1,4 @@
-// Every fixed location of the installation and of the control service, once.
+// All fixed paths of the installation and of the control service. They are defined only here.
 #pragma once
 
 constexpr char INSTALL_DIR[] = "/opt/arven/Ulmar Disc Maker";

@@ -1,4 +1,4 @@
-// Where a job takes its discs from, where it puts them, and how it prints.
+// Load and eject stackers, print modes and disc types of a job.
 #pragma once
 
 #include "Win_def.h"

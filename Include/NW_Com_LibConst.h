@@ -1,4 +1,4 @@
-// Constants of the network library's public face.
+// Public constants of the network library.
 #pragma once
 
 #include "Win_def.h"
@@ -37,7 +37,7 @@ constexpr DWORD NCL_ERR_SERVER_BUSY = 8011;
 constexpr DWORD NCL_ERR_SPOOL_JOB_LIMIT = 8012;
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Information types of a device that are texts.
+// Information types of a device with text values.
 
 constexpr DWORD NCL_DIT_SERIAL_NO_OF_ALD = 0;
 constexpr DWORD NCL_DIT_VERSION_OF_ALD = 1;
@@ -70,7 +70,7 @@ constexpr DWORD NCL_MODE_OUTPUT = 3;
 constexpr DWORD NCL_MODE_BATCH = 4;
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Information types of a device that are numbers, and their values.
+// Information types of a device with numeric values, and these values.
 
 constexpr DWORD NCL_DIT_DRV_USED = 0;
 constexpr DWORD NCL_DIT_DRV_CONFIRM = 1;
@@ -125,7 +125,7 @@ enum DeviceStatusType
     DEV_STATUS_TYPE_NOTIFY = 6,
     DEV_STATUS_TYPE_ASB = 7,
     DEV_STATUS_TYPE_PRN_ST = 8,
-    DEV_STATUS_TYPE_RETIRED01 = 9, ///< no operation asks for it
+    DEV_STATUS_TYPE_RETIRED01 = 9, ///< requested by no operation
     DEV_STATUS_TYPE_MAINTENANCE_INFO = 10,
     DEV_STATUS_TYPE_DRV_EX = 11
 };
@@ -157,7 +157,7 @@ struct ALDStatus
     BOOL bUnexpectedPowerOff;
 };
 
-// Disc quantities of a stacker besides those from 1 to 99.
+// Special disc quantities of a stacker. The others, 1 to 99, are the quantity itself.
 constexpr DWORD NCL_STACKER_STATUS_EMPTY = 0;
 constexpr DWORD NCL_STACKER_STATUS_FULL = 100;
 constexpr DWORD NCL_STACKER_STATUS_UNKNOWN = 101;
@@ -222,7 +222,7 @@ struct PrnStatus
     BOOL bInkPadOverflowWarn;
 };
 
-// What a cartridge may be besides an amount.
+// Special values of an ink cartridge.
 constexpr DWORD NCL_INK_CARTRIDGE_REMOVED = 101;
 constexpr DWORD NCL_INK_CARTRIDGE_INVALID = 102;
 constexpr DWORD NCL_INK_UNKNOWN = 103;
@@ -264,7 +264,7 @@ struct DeviceFatalError
     DWORD dwDevStatus; ///< an NCL_FATAL_ERR_ value
 };
 
-/// What is at work.
+/// The parts that are at work.
 struct DeviceActiveStatus
 {
     BOOL bALDArm;
@@ -274,7 +274,7 @@ struct DeviceActiveStatus
     BOOL bDisc;
 };
 
-/// What keeps jobs from going on.
+/// The causes that stop jobs.
 struct JobHindranceFactor
 {
     BOOL bStacker1Empty;
@@ -299,7 +299,7 @@ struct NotifyStatus
     JobHindranceFactor JobFactor;
 };
 
-/// Counters since the machine was made, and the limits of the drives' lives.
+/// Counters since the device was made, and the life limits of its drives.
 struct MaintenanceInfo
 {
     int nPrintCount;
@@ -317,7 +317,7 @@ struct MaintenanceInfo
     int nDrv2DVDWriteLimit;
 };
 
-/// The same of a device whose drives write Blu-ray discs.
+/// The same for a device whose drives write Blu-ray discs.
 struct MaintenanceInfoEx
 {
     int nPrintCount;
@@ -340,8 +340,8 @@ struct MaintenanceInfoEx
 };
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Kinds of digest, of which SHA-1 goes with every upload, and results of a digest, none of which arises here:
-// the digests cannot fail.
+// Types of digest, and their result codes. Every upload carries a SHA-1 digest. The error codes never occur,
+// because the digests cannot fail.
 
 constexpr DWORD BCH_HASH_TYPE_AUTO = 0;
 constexpr DWORD BCH_HASH_TYPE_MD2 = 1;
@@ -375,7 +375,7 @@ constexpr DWORD NCL_JOB_STATUS_FINISHED = 8;
 constexpr DWORD NCL_JOB_STATUS_FINISHED_WARNING = 9;
 constexpr DWORD NCL_JOB_STATUS_CANCELLED = 10;
 
-// Why a job stands as it does.
+// The reason for the status of a job.
 constexpr DWORD NCL_JOB_STATUS_FACTOR_NONE = 0;
 constexpr DWORD NCL_JOB_STATUS_FACTOR_ERR_DISC_PICK = 1;
 constexpr DWORD NCL_JOB_STATUS_FACTOR_ERR_DISC_DROP = 2;
@@ -436,7 +436,7 @@ constexpr DWORD NCL_JOB_STATUS_FACTOR_ERR_STK1_2_OVER = 57;
 constexpr DWORD NCL_JOB_STATUS_FACTOR_ERR_TAKEOUT_PROCESSING = 204;
 constexpr DWORD NCL_JOB_STATUS_FACTOR_ERR_KEY_UNLOCK = 205;
 
-// What a job makes.
+// The kind of work of a job.
 constexpr DWORD NCL_JOB_TYPE_WRITE_PRN = 0;
 constexpr DWORD NCL_JOB_TYPE_WRITE = 1;
 constexpr DWORD NCL_JOB_TYPE_PRN = 2;
@@ -461,14 +461,13 @@ constexpr DWORD NCL_JNT_FINISH_JOB = 2;
 constexpr DWORD NCL_JST_PROCESS_JOB = 0;
 constexpr DWORD NCL_JST_FINISH_JOB = 1;
 constexpr DWORD NCL_JST_ALL_JOB = 2;
-constexpr DWORD NCL_JST_PROCESS_JOB_EX = 3; ///< with the remaining times; only GetJobStatusEx asks for it
+constexpr DWORD NCL_JST_PROCESS_JOB_EX = 3; ///< with the remaining times; used by GetJobStatusEx only
 
-// Sizes of the texts below: three bytes of UTF-8 for each UTF-16 unit that the server may send, and a zero
-// byte.
+// Sizes of the texts below: three bytes of UTF-8 for each UTF-16 unit that the server may send, and a NUL.
 constexpr DWORD NCL_PERSON_SIZE = 64 * 3 + 1;
 constexpr DWORD NCL_JOB_TEXT_SIZE = 255 * 3 + 1;
 
-/// The errors that a job went through.
+/// The errors that occurred during a job.
 struct JobErrorHistory
 {
     BOOL bWriteError;
@@ -492,11 +491,11 @@ struct JobStatus
     char wszJobName[NCL_JOB_TEXT_SIZE];
     JobErrorHistory ErrorHistory;
     DWORD dwPubMode;
-    char wszJobIdentificationID[NCL_JOB_TEXT_SIZE]; ///< the submitter's own name of the job
+    char wszJobIdentificationID[NCL_JOB_TEXT_SIZE]; ///< the submitter's own name for the job
     DWORD nServerJobID;
 };
 
-/// A job with the time that it still takes.
+/// A job with its remaining time.
 struct JobStatusEx
 {
     DWORD dwJobStatus;
@@ -508,7 +507,7 @@ struct JobStatusEx
     DWORD dwSource;
     DWORD dwDestination;
     DWORD dwEstimateTime;
-    DWORD dwRemainingTime; ///< in the server's unit; 0 unless NCL_JST_PROCESS_JOB_EX was asked for
+    DWORD dwRemainingTime; ///< in the server's unit; 0 unless requested by NCL_JST_PROCESS_JOB_EX
     DWORD dwErrorNumber;
     char wszJobName[NCL_JOB_TEXT_SIZE];
     JobErrorHistory ErrorHistory;
@@ -517,7 +516,7 @@ struct JobStatusEx
     DWORD nServerJobID;
 };
 
-/// What is to happen to a job. The server has numbers of its own for it.
+/// The operation on a job. On the wire the server uses numbers of its own.
 enum JobControlType
 {
     JOB_CONTROL_TYPE_COMMIT = 0,

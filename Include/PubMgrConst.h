@@ -1,4 +1,4 @@
-// The vocabulary of publisher management: modes, stacker media, models, connection kinds, the keys of the
+// Constants of publisher management: modes, stacker media, models, connection kinds, the keys of the
 // publisher setting files and the registry values.
 #pragma once
 
@@ -13,7 +13,7 @@ enum enPublishMode : UINT
     PUBMGR_PUBLISHMODE_NORMAL = 0,
     PUBMGR_PUBLISHMODE_BATCH = 1,
     PUBMGR_PUBLISHMODE_OUTPUT = 2,
-    PUBMGR_PUBLISHMODE_LOWVOLUME = 2, ///< the single-drive models' word for the same mode
+    PUBMGR_PUBLISHMODE_LOWVOLUME = 2, ///< name of the same mode on single-drive models
     PUBMGR_PUBLISHMODE_SECURITY = 3,
     PUBMGR_PUBLISHMODE_EJECTCONTROL = 4,
     PUBMGR_PUBLISHMODE_ERRORRATE = 5,
@@ -138,14 +138,14 @@ constexpr char PC_DEV_SUPPORT_SECTION_300II[] = "SUPPORT_300II";
 constexpr char PC_DEV_SUPPORT_SECTION_30II[] = "SUPPORT_30II";
 constexpr char PC_DEV_SUPPORT_SECTION_300III[] = "SUPPORT_300III";
 
-/// What a family's models have in common.
+/// Properties shared by all models of a family.
 struct PublisherFamily
 {
     const char* szSupportSection; ///< section of the support table
-    const char* szNamePrefix;     ///< how a default publisher name starts
+    const char* szNamePrefix;     ///< start of a default publisher name
 };
 
-/// Indexed by the family number; family 0 stands for no model.
+/// Indexed by the family number; family 0 is no model.
 constexpr PublisherFamily PUBLISHER_FAMILIES[] = {
     {"", ""},
     {PC_DEV_SUPPORT_SECTION, "RT-300 "},
@@ -198,9 +198,9 @@ constexpr char REG_PUB_SETUP_VAL_NPTYPE[] = "NPType";
 
 constexpr char REG_PUB_KEY_ROOT[] = "Software\\ARVEN\\Ulmar Disc Maker";
 constexpr char REG_PUB_CTRL_REGKEY_ROOT[] = "Software\\ARVEN\\Ulmar Disc Maker";
-/// One sub key for each device that the service has seen, named by its GUID.
+/// One sub key, named by its GUID, for each device that the service has detected.
 constexpr char REG_PUB_DEVICE_KEY_ROOT[] = "Software\\ARVEN\\Ulmar Disc Maker\\Local";
-/// Declared for the suite; the settings live in the setting files.
+/// Declared for the suite; the settings are stored in the setting files.
 constexpr char REG_PUB_SETUP_KEY_ROOT[] = "Software\\ARVEN\\Ulmar Disc Maker\\RegPublisher";
 
 // Values of the common key.
@@ -223,7 +223,7 @@ constexpr char REG_PUB_CTRL_USB_MODE[] = "USBMode";
 constexpr char REG_PRN_REG_VAL_DRV1_SUPPORT_WR_SPEED[] = "DRV1SupportWriteSpeed";
 constexpr char REG_PRN_REG_VAL_DRV2_SUPPORT_WR_SPEED[] = "DRV2SupportWriteSpeed";
 constexpr char REG_PRN_REG_VAL_DRV_SUPPORT_WR_SPEED[] = "DRVSupportWriteSpeed"; ///< single-drive models
-// Further ones, for other programs of the suite.
+// Further values, for other programs of the suite.
 constexpr char REG_PUB_CTRL_VAL_ATTACHSTATUS[] = "AttachStatus";
 constexpr char REG_PRN_REG_VAL_PRT_PORT_NAME[] = "PRTPortName";
 constexpr char REG_PRN_REG_VAL_DRV1_POSITION[] = "DRV1Position";

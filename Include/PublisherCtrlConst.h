@@ -1,6 +1,7 @@
-// The vocabulary of the control service: its pipe, its controls, its records and the values they carry.
+// Constants and records of the control service: its pipe, its controls, its payload records and their values.
 //
-// Records are raw images: little-endian, texts NUL-terminated in fixed fields (a peer may leave the NUL out).
+// Records are raw memory images, little-endian. Texts are NUL-terminated in fixed fields (a peer may omit the
+// NUL).
 #pragma once
 
 #include "Win_def.h"
@@ -48,7 +49,7 @@ constexpr ULONG ARV_PC_NOTIFY_CHANGE_ERRORRATE_TIMES = 30;
 constexpr ULONG ARV_PC_GET_USB_MODE = 31;
 constexpr ULONG ARV_PC_GET_UNIQUE_STRING_FOR_ID = 32;
 
-// Parameters of ARV_PC_GET_JOB_STATUS; they may be added.
+// Parameters of ARV_PC_GET_JOB_STATUS; they may be combined by OR.
 constexpr ULONG ARV_PC_GET_PROCESSING_JOB = 1;
 constexpr ULONG ARV_PC_GET_COMPLETE_JOB = 2;
 
@@ -342,7 +343,7 @@ constexpr ULONG ARV_PC_DEVICETYPE_RT30BDA = 6;
 constexpr ULONG ARV_PC_DEVICETYPE_RT300II = 7;
 constexpr ULONG ARV_PC_DEVICETYPE_RT30II = 8;
 constexpr ULONG ARV_PC_DEVICETYPE_RT300III = 9;
-constexpr ULONG ARV_PC_DEVICETYPE_DRV_UNKNOWN = 0; ///< drive class that is not known
+constexpr ULONG ARV_PC_DEVICETYPE_DRV_UNKNOWN = 0; ///< unknown drive class
 
 constexpr ULONG ARV_PC_CONNECTED = 1;
 
@@ -458,7 +459,7 @@ constexpr ULONG ARV_PC_PRT_STATE_ERROR_MB_COVER_OPEN = 0x800000;
 constexpr ULONG ARV_PC_PRT_STATE_ERROR_MB_OUT = 0x1000000;
 constexpr ULONG ARV_PC_PRT_STATE_ERROR_MB_FULL = 0x2000000;
 constexpr ULONG ARV_PC_PRT_STATE_ERROR_MECHANISM = 0x4000000;
-// Told by no printer: they never test true.
+// No printer reports these: the values are 0, so no test for them is true.
 constexpr ULONG ARV_PC_PRT_STATE_WARN_OVERHEAT = 0;
 constexpr ULONG ARV_PC_PRT_STATE_ERROR_PAPER_JAM = 0;
 constexpr ULONG ARV_PC_PRT_STATE_ERROR_TRAY_OUT = 0;
@@ -486,13 +487,13 @@ constexpr ULONG ARV_PC_INK_CARTRIDGE_REMOVED = 0x100;
 constexpr ULONG ARV_PC_INK_CARTRIDGE_INVALID = 0x200;
 constexpr ULONG ARV_PC_INK_UNKNOWN = 0x400;
 constexpr ULONG ARV_PC_NON_STANDARD_INK = 0x8000000;
-constexpr ULONG ARV_PC_INK_NEAR_EMPTY = 0x80000000; ///< or-ed to the percentage
+constexpr ULONG ARV_PC_INK_NEAR_EMPTY = 0x80000000; ///< combined with the percentage by OR
 
 constexpr ULONG ARV_PC_MAINTENANCEBOX_REMOVED = 0x100;
 constexpr ULONG ARV_PC_MAINTENANCEBOX_INVALID = 0x200;
 constexpr ULONG ARV_PC_MAINTENANCEBOX_UNKNOWN = 0x400;
 constexpr ULONG ARV_PC_NON_STANDARD_MAINTENANCEBOX = 0x8000000;
-constexpr ULONG ARV_PC_MAINTENANCEBOX_NEAR_FULL = 0x80000000; ///< or-ed to the percentage
+constexpr ULONG ARV_PC_MAINTENANCEBOX_NEAR_FULL = 0x80000000; ///< combined with the percentage by OR
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Stackers, prints, notifications
@@ -503,7 +504,7 @@ constexpr ULONG ARV_PC_STK_STATUS_FULL = 100;
 constexpr ULONG ARV_PC_STK_STATUS_UNKNOWN = 101;
 constexpr ULONG ARV_PC_STK_STATUS_NOT_FULL = 102;
 constexpr ULONG ARV_PC_STK_STATUS_OVERFLOW = 103;
-constexpr ULONG ARV_PC_STK_STATUS_SUPPLY = 0x80000000; ///< or-ed in for the stacker that supplies
+constexpr ULONG ARV_PC_STK_STATUS_SUPPLY = 0x80000000; ///< set by OR for the stacker that supplies discs
 
 constexpr ULONG ARV_PC_CIRCULATION_UNKNOWN = 0xFFFF; ///< estimated prints
 

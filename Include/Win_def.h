@@ -1,8 +1,9 @@
 // Base types, constants and the Windows-named functions of the platform layer (implemented in WinFunc).
 //
-// Every name keeps the signature and the result codes of its Windows namesake; what differs is told beside
-// the declaration. All text is `char`, UTF-8 where it came from the user interface. Unless said otherwise a
-// function may be called from any thread, reports by its result alone and never throws.
+// Every name has the signature and the result codes of its Windows namesake; differences are documented at
+// the declaration. All text is `char`, and UTF-8 where it comes from the user interface. Unless documented
+// otherwise, a function may be called from any thread, reports errors only through its result and never
+// throws.
 #pragma once
 
 #include <cassert>
@@ -61,17 +62,17 @@ using LSTATUS = long;
 using REGSAM = DWORD;
 using LCID = DWORD;
 
-// Macros, for their expansions are part of the texts with which an assertion stops the process.
+// Macros, because their expansions appear in the texts of failed assertions.
 #define FALSE 0
 #define TRUE 1
 #define ERROR_MORE_DATA (234L)
 
-/// Stops the process when `x` is false. The abort message holds the text "(<x as expanded>) != FALSE".
+/// Stops the process if `x` is false. The abort message contains the text "(<x as expanded>) != FALSE".
 #define ASSERT(x) assert((x) != FALSE)
 
 inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(intptr_t{-1});
 
-/// Longest path that the fixed buffers of callers hold, in bytes with the NUL (a Windows figure).
+/// Size of the callers' fixed path buffers, in bytes including the NUL (the Windows value).
 constexpr int MAX_PATH = 260;
 
 struct GUID
@@ -104,7 +105,7 @@ using LPFILETIME = FILETIME*;
 
 struct TIME_ZONE_INFORMATION
 {
-    LONG Bias; ///< minutes, UTC less local time
+    LONG Bias; ///< minutes, UTC minus local time
     SYSTEMTIME StandardDate;
     LONG StandardBias;
 };
@@ -140,7 +141,7 @@ struct SECURITY_ATTRIBUTES
 using PSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
 using LPSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
 
-/// No field is read or written by this layer: all input and output ends inside the call.
+/// This layer neither reads nor writes the fields: all input and output ends inside the call.
 struct OVERLAPPED
 {
     ULONG_PTR Internal;
@@ -195,40 +196,40 @@ constexpr DWORD WAIT_FAILED = 0xFFFFFFFF;
 constexpr DWORD INFINITE = 0xFFFFFFFF;
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Strings with a size. Results are errno numbers: 0, 22 (EINVAL), 34 (ERANGE), 12 (ENOMEM).
+// String functions with a size. Results are errno numbers: 0, 22 (EINVAL), 34 (ERANGE), 12 (ENOMEM).
 
 int strcpy_s(char* dest, size_t dest_size, const char* src);
-/// Writes `count` bytes, NULs behind a shorter source, and no NUL when the source fills `count`: the room
-/// must be `count` at least.
+/// Writes exactly `count` bytes: pads a shorter source with NULs, and writes no NUL after a source of `count`
+/// bytes or more. `dest` must have room for `count` bytes.
 int strncpy_s(char* dest, size_t dest_size, const char* src, size_t count);
 int strcat_s(char* dest, size_t dest_size, const char* src);
-/// A NULL source changes nothing here.
+/// Unlike above, a NULL source leaves `dest` unchanged.
 int strncat_s(char* dest, size_t dest_size, const char* src, size_t count);
-/// Lowers A to Z up to the first NUL.
+/// Converts A to Z to lower case, up to the first NUL.
 int _strlwr_s(char* str, size_t size);
-/// Upper-cases all `sizeInBytes` bytes, those behind a NUL too.
+/// Converts all `sizeInBytes` bytes to upper case, including those after a NUL.
 int _strupr_s(char* str, size_t sizeInBytes);
-/// 0 when equal but for the case of letters. The class of each byte of `string1` decides: digits and white
-/// space compare exactly, letters without regard to case, all others (its end included) match anything.
+/// Returns 0 if the texts are equal apart from the case of letters. The class of each byte of `string1`
+/// decides the comparison: digits and white space compare exactly, letters without regard to case, and all
+/// others (its NUL included) match anything.
 int _strnicmp(const char* string1, const char* string2, size_t count);
-/// The first byte of `str` that is not in `charset`, or NULL when there is none.
+/// The first byte of `str` that is not in `charset`, or NULL if there is none.
 char* _strspnp(const char* str, const char* charset);
-/// strtok: the context is ignored, so this is for one thread at a time.
+/// Calls strtok and ignores the context, so only one thread may use it at a time.
 char* strtok_s(char* str, const char* delimiters, char** context);
-/// memcpy: the size is ignored.
+/// Calls memcpy and ignores the size.
 int memcpy_s(void* dest, size_t dest_size, const void* src, size_t count);
 
-// Formatting. None of these but _vsnprintf_s and _vscprintf looks at a size: the caller sizes the
-// destination.
+// Formatting. Only _vsnprintf_s has a bound; for the other functions the caller must size the destination.
 
 namespace WinFunc {
-/// Formats without any bound; `SizeOfBuffer` is ignored. Reached by the plain name through the macro below.
+/// Formats without a bound; `SizeOfBuffer` is ignored. The macro below makes it callable by its plain name.
 int snprintf(char* Buffer, size_t SizeOfBuffer, const char* String, ...)
     __attribute__((format(printf, 3, 4)));
 } // namespace WinFunc
-// The name means the layer's function wherever this header is seen. A macro, because the C library's
-// declaration cannot be overloaded, and because a symbol of that name in the program would serve every shared
-// library of the process.
+// snprintf is the layer's function in every file that includes this header. It is a macro because the C
+// library's declaration cannot be overloaded, and because a symbol of that name in the program would be used
+// by every shared library of the process.
 #define snprintf WinFunc::snprintf
 
 int swprintf_s(char* Buffer, size_t SizeOfBuffer, const char* String, ...)
@@ -236,26 +237,26 @@ int swprintf_s(char* Buffer, size_t SizeOfBuffer, const char* String, ...)
 int vsprintf_s(char* Buffer, size_t SizeOfBuffer, const char* Format, va_list ArgList)
     __attribute__((format(printf, 3, 0)));
 int wsprintf(char* Buffer, const char* Format, ...) __attribute__((format(printf, 2, 3)));
-/// vsnprintf with `_MaxCount`; `_SizeInBytes` is ignored.
+/// Calls vsnprintf with `_MaxCount`; `_SizeInBytes` is ignored.
 int _vsnprintf_s(char* _DstBuf, size_t _SizeInBytes, size_t _MaxCount, const char* _Format, va_list _ArgList)
     __attribute__((format(printf, 4, 0)));
-/// The length that the text would have, without its NUL.
+/// The length of the formatted text, without its NUL.
 int _vscprintf(const char* Format, va_list ArgList) __attribute__((format(printf, 1, 0)));
 
-// Number conversions. _itoa_s, _ltoa_s and _ultoa_s know radix 10 alone and give 22 in all cases, success
-// included.
+// Number conversions. _itoa_s, _ltoa_s and _ultoa_s support radix 10 only and always return 22 (EINVAL), even
+// after success.
 
 int _itoa_s(int value, char* buffer, size_t size, int radix);
 int _ltoa_s(long value, char* buffer, size_t size, int radix);
 int _ultoa_s(unsigned long value, char* buffer, size_t size, int radix);
-/// Radix 16, 10 and 8 give 0; any other writes nothing and gives 22.
+/// Returns 0 for radix 16, 10 and 8. Any other radix writes nothing and returns 22.
 int _ltow_s(long Value, char* Buffer, size_t SizeOfBuffer, int Radix);
 LONGLONG _atoi64(const char* str);
 int _wtoi(const char* str);
 long _wtol(const char* str);
 int _totupper(int c);
 
-/// The COM string class of the shared declarations: holds nothing and does nothing.
+/// The COM string class of the shared declarations. It stores nothing.
 class _bstr_t
 {
 public:
@@ -264,19 +265,19 @@ public:
 };
 using bstr_t = _bstr_t;
 
-/// Splits at "/" and "."; the backslash is a plain byte. An output that would not fit is left zeroed without
-/// an error, and one given as NULL with size 0 is skipped. 0, or 22 for bad arguments.
+/// Splits at "/" and "."; a backslash is an ordinary byte. An output that does not fit is zeroed without an
+/// error; an output given as NULL with size 0 is skipped. Returns 0, or 22 for bad arguments.
 int _splitpath_s(const char* path, char* drive, size_t driveNumberOfElements, char* dir,
                  size_t dirNumberOfElements, char* fname, size_t nameNumberOfElements, char* ext,
                  size_t extNumberOfElements);
 
-/// Character types, one word a byte, for `dwInfoType` 1 and 4. FALSE at the first byte outside the tables,
-/// with the words before it already written.
+/// Writes one character type word per byte, for `dwInfoType` 1 and 4. Returns FALSE at the first byte outside
+/// the tables; the words before it have been written.
 BOOL GetStringTypeA(LCID Locale, DWORD dwInfoType, LPCSTR lpSrcStr, int cchSrc, LPWORD lpCharType);
 
-/// malloc; the flag is ignored. The caller frees with GlobalFree.
+/// Calls malloc; the flags are ignored. The caller frees the memory with GlobalFree.
 HGLOBAL GlobalAlloc(UINT uFlags, size_t dwBytes);
-/// Always 0.
+/// Always returns NULL.
 HGLOBAL GlobalFree(HGLOBAL hMem);
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -284,21 +285,22 @@ HGLOBAL GlobalFree(HGLOBAL hMem);
 
 void GetSystemTime(LPSYSTEMTIME lpSystemTime);
 void GetLocalTime(LPSYSTEMTIME lpSystemTime);
-/// Milliseconds of the monotonic clock, cut to 32 bits.
+/// Milliseconds of the monotonic clock, truncated to 32 bits.
 DWORD GetTickCount();
-/// Milliseconds; 0 yields the processor. A signal may end it early by less than a second.
+/// Sleeps for milliseconds; 0 yields the processor. A signal may end the sleep early, by less than a second.
 void Sleep(DWORD dwMilliseconds);
-/// -1, 0 or 1.
+/// Returns -1, 0 or 1.
 LONG CompareFileTime(const FILETIME* lpFileTime1, const FILETIME* lpFileTime2);
-/// These three leave their outputs alone and give TRUE.
+/// These three return TRUE and leave their outputs unchanged.
 BOOL FileTimeToSystemTime(const FILETIME* lpFileTime, LPSYSTEMTIME lpSystemTime);
 BOOL SystemTimeToFileTime(const SYSTEMTIME* lpSystemTime, LPFILETIME lpFileTime);
 BOOL GetFileTime(HANDLE hFile, LPFILETIME lpCreationTime, LPFILETIME lpLastAccessTime,
                  LPFILETIME lpLastWriteTime);
-/// Whole hours of UTC less local time, without regard to the date. Always 0.
+/// Sets `Bias` to the difference of the hours of UTC and local time, in minutes and without regard to the
+/// date. Always returns 0.
 DWORD GetTimeZoneInformation(LPTIME_ZONE_INFORMATION lpTimeZoneInformation);
 
-// Stubs of fixed result: nothing is written.
+// Stubs with a fixed result. They write nothing.
 
 LONG CoCreateGuid(GUID* pguid);
 BOOL VerQueryValue(LPCVOID pBlock, LPCTSTR lpSubBlock, LPVOID* lplpBuffer, PUINT puLen);
@@ -306,7 +308,7 @@ DWORD GetFileVersionInfoSize(LPCTSTR lptstrFilename, LPDWORD lpdwHandle);
 BOOL GetFileVersionInfo(LPCTSTR lptstrFilename, DWORD dwHandle, DWORD dwLen, LPVOID lpData);
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Registry, kept in the suite's shared text file. One thread at a time: CRegUtility sees to that.
+// Registry, stored in the suite's shared text file. One thread at a time; CRegUtility holds the lock.
 
 inline const HKEY HKEY_CLASSES_ROOT = reinterpret_cast<HKEY>(uintptr_t{0x80000000});
 inline const HKEY HKEY_CURRENT_USER = reinterpret_cast<HKEY>(uintptr_t{0x80000001});
@@ -325,11 +327,12 @@ LSTATUS RegCreateKeyExA(HKEY hKey, LPCSTR lpSubKey, DWORD Reserved, LPSTR lpClas
                         REGSAM samDesired, const LPSECURITY_ATTRIBUTES lpSecurityAttributes, PHKEY phkResult,
                         LPDWORD lpdwDisposition);
 LSTATUS RegOpenKeyExA(HKEY hKey, LPCSTR lpSubKey, DWORD ulOptions, REGSAM samDesired, PHKEY phkResult);
-/// Frees the key, and writes the file when the key is writable and dirty. Never pass a root.
+/// Frees the key, and writes the file if the key is writable and dirty. Never pass a root.
 LSTATUS RegCloseKey(HKEY hKey);
 LSTATUS RegSetValueExA(HKEY hKey, LPCSTR lpValueName, DWORD Reserved, DWORD dwType, const BYTE* lpData,
                        DWORD cbData);
-/// A buffer that is too small gives 0 with the size needed, never 234: ask for the size with `*lpcbData` 0.
+/// If the buffer is too small, returns 0 and the size needed, never 234. To ask for the size, set `*lpcbData`
+/// to 0.
 LSTATUS RegQueryValueExA(HKEY hKey, LPCSTR lpValueName, LPDWORD lpReserved, LPDWORD lpType, LPBYTE lpData,
                          LPDWORD lpcbData);
 LSTATUS RegEnumKeyExA(HKEY hKey, DWORD dwIndex, LPSTR lpName, LPDWORD lpcchName, LPDWORD lpReserved,
@@ -341,20 +344,20 @@ LSTATUS RegQueryInfoKeyA(HKEY hKey, LPSTR lpClass, LPDWORD lpcchClass, LPDWORD l
 /// Always stops the process: the store does not enumerate values.
 LSTATUS RegEnumValueA(HKEY hKey, DWORD dwIndex, LPSTR lpValueName, LPDWORD lpcchValueName, LPDWORD lpReserved,
                       LPDWORD lpType, LPBYTE lpData, LPDWORD lpcbData);
-/// `lpSubKey` keeps its backslashes here: pass single names.
+/// Does not convert backslashes in `lpSubKey`: pass single names.
 LSTATUS RegDeleteKeyA(HKEY hKey, LPCSTR lpSubKey);
 LSTATUS RegDeleteValueA(HKEY hKey, LPCSTR lpValueName);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Private profile files (ini files)
 
-/// The value of a key, its length as the result. `lpDefault` serves only when the file cannot be opened; a
-/// missing key is the empty text. A value longer than `nSize` is cut to fit.
+/// Copies the value of a key and returns its length. `lpDefault` is used only if the file cannot be opened; a
+/// missing key gives the empty text. A value that does not fit in `nSize` bytes is cut.
 DWORD GetPrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpDefault, LPSTR lpReturnedString,
                                DWORD nSize, LPCSTR lpFileName);
 UINT GetPrivateProfileIntA(LPCSTR lpAppName, LPCSTR lpKeyName, INT nDefault, LPCSTR lpFileName);
 BOOL WritePrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpString, LPCSTR lpFileName);
-/// `lpKeyValuePairs`: NUL-terminated texts "key=value", ended by an empty text.
+/// `lpKeyValuePairs`: NUL-terminated texts "key=value", followed by an empty text.
 BOOL WritePrivateProfileSectionA(LPCSTR lpAppName, LPCSTR lpKeyValuePairs, LPCSTR lpFileName);
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -365,11 +368,11 @@ HANDLE CreateEventA(LPSECURITY_ATTRIBUTES lpEventAttributes, BOOL bManualReset, 
 BOOL SetEvent(HANDLE hEvent);
 BOOL ResetEvent(HANDLE hEvent);
 HANDLE CreateMutexA(LPSECURITY_ATTRIBUTES lpMutexAttributes, BOOL bInitialOwner, LPCSTR lpName);
-/// Always NULL.
+/// Always returns NULL.
 HANDLE OpenMutexA(DWORD dwDesiredAccess, BOOL bInheritHandle, LPCSTR lpName);
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
 DWORD WaitForMultipleObjects(DWORD nCount, const HANDLE* ph, BOOL bWaitAll, DWORD dwMilliseconds);
-/// The object is gone afterwards, whatever the result.
+/// Destroys the object, whatever the result.
 BOOL CloseHandle(HANDLE hObject);
 
 /// Recursive.
@@ -389,8 +392,8 @@ constexpr DWORD FILE_SHARE_WRITE = 2;
 constexpr DWORD CREATE_NEW = 1;
 constexpr DWORD CREATE_ALWAYS = 2;
 constexpr DWORD OPEN_EXISTING = 3;
-constexpr DWORD OPEN_ALWAYS = 4;       ///< not supported: an invalid handle
-constexpr DWORD TRUNCATE_EXISTING = 5; ///< not supported: an invalid handle
+constexpr DWORD OPEN_ALWAYS = 4;       ///< not supported: gives an invalid handle
+constexpr DWORD TRUNCATE_EXISTING = 5; ///< not supported: gives an invalid handle
 constexpr DWORD FILE_BEGIN = 0;
 constexpr DWORD FILE_CURRENT = 1;
 constexpr DWORD FILE_END = 2;
@@ -402,17 +405,18 @@ constexpr DWORD INVALID_FILE_SIZE = 0xFFFFFFFF;
 constexpr DWORD INVALID_SET_FILE_POINTER = 0xFFFFFFFF;
 constexpr DWORD INVALID_FILE_ATTRIBUTES = 0xFFFFFFFF;
 
-/// A file, or the control service's socket for any name that starts with "\\.\pipe\".
+/// Opens a file, or the control service's socket if the name starts with "\\.\pipe\".
 HANDLE CreateFileA(LPCSTR lpFileName, DWORD dwDesiredAccess, DWORD dwShare,
                    PSECURITY_ATTRIBUTES lpSecurityAttributes, DWORD dwCreateDisposition,
                    DWORD dwFlagsAndAttributes, HANDLE hTemplateFile);
-/// One read: end of file and a closed peer give TRUE with 0 bytes. Blocks until data or close.
+/// Makes one read call, which blocks until data arrives or the peer closes. At the end of a file and after a
+/// close by the peer, returns TRUE with 0 bytes.
 BOOL ReadFile(HANDLE hFile, LPVOID lpBuffer, DWORD nNumberOfBytesToRead, LPDWORD lpNumberOfBytesRead,
               LPOVERLAPPED lpOverlapped);
-/// One write: compare the count with what was asked for.
+/// Makes one write call. Compare the returned count with the requested one.
 BOOL WriteFile(HANDLE hFile, LPCVOID lpBuffer, DWORD NumberOfBytesToWrite, LPDWORD lpNumberOfBytesWrite,
                LPOVERLAPPED lpOverlapped);
-/// Always FALSE: no operation is ever pending.
+/// Always returns FALSE: no operation is ever pending.
 BOOL GetOverlappedResult(HANDLE hFile, LPOVERLAPPED lpOverlapped, LPDWORD lpNumberOfBytesTransferred,
                          BOOL bWait);
 DWORD GetFileSize(HANDLE hFile, LPDWORD lpFileSizeHigh);
@@ -421,24 +425,24 @@ DWORD SetFilePointer(HANDLE hFile, LONG lDistanceToMove, PLONG lpDistanceToMoveH
 BOOL SetFilePointerEx(HANDLE hFile, LARGE_INTEGER liDistanceToMove, PLARGE_INTEGER lpNewFilePointer,
                       DWORD dwMoveMethod);
 
-/// The thread's errno as a Windows code. Not cleared by success.
+/// The thread's errno as a Windows error code. Success does not clear it.
 DWORD GetLastError();
-/// Stores the number into errno as it is.
+/// Stores the number in errno without conversion.
 void SetLastError(DWORD dwErrCode);
 
 BOOL DeleteFileA(LPCSTR lpFileName);
-/// One level, mode 0775; the second argument is ignored.
+/// Creates one level with mode 0775; the second argument is ignored.
 BOOL CreateDirectoryA(LPCSTR lpDirectoryName, LPSECURITY_ATTRIBUTES Mode);
-/// Removes the folder with everything in it.
+/// Removes the folder and everything in it.
 BOOL RemoveDirectoryA(LPCSTR lpPathName);
 BOOL PathIsDirectoryA(LPCSTR pszPath);
 DWORD GetFileAttributesA(LPCSTR lpFileName);
 /// Always TRUE. `pszPath` must have room for the result.
 BOOL PathAppendA(LPSTR pszPath, LPCSTR pszMore);
 DWORD GetModuleFileNameA(HMODULE hModule, LPSTR lpFilename, DWORD nSize);
-/// 0, 22 for a NULL argument, 5 when the file cannot be opened.
+/// Returns 0, 22 for a NULL argument, or 5 if the file cannot be opened.
 int fopen_s(FILE** pFile, const char* filename, const char* mode);
-/// Bytes of the file system that holds the parent of the folder.
+/// Reports the bytes of the file system that holds the parent of the folder.
 BOOL GetDiskFreeSpaceEx(LPCSTR lpDirectoryName, PULARGE_INTEGER lpFreeBytesAvailableToCaller,
                         PULARGE_INTEGER lpTotalNumberOfBytes, PULARGE_INTEGER lpTotalNumberOfFreeBytes);
 BOOL GetDiskFreeSpace(LPCSTR RootPathName, LPDWORD SectorsPerCluster, LPDWORD BytesPerSector,

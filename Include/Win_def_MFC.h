@@ -1,4 +1,4 @@
-// Strings, arrays and thread objects in the manner of the Microsoft class library (implemented in WinFunc).
+// Strings, arrays and thread objects in the style of the Microsoft class library (implemented in WinFunc).
 #pragma once
 
 #include "Win_def.h"
@@ -17,11 +17,12 @@ public:
     /// NULL gives the empty text.
     CString(LPCTSTR text);
 
-    /// A buffer of at least `size` bytes that starts as the text and its NUL; it lives until ReleaseBuffer.
+    /// A buffer of at least `size` bytes that initially holds the text and its NUL. Valid until
+    /// ReleaseBuffer.
     LPTSTR GetBuffer(int size);
-    /// The text becomes the buffer up to its first NUL. Without a buffer nothing happens.
+    /// Sets the text to the buffer up to its first NUL. No effect without a buffer.
     void ReleaseBuffer();
-    /// Formats through a buffer of 1024 bytes without a bound: keep the result below 1024 bytes.
+    /// Formats into a buffer of 1024 bytes without a bound: the result must be shorter than 1024 bytes.
     void Format(LPCTSTR format, ...) __attribute__((format(printf, 2, 3)));
     /// The first `nCount` bytes up to an embedded NUL; a negative count gives the whole text.
     CString Left(int nCount) const;
@@ -41,7 +42,7 @@ private:
     std::vector<char> buf;
 };
 
-/// An array in the manner of the Microsoft class library over std::deque. An index outside it stops the
+/// An array in the style of the Microsoft class library, based on std::deque. An index out of range stops the
 /// process.
 template <class TYPE, class ARG_TYPE>
 class CArray : public std::deque<TYPE>
@@ -67,7 +68,7 @@ public:
     {
         this->clear();
     }
-    /// The index of the new element.
+    /// Returns the index of the new element.
     INT_PTR Add(ARG_TYPE newElement)
     {
         this->push_back(newElement);
@@ -89,7 +90,7 @@ public:
     {
         *this = src;
     }
-    /// Grows the array when `nIndex` lies behind its end.
+    /// Grows the array if `nIndex` lies beyond its end.
     void InsertAt(INT_PTR nIndex, ARG_TYPE newElement)
     {
         ASSERT(nIndex >= 0);
@@ -128,11 +129,11 @@ public:
     }
 };
 
-/// The part of `lpszFullString` behind `iSubString` separators, up to the next one. FALSE, with `rString`
-/// untouched, when the text has fewer separators.
+/// Extracts the part with the index `iSubString`, which starts at 0. FALSE, with `rString` unchanged, if the
+/// text has fewer separators.
 BOOL AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString, char chSep);
 
-/// Base of the class library's exceptions. No code of this system throws one.
+/// Base of the exceptions of the class library. No code of this system throws one.
 class CException
 {
 public:
@@ -141,18 +142,18 @@ public:
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext);
 };
 
-/// A thread object with a message queue. Fed and pumped from one thread: the queue has no lock.
+/// A thread object with a message queue. Post and pump in one thread only: the queue has no lock.
 class CWinThread
 {
 public:
-    /// Both base versions stop the process: a derived class overrides them.
+    /// The base versions stop the process: derived classes must override them.
     virtual int ExitInstance();
     virtual BOOL PreTranslateMessage(MSG* pMsg);
 
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    /// Handles at most one message; false from the moment WM_QUIT is at the head of the queue.
+    /// Handles at most one message. False once WM_QUIT is at the head of the queue.
     bool MessagePump();
-    /// The exit code is dropped.
+    /// The exit code is ignored.
     void PostQuitMessage(int nExitCode);
 
     bool m_bQuit = false;
@@ -175,7 +176,7 @@ protected:
     ~CWinApp() = default;
 };
 
-/// NULL in this system: no CWinApp object exists.
+/// Returns NULL in this system: no CWinApp object exists.
 CWinApp* AfxGetApp();
-/// NULL.
+/// Always returns NULL.
 HINSTANCE AfxGetInstanceHandle();
