@@ -98,12 +98,13 @@ long CRegUtility::DeleteKey(HKEY hKey, LPCTSTR lpszKeyName)
     RegQueryInfoKeyA(key, nullptr, nullptr, nullptr, &count, &longest, nullptr, nullptr, nullptr, nullptr,
                      nullptr, nullptr);
 
-    // All names first: a key below is opened on the way down, which may add to the list.
+    // Collect all names first: the recursion opens keys below, and opening a key may add to the list.
     std::vector<std::string> names;
     std::vector<char> name(size_t{longest} + 1);
     for (DWORD index = 0; index < count; ++index) {
         auto size = static_cast<DWORD>(name.size());
-        // The count holds keys at any depth and the enumeration direct children only, so it may end early.
+        // The count includes keys at any depth, but the enumeration lists direct children only, so it may end
+        // early.
         if (RegEnumKeyExA(key, index, name.data(), &size, nullptr, nullptr, nullptr, nullptr) ==
             ERROR_SUCCESS) {
             names.emplace_back(name.data());
@@ -153,7 +154,7 @@ long CRegUtility::EnumRegKey(DWORD dwIndex, LPTSTR lpszBuffer, DWORD* pdwSize)
     if (lResult != ERROR_SUCCESS) {
         return lResult;
     }
-    // The enumeration leaves the count alone, so this is the size for the longest name, not for this one.
+    // The enumeration does not change the count, so this is the size for the longest name, not for this one.
     const DWORD needed = count + 1;
     if (*pdwSize < needed) {
         lResult = ERROR_MORE_DATA;
@@ -209,7 +210,7 @@ long CRegUtility::GetRegNumValue(LPCTSTR lpszValueName, DWORD* pdwValue)
     return ERROR_SUCCESS;
 }
 
-/// Type and size first, then the data. `*pdwSize` becomes the size needed in both outcomes, 0 and 234.
+/// Queries type and size first, then the data. With result 0 or 234, `*pdwSize` is set to the size needed.
 long CRegUtility::GetRegValue(LPCTSTR lpszValueName, DWORD dwType, BYTE* pbyBuffer, DWORD* pdwSize)
 {
     if (m_hCurrentKey == nullptr) {
@@ -294,7 +295,7 @@ long CRegUtility::DeleteRegValue(LPCTSTR lpszValueName)
     if (lpszValueName == nullptr) {
         return ERROR_SUCCESS;
     }
-    if (lpszValueName[0] == '\0') { // all values, which nobody can count
+    if (lpszValueName[0] == '\0') { // means all values, which the registry cannot count
         DWORD values = 0;
         return RegQueryInfoKeyA(m_hCurrentKey, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &values,
                                 nullptr, nullptr, nullptr, nullptr);

@@ -25,8 +25,8 @@ bool IsReadOnly(const struct stat& status)
     return (status.st_mode & (readable | writable)) == readable;
 }
 
-/// The errno of opening the member "*" of a folder, 0 on success. No wildcard here: the name is taken as it
-/// is.
+/// Opens the member "*" of a folder: there is no wildcard, the name is literal. Returns the errno, 0 on
+/// success.
 int TryMembers(const CString& strFolder)
 {
     DIR* const directory = opendir(CUtility::CombinePath(strFolder.c_str(), "*").c_str());
@@ -37,7 +37,7 @@ int TryMembers(const CString& strFolder)
     return 0;
 }
 
-/// The errno of opening, 0 on success. Without waiting for the other end of a named pipe.
+/// Returns the errno of opening, 0 on success. Does not wait for the other end of a named pipe.
 int TryOpen(LPCTSTR path, int flags)
 {
     const int fd = open(path, flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
@@ -48,7 +48,7 @@ int TryOpen(LPCTSTR path, int flags)
     return 0;
 }
 
-/// A status stands above an error.
+/// A status takes precedence over an error.
 long ResultOf(long status, int error)
 {
     if (status != ERROR_SUCCESS) {
@@ -145,7 +145,7 @@ long CUtility::CheckFilePath(LPCTSTR pFilePath, enAccessMode AccessMode)
     int error = 0;
     long status = ERROR_SUCCESS;
     struct stat properties = {};
-    errno = 0; // an earlier error is not the answer to this path
+    errno = 0; // an earlier error must not be reported for this path
     if (stat(pFilePath, &properties) != 0) {
         error = errno;
     } else if (S_ISREG(properties.st_mode)) {

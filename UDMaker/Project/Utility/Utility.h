@@ -1,4 +1,4 @@
-// Helpers for paths. The separator is "/", although the names keep their Windows wording.
+// Path helpers. The separator is "/", although the names keep their Windows wording.
 #pragma once
 
 #include "Win_def_MFC.h"
@@ -19,27 +19,27 @@ public:
 
     /// True if the last byte is a slash. NULL stops the process.
     static bool IsPathBackSlash(LPCTSTR pszPath);
-    /// Appends a slash unless there is one.
+    /// Appends a slash unless there is one at the end.
     static void AddBackSlash(CString& strPath);
     /// Removes all slashes at the end; a text of slashes alone becomes empty.
     static void RemoveBackSlash(CString& strPath);
     /// True for a drive ("c:/", "c:\") and for two leading slashes or backslashes; "/opt" is not full.
     static bool IsFullPath(LPCTSTR pPath);
-    /// Both with one slash between; NULL stops the process.
+    /// Joins both with one slash; NULL stops the process.
     static CString CombinePath(LPCTSTR pPath, LPCTSTR pFileName);
     static CString GetFileNameFromPath(LPCTSTR pszPath);
     static CString GetFileNameFromPathNoExt(LPCTSTR pszPath);
-    /// The text from the last "." on, with the dot when `bOutputPaser`; empty without a dot.
+    /// The text from the last "." on, with the dot if `bOutputPaser` is true; empty without a dot.
     static CString GetFileExtFromPath(LPCTSTR pszPath, bool bOutputPaser);
-    /// What stands before the last slash; empty without one.
+    /// The part before the last slash; empty without one.
     static CString GetFolderPathFromFilePath(LPCTSTR pszFilePath);
 
-    /// 267 for a regular file, 6009 for anything else that is read-only for everyone, otherwise 0, 5 (denied)
-    /// or 3 (any other failure, a missing path too). Never 2.
+    /// Returns 267 for a regular file, 6009 for anything else that is read-only for everyone, otherwise 0, 5
+    /// (denied) or 3 (any other failure, including a missing path). Never 2.
     static long CheckFilePath(LPCTSTR pFilePath, enAccessMode AccessMode);
-    /// The same without a word on regular files. ACCESS_READ looks for a member named "*".
+    /// Like CheckFilePath, but a regular file does not give 267. ACCESS_READ looks for a member named "*".
     static long CheckFolderPath(LPCTSTR lpszFolderPath, enAccessMode AccessMode);
-    /// Tests the wrong way round: a path that exists stops the process, a path that does not is not created.
-    /// True.
+    /// The existence test is inverted: a path that exists stops the process, and a missing path is not
+    /// created. Always true.
     static bool CreateFolder(LPCTSTR lpszFolderPath);
 };
