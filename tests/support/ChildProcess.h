@@ -1,11 +1,11 @@
-// Another program of the suite, played by a child process.
+// Child processes that act as other programs of the suite.
 #pragma once
 
 #include <cstdlib>
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Runs `work` in a child of its own; WaitFor tells whether it gave true.
+/// Runs `work` in a child process. WaitFor returns whether it returned true.
 template <class Work>
 pid_t StartChild(Work work)
 {

@@ -1,5 +1,5 @@
-// Which files a program locks, in order. For programs of one source file: it takes the place of the C
-// library's flock.
+// Records which files a program locks, in order. Only for programs of one source file: it defines flock in
+// place of the C library.
 #pragma once
 
 #include <array>
@@ -24,7 +24,7 @@ public:
             Names().push_back(std::string(path.data()).substr(std::string(path.data()).rfind('/') + 1));
         }
     }
-    /// The names of the files without their folders, since the last call.
+    /// The names of the files locked since the last call, without their folders.
     static std::vector<std::string> Take()
     {
         const std::lock_guard lock(Guard());

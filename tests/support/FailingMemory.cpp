@@ -9,7 +9,7 @@ namespace {
 constexpr size_t NEVER = ~size_t{0};
 
 thread_local size_t failing = NEVER;
-thread_local size_t granted = 0; // how many more of those
+thread_local size_t granted = 0; // how many more such requests succeed
 thread_local size_t largest = 0;
 thread_local bool failsAll = false;
 thread_local bool hasFailed = false;

@@ -1,10 +1,11 @@
-// Memory that runs out: requests with std::nothrow return null, all others throw std::bad_alloc.
+// Simulates a lack of memory: failing requests with std::nothrow return null, all others throw
+// std::bad_alloc.
 #pragma once
 
 #include <cstddef>
 
-/// While one lives, requests of at least `size` bytes fail in this thread, once `passed` of them have been
-/// granted.
+/// During the lifetime of an object, requests of at least `size` bytes fail in this thread after `passed` of
+/// them have succeeded.
 class FailingMemory
 {
 public:
@@ -19,8 +20,8 @@ public:
     FailingMemory& operator=(const FailingMemory&) = delete;
     ~FailingMemory();
 
-    /// The largest request since its start.
+    /// The largest request since construction, in bytes.
     size_t Largest() const;
-    /// Whether a request has failed.
+    /// True if a request has failed.
     bool HasFailed() const;
 };

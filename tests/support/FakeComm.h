@@ -1,4 +1,4 @@
-// A transport without a network: it plays prepared connections to the client and keeps what the client did.
+// A transport without a network: it provides prepared connections and records what the client does.
 #pragma once
 
 #include "Http.h"
@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-/// One connection, from the opening of the socket to the next.
+/// One connection, from one opening of the socket to the next.
 struct FakeConnection
 {
     std::string reply = {}; ///< what the peer sends
-    int readEnd = -11;      ///< what a read gives that finds no more of it
-    int connectResult = 0;  ///< negative: the connect fails so
+    int readEnd = -11;      ///< result of a read beyond the end of the reply
+    int connectResult = 0;  ///< negative: the connect fails with it
     int goodWrites = 1000;  ///< how many writes succeed
-    int writeEnd = -10;     ///< what the next one gives
+    int writeEnd = -10;     ///< result of the next one
     int openResult = 0;     ///< negative: there is no socket
 };
 
@@ -34,7 +34,7 @@ public:
     int family = 0; ///< of the last socket
     int type = 0;
 
-    /// What the client has not read of the present connection.
+    /// The part of the current reply that the client has not read.
     std::string Unread() const
     {
         return m_present.reply.substr(m_read);
@@ -75,7 +75,7 @@ public:
     int ReadToCount(char* pBuf, int nCount) override
     {
         if (nCount <= 0) {
-            return 0; // as a socket does, which reads while it has less
+            return 0; // like a socket, which reads only while it has fewer bytes
         }
         const size_t count = std::min(static_cast<size_t>(nCount), m_present.reply.size() - m_read);
         m_present.reply.copy(pBuf, count, m_read);
@@ -121,7 +121,7 @@ private:
     size_t m_read = 0;
 };
 
-/// A connection object that stands on a fake transport, and owns it.
+/// A connection object that uses a fake transport, and owns it.
 class FakeCon : public CInternetCon
 {
 public:
@@ -134,7 +134,7 @@ public:
     using CInternetCon::m_pComm;
 };
 
-/// An HTTP client that stands on a fake transport, and owns it.
+/// An HTTP client that uses a fake transport, and owns it.
 class FakeHttp : public CHttp
 {
 public:

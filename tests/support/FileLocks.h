@@ -1,4 +1,4 @@
-// A lock that another program holds on a file, and those who wait for it.
+// Locks a file like another program, and detects the processes that wait for the lock.
 #pragma once
 
 #include <atomic>
@@ -13,7 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// Holds the file under an exclusive flock until `Release` or its end.
+/// Holds an exclusive flock on the file until `Release` or destruction.
 class FileLock
 {
 public:
@@ -62,7 +62,7 @@ inline bool WaitUntil(const std::function<bool()>& condition)
     return true;
 }
 
-/// True when a process waits for a lock on the file.
+/// True if a process waits for a lock on the file.
 inline bool SomebodyWaitsFor(const char* path)
 {
     struct stat info = {};
@@ -79,7 +79,7 @@ inline bool SomebodyWaitsFor(const char* path)
     return false;
 }
 
-/// Runs `pass` while another program holds the file. True when it waited for the release and then gave true.
+/// Runs `pass` while the file is locked. True if `pass` waited for the release and then returned true.
 template <class Pass>
 bool WaitsForItsTurn(const char* path, Pass pass)
 {

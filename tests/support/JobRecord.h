@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-/// Numbers high byte first, texts in UTF-16 with the low byte first. It starts as a good job, all zero.
+/// Numbers are big-endian, texts are UTF-16 little-endian. The initial record is a valid job, all zero.
 class JobRecord
 {
 public:

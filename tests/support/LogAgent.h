@@ -1,4 +1,4 @@
-// The receiving end of log lines: a datagram socket at the log agent's place, or at "/dev/log" for syslog.
+// Receives log lines: a datagram socket at the path of the log agent, or at "/dev/log" for syslog.
 #pragma once
 
 #include "InstallPaths.h"
@@ -16,8 +16,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-/// A datagram socket bound to `path`; both are gone with the object. It throws std::runtime_error when it
-/// cannot bind.
+/// A datagram socket bound to `path`. The destructor removes both; the constructor throws std::runtime_error
+/// if it cannot bind.
 class LogAgent
 {
 public:
@@ -48,7 +48,7 @@ public:
         ::unlink(m_path.c_str());
     }
 
-    /// The next datagram, every byte of it; none when none came within the time.
+    /// The next datagram in full; none if none arrives in time.
     std::optional<std::string> Receive(int milliseconds = patience)
     {
         pollfd entry{m_fd, POLLIN, 0};

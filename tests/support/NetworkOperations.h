@@ -1,5 +1,5 @@
-// Every operation that asks a publisher server, each as a row: how it is called, how many requests it makes,
-// and what it gives when the server cannot be reached or refuses one of them.
+// A table of all operations that query a publisher server: how each is called, how many requests it makes,
+// and what it returns if the server is unreachable or refuses a request.
 #pragma once
 
 #include "NW_Com_LibConst.h"
@@ -10,25 +10,25 @@
 #include <string_view>
 #include <vector>
 
-/// What becomes of the caller's result code.
+/// How an operation sets the result code of the caller.
 enum class CodeRule
 {
-    kept,    ///< nothing
-    mapped,  ///< the library's code as one of the control service
+    kept,    ///< unchanged
+    mapped,  ///< the library's code, mapped to one of the control service
     raw,     ///< the library's code
     offline, ///< 11
     lost,    ///< -1
     broken,  ///< 7
 };
 
-/// What an operation gave.
+/// The results of an operation.
 struct NetworkAnswer
 {
-    static constexpr long UNTOUCHED = 77; ///< the caller's code beforehand
+    static constexpr long UNTOUCHED = 77; ///< the caller's code before the call
 
-    long result = 0; ///< true is 1; of a text its length
+    long result = 0; ///< 1 for true; for a text, its length
     long code = UNTOUCHED;
-    bool isKept = true; ///< the caller's output is as it was
+    bool isKept = true; ///< the caller's output is unchanged
 };
 
 inline long CodeBy(CodeRule rule, DWORD code)
@@ -57,12 +57,12 @@ struct NetworkOperation
     using Call = NetworkAnswer (*)(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode);
 
     const char* name;
-    size_t requests; ///< behind those of the connection
+    size_t requests; ///< after those of the connection
     CodeRule codeWhenUnreachable;
-    long resultWhenRefused; ///< and when unreachable, unless the code is `offline`: then that is false
+    long resultWhenRefused; ///< also if unreachable, unless codeWhenRefused is `offline`: then 0
     CodeRule codeWhenRefused;
-    bool keepsOutput; ///< when one of its requests is refused; when unreachable each does
-    /// The refusal of any request is the end. Otherwise there is a test of its own.
+    bool keepsOutput; ///< if a request is refused; if unreachable, every operation does
+    /// True if the refusal of any request ends the operation. The other operations have separate tests.
     bool endsAtOnce;
     Call call;
 
@@ -80,7 +80,7 @@ struct NetworkOperation
 
 namespace network_operations {
 
-/// An operation that fills one plain record.
+/// Calls an operation that fills one plain record.
 template <class Record, bool (CNetworkPublisherMgr::*operation)(LPCTSTR, Record*, long*)>
 NetworkAnswer Fill(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode)
 {
@@ -93,7 +93,7 @@ NetworkAnswer Fill(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode)
     return answer;
 }
 
-/// One that fills a list of jobs.
+/// Calls an operation that fills a list of jobs.
 template <bool (CNetworkPublisherMgr::*operation)(LPCTSTR, JobStatusArray*, long*)>
 NetworkAnswer FillJobs(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode)
 {
@@ -107,7 +107,7 @@ NetworkAnswer FillJobs(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode)
     return answer;
 }
 
-/// Its record is not watched: it always gets its local part.
+/// Does not check the record, because the operation always fills in the local part.
 inline NetworkAnswer Info(CNetworkPublisherMgr& mgr, LPCTSTR id, bool)
 {
     NetworkAnswer answer;
@@ -158,7 +158,7 @@ inline NetworkAnswer Fatal(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode
     return answer;
 }
 
-/// Of the job that its submitter calls "J".
+/// Cancels the job that its submitter calls "J".
 inline NetworkAnswer Cancel(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCode)
 {
     NetworkAnswer answer;
@@ -220,7 +220,7 @@ inline NetworkAnswer Prints(CNetworkPublisherMgr& mgr, LPCTSTR id, bool takesCod
     return answer;
 }
 
-/// The result code is not left out.
+/// Always passes a result code.
 inline NetworkAnswer Mode(CNetworkPublisherMgr& mgr, LPCTSTR id, bool)
 {
     return Fill<ULONG, &CNetworkPublisherMgr::GetServicePublishMode>(mgr, id, true);
@@ -235,7 +235,7 @@ inline NetworkAnswer Text(CNetworkPublisherMgr& mgr, LPCTSTR id, bool)
     return answer;
 }
 
-/// All of them.
+/// All operations.
 inline const std::vector<NetworkOperation>& NetworkOperations()
 {
     using Mgr = CNetworkPublisherMgr;
@@ -276,7 +276,7 @@ inline const std::vector<NetworkOperation>& NetworkOperations()
 
 using network_operations::NetworkOperations;
 
-/// By its name, which is one of the table.
+/// The operation of this name, which must be in the table.
 inline const NetworkOperation& NetworkOperationOf(std::string_view name)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {

@@ -1,12 +1,12 @@
-// Permissions as an ordinary user meets them.
+// File permissions as for an ordinary user.
 #pragma once
 
 #include <linux/capability.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
-/// From here on the mode bits of files bind this process, although it is root inside its sandbox. True on
-/// success.
+/// Drops all capabilities: from now on file modes apply to this process, although it is root inside its
+/// sandbox. True on success.
 inline bool TakeAwayPrivileges()
 {
     __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};

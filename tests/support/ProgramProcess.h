@@ -1,4 +1,4 @@
-// A program as a process: what it prints, and how it ends.
+// A program run as a process: its output and its exit code.
 #pragma once
 
 #include <cerrno>
@@ -14,11 +14,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// A program with these arguments; what it prints on both channels comes through a pipe.
+/// Runs a program with these arguments. A pipe carries its standard output and standard error.
 class ProgramProcess
 {
 public:
-    static constexpr int PATIENCE = 10'000; ///< milliseconds, for whatever a test expects to happen
+    static constexpr int PATIENCE = 10'000; ///< milliseconds, for any event that a test expects
 
     ProgramProcess(const std::string& program, std::vector<std::string> arguments)
     {
@@ -28,7 +28,7 @@ public:
         ::close(ends[1]);
         m_output = ends[0];
     }
-    /// The same with a terminal, whose other end is `output`, in place of the pipe.
+    /// Uses a terminal instead of the pipe. `output` is the other end of the terminal.
     ProgramProcess(const std::string& program, std::vector<std::string> arguments, int terminal, int output)
         : m_output(output)
     {
@@ -46,7 +46,7 @@ public:
         ::close(m_output);
     }
 
-    /// Reads until the text has come; everything up to then. The end of the output, too, ends it.
+    /// Reads until the text arrives or the output ends. Returns everything read so far.
     std::string readUntil(const std::string& text)
     {
         while (text.empty() || m_read.find(text) == std::string::npos) {
@@ -72,7 +72,7 @@ public:
     {
         ::kill(m_pid, number);
     }
-    /// The exit code, or 1000 and the signal that ended it.
+    /// The exit code, or 1000 plus the number of the signal that ended the program.
     int wait()
     {
         int status = 0;
@@ -80,7 +80,7 @@ public:
         return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
     }
 
-    /// Ends it as a person does, with Ctrl-C; everything that it printed.
+    /// Ends the program by SIGINT, like Ctrl-C. Returns all of its output.
     std::string end()
     {
         signal(SIGINT);
@@ -114,10 +114,10 @@ private:
 struct Ended
 {
     int status;
-    std::string output; ///< of both channels
+    std::string output; ///< standard output and standard error
 };
 
-/// Runs it to its end.
+/// Runs a program until it exits.
 inline Ended runProgram(const std::string& program, std::vector<std::string> arguments)
 {
     ProgramProcess process(program, std::move(arguments));

@@ -1,4 +1,4 @@
-// Publisher setting files and device keys, as the registration and the control service leave them.
+// Publisher setting files and device keys, as the registration and the control service write them.
 #pragma once
 
 #include "TextFiles.h"
@@ -10,13 +10,13 @@ inline std::string PublisherFile(const std::string& id)
     return std::string(PUBLISHER_SETTING_DIR) + "/" + id + ".ini";
 }
 
-/// The folder that the installation makes.
+/// Creates the folder that the installation provides.
 inline void MakePublisherFolder()
 {
     std::filesystem::create_directories(PUBLISHER_SETTING_DIR);
 }
 
-/// One setting file with its folder.
+/// Writes a setting file and creates its folder.
 inline void WritePublisher(const std::string& id, const std::string& text)
 {
     MakePublisherFolder();
@@ -34,7 +34,7 @@ inline std::string DeviceSection(const std::string& guid, const std::string& val
     return "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/" + guid + "]\n" + values + "\n";
 }
 
-/// A local publisher whose device is of the model; the registry file holds that one device alone.
+/// Writes a local publisher with a device of this model. The registry file then holds that device only.
 inline void WriteLocalPublisher(const std::string& id, const std::string& dpType)
 {
     WritePublisher(id, "[Common]\nGUID={G}\nPublisherName=Lab\nPublishMode=0\n");

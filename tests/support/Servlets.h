@@ -1,10 +1,10 @@
-// What the servlets of a publisher server send, and an open connection to one without a network.
+// Replies of the servlets of a publisher server, and an open connection to a server without a network.
 #pragma once
 
 #include "FakeComm.h"
 #include "NW_Com_Lib_internal.h"
 
-/// A number of four bytes on the wire.
+/// A number as four bytes on the wire, high byte first.
 inline std::string WireWord(DWORD value)
 {
     std::string bytes;
@@ -44,14 +44,14 @@ inline std::string GoodReply(const std::string& data)
     return HttpResponse(ReplyItem(data));
 }
 
-/// What a GET of the library looks like on the wire.
+/// A GET request as the library sends it.
 inline std::string GetRequest(const std::string& path)
 {
     return "GET " + path + " HTTP/1.1\r\nHost:localhost\r\n\r\n";
 }
 
-/// A connection as StartConnection leaves it, in the table, that gets prepared responses. Closed with the
-/// object.
+/// A connection in the table, as StartConnection creates it, that receives prepared responses. The destructor
+/// closes it.
 class FakeServer
 {
 public:
@@ -67,7 +67,7 @@ public:
     {
         Open(new FakeComm(std::move(connections)));
     }
-    /// Takes over the transport, which was made with new.
+    /// Takes ownership of the transport, which was created with new.
     explicit FakeServer(FakeComm& comm)
     {
         Open(&comm);
@@ -91,7 +91,7 @@ public:
     {
         return *m_comm;
     }
-    /// All that was sent, heads and bodies.
+    /// All bytes sent, heads and bodies.
     std::string Sent() const
     {
         std::string all;

@@ -1,4 +1,4 @@
-// Every byte that this process writes to its standard output, through stdio or past it.
+// Captures every byte that this process writes to its standard output, with or without stdio.
 #pragma once
 
 #include <cerrno>
@@ -10,8 +10,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-/// Takes the standard output from its construction on until `Stop` or its end. It throws std::runtime_error
-/// when it cannot.
+/// Captures the standard output from construction until `Stop` or destruction. The constructor throws
+/// std::runtime_error on failure.
 class StdoutCapture
 {
 public:
@@ -32,7 +32,7 @@ public:
         ::close(m_memory);
     }
 
-    /// Gives the standard output back and returns what went to it.
+    /// Restores the standard output and returns the captured bytes.
     std::string Stop()
     {
         if (m_original >= 0) {

@@ -1,4 +1,4 @@
-// What this process writes to syslog, in the sandbox, whose "/dev/log" is free.
+// Captures what this process writes to syslog. Requires the sandbox, where "/dev/log" is free.
 #pragma once
 
 #include "LogAgent.h"
@@ -11,8 +11,8 @@
 
 #include <syslog.h>
 
-/// Takes the lines from its construction on. A thread empties the socket all the while, for one that is full
-/// makes the writer wait.
+/// Captures lines from construction on. A thread empties the socket continuously, because a full socket
+/// blocks the writer.
 class SyslogLines
 {
 public:
@@ -25,8 +25,8 @@ public:
         m_thread.join();
     }
 
-    /// All lines since the last call, in order, each as "<priority>text"; the priority is that of syslog,
-    /// 3 for an error, 4 for a warning, 6 and 7 for what is less.
+    /// All lines since the last call, in order, each as "<priority>text". The priority is that of syslog: 3
+    /// error, 4 warning, 6 information, 7 debug.
     std::vector<std::string> Take()
     {
         syslog(6, "%s", MARK);

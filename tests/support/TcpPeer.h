@@ -1,6 +1,6 @@
-// A scripted peer on a loopback address: it accepts when told, records what arrives, and sends exactly these
-// bytes, in these pieces. Every wait is bounded, so that a test which expects what never comes fails instead
-// of hanging.
+// A scripted peer on a loopback address. It accepts on request, records what arrives, and sends exactly the
+// given bytes in the given pieces. Every wait is bounded, so that a test fails instead of hanging if the
+// expected data never arrives.
 #pragma once
 
 #include "UnixListener.h"
@@ -15,7 +15,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 
-/// One accepted connection; closed with the object. Each write goes out at once.
+/// One accepted connection, closed by the destructor. Each write is sent at once.
 class TcpPeer : public UnixPeer
 {
 public:
@@ -26,7 +26,7 @@ public:
         ::setsockopt(m_fd, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
     }
 
-    /// A request's head, its closing empty line included; less when the other side stopped before that.
+    /// The head of a request including its final empty line; less if the other side stops before.
     std::string ReadHead(int milliseconds = patience)
     {
         std::string head;
@@ -40,7 +40,7 @@ public:
         return head;
     }
 
-    /// A request: its head, and as many bytes of body as its Content-Length says.
+    /// A request: its head, and as many bytes of body as Content-Length announces.
     std::string ReadRequest(int milliseconds = patience)
     {
         const std::string name = "\r\nContent-Length: ";
@@ -67,7 +67,7 @@ public:
         ::send(m_fd, &byte, 1, MSG_OOB | MSG_NOSIGNAL);
     }
 
-    /// The other side finds its connection broken, not ended.
+    /// Breaks the connection: the other side reads an error, not an end of file.
     void Reset()
     {
         const linger now{1, 0};
@@ -76,9 +76,9 @@ public:
     }
 };
 
-/// A listening socket. Without a port of its own it takes a free one; port 80 is free in the sandbox, and
-/// every 127.x.y.z is a host of its own. It throws std::runtime_error when it cannot listen. A client that
-/// connects is answered by the kernel: a peer that stalls is one that is never accepted.
+/// A listening socket. Port 0 selects a free port; port 80 is free in the sandbox, and every 127.x.y.z is a
+/// separate host. The constructor throws std::runtime_error if it cannot listen. The kernel completes the
+/// connect of a client: to simulate a peer that stalls, never accept it.
 class TcpListener
 {
 public:
@@ -119,7 +119,7 @@ public:
         return m_port;
     }
 
-    /// The next connection, or a peer that is not open when none came within the time.
+    /// The next connection, or a peer that is not open if none arrives in time.
     TcpPeer Accept(int milliseconds = TcpPeer::patience)
     {
         pollfd entry{m_fd, POLLIN, 0};
@@ -129,7 +129,7 @@ public:
         return TcpPeer(::accept4(m_fd, nullptr, nullptr, SOCK_CLOEXEC));
     }
 
-    /// From here on a connection is refused (ECONNREFUSED).
+    /// Refuses all further connections (ECONNREFUSED).
     void StopListening()
     {
         if (m_fd >= 0) {
@@ -143,8 +143,8 @@ private:
     int m_fd = -1;
 };
 
-/// A server in a thread of its own. Each script plays one connection, in the order in which they come; the
-/// connection closes behind it. Whoever connects after the last script is refused.
+/// A server in its own thread. Each script handles one connection, in order of arrival, and the connection is
+/// closed after it. Connections after the last script are refused.
 class TcpServer
 {
 public:
@@ -162,7 +162,7 @@ public:
         m_thread.join();
     }
 
-    /// A script that answers one request with each of these, and then closes.
+    /// A script that answers one request with each of `answers` and then closes.
     static Script Answers(std::vector<std::string> answers)
     {
         return [answers = std::move(answers)](TcpServer& server, TcpPeer& peer) {
@@ -182,14 +182,14 @@ public:
         return request;
     }
 
-    /// What has been recorded so far.
+    /// The requests recorded so far.
     std::vector<std::string> Requests()
     {
         const std::lock_guard lock(m_mutex);
         return m_requests;
     }
 
-    /// How many connections have been accepted.
+    /// The number of accepted connections.
     int Connections() const
     {
         return m_connections;

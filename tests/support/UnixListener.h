@@ -1,5 +1,6 @@
-// A scripted peer on a Unix stream socket: it accepts when told, reads exactly so many bytes, sends exactly
-// these. Every wait is bounded, so that a test which expects what never comes fails instead of hanging.
+// A scripted peer on a Unix stream socket. It accepts on request, reads exactly the requested bytes and sends
+// exactly the given ones. Every wait is bounded, so that a test fails instead of hanging if the expected data
+// never arrives.
 #pragma once
 
 #include <algorithm>
@@ -15,11 +16,11 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-/// One accepted connection; closed with the object. A default one holds none.
+/// One accepted connection, closed by the destructor. A default-constructed object holds none.
 class UnixPeer
 {
 public:
-    static constexpr int patience = 10000; ///< milliseconds, for whatever a test expects to happen
+    static constexpr int patience = 10000; ///< milliseconds, for any event that a test expects
 
     UnixPeer() = default;
     explicit UnixPeer(int descriptor) : m_fd(descriptor) {}
@@ -40,7 +41,7 @@ public:
         return m_fd >= 0;
     }
 
-    /// `size` bytes; fewer when the other side closed, failed or said nothing for `milliseconds`.
+    /// Reads `size` bytes; fewer if the other side closes, fails or sends nothing within `milliseconds`.
     std::string ReadExactly(size_t size, int milliseconds = patience)
     {
         std::string data;
@@ -59,14 +60,14 @@ public:
         return data;
     }
 
-    /// True when the other side closes or is shut down within the time, without having sent another byte.
+    /// True if the other side closes or is shut down in time, without sending another byte.
     bool WaitForClose(int milliseconds = patience)
     {
         char byte = 0;
         return IsReadable(milliseconds) && ::recv(m_fd, &byte, 1, 0) <= 0;
     }
 
-    /// True when all of it was sent. A peer that is gone is no signal.
+    /// True if all of it was sent. A closed peer raises no signal.
     bool Write(const std::string& data)
     {
         size_t sent = 0;
@@ -83,7 +84,7 @@ public:
         return true;
     }
 
-    /// The other side reads its end of file, and may still write.
+    /// Ends the data: the other side reads its end of file and may still write.
     void FinishWriting()
     {
         ::shutdown(m_fd, SHUT_WR);
@@ -118,9 +119,9 @@ private:
     }
 };
 
-/// A listening socket at `path`; both are gone with the object. It throws std::runtime_error when it cannot
-/// listen. A client that connects is answered by the kernel: a peer that stalls is one that is never
-/// accepted.
+/// A listening socket at `path`. The destructor removes both; the constructor throws std::runtime_error if it
+/// cannot listen. The kernel completes the connect of a client: to simulate a peer that stalls, never accept
+/// it.
 class UnixListener
 {
 public:
@@ -148,7 +149,7 @@ public:
         ::unlink(m_path.c_str());
     }
 
-    /// The next connection, or a peer that is not open when none came within the time.
+    /// The next connection, or a peer that is not open if none arrives in time.
     UnixPeer Accept(int milliseconds = UnixPeer::patience)
     {
         pollfd entry{m_fd, POLLIN, 0};
@@ -158,7 +159,7 @@ public:
         return UnixPeer(::accept4(m_fd, nullptr, nullptr, SOCK_CLOEXEC));
     }
 
-    /// From here on a connection is refused (ECONNREFUSED): the name stays, nobody listens.
+    /// Refuses all further connections (ECONNREFUSED); the name in the file system stays.
     void StopListening()
     {
         if (m_fd >= 0) {
