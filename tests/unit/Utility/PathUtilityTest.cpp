@@ -1,4 +1,4 @@
-// Helpers for paths.
+// Path helpers.
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "Utility.h"
@@ -150,7 +150,7 @@ using CheckFilePathTest = CheckPathTest;
 using CheckFolderPathTest = CheckPathTest;
 using CreateFolderTest = CheckPathTest;
 
-TEST_F(CheckPathTest, NoPathAndAMissingOneAreNotFound)
+TEST_F(CheckPathTest, EmptyAndMissingPathsReturn3)
 {
     for (const CUtility::enAccessMode mode : allModes) {
         for (const char* path :
@@ -161,7 +161,7 @@ TEST_F(CheckPathTest, NoPathAndAMissingOneAreNotFound)
     }
 }
 
-TEST_F(CheckFilePathTest, AnEarlierErrorIsClearedAndTheOneOfThePathStands)
+TEST_F(CheckFilePathTest, AnEarlierErrnoIsReplacedByThatOfThePath)
 {
     errno = EEXIST;
     EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder", CUtility::ACCESS_NONE), 0);
@@ -171,7 +171,7 @@ TEST_F(CheckFilePathTest, AnEarlierErrorIsClearedAndTheOneOfThePathStands)
     EXPECT_EQ(errno, ENOENT);
 }
 
-TEST_F(CheckFilePathTest, ARegularFileIsCode267)
+TEST_F(CheckFilePathTest, ARegularFileReturns267)
 {
     for (const mode_t mode : {0644, 0444, 0000}) {
         ASSERT_EQ(chmod("/tmp/file", mode), 0);
@@ -180,7 +180,7 @@ TEST_F(CheckFilePathTest, ARegularFileIsCode267)
     }
 }
 
-TEST_F(CheckFilePathTest, ARegularFileWithAnyOtherModeStopsTheProcess)
+TEST_F(CheckFilePathTest, ARegularFileInAnyOtherAccessModeStopsTheProcess)
 {
     EXPECT_DEATH(CUtility::CheckFilePath("/tmp/file", CUtility::ACCESS_READ_WRITE),
                  "Assertion .\\(\\(0\\)\\) != FALSE. failed");
@@ -188,7 +188,7 @@ TEST_F(CheckFilePathTest, ARegularFileWithAnyOtherModeStopsTheProcess)
                  "Assertion .\\(\\(0\\)\\) != FALSE. failed");
 }
 
-TEST_F(CheckFilePathTest, AFolderOpensForReadingAlone)
+TEST_F(CheckFilePathTest, AFolderCanBeOpenedForReadingOnly)
 {
     EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder", CUtility::ACCESS_NONE), 0);
     EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder", CUtility::ACCESS_READ), 0);
@@ -197,7 +197,7 @@ TEST_F(CheckFilePathTest, AFolderOpensForReadingAlone)
     EXPECT_EQ(CUtility::CheckFilePath("/dev/null", CUtility::ACCESS_EXECUTE), 0);
 }
 
-TEST_F(CheckPathTest, WhatIsReadOnlyForEveryoneIsCode6009)
+TEST_F(CheckPathTest, PathsThatAreReadOnlyForEveryoneReturn6009)
 {
     struct Row
     {
@@ -224,7 +224,7 @@ TEST_F(CheckPathTest, WhatIsReadOnlyForEveryoneIsCode6009)
     EXPECT_DEATH(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_EXECUTE), "Assertion ");
 }
 
-TEST_F(CheckPathTest, WhatIsDeniedIsCode5)
+TEST_F(CheckPathTest, DeniedPathsReturn5)
 {
     fs::create_directory("/tmp/folder/below");
     ASSERT_EQ(chmod("/tmp/folder", 0), 0);
@@ -246,7 +246,7 @@ TEST_F(CheckFolderPathTest, ReadingLooksForAMemberNamedStar)
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder/", CUtility::ACCESS_READ), 0);
 }
 
-TEST_F(CheckFolderPathTest, AnExistingPathOfAnyKindIsGood)
+TEST_F(CheckFolderPathTest, AnExistingPathOfAnyKindIsAccepted)
 {
     for (const char* path : {"/tmp/folder", "/tmp/file"}) {
         EXPECT_EQ(CUtility::CheckFolderPath(path, CUtility::ACCESS_NONE), 0);
@@ -255,20 +255,20 @@ TEST_F(CheckFolderPathTest, AnExistingPathOfAnyKindIsGood)
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/file", CUtility::ACCESS_READ), 3);
 }
 
-TEST_F(CheckFolderPathTest, ExecutionStopsTheProcess)
+TEST_F(CheckFolderPathTest, ExecuteAccessStopsTheProcess)
 {
     EXPECT_DEATH(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_EXECUTE),
                  "Assertion .\\(false\\) != FALSE. failed");
 }
 
-TEST_F(CheckPathTest, ANamedPipeWithoutAnotherEndIsNotWaitedFor)
+TEST_F(CheckPathTest, OpeningANamedPipeDoesNotBlock)
 {
     ASSERT_EQ(mkfifo("/tmp/fifo", 0600), 0);
     EXPECT_EQ(CUtility::CheckFilePath("/tmp/fifo", CUtility::ACCESS_READ), 0);
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/fifo", CUtility::ACCESS_READ_WRITE), 0);
 }
 
-TEST_F(CreateFolderTest, CreatesNothingAndIsTrue)
+TEST_F(CreateFolderTest, CreatesNothingAndReturnsTrue)
 {
     EXPECT_TRUE(CUtility::CreateFolder("/tmp/absent"));
     EXPECT_FALSE(fs::exists("/tmp/absent"));

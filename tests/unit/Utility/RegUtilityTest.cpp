@@ -1,4 +1,4 @@
-// The convenient face of the registry: results of every operation, with and without an open key.
+// The registry interface: results of every operation, with and without an open key.
 #include "RegUtility.h"
 #include "LogAgent.h"
 #include "OrdinaryRights.h"
@@ -45,13 +45,13 @@ std::vector<std::string> Names(const CStringArray& array)
 
 } // namespace
 
-TEST_F(RegUtility, OpeningNeedsARootAndASubKey)
+TEST_F(RegUtility, OpeningRequiresARootAndASubKey)
 {
     EXPECT_EQ(reg.OpenReg(nullptr, "k", TRUE, FALSE), 87);
     EXPECT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, nullptr, TRUE, TRUE), 87);
 }
 
-TEST_F(RegUtility, OpeningWithoutCreateNeedsTheKey)
+TEST_F(RegUtility, OpeningWithoutCreateRequiresTheKey)
 {
     EXPECT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 2);
     EXPECT_EQ(reg.GetRegNumValue("number", nullptr), -1) << "no key is open";
@@ -61,7 +61,7 @@ TEST_F(RegUtility, OpeningWithoutCreateNeedsTheKey)
     EXPECT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
 }
 
-TEST_F(RegUtility, AFileThatCannotBeWrittenDeniesTheCreation)
+TEST_F(RegUtility, CreationIsDeniedIfTheFileIsNotWritable)
 {
     WriteRegistry(VALUES);
     ASSERT_EQ(chmod(REGISTRY_FILE, 0444), 0);
@@ -73,7 +73,7 @@ TEST_F(RegUtility, AFileThatCannotBeWrittenDeniesTheCreation)
     EXPECT_FALSE(CRegUtility::SetRegDWORDData(HKEY_LOCAL_MACHINE, "k", "n", 1));
 }
 
-TEST_F(RegUtility, OpeningClosesTheKeyThatIsOpen)
+TEST_F(RegUtility, OpeningClosesTheOpenKey)
 {
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "a", FALSE, TRUE), 0);
     EXPECT_EQ(reg.SetRegNumValue("n", 1), 0);
@@ -82,7 +82,7 @@ TEST_F(RegUtility, OpeningClosesTheKeyThatIsOpen)
     EXPECT_EQ(reg.SetRegNumValue("n", 2), -1);
 }
 
-TEST_F(RegUtility, BadArgumentsLeaveTheOpenKeyOpen)
+TEST_F(RegUtility, BadArgumentsDoNotCloseTheOpenKey)
 {
     OpenValues();
     EXPECT_EQ(reg.OpenReg(nullptr, "k", TRUE, FALSE), 87);
@@ -90,7 +90,7 @@ TEST_F(RegUtility, BadArgumentsLeaveTheOpenKeyOpen)
     EXPECT_EQ(reg.GetRegNumValue("number", &number), 0);
 }
 
-TEST_F(RegUtility, TheDestructorCloses)
+TEST_F(RegUtility, TheDestructorClosesTheKey)
 {
     {
         CRegUtility other;
@@ -101,7 +101,7 @@ TEST_F(RegUtility, TheDestructorCloses)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\"a\"=\"1\"\n\n");
 }
 
-TEST_F(RegUtility, WithoutAnOpenKeyOperationsGiveMinusOne)
+TEST_F(RegUtility, WithoutAnOpenKeyOperationsReturnMinusOne)
 {
     DWORD number = 7;
     char text[8] = "text";
@@ -133,7 +133,7 @@ TEST_F(RegUtility, WithoutAnOpenKeyOperationsGiveMinusOne)
     EXPECT_EQ(string, "kept");
 }
 
-TEST_F(RegUtility, NullArgumentsGiveZeroAndDoNothing)
+TEST_F(RegUtility, NullArgumentsReturnZeroAndDoNothing)
 {
     OpenValues(FALSE);
     DWORD number = 7;
@@ -164,7 +164,7 @@ TEST_F(RegUtility, AccessMasksAreIgnored)
 // ---------------------------------------------------------------------------------------------------------------------
 // Values
 
-TEST_F(RegUtility, NumbersOfAKey)
+TEST_F(RegUtility, ReadsNumbersOfAKey)
 {
     OpenValues();
     DWORD number = 7;
@@ -176,7 +176,7 @@ TEST_F(RegUtility, NumbersOfAKey)
     EXPECT_EQ(number, 42U);
 }
 
-TEST_F(RegUtility, ATextLongerThanTheNumbersBufferIsNoNumber)
+TEST_F(RegUtility, ATextLongerThanTheNumberBufferIsNotANumber)
 {
     WriteRegistry("[HKLM/k]\n\"text\"=\"longer than ten bytes\"\n\n");
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", TRUE, FALSE), 0);
@@ -215,7 +215,7 @@ TEST_F(RegUtility, TextTable)
     }
 }
 
-TEST_F(RegUtility, ATextIntoAString)
+TEST_F(RegUtility, ReadsATextIntoAString)
 {
     OpenValues();
     CString text = "something longer than the value";
@@ -229,7 +229,7 @@ TEST_F(RegUtility, ATextIntoAString)
     EXPECT_EQ(text, "kept");
 }
 
-TEST_F(RegUtility, ThereAreNoBinaryValues)
+TEST_F(RegUtility, BinaryValuesAreNotStored)
 {
     OpenValues(FALSE);
     BYTE bytes[4] = {1, 2, 3, 4};
@@ -243,12 +243,12 @@ TEST_F(RegUtility, ThereAreNoBinaryValues)
     EXPECT_EQ(ReadText(REGISTRY_FILE), VALUES);
 }
 
-TEST_F(RegUtility, SetValuesReachTheFile)
+TEST_F(RegUtility, SetValuesAreWrittenToTheFile)
 {
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, ROOT, FALSE, TRUE), 0);
     EXPECT_EQ(reg.SetRegNumValue("n", 0xDEADBEEF), 0);
     EXPECT_EQ(reg.SetRegStrValue("whole", "text", -1), 0);
-    EXPECT_EQ(reg.SetRegStrValue("sized", "text", 3), 0); // the length is that of the text all the same
+    EXPECT_EQ(reg.SetRegStrValue("sized", "text", 3), 0); // the whole text is stored all the same
     EXPECT_EQ(reg.SetRegStrValue("nothing", "text", 0), 0);
     EXPECT_EQ(reg.SetRegStrValue("empty", "", -1), 0);
     EXPECT_EQ(reg.CloseReg(), 0);
@@ -265,7 +265,7 @@ TEST_F(RegUtility, AValueIsDeletedFromTheFile)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\"empty\"=\"\"\n\"number\"=dword:0000002a\n\n");
 }
 
-TEST_F(RegUtilityDeathTest, WhatAsksForACountOfValuesStops)
+TEST_F(RegUtilityDeathTest, CountingValuesStopsTheProcess)
 {
     OpenValues(FALSE);
     DWORD size = 8;
@@ -285,7 +285,7 @@ TEST_F(RegUtility, ASubKeyIsCreatedInTheFile)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\n[HKLM/k/sub]\n\n");
 }
 
-TEST_F(RegUtility, LongestSubKeyNameWithRoomForItsNul)
+TEST_F(RegUtility, LongestSubKeyNameIncludesItsNul)
 {
     WriteRegistry("[HKLM/k]\n\n[HKLM/k/four]\n\n[HKLM/k/longer/and more]\n\n[HKLM/none]\n\n");
     DWORD length = 0;
@@ -297,7 +297,7 @@ TEST_F(RegUtility, LongestSubKeyNameWithRoomForItsNul)
     EXPECT_EQ(length, 1U);
 }
 
-TEST_F(RegUtility, EnumerationAsksForRoomForTheLongestName)
+TEST_F(RegUtility, EnumerationRequiresSpaceForTheLongestName)
 {
     WriteRegistry("[HKLM/k]\n\n[HKLM/k/a]\n\n[HKLM/k/four]\n\n");
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", TRUE, FALSE), 0);
@@ -317,7 +317,7 @@ TEST_F(RegUtility, EnumerationAsksForRoomForTheLongestName)
     EXPECT_EQ(size, 8U);
 }
 
-TEST_F(RegUtility, EnumerationOpensWithATraceLine)
+TEST_F(RegUtility, EnumerationLogsATraceLine)
 {
     LogAgent agent;
     DWORD size = 0;
@@ -344,7 +344,7 @@ TEST_F(RegUtility, EnumRegistryKeyCollectsTheNames)
     EXPECT_TRUE(names.IsEmpty());
 }
 
-TEST_F(RegUtility, EnumRegistryKeyOfAMissingKeyGivesNothing)
+TEST_F(RegUtility, EnumRegistryKeyOfAMissingKeyReturnsNoNames)
 {
     CStringArray names;
     names.Add("old");
@@ -352,7 +352,7 @@ TEST_F(RegUtility, EnumRegistryKeyOfAMissingKeyGivesNothing)
     EXPECT_TRUE(names.IsEmpty());
 }
 
-TEST_F(RegUtility, EnumRegistryKeyOfLongNames)
+TEST_F(RegUtility, EnumRegistryKeySupportsLongNames)
 {
     const std::string longest(900, 'n');
     WriteRegistry("[HKLM/k]\n\n[HKLM/k/a]\n\n[HKLM/k/" + longest + "]\n\n");
@@ -361,7 +361,7 @@ TEST_F(RegUtility, EnumRegistryKeyOfLongNames)
     EXPECT_EQ(Names(names), (std::vector<std::string>{"a", longest}));
 }
 
-TEST_F(RegUtilityDeathTest, EnumRegistryKeyNeedsRootAndKey)
+TEST_F(RegUtilityDeathTest, EnumRegistryKeyRequiresRootAndKey)
 {
     EXPECT_DEATH(CRegUtility::EnumRegistryKey(nullptr, "k", nullptr), "!= FALSE' failed");
     EXPECT_DEATH(CRegUtility::EnumRegistryKey(HKEY_LOCAL_MACHINE, nullptr, nullptr), "!= FALSE' failed");
@@ -397,7 +397,7 @@ TEST_F(RegUtility, AGrandchildWithoutItsParentDoesNotHang)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\n[HKLM/k/a/b/c]\n\n") << "nobody enumerates it";
 }
 
-TEST_F(RegUtility, DeletingAnAbsentSubKeyGivesTheOpensStatus)
+TEST_F(RegUtility, DeletingAnAbsentSubKeyReturnsTheStatusOfOpening)
 {
     WriteRegistry("[HKLM/k]\n\n[HKLM/k/ab]\n\n");
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
@@ -408,7 +408,7 @@ TEST_F(RegUtility, DeletingAnAbsentSubKeyGivesTheOpensStatus)
 // ---------------------------------------------------------------------------------------------------------------------
 // One-call operations
 
-TEST_F(RegUtility, GetRegDWORDDataLeavesThePresetValueOnFailure)
+TEST_F(RegUtility, GetRegDWORDDataKeepsThePresetValueOnFailure)
 {
     WriteRegistry(VALUES);
     DWORD number = 7;
@@ -420,7 +420,7 @@ TEST_F(RegUtility, GetRegDWORDDataLeavesThePresetValueOnFailure)
     EXPECT_EQ(number, 42U);
 }
 
-TEST_F(RegUtility, GetRegStrDataEmptiesItsOutputOnFailure)
+TEST_F(RegUtility, GetRegStrDataClearsItsOutputOnFailure)
 {
     WriteRegistry(VALUES);
     CString text = "old";
@@ -438,7 +438,7 @@ TEST_F(RegUtility, GetRegStrDataEmptiesItsOutputOnFailure)
     EXPECT_EQ(text, "");
 }
 
-TEST_F(RegUtility, SetRegDWORDDataMakesTheKey)
+TEST_F(RegUtility, SetRegDWORDDataCreatesTheKey)
 {
     EXPECT_TRUE(CRegUtility::SetRegDWORDData(HKEY_LOCAL_MACHINE, ROOT, "CompatiMode", 1));
     EXPECT_EQ(ReadText(REGISTRY_FILE), std::string(SECTION) + "\"CompatiMode\"=dword:00000001\n\n");
@@ -448,7 +448,7 @@ TEST_F(RegUtility, SetRegDWORDDataMakesTheKey)
     EXPECT_EQ(ReadText(REGISTRY_FILE), std::string(SECTION) + "\"CompatiMode\"=dword:00000001\n\n");
 }
 
-TEST_F(RegUtility, SetRegStrDataMakesTheKey)
+TEST_F(RegUtility, SetRegStrDataCreatesTheKey)
 {
     EXPECT_TRUE(CRegUtility::SetRegStrData(HKEY_LOCAL_MACHINE, ROOT, "ErrorRateLogFolder", "/var/log/rates"));
     EXPECT_EQ(ReadText(REGISTRY_FILE),
@@ -466,7 +466,7 @@ TEST_F(RegUtility, DeleteRegEntryIsAlwaysTrue)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\"empty\"=\"\"\n\"number\"=dword:0000002a\n\n");
 }
 
-TEST_F(RegUtilityDeathTest, OneCallOperationsNeedTheirArguments)
+TEST_F(RegUtilityDeathTest, OneCallOperationsRequireTheirArguments)
 {
     DWORD number = 0;
     CString text;
@@ -485,7 +485,7 @@ TEST_F(RegUtilityDeathTest, OneCallOperationsNeedTheirArguments)
     EXPECT_DEATH(CRegUtility::SetRegStrData(root, "k", "n", nullptr), DIED_ZERO);
 }
 
-TEST_F(RegUtilityDeathTest, SettingATextOfAKeyThatCannotBeOpenedStops)
+TEST_F(RegUtilityDeathTest, SettingATextOfAKeyThatCannotBeOpenedStopsTheProcess)
 {
     std::filesystem::remove_all(CONF_DIR);
     WriteText(CONF_DIR, "in the place of the folder");

@@ -1,5 +1,4 @@
-// Several threads at the registry: the open key keeps the others out, and nothing that one of them sets is
-// lost.
+// Several threads use the registry: an open key excludes the other threads, and no value is lost.
 #include "RegUtility.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -81,7 +80,7 @@ TEST(RegUtilityThread, OneCallOperationsOfSeveralThreadsLoseNothing)
     EXPECT_EQ(CRegUtility::EnumRegistryKey(HKEY_LOCAL_MACHINE, LOCAL, &names), writers);
 }
 
-TEST(RegUtilityThread, AnOpenKeyKeepsOtherThreadsOutUntilItsClose)
+TEST(RegUtilityThread, AnOpenKeyExcludesOtherThreadsUntilItIsClosed)
 {
     MakeConfFolder();
     CRegUtility reg;
@@ -117,7 +116,7 @@ TEST(RegUtilityThread, OneThreadMayHoldSeveralKeys)
               "[HKLM/inner]\n\n[HKLM/outer]\n\n[HKLM/third]\n\"n\"=dword:00000003\n\n");
 }
 
-TEST(RegUtilityThread, AFailedOpeningKeepsNobodyOut)
+TEST(RegUtilityThread, AFailedOpenReleasesTheLock)
 {
     MakeConfFolder();
     CRegUtility reg;
