@@ -55,7 +55,7 @@ static_assert(std::is_same_v<MSG, tagMSG>);
 static_assert(std::is_empty_v<_bstr_t> && std::is_same_v<bstr_t, _bstr_t>);
 static_assert(std::is_constructible_v<bstr_t, const char*>);
 
-TEST(BaseTypes, AssertTextHoldsTheExpandedExpression)
+TEST(BaseTypes, AssertTextContainsTheExpandedExpression)
 {
     EXPECT_DEATH(ASSERT(FALSE), "\\(0\\) != FALSE");
     int zero = 0;
@@ -63,7 +63,7 @@ TEST(BaseTypes, AssertTextHoldsTheExpandedExpression)
     ASSERT(zero == 0);
 }
 
-TEST(BaseTypes, CoCreateGuidLeavesTheStructureAsItWas)
+TEST(BaseTypes, CoCreateGuidDoesNotChangeTheStructure)
 {
     GUID guid{0x0123456789abcdefUL, 0x1122, 0x3344, {1, 2, 3, 4, 5, 6, 7, 8}};
     EXPECT_EQ(CoCreateGuid(&guid), 0);
@@ -75,7 +75,7 @@ TEST(BaseTypes, CoCreateGuidLeavesTheStructureAsItWas)
     }
 }
 
-TEST(BaseTypes, VersionQueriesGiveZeroAndWriteNothing)
+TEST(BaseTypes, VersionQueriesReturnZeroAndWriteNothing)
 {
     DWORD handle = 77;
     EXPECT_EQ(GetFileVersionInfoSize("/bin/sh", &handle), 0U);
@@ -92,7 +92,7 @@ TEST(BaseTypes, VersionQueriesGiveZeroAndWriteNothing)
     EXPECT_EQ(length, 5U);
 }
 
-TEST(BaseTypes, GlobalMemoryIsTheHeapWhateverTheFlag)
+TEST(BaseTypes, GlobalAllocUsesTheHeapWithAnyFlag)
 {
     for (const UINT flags : {0U, 0x40U, 0xFFFFFFFFU}) {
         auto* memory = static_cast<char*>(GlobalAlloc(flags, 100));

@@ -1,4 +1,4 @@
-// A program that opens no handle and only prints: a console that goes away does not end it either.
+// A program that opens no handle and only prints: closing its console does not end it either.
 #include "Win_def.h"
 #include "Win_def_log.h"
 
@@ -12,18 +12,18 @@
 
 namespace {
 
-// Taken while the program's own objects are made, ahead of main.
+// Evaluated during static initialization, before main.
 const bool brokenPipesWereIgnoredAtStart = [] {
     struct sigaction action = {};
     return sigaction(SIGPIPE, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }();
 
-TEST(BrokenPipeTest, IsIgnoredBeforeMain)
+TEST(BrokenPipeTest, TheSignalIsIgnoredBeforeMain)
 {
     EXPECT_TRUE(brokenPipesWereIgnoredAtStart);
 }
 
-TEST(BrokenPipeTest, PrintingIntoOneDoesNotEndTheProcess)
+TEST(BrokenPipeTest, PrintingToABrokenPipeDoesNotEndTheProcess)
 {
     std::array<int, 2> ends = {};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);

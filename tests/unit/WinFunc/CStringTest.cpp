@@ -13,7 +13,7 @@ static_assert(std::is_base_of_v<std::string, CString>);
 static_assert(std::is_base_of_v<std::deque<unsigned int>, CArray<unsigned int, unsigned int>>);
 static_assert(std::is_base_of_v<CArray<CString, const char*>, CStringArray>);
 
-TEST(CString, MadeFromTextsAndNull)
+TEST(CString, ConstructedFromTextsAndNull)
 {
     EXPECT_EQ(CString(), "");
     EXPECT_EQ(CString("text"), "text");
@@ -34,13 +34,13 @@ TEST(CString, GetBufferCopiesTheTextAndGrowsToTheSize)
     }
     char* buffer = text.GetBuffer(100);
     EXPECT_STREQ(buffer, "abc");
-    memset(buffer, 'x', 100); // all of it is the caller's
-    EXPECT_EQ(text, "abc");   // until it is released
+    memset(buffer, 'x', 100); // the caller may write all of it
+    EXPECT_EQ(text, "abc");   // unchanged until the release
     text.ReleaseBuffer();
-    EXPECT_EQ(text, std::string(100, 'x')); // no NUL in it: all of it
+    EXPECT_EQ(text, std::string(100, 'x')); // without a NUL, all of it
 }
 
-TEST(CString, GetBufferOnceMoreStartsFromTheText)
+TEST(CString, ASecondGetBufferStartsFromTheText)
 {
     CString text("abc");
     strcpy_s(text.GetBuffer(10), 10, "lost");
@@ -63,15 +63,15 @@ TEST(CString, ReleaseBufferTakesTheTextUpToItsNul)
     EXPECT_EQ(text, "kept");
 }
 
-TEST(CString, TheBufferHoldsNulsOfTheTextToo)
+TEST(CString, TheBufferIncludesNulsOfTheText)
 {
     CString text("ab\0cd"s);
-    EXPECT_EQ(memcmp(text.GetBuffer(0), "ab\0cd", 6), 0); // with the NUL behind it
+    EXPECT_EQ(memcmp(text.GetBuffer(0), "ab\0cd", 6), 0); // including the NUL after it
     text.ReleaseBuffer();
     EXPECT_EQ(text, "ab");
 }
 
-TEST(CString, FormatHolds1023Bytes)
+TEST(CString, FormatSupports1023Bytes)
 {
     CString text;
     text.Format("%s=%d", "PublisherNum", 12);
@@ -161,7 +161,7 @@ TEST(CString, TrimRightTable)
     }
 }
 
-TEST(CString, BothComparesMindTheCase)
+TEST(CString, BothComparesAreCaseSensitive)
 {
     const CString text("Publisher");
     EXPECT_EQ(text.Compare("Publisher"), 0);
@@ -170,7 +170,7 @@ TEST(CString, BothComparesMindTheCase)
     EXPECT_LT(text.CompareNoCase("publisher"), 0);
     EXPECT_GT(text.Compare("Publish"), 0);
     EXPECT_LT(text.Compare("Publishers"), 0);
-    EXPECT_EQ(CString("ab\0cd"s).Compare("ab"), 0); // as strcmp sees it
+    EXPECT_EQ(CString("ab\0cd"s).Compare("ab"), 0); // compares like strcmp
 }
 
 TEST(CString, ExtractSubStringTable)
@@ -195,7 +195,7 @@ TEST(CString, ExtractSubStringTable)
         {"", 0, ',', TRUE, ""},
         {"", 1, ',', FALSE, "before"},
         {"abc", 0, '\0', TRUE, "abc"},
-        {"abc", 1, '\0', FALSE, "before"}, // the end is no separator
+        {"abc", 1, '\0', FALSE, "before"}, // the end is not a separator
         {"a,b", -1, ',', FALSE, "before"},
         {nullptr, 0, ',', FALSE, "before"},
     };
@@ -210,7 +210,7 @@ TEST(CString, ExtractSubStringTable)
     EXPECT_EQ(self, "bc");
 }
 
-TEST(CString, ExtractedPartsOfAnyTextJoinToTheText)
+TEST(CString, JoiningTheExtractedPartsGivesTheText)
 {
     std::mt19937 random(7);
     std::uniform_int_distribution<int> letter(0, 2);
@@ -261,7 +261,7 @@ TEST(CArray, GrowsAndShrinks)
     array.InsertAt(1, 15);
     EXPECT_EQ(array, (CArray<unsigned int, unsigned int>{{11, 15, 22}}));
     array.InsertAt(3, 33);
-    array.InsertAt(5, 55); // behind the end: what lies between is zero
+    array.InsertAt(5, 55); // beyond the end: the elements between are zero
     EXPECT_EQ(array, (CArray<unsigned int, unsigned int>{{11, 15, 22, 33, 0, 55}}));
 
     array.RemoveAt(0);
@@ -275,7 +275,7 @@ TEST(CArray, GrowsAndShrinks)
     EXPECT_TRUE(array.IsEmpty());
 }
 
-TEST(CArray, CopyTakesTheOthersElements)
+TEST(CArray, CopyReplacesTheElements)
 {
     CArray<CString, const char*> source;
     source.Add("one");
@@ -303,7 +303,7 @@ TEST(CArray, HoldsRecordsAndPointers)
     EXPECT_EQ(pointers.GetAt(1), nullptr);
 }
 
-TEST(CArray, AnIndexOutsideStopsTheProcess)
+TEST(CArray, AnIndexOutOfRangeStopsTheProcess)
 {
     CArray<unsigned int, unsigned int> array;
     array.Add(1);
@@ -318,7 +318,7 @@ TEST(CArray, AnIndexOutsideStopsTheProcess)
     EXPECT_DEATH(array.RemoveAt(2, 0), "Assertion");
     EXPECT_DEATH(array.RemoveAt(0, -1), "Assertion");
     EXPECT_EQ(array.GetSize(), 1);
-    array.RemoveAt(1, 0); // nothing, at the end
+    array.RemoveAt(1, 0); // removes nothing at the end
     EXPECT_EQ(array.GetSize(), 1);
 }
 

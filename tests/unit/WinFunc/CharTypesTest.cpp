@@ -74,14 +74,14 @@ TEST(CharTypes, AllBytesOfType4)
     ExpectTable(4, WholeTable(type4));
 }
 
-TEST(CharTypes, WordsAheadOfAnUnknownByteAreWritten)
+TEST(CharTypes, WordsBeforeAnUnknownByteAreWritten)
 {
     std::vector<WORD> words(4, 7);
     EXPECT_EQ(GetStringTypeA(1024, 1, "A1\tB", 4, words.data()), FALSE);
     EXPECT_EQ(words, (std::vector<WORD>{897, 644, 7, 7}));
 }
 
-TEST(CharTypes, TheWalkEndsAtTheNulOrTheLength)
+TEST(CharTypes, StopsAtTheNulOrTheLength)
 {
     std::vector<WORD> words(4, 7);
     EXPECT_EQ(GetStringTypeA(1024, 4, "a", 4, words.data()), TRUE);
@@ -100,7 +100,7 @@ TEST(CharTypes, TheWalkEndsAtTheNulOrTheLength)
     EXPECT_EQ(words, (std::vector<WORD>(4, 7)));
 }
 
-TEST(CharTypes, OtherLocalesTypesAndAnEmptyLengthAreRefused)
+TEST(CharTypes, RefusesOtherLocalesOtherTypesAndLengthZero)
 {
     WORD word = 7;
     EXPECT_EQ(GetStringTypeA(1024, 1, "a", 0, &word), FALSE);

@@ -49,7 +49,7 @@ int CountedSleep::Asked(useconds_t microseconds)
     return 0;
 }
 
-// house-rule: sleeps: the definition that takes the C library's place
+// house-rule: sleeps: the definition that replaces the C library's
 extern "C" int usleep(useconds_t microseconds)
 {
     return CountedSleep::The().Asked(microseconds);

@@ -1,5 +1,4 @@
-// The C library's usleep, counted: the test program's definition takes the place of the library's for the
-// code under test.
+// Counts the calls of usleep: the test program's definition replaces the C library's for the code under test.
 #pragma once
 
 #include <atomic>
@@ -11,22 +10,22 @@
 
 #include <unistd.h>
 
-/// What usleep was asked for since the last Start. One object in a program.
+/// The calls of usleep since the last Start. One object per program.
 class CountedSleep
 {
 public:
-    /// Lengths in microseconds, each with how often it came in a row.
+    /// Lengths in microseconds, each with the number of consecutive calls.
     using Runs = std::vector<std::pair<useconds_t, uint64_t>>;
 
     static CountedSleep& The();
 
-    /// Forgets what was counted. No time passes in a sleep from here on; `before` runs ahead of each, with
-    /// its number from 1.
+    /// Clears the counts. From now on a sleep takes no time and first calls `before` with its number, counted
+    /// from 1.
     void Start(std::function<void(uint64_t)> before = {});
-    /// From here on a sleep lasts as long as it says.
+    /// From now on a sleep takes the requested time.
     void LetTimePass();
     Runs Counted();
-    /// Sleeps since the last Start; any thread may ask while others sleep.
+    /// The number of sleeps since the last Start. Any thread may call this while others sleep.
     uint64_t Count() const
     {
         return m_count;

@@ -33,7 +33,7 @@ size_t OpenDescriptors()
     return static_cast<size_t>(std::distance(begin(entries), end(entries)));
 }
 
-/// The text with which a thread that nobody named shows itself.
+/// The name of a thread for which SetThreadName was not called.
 std::string OwnId()
 {
     std::string digits;
@@ -43,7 +43,7 @@ std::string OwnId()
     return digits;
 }
 
-/// Checks what syslog sent: "<priority>", its time and the program's name, then the text.
+/// Checks a syslog datagram: "<priority>", its time and the name of the program, then the text.
 void ExpectSyslog(const std::string& datagram, const std::string& priority, const std::string& text)
 {
     const std::regex form("(<[0-9]+>)[A-Z][a-z]{2} [ 0-9][0-9] [0-9:]{8} [^:]+: ([^]*)");
@@ -55,7 +55,7 @@ void ExpectSyslog(const std::string& datagram, const std::string& priority, cons
 
 } // namespace
 
-TEST(LogLevel, StartsAtDebugTraces)
+TEST(LogLevel, StartsAtTheDebugLevel)
 {
     EXPECT_EQ(g_logLebel, 4);
     EXPECT_EQ(GetLogLevel(), 4);
@@ -65,7 +65,7 @@ TEST(LogLevel, StartsAtDebugTraces)
     SetLogLevel(4);
 }
 
-TEST(AgentLog, DatagramToTheLetter)
+TEST(AgentLog, DatagramHasTheExactForm)
 {
     LogAgent agent;
     logViaAgent(4, "open of %s failed: %d", "a file", -3);
@@ -77,7 +77,7 @@ TEST(AgentLog, DatagramToTheLetter)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST(AgentLog, DatagramEndsWithALineFeedAndHoldsNoNul)
+TEST(AgentLog, DatagramEndsWithALineFeedAndContainsNoNul)
 {
     LogAgent agent;
     logViaAgent(4, "%s", "text");
@@ -104,7 +104,7 @@ TEST(AgentLog, TheLargestDatagramFits)
     EXPECT_EQ(agent.Receive(), AgentHead() + std::string(511, ' ') + "\nPRIORITY=-2147483648\n");
 }
 
-TEST(AgentLog, WithoutAnAgentTheLineIsLostInSilence)
+TEST(AgentLog, WithoutAnAgentTheLineIsSilentlyDropped)
 {
     StdoutCapture capture;
     const size_t before = OpenDescriptors();
@@ -117,7 +117,7 @@ TEST(AgentLog, WithoutAnAgentTheLineIsLostInSilence)
     EXPECT_EQ(capture.Stop(), "");
 }
 
-TEST(AgentLog, ReachesAnAgentThatStartsLaterOrAgain)
+TEST(AgentLog, ReachesAnAgentThatStartsLaterOrRestarts)
 {
     logViaAgent(4, "%s", "lost");
     for (const char* text : {"first agent", "second agent"}) {
@@ -127,7 +127,7 @@ TEST(AgentLog, ReachesAnAgentThatStartsLaterOrAgain)
     }
 }
 
-TEST(AgentLog, KeepsErrnoAndNoDescriptor)
+TEST(AgentLog, KeepsErrnoAndLeaksNoDescriptor)
 {
     const size_t without = OpenDescriptors();
     errno = EBUSY;
@@ -143,10 +143,10 @@ TEST(AgentLog, KeepsErrnoAndNoDescriptor)
     EXPECT_EQ(OpenDescriptors(), with);
 }
 
-TEST(AgentLog, AnAgentThatLagsBehindLosesLinesAndBlocksNobody)
+TEST(AgentLog, ASlowAgentLosesLinesAndDoesNotBlockCallers)
 {
     LogAgent agent;
-    constexpr size_t sent = 5000; // beyond any queue of the kernel
+    constexpr size_t sent = 5000; // more than any queue of the kernel holds
     for (size_t line = 0; line < sent; ++line) {
         logViaAgent(4, "line %zu", line);
     }
@@ -182,7 +182,7 @@ TEST(AgentLog, EveryLineReachesARunningAgent)
     }
 }
 
-TEST(AgentLog, AHungAgentIsWaitedForOnceInAWhile)
+TEST(AgentLog, WaitsForAHungAgentOncePerPause)
 {
     using Clock = std::chrono::steady_clock;
     const LogAgent agent; // reads nothing
@@ -207,7 +207,7 @@ TEST(AgentLog, AHungAgentIsWaitedForOnceInAWhile)
 TEST(AgentLog, AnAgentThatReadsAgainGetsTheNextLine)
 {
     LogAgent agent;
-    for (size_t line = 0; line < 100; ++line) { // one of them waits in vain
+    for (size_t line = 0; line < 100; ++line) { // one of them waits until its timeout
         logViaAgent(4, "%s", "lost or queued");
     }
     agent.TakeAll();
@@ -215,7 +215,7 @@ TEST(AgentLog, AnAgentThatReadsAgainGetsTheNextLine)
     EXPECT_EQ(agent.Receive(), AgentHead() + "next\nPRIORITY=4\n");
 }
 
-TEST(AgentLog, LinesOfManyThreadsArriveWhole)
+TEST(AgentLog, LinesOfManyThreadsArriveIntact)
 {
     LogAgent agent;
     std::thread threads[4];
@@ -229,7 +229,7 @@ TEST(AgentLog, LinesOfManyThreadsArriveWhole)
               std::vector<std::string>(4, AgentHead() + std::string(400, 'y') + "\nPRIORITY=7\n"));
 }
 
-TEST(ConsoleLog, WarningToTheLetter)
+TEST(ConsoleLog, WarningHasTheExactForm)
 {
     LogAgent syslog("/dev/log");
     SetThreadName("main");
@@ -241,7 +241,7 @@ TEST(ConsoleLog, WarningToTheLetter)
     EXPECT_TRUE(syslog.TakeAll().empty());
 }
 
-TEST(ConsoleLog, DebugToTheLetter)
+TEST(ConsoleLog, DebugHasTheExactForm)
 {
     LogAgent syslog("/dev/log");
     SetThreadName("main");
@@ -252,7 +252,7 @@ TEST(ConsoleLog, DebugToTheLetter)
     EXPECT_TRUE(syslog.TakeAll().empty());
 }
 
-TEST(ConsoleLog, LongTextsAreWhole)
+TEST(ConsoleLog, LongTextsAreNotCut)
 {
     SetThreadName("main");
     const std::string text(5000, 'x');
@@ -273,7 +273,7 @@ TEST(ConsoleLog, KeepsErrno)
     EXPECT_EQ(errno, EBUSY);
 }
 
-TEST(StackDepth, TwoBlanksForEachStep)
+TEST(StackDepth, IndentsByTwoBlanksPerStep)
 {
     EXPECT_EQ(std::string(g_stackDepthSpace), std::string(30, ' '));
     EXPECT_STREQ(_StackDepth::getSpace(), "");
@@ -290,7 +290,7 @@ TEST(StackDepth, TwoBlanksForEachStep)
     EXPECT_EQ(g_stackDepthTLS, 0);
 }
 
-TEST(StackDepth, AllDepths)
+TEST(StackDepth, ClampsTheDepth)
 {
     for (int depth = -3; depth <= 20; ++depth) {
         g_stackDepthTLS = depth;
@@ -313,7 +313,7 @@ TEST(StackDepth, EachThreadHasItsOwn)
 TEST(ThreadName, IsTheIdInUpperCaseHexadecimalUntilNamed)
 {
     size_t withLetters = 0;
-    for (int threads = 0; threads < 32; ++threads) { // ids follow each other: some have letters in them
+    for (int threads = 0; threads < 32; ++threads) { // ids are consecutive: some contain letters
         std::string shown;
         std::string again;
         std::string expected;
@@ -330,7 +330,7 @@ TEST(ThreadName, IsTheIdInUpperCaseHexadecimalUntilNamed)
     EXPECT_GT(withLetters, 0U);
 }
 
-TEST(ThreadName, NamesOf63BytesAndNoMore)
+TEST(ThreadName, AcceptsNamesOfUpTo63Bytes)
 {
     struct Row
     {

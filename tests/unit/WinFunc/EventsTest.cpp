@@ -1,4 +1,4 @@
-// Events: their flag, their steps of sleep, and who is released.
+// Events: their flag, their sleep steps, and the waits that they release.
 #include "CountedSleep.h"
 #include "WinFunc.h"
 
@@ -37,7 +37,7 @@ private:
     std::vector<HANDLE> m_events;
 };
 
-TEST_F(EventsTest, StepsOfSleepAreCoarseFirstAndFineAtTheEnd)
+TEST_F(EventsTest, SleepStepsAreCoarseFirstAndFineAtTheEnd)
 {
     struct Steps
     {
@@ -62,7 +62,7 @@ TEST_F(EventsTest, StepsOfSleepAreCoarseFirstAndFineAtTheEnd)
     }
 }
 
-TEST_F(EventsTest, CreationTakesStateAndKindFromItsArguments)
+TEST_F(EventsTest, CreationSetsStateAndKindFromItsArguments)
 {
     for (const BOOL manualReset : {FALSE, TRUE, 5}) {
         for (const BOOL initialState : {FALSE, TRUE, 5}) {
@@ -76,7 +76,7 @@ TEST_F(EventsTest, CreationTakesStateAndKindFromItsArguments)
     }
 }
 
-TEST_F(EventsTest, EventsOfOneNameAreNotShared)
+TEST_F(EventsTest, EventsOfTheSameNameAreNotShared)
 {
     const HANDLE one = CreateEventA(nullptr, TRUE, FALSE, "Global\\same");
     const HANDLE other = CreateEventA(nullptr, TRUE, FALSE, "Global\\same");
@@ -113,7 +113,7 @@ TEST_F(EventsTest, AManualResetEventStaysSetThroughAnyNumberOfWaits)
     EXPECT_EQ(WaitForSingleObject(event, 0), 258u);
 }
 
-TEST_F(EventsTest, ResetTakesASetBack)
+TEST_F(EventsTest, ResetClearsTheSignal)
 {
     const HANDLE event = Event(FALSE, TRUE);
     EXPECT_EQ(ResetEvent(event), TRUE);
@@ -121,7 +121,7 @@ TEST_F(EventsTest, ResetTakesASetBack)
     EXPECT_EQ(ResetEvent(event), TRUE) << "an event that is not set is reset as well";
 }
 
-TEST_F(EventsTest, ASetIsSeenAtTheNextPoll)
+TEST_F(EventsTest, ASignalIsSeenAtTheNextPoll)
 {
     const HANDLE event = Event(FALSE, FALSE);
     struct Case
@@ -131,11 +131,11 @@ TEST_F(EventsTest, ASetIsSeenAtTheNextPoll)
         Runs sleeps;
     };
     const Case cases[] = {
-        {1000, 3, {{10000, 3}}},          // among the coarse steps
-        {25, 4, {{10000, 2}, {1000, 2}}}, // among the fine steps
-        {25, 7, {{10000, 2}, {1000, 5}}}, // in the very last one
-        {0x80000000, 3, {{10000, 3}}},    // no sign
-        {0xFFFFFFFE, 3, {{10000, 3}}},    // the longest but INFINITE
+        {1000, 3, {{10000, 3}}},          // during the coarse steps
+        {25, 4, {{10000, 2}, {1000, 2}}}, // during the fine steps
+        {25, 7, {{10000, 2}, {1000, 5}}}, // in the last step
+        {0x80000000, 3, {{10000, 3}}},    // not negative
+        {0xFFFFFFFE, 3, {{10000, 3}}},    // the longest finite timeout
         {INFINITE, 1000, {{10000, 1000}}},
     };
     for (const Case& c : cases) {
@@ -150,7 +150,7 @@ TEST_F(EventsTest, ASetIsSeenAtTheNextPoll)
     }
 }
 
-TEST_F(EventsTest, ASetThatIsTakenBackWithinOneStepPassesUnseen)
+TEST_F(EventsTest, ASignalThatIsResetWithinOneStepIsMissed)
 {
     const HANDLE event = Event(TRUE, FALSE);
     CountedSleep::The().Start([&](uint64_t) {

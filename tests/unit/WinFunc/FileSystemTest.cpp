@@ -1,4 +1,4 @@
-// Files and folders by name: deleting, making, asking, and paths.
+// Files and folders by name: deletion, creation, attributes, paths and disk space.
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "Win_def.h"
@@ -23,16 +23,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What statvfs answers while it is set, and for which path it was asked.
+/// The result of statvfs while it is set, and the path of its last call.
 std::optional<struct statvfs> scriptedSpace;
 std::string askedForSpaceOf;
 
-bool onlyAskedToOpen = false; ///< fopen notes its mode and fails
+bool onlyAskedToOpen = false; ///< fopen records its mode and fails
 std::string askedMode;
 
 } // namespace
 
-// The program's own definitions take the C library's place and pass the calls on.
+// These definitions replace the C library's in this program and forward the calls.
 
 extern "C" FILE* fopen(const char* path, const char* mode)
 {
@@ -66,7 +66,7 @@ mode_t ModeOf(const std::string& path)
     return status.st_mode & 07777;
 }
 
-TEST(DeleteFileTest, RemovesFilesAndLinksButNoFolders)
+TEST(DeleteFileTest, RemovesFilesAndLinksButNotFolders)
 {
     WriteText("/tmp/file", "text");
     ASSERT_EQ(symlink("/tmp/file", "/tmp/link"), 0);
@@ -83,7 +83,7 @@ TEST(DeleteFileTest, RemovesFilesAndLinksButNoFolders)
     EXPECT_EQ(DeleteFileA(nullptr), FALSE);
 }
 
-TEST(CreateDirectoryTest, MakesOneLevelWithMode0775)
+TEST(CreateDirectoryTest, CreatesOneLevelWithMode0775)
 {
     umask(0);
     SECURITY_ATTRIBUTES ignored = {};
@@ -116,7 +116,7 @@ protected:
     const std::string folder = "/tmp/folder";
 };
 
-TEST_F(RemoveDirectoryTest, RemovesAllOfAFolderWithSubFolders)
+TEST_F(RemoveDirectoryTest, RemovesAFolderWithItsSubFolders)
 {
     fs::create_directories(folder + "/a/b/c");
     fs::create_directories(folder + "/empty");
@@ -129,7 +129,7 @@ TEST_F(RemoveDirectoryTest, RemovesAllOfAFolderWithSubFolders)
     EXPECT_FALSE(fs::exists(folder));
 }
 
-TEST_F(RemoveDirectoryTest, RemovesAnEmptyFolderAlsoWithSlashesBehind)
+TEST_F(RemoveDirectoryTest, RemovesAnEmptyFolderDespiteTrailingSlashes)
 {
     EXPECT_EQ(RemoveDirectoryA((folder + "//").c_str()), TRUE);
     EXPECT_FALSE(fs::exists(folder));
@@ -146,9 +146,9 @@ TEST_F(RemoveDirectoryTest, RemovesLinksAsLinks)
     ExpectOutsideUntouched();
 }
 
-TEST_F(RemoveDirectoryTest, StopsAtALinkThatLeadsNowhere)
+TEST_F(RemoveDirectoryTest, StopsAtADanglingLink)
 {
-    for (const char* target : {"/tmp/nothing", "link"}) { // the second one leads to itself
+    for (const char* target : {"/tmp/nothing", "link"}) { // the second one points to itself
         ASSERT_EQ(symlink(target, (folder + "/link").c_str()), 0);
         EXPECT_EQ(RemoveDirectoryA(folder.c_str()), FALSE) << target;
         EXPECT_TRUE(fs::is_symlink(folder + "/link")) << target;
@@ -156,7 +156,7 @@ TEST_F(RemoveDirectoryTest, StopsAtALinkThatLeadsNowhere)
     }
 }
 
-TEST_F(RemoveDirectoryTest, StopsAtALinkThatLeadsNowhereInASubFolder)
+TEST_F(RemoveDirectoryTest, StopsAtADanglingLinkInASubFolder)
 {
     fs::create_directories(folder + "/below");
     ASSERT_EQ(symlink("/tmp/nothing", (folder + "/below/link").c_str()), 0);
@@ -165,7 +165,7 @@ TEST_F(RemoveDirectoryTest, StopsAtALinkThatLeadsNowhereInASubFolder)
     EXPECT_TRUE(fs::is_symlink(folder + "/below/link"));
 }
 
-TEST_F(RemoveDirectoryTest, ALinkToAFolderIsNoFolder)
+TEST_F(RemoveDirectoryTest, FailsForALinkToAFolder)
 {
     ASSERT_EQ(symlink("/tmp/outside", "/tmp/link"), 0);
     EXPECT_EQ(RemoveDirectoryA("/tmp/link"), FALSE);
@@ -174,7 +174,7 @@ TEST_F(RemoveDirectoryTest, ALinkToAFolderIsNoFolder)
     EXPECT_TRUE(fs::is_symlink("/tmp/link"));
 }
 
-TEST_F(RemoveDirectoryTest, RemovesWhatIsNeitherFileNorFolder)
+TEST_F(RemoveDirectoryTest, RemovesFifosAndSockets)
 {
     ASSERT_EQ(mkfifo((folder + "/fifo").c_str(), 0600), 0);
     const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
@@ -187,7 +187,7 @@ TEST_F(RemoveDirectoryTest, RemovesWhatIsNeitherFileNorFolder)
     EXPECT_FALSE(fs::exists(folder));
 }
 
-TEST_F(RemoveDirectoryTest, WhatIsNoFolderStays)
+TEST_F(RemoveDirectoryTest, FailsForAnythingButAFolder)
 {
     WriteText("/tmp/file", "text");
     EXPECT_EQ(RemoveDirectoryA("/tmp/file"), FALSE);
@@ -198,7 +198,7 @@ TEST_F(RemoveDirectoryTest, WhatIsNoFolderStays)
     EXPECT_EQ(RemoveDirectoryA(nullptr), FALSE);
 }
 
-TEST_F(RemoveDirectoryTest, ManyEntries)
+TEST_F(RemoveDirectoryTest, RemovesManyEntries)
 {
     for (int i = 0; i < 3000; ++i) {
         WriteText(folder + "/" + std::to_string(i), "");
@@ -207,7 +207,8 @@ TEST_F(RemoveDirectoryTest, ManyEntries)
     EXPECT_FALSE(fs::exists(folder));
 }
 
-/// Makes folders of the name one in another, by steps: no path is longer than its name.
+/// Creates nested folders of one name. Each is created relative to its parent, so that no path is longer than
+/// the name.
 void NestFolders(const std::string& folder, const std::string& name, int levels)
 {
     int fd = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -228,7 +229,7 @@ TEST_F(RemoveDirectoryTest, ADeepTreeNeedsNoMoreDescriptorsThanAShallowOne)
     EXPECT_FALSE(fs::exists(folder));
 }
 
-TEST_F(RemoveDirectoryTest, ATreeDeeperThanAPathCanSayFails)
+TEST_F(RemoveDirectoryTest, FailsForATreeDeeperThanThePathLimit)
 {
     NestFolders(folder, std::string(200, 'd'), 50); // 10,000 bytes
     EXPECT_EQ(RemoveDirectoryA(folder.c_str()), FALSE);
@@ -247,7 +248,7 @@ TEST_F(RemoveDirectoryTest, StopsAtTheFirstFailure)
     EXPECT_EQ(ReadText(folder + "/locked/file"), "text");
 }
 
-TEST_F(RemoveDirectoryTest, SuccessLeavesTheLastError)
+TEST_F(RemoveDirectoryTest, SuccessKeepsTheLastError)
 {
     fs::create_directories(folder + "/a/b");
     WriteText(folder + "/a/file", "text");
@@ -256,7 +257,7 @@ TEST_F(RemoveDirectoryTest, SuccessLeavesTheLastError)
     EXPECT_EQ(GetLastError(), 80u);
 }
 
-TEST(PathIsDirectoryTest, IsTrueForWhatCanBeListed)
+TEST(PathIsDirectoryTest, IsTrueForFoldersThatCanBeListed)
 {
     fs::create_directory("/tmp/folder");
     WriteText("/tmp/file", "text");
@@ -273,7 +274,7 @@ TEST(PathIsDirectoryTest, IsTrueForWhatCanBeListed)
     EXPECT_EQ(PathIsDirectoryA("/tmp/folder"), FALSE);
 }
 
-TEST(FileAttributesTest, FollowKindAndMode)
+TEST(FileAttributesTest, DependOnKindAndMode)
 {
     fs::create_directory("/tmp/folder");
     WriteText("/tmp/file", "text");
@@ -302,7 +303,7 @@ TEST(FileAttributesTest, FollowKindAndMode)
     EXPECT_EQ(GetFileAttributesA(nullptr), 0xFFFFFFFFu);
 }
 
-TEST(PathAppendTest, DropsLeadingDotsAndPutsOneSlashBetween)
+TEST(PathAppendTest, DropsLeadingDotsAndInsertsOneSlash)
 {
     struct Row
     {
@@ -313,7 +314,7 @@ TEST(PathAppendTest, DropsLeadingDotsAndPutsOneSlashBetween)
     const Row rows[] = {
         {"/a/b", "c", "/a/b/c"},     {"/a/b/", "c", "/a/b/c"},
         {"/a/b//", "c", "/a/b//c"},  {"/a/b", "/c", "/a/b//c"},
-        {"/a/b\\", "c", "/a/b\\/c"}, // a backslash at the end is no separator
+        {"/a/b\\", "c", "/a/b\\/c"}, // a trailing backslash is not a separator
         {"./a", "b", "/a/b"},        {".\\a", "b", "\\a/b"},
         {"./", "b", "/b"},           {".\\", "b", "\\/b"},
         {"../a", "b", "/a/b"},       {"..\\a", "b", "\\a/b"},
@@ -331,14 +332,14 @@ TEST(PathAppendTest, DropsLeadingDotsAndPutsOneSlashBetween)
     }
 }
 
-TEST(PathAppendTest, WritesNoByteBehindTheResult)
+TEST(PathAppendTest, WritesNoByteAfterTheResult)
 {
     std::string buffer = std::string("./abc\0", 6) + std::string(20, 'x');
     EXPECT_EQ(PathAppendA(buffer.data(), "def"), TRUE);
     EXPECT_EQ(buffer, std::string("/abc/def\0", 9) + std::string(17, 'x'));
 }
 
-TEST(ModuleFileNameTest, IsTheProgram)
+TEST(ModuleFileNameTest, IsThePathOfTheProgram)
 {
     const std::string program = fs::read_symlink("/proc/self/exe");
     std::array<char, 4096> buffer;
@@ -361,7 +362,7 @@ TEST(ModuleFileNameTest, IsTheProgram)
     EXPECT_EQ(buffer[0], '\0');
 }
 
-TEST(OpenStreamTest, GivesTheErrorAsItsResult)
+TEST(OpenStreamTest, ReturnsTheError)
 {
     FILE* file = nullptr;
     EXPECT_EQ(fopen_s(nullptr, "/tmp/file", "w"), 22);
@@ -382,7 +383,7 @@ TEST(OpenStreamTest, GivesTheErrorAsItsResult)
     EXPECT_EQ(file, nullptr);
 }
 
-TEST(OpenStreamTest, AsksForCloseOnExecBesideTheMode)
+TEST(OpenStreamTest, AddsCloseOnExecToTheMode)
 {
     FILE* file = nullptr;
     for (const auto& [mode, asked] :
@@ -414,7 +415,7 @@ protected:
     }
 };
 
-TEST_F(DiskSpaceTest, InBytesComesFromTheParentOfTheFolder)
+TEST_F(DiskSpaceTest, BytesAreThoseOfTheParentFolder)
 {
     fs::create_directories("/tmp/parent/folder");
     ASSERT_EQ(symlink("/tmp/parent/folder", "/tmp/link"), 0);
@@ -451,7 +452,7 @@ TEST_F(DiskSpaceTest, EachOutputInBytesIsOptional)
     EXPECT_EQ(value.QuadPart, 5'000'000'000u * 4096);
 }
 
-TEST_F(DiskSpaceTest, OfAnAbsentFolderFails)
+TEST_F(DiskSpaceTest, FailsForAnAbsentFolder)
 {
     ULARGE_INTEGER value = {};
     value.QuadPart = 77;
@@ -464,7 +465,7 @@ TEST_F(DiskSpaceTest, OfAnAbsentFolderFails)
     EXPECT_EQ(number, 77u);
 }
 
-TEST_F(DiskSpaceTest, InClustersPassesThrough32Bits)
+TEST_F(DiskSpaceTest, ClustersAreTruncatedTo32Bits)
 {
     struct Row
     {
@@ -503,7 +504,7 @@ TEST_F(DiskSpaceTest, InClustersPassesThrough32Bits)
     EXPECT_EQ(askedForSpaceOf, ".");
 }
 
-TEST_F(DiskSpaceTest, ANameBeyond256BytesIsTakenWhole)
+TEST_F(DiskSpaceTest, AcceptsNamesLongerThan256Bytes)
 {
     const std::string name = "/tmp/" + std::string(3000, 'n');
     EXPECT_EQ(GetDiskFreeSpace(name.c_str(), nullptr, nullptr, nullptr, nullptr), TRUE);

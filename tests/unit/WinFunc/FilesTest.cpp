@@ -19,12 +19,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool onlyAskedToRead = false; ///< a read notes its size and is at the end of its file
+bool onlyAskedToRead = false; ///< read records its size and reports the end of the file
 size_t askedToRead = 0;
 
 } // namespace
 
-// The program's own definition takes the C library's place for the layer and passes the calls on.
+// This definition replaces the C library's in this program and forwards the calls.
 extern "C" ssize_t read(int fd, void* buffer, size_t size)
 {
     if (onlyAskedToRead) {
@@ -90,7 +90,7 @@ static_assert(offsetof(SECURITY_ATTRIBUTES, nLength) == 0 &&
               offsetof(SECURITY_ATTRIBUTES, lpSecurityDescriptor) == 8 &&
               offsetof(SECURITY_ATTRIBUTES, bInheritHandle) == 16);
 
-/// A cell of the table of access and disposition: the mode of open, or -1 where the two do not go together.
+/// One combination of access and disposition: the flags of open, or -1 if the combination is invalid.
 struct Cell
 {
     DWORD access;
@@ -113,7 +113,7 @@ const Cell cells[] = {
     {readWrite, 3, O_RDWR},
 };
 
-TEST(CreateFileTest, EachCellOfTheTable)
+TEST(CreateFileTest, EachCombinationOfAccessAndDisposition)
 {
     for (const Cell& cell : cells) {
         for (const bool exists : {false, true}) {
@@ -147,7 +147,7 @@ TEST(CreateFileTest, EachCellOfTheTable)
     }
 }
 
-TEST(CreateFileTest, EveryOtherMaskOrDispositionIsInvalidAndCreatesNothing)
+TEST(CreateFileTest, AnyOtherMaskOrDispositionIsInvalidAndCreatesNothing)
 {
     const DWORD masks[] = {0,          GENERIC_READ, GENERIC_WRITE, readWrite, 1,
                            0x20000000, 0x10000000,   readWrite | 1, 0xFFFFFFFF};
@@ -169,7 +169,7 @@ TEST(CreateFileTest, EveryOtherMaskOrDispositionIsInvalidAndCreatesNothing)
     }
 }
 
-TEST(CreateFileTest, NamesThatAreNone)
+TEST(CreateFileTest, InvalidNamesFail)
 {
     EXPECT_EQ(CreateFileA(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
               INVALID_HANDLE_VALUE);
@@ -185,7 +185,7 @@ TEST(CreateFileTest, NamesThatAreNone)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(CreateFileTest, FailuresOfTheSystemReachGetLastError)
+TEST(CreateFileTest, SystemErrorsReachGetLastError)
 {
     EXPECT_EQ(Open("/tmp/absent", GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE);
     EXPECT_EQ(GetLastError(), 2u);
@@ -205,7 +205,7 @@ TEST(CreateFileTest, FailuresOfTheSystemReachGetLastError)
     EXPECT_EQ(GetLastError(), 6009u) << "a read-only file system";
 }
 
-TEST(CreateFileTest, AFileThatIsDeniedGivesCode5)
+TEST(CreateFileTest, ADeniedFileSetsCode5)
 {
     WriteText(path, "secret");
     ASSERT_EQ(chmod(path.c_str(), 0), 0);
@@ -217,7 +217,7 @@ TEST(CreateFileTest, AFileThatIsDeniedGivesCode5)
     }
 }
 
-TEST(CreateFileTest, CreateAlwaysLeavesTheOldTail)
+TEST(CreateFileTest, CreateAlwaysDoesNotTruncate)
 {
     WriteText(path, "a long old text");
     const HANDLE handle = Open(path, GENERIC_WRITE, CREATE_ALWAYS);
@@ -226,8 +226,8 @@ TEST(CreateFileTest, CreateAlwaysLeavesTheOldTail)
     EXPECT_EQ(ReadText(path), "NEWong old text");
 }
 
-/// What a child of this process finds whose standard streams of these numbers are closed: 0, or where it
-/// failed.
+/// Opens a file in a process whose standard streams of these numbers are closed. Returns 0, or the number of
+/// the step that failed.
 int OpenWithout(const std::vector<int>& streams)
 {
     for (const int stream : streams) {
@@ -240,7 +240,7 @@ int OpenWithout(const std::vector<int>& streams)
     }
     for (const int stream : streams) {
         if (fcntl(stream, F_GETFD) != -1) {
-            return 2; // the first number is lost
+            return 2; // the first descriptor was not closed
         }
     }
     const int number = DescriptorOf(handle);
@@ -255,7 +255,7 @@ int OpenWithout(const std::vector<int>& streams)
     return 0;
 }
 
-TEST(CreateFileTest, AFileNeverTakesTheNumberOfAStandardStream)
+TEST(CreateFileTest, NeverUsesTheDescriptorOfAStandardStream)
 {
     WriteText(path, "kept");
     for (const std::vector<int>& streams :
@@ -283,7 +283,7 @@ TEST(FileHandleTest, ClosesItsDescriptorOnce)
     close(other);
 }
 
-TEST(FileHandleTest, ItsEndClosesTheDescriptor)
+TEST(FileHandleTest, TheDestructorClosesTheDescriptor)
 {
     const int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
     ASSERT_GT(descriptor, 0);
@@ -291,7 +291,7 @@ TEST(FileHandleTest, ItsEndClosesTheDescriptor)
     EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
 }
 
-TEST(FileHandleTest, AFailureToCloseIsFalseAndNotTriedAgain)
+TEST(FileHandleTest, AFailedCloseReturnsFalseAndIsNotRepeated)
 {
     const int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
     const HANDLE handle = ToHandle(new WinFileHandle(descriptor));
@@ -307,7 +307,7 @@ TEST(FileHandleTest, AFailureToCloseIsFalseAndNotTriedAgain)
     close(other);
 }
 
-TEST(FileHandleTest, ShutdownLeavesAFileAlone)
+TEST(FileHandleTest, ShutdownHasNoEffectOnAFile)
 {
     WriteText(path, "text");
     const HANDLE handle = Open(path, GENERIC_READ, OPEN_EXISTING);
@@ -318,7 +318,7 @@ TEST(FileHandleTest, ShutdownLeavesAFileAlone)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(ReadFileTest, OneReadACall)
+TEST(ReadFileTest, MakesOneReadPerCall)
 {
     WriteText(path, "0123456789");
     const HANDLE handle = Open(path, GENERIC_READ, OPEN_EXISTING);
@@ -329,7 +329,7 @@ TEST(ReadFileTest, OneReadACall)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(ReadFileTest, AFailureLeavesTheCount)
+TEST(ReadFileTest, AFailureDoesNotChangeTheCount)
 {
     WriteText(path, "0123456789");
     const HANDLE handle = Open(path, GENERIC_WRITE, OPEN_EXISTING);
@@ -344,7 +344,7 @@ TEST(ReadFileTest, AFailureLeavesTheCount)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(ReadFileTest, ANegativeCountIsTheLargestPositive)
+TEST(ReadFileTest, TheCountIsLimitedToTheLargestInt32)
 {
     struct Case
     {
@@ -367,7 +367,7 @@ TEST(ReadFileTest, ANegativeCountIsTheLargestPositive)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(ReadFileTest, AHandleThatIsNoFileFails)
+TEST(ReadFileTest, AHandleThatIsNotAFileFails)
 {
     WinEvent event(false, false);
     char byte = 0;
@@ -390,7 +390,7 @@ TEST(WriteFileTest, WritesAndCounts)
     EXPECT_EQ(ReadText(path), std::string("first\0second", 12));
 }
 
-TEST(WriteFileTest, AFullDiskIsLoggedAndGivesCode112)
+TEST(WriteFileTest, AFullDiskIsLoggedAndSetsCode112)
 {
     SetLogLevel(2);
     const HANDLE handle = Open("/dev/full", GENERIC_WRITE, OPEN_EXISTING);
@@ -459,7 +459,7 @@ TEST(OverlappedTest, NothingIsEverPending)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(FileSizeTest, IsLow32BitsInOneCallAndWholeInTheOther)
+TEST(FileSizeTest, GetFileSizeReturnsTheLow32BitsAndGetFileSizeExAll)
 {
     for (const LONGLONG size : {0LL, 1LL, 10LL, 0x7FFFFFFFLL, 0x180000005LL}) {
         WriteText(path, "");
@@ -476,7 +476,7 @@ TEST(FileSizeTest, IsLow32BitsInOneCallAndWholeInTheOther)
     }
 }
 
-TEST(FileSizeTest, OfAClosedDescriptorFails)
+TEST(FileSizeTest, FailsForAClosedDescriptor)
 {
     WinFileHandle file(1000);
     LARGE_INTEGER size = Large(77);
@@ -486,7 +486,7 @@ TEST(FileSizeTest, OfAClosedDescriptorFails)
     file.fd = 0;
 }
 
-TEST(FileSuccessTest, LeavesTheLastError)
+TEST(FileSuccessTest, KeepsTheLastError)
 {
     SetLastError(EEXIST);
     const HANDLE handle = Open(path, readWrite, CREATE_NEW);
@@ -553,7 +553,7 @@ TEST(FilePointerTest, MovesWith32Bits)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(FilePointerTest, TheHighHalfOfTheDistanceIsNotUsed)
+TEST(FilePointerTest, TheHighHalfOfTheDistanceIsIgnored)
 {
     const HANDLE handle = TenBytes();
     LONG high = 1;
@@ -580,7 +580,7 @@ TEST(FilePointerTest, MovesWith64Bits)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(FilePointerTest, AnUnknownMethodGivesPosition0AndDoesNotMove)
+TEST(FilePointerTest, AnUnknownMethodReturnsPosition0AndDoesNotMove)
 {
     const HANDLE handle = TenBytes();
     for (const DWORD method : {3u, 4u, 0xFFFFFFFFu}) {

@@ -44,7 +44,7 @@ constexpr char text[] = "a text of 24 bytes, #042";
 
 } // namespace
 
-TEST(Formatting, TheUnboundedOnesIgnoreTheSize)
+TEST(Formatting, UnboundedFunctionsIgnoreTheSize)
 {
     char buffer[64];
     EXPECT_EQ(snprintf(buffer, 4, "a text of %d bytes, #%03d", 24, 42), 24);
@@ -63,7 +63,7 @@ TEST(Formatting, TheUnboundedOnesIgnoreTheSize)
     EXPECT_STREQ(buffer, text);
 }
 
-TEST(Formatting, VsnprintfIsBoundByTheCountAlone)
+TEST(Formatting, VsnprintfIsBoundedByTheCountOnly)
 {
     char buffer[64];
     EXPECT_EQ(CallVsnprintf(buffer, 4, 8, "%s", text), 24);
@@ -72,16 +72,16 @@ TEST(Formatting, VsnprintfIsBoundByTheCountAlone)
     EXPECT_STREQ(buffer, text);
 }
 
-TEST(Formatting, VscprintfGivesTheLength)
+TEST(Formatting, VscprintfReturnsTheLength)
 {
     EXPECT_EQ(CallVscprintf("%s", text), 24);
     EXPECT_EQ(CallVscprintf("%5000d", 1), 5000);
     EXPECT_EQ(CallVscprintf("%s", ""), 0);
 }
 
-TEST(Formatting, TheCLibrarysSnprintfStaysTheCLibrarys)
+TEST(Formatting, TheCLibrarysSnprintfIsNotReplaced)
 {
-    // What another library of this process gets when it asks for the name.
+    // The symbol that other libraries of this process find.
     void* symbol = dlsym(RTLD_DEFAULT, "snprintf");
     ASSERT_NE(symbol, nullptr);
     Dl_info library{};
@@ -99,7 +99,7 @@ TEST(Formatting, TheCLibrarysSnprintfStaysTheCLibrarys)
     EXPECT_STREQ(buffer, "abc");
 }
 
-TEST(Formatting, DecimalConversionsGive22InAllCases)
+TEST(Formatting, DecimalConversionsAlwaysReturn22)
 {
     char buffer[32] = "old";
     EXPECT_EQ(_itoa_s(5, buffer, 16, 10), 22);
@@ -110,11 +110,11 @@ TEST(Formatting, DecimalConversionsGive22InAllCases)
     EXPECT_STREQ(buffer, "-9223372036854775808");
     EXPECT_EQ(_ultoa_s(ULONG_MAX, buffer, 32, 10), 22);
     EXPECT_STREQ(buffer, "18446744073709551615");
-    EXPECT_EQ(_itoa_s(12345, buffer, 1, 10), 22); // the size is tested for 0 alone
+    EXPECT_EQ(_itoa_s(12345, buffer, 1, 10), 22); // the size is only compared with 0
     EXPECT_STREQ(buffer, "12345");
 }
 
-TEST(Formatting, DecimalConversionsWriteNothingOtherwise)
+TEST(Formatting, DecimalConversionsWriteNothingForOtherArguments)
 {
     struct Row
     {
@@ -136,7 +136,7 @@ TEST(Formatting, DecimalConversionsWriteNothingOtherwise)
     EXPECT_EQ(_ultoa_s(5, nullptr, 16, 10), 22);
 }
 
-TEST(Formatting, LtowKnowsThreeRadixes)
+TEST(Formatting, LtowSupportsThreeRadixes)
 {
     struct Row
     {
@@ -157,7 +157,7 @@ TEST(Formatting, LtowKnowsThreeRadixes)
     EXPECT_EQ(_ltow_s(1, nullptr, 16, 10), 22);
 }
 
-TEST(Formatting, TextsToNumbers)
+TEST(Formatting, ConvertsTextsToNumbers)
 {
     EXPECT_EQ(_atoi64(" -9223372036854775808x"), LLONG_MIN);
     EXPECT_EQ(_atoi64("none"), 0);

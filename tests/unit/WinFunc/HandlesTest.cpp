@@ -1,4 +1,4 @@
-// The classes behind a handle, their end, and the warnings about handles that are none.
+// The classes behind a handle, their destruction, and the warnings about invalid handles.
 #include "StdoutCapture.h"
 #include "WinFunc.h"
 
@@ -20,7 +20,7 @@ static_assert(std::is_same_v<CRITICAL_SECTION, pthread_mutex_t>);
 static_assert(WAIT_OBJECT_0 == 0 && WAIT_ABANDONED == 0x80 && WAIT_TIMEOUT == 258 &&
               WAIT_FAILED == 0xFFFFFFFF && INFINITE == 0xFFFFFFFF);
 
-/// Tells when it is deleted.
+/// Records its deletion.
 class Mortal : public virtual IWinHandle
 {
 public:
@@ -36,7 +36,7 @@ private:
     bool& m_deleted;
 };
 
-/// Closes as told.
+/// Its Close returns a given result.
 class Closable : public virtual WinClosableHandle, public Mortal
 {
 public:
@@ -64,7 +64,7 @@ public:
     }
 };
 
-/// A class of the tree as it is, for its own name.
+/// Does not override name(), so that the name of the base class is tested.
 class PlainClosable : public virtual WinClosableHandle
 {
     bool Close() override
@@ -85,7 +85,7 @@ class PlainWaitable : public virtual WinWaitableHandle
     }
 };
 
-TEST(HandlesTest, EachClassTellsItsName)
+TEST(HandlesTest, EachClassReturnsItsName)
 {
     IWinHandle handle;
     PlainClosable closable;
@@ -102,7 +102,7 @@ TEST(HandlesTest, EachClassTellsItsName)
     EXPECT_EQ(nameOf(file), "WinFileHandle");
 }
 
-TEST(HandlesTest, ClosingGivesWhatTheObjectSaysAndDeletesIt)
+TEST(HandlesTest, ClosingReturnsTheResultOfTheObjectAndDeletesIt)
 {
     for (const bool result : {true, false}) {
         bool deleted = false;
@@ -111,14 +111,14 @@ TEST(HandlesTest, ClosingGivesWhatTheObjectSaysAndDeletesIt)
     }
 }
 
-TEST(HandlesTest, AnObjectThatThrowsOnClosingIsDeletedAsWell)
+TEST(HandlesTest, AnObjectThatThrowsOnCloseIsDeletedToo)
 {
     bool deleted = false;
     EXPECT_EQ(CloseHandle(ToHandle(new ThrowsOnClose(deleted))), FALSE);
     EXPECT_TRUE(deleted);
 }
 
-TEST(HandlesTest, AnObjectThatCannotBeClosedIsDeletedAsWell)
+TEST(HandlesTest, AnObjectThatCannotBeClosedIsDeletedToo)
 {
     bool deleted = false;
     EXPECT_EQ(CloseHandle(ToHandle(new Mortal(deleted))), FALSE);
@@ -131,7 +131,7 @@ TEST(HandlesTest, ClosingEventsAndMutexesSucceeds)
     EXPECT_EQ(CloseHandle(CreateMutexA(nullptr, FALSE, nullptr)), TRUE);
 }
 
-TEST(HandlesTest, ClosingNothingFailsInSilence)
+TEST(HandlesTest, ClosingAnInvalidHandleFailsAndLogsNothing)
 {
     SetLogLevel(4);
     StdoutCapture console;
@@ -147,13 +147,13 @@ TEST(HandlesTest, AnEventCallOnAnotherObjectStopsTheProcess)
     EXPECT_DEATH(ResetEvent(ToHandle(&mutex)), "Assertion .object != nullptr. failed");
 }
 
-// The callers are named in the warnings, so they have names that can be seen from outside.
+// The warnings name the callers, so these functions need external linkage.
 
 } // namespace
 
 [[gnu::noinline]] BOOL SetsAnEvent(HANDLE handle)
 {
-    const volatile BOOL result = SetEvent(handle); // kept, so that the call is not the function's last
+    const volatile BOOL result = SetEvent(handle); // volatile, so that the call is not a tail call
     return result;
 }
 
@@ -171,8 +171,8 @@ TEST(HandlesTest, AnEventCallOnAnotherObjectStopsTheProcess)
 
 namespace {
 
-/// The function that a warning names, of the call and the function that made it: the sanitizers put a frame
-/// of their own into the list.
+/// The function that a warning names: `caller`, or `call` under the sanitizers, which add a frame of their
+/// own.
 const char* Named([[maybe_unused]] const char* call, [[maybe_unused]] const char* caller)
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -182,7 +182,7 @@ const char* Named([[maybe_unused]] const char* call, [[maybe_unused]] const char
 #endif
 }
 
-/// A warning on the console: its text in yellow, alone on its line behind the prefix.
+/// A warning on the console: its text in yellow, after the prefix and up to the end of the line.
 auto IsWarning(const std::string& text)
 {
     return EndsWith("\x1b[33m" + text + "\x1b[0m\n");
@@ -222,7 +222,7 @@ TEST(HandleWarningsTest, AreSuppressedUpToLevelOne)
     }
 }
 
-TEST(SymbolTest, GivesItsFunction)
+TEST(SymbolTest, ContainsTheFunctionName)
 {
     struct Symbol
     {
@@ -234,7 +234,7 @@ TEST(SymbolTest, GivesItsFunction)
         {"no bracket at all [0x1]", "no bracket at all [0x1]"},
         {"lib(no plus) [0x1]", "lib(no plus) [0x1]"},
         {"plus + in front (x", "plus + in front (x"},
-        {"./program(+0x1b2c) [0x55]", ""},                               // no name to be demangled
+        {"./program(+0x1b2c) [0x55]", ""},                               // no name to demangle
         {"./program(main+0x1b) [0x55]", ""},                             // not a mangled name
         {"./program(_Z8SetEventPv+0x1b) [0x55]", "SetEvent"},            // SetEvent(void*)
         {"./program(_ZN3One3twoEii+0x1b) [0x55]", "One::two"},           // One::two(int, int)
@@ -246,7 +246,7 @@ TEST(SymbolTest, GivesItsFunction)
     }
 }
 
-TEST(SymbolTest, ANameBeyondTheBufferIsCutAndThenIsNone)
+TEST(SymbolTest, ANameThatIsTooLongGivesTheEmptyText)
 {
     EXPECT_EQ(FunctionOfSymbol("./program(_Z2000" + std::string(2000, 'x') + "v+0x1b) [0x55]"), "");
     const std::string fits(1000, 'x');

@@ -1,4 +1,4 @@
-// The thread's errno as a Windows code: every number, not only those of the table.
+// The thread's errno as a Windows error code: every number, not only those in the table.
 #include "Win_def.h"
 
 #include <map>
@@ -25,7 +25,7 @@ TEST(LastErrorTest, MapsEveryErrno)
     }
 }
 
-TEST(LastErrorTest, ACodeThatIsStoredIsReadBackThroughTheTable)
+TEST(LastErrorTest, AStoredCodeIsReadThroughTheTable)
 {
     for (DWORD code = 0; code <= 200; ++code) {
         SetLastError(code);
@@ -44,7 +44,7 @@ TEST(LastErrorTest, ACodeThatIsStoredIsReadBackThroughTheTable)
     EXPECT_EQ(GetLastError(), 1u);
 }
 
-TEST(LastErrorTest, EachThreadHasItsOwn)
+TEST(LastErrorTest, EachThreadHasItsOwnError)
 {
     SetLastError(2);
     std::thread([] {

@@ -11,7 +11,7 @@ namespace {
 
 using Runs = CountedSleep::Runs;
 
-/// What another thread gets from a wait.
+/// The result of a wait in another thread.
 DWORD WaitElsewhere(HANDLE handle, DWORD timeout)
 {
     DWORD result = WAIT_FAILED;
@@ -48,7 +48,7 @@ TEST(MutexesTest, AnInfiniteWaitTakesAFreeMutex)
     EXPECT_EQ(CloseHandle(mutex), TRUE);
 }
 
-TEST(MutexesTest, AnInitialOwnerHasItForGood)
+TEST(MutexesTest, AnInitialOwnerKeepsTheMutex)
 {
     for (const BOOL initialOwner : {TRUE, 5}) {
         const HANDLE mutex = CreateMutexA(nullptr, initialOwner, nullptr);
@@ -58,7 +58,7 @@ TEST(MutexesTest, AnInitialOwnerHasItForGood)
     }
 }
 
-TEST(MutexesTest, AMutexThatIsFreedBetweenTwoAttemptsIsTaken)
+TEST(MutexesTest, AMutexFreedBetweenTwoAttemptsIsTaken)
 {
     for (const DWORD timeout : {100u, 0x80000000u, 0xFFFFFFFEu}) {
         const HANDLE handle = CreateMutexA(nullptr, TRUE, nullptr);
@@ -75,7 +75,7 @@ TEST(MutexesTest, AMutexThatIsFreedBetweenTwoAttemptsIsTaken)
     }
 }
 
-TEST(MutexesTest, MutexesOfOneNameAreNotShared)
+TEST(MutexesTest, MutexesOfTheSameNameAreNotShared)
 {
     const HANDLE one = CreateMutexA(nullptr, TRUE, "same");
     const HANDLE other = CreateMutexA(nullptr, FALSE, "same");
@@ -84,7 +84,7 @@ TEST(MutexesTest, MutexesOfOneNameAreNotShared)
     EXPECT_EQ(CloseHandle(other), TRUE);
 }
 
-TEST(MutexesTest, NoMutexIsOpenedByName)
+TEST(MutexesTest, OpenMutexAlwaysReturnsNull)
 {
     const HANDLE existing = CreateMutexA(nullptr, FALSE, "existing");
     for (const char* name : {"existing", "absent", "", static_cast<const char*>(nullptr)}) {
@@ -94,7 +94,7 @@ TEST(MutexesTest, NoMutexIsOpenedByName)
     EXPECT_EQ(CloseHandle(existing), TRUE);
 }
 
-/// What another thread gets from trying.
+/// The result of TryEnterCriticalSection in another thread.
 BOOL TryElsewhere(LPCRITICAL_SECTION section)
 {
     BOOL entered = FALSE;
@@ -107,7 +107,7 @@ BOOL TryElsewhere(LPCRITICAL_SECTION section)
     return entered;
 }
 
-TEST(CriticalSectionTest, ItsOwnerEntersAgain)
+TEST(CriticalSectionTest, TheOwnerMayEnterAgain)
 {
     CRITICAL_SECTION section;
     InitializeCriticalSection(&section);
@@ -123,7 +123,7 @@ TEST(CriticalSectionTest, ItsOwnerEntersAgain)
     DeleteCriticalSection(&section);
 }
 
-TEST(CriticalSectionTest, OneThreadAtATimeIsInside)
+TEST(CriticalSectionTest, AdmitsOneThreadAtATime)
 {
     CRITICAL_SECTION section;
     InitializeCriticalSection(&section);

@@ -1,4 +1,4 @@
-// Reading private profile files: lines, sections, keys and what is made of them.
+// Reads from private profile files: lines, sections, keys and their values.
 #include "ProfileText.h"
 #include "TextFiles.h"
 #include "Win_def.h"
@@ -43,7 +43,7 @@ Reading Found(const std::string& text)
 
 const Reading NOTHING = {"", 0};
 
-/// A way to read keys of a file that can be opened.
+/// A way to read the keys of a file that can be opened.
 struct Reader
 {
     const char* name;
@@ -66,7 +66,7 @@ const Reader READERS[] = {
      }},
 };
 
-/// What holds for all ways to read.
+/// Tests for all ways to read.
 class PrivateProfileReader : public testing::TestWithParam<Reader>
 {
 protected:
@@ -84,7 +84,7 @@ using PrivateProfileDeathTest = testing::Test;
 
 } // namespace
 
-TEST(PrivateProfile, TheDefaultServesWhenTheFileCannotBeOpened)
+TEST(PrivateProfile, TheDefaultIsUsedIfTheFileCannotBeOpened)
 {
     EXPECT_EQ(Read("Common", "Key"), Found("default"));
     EXPECT_EQ(Read("Common", "Key", 2048, ""), NOTHING);
@@ -99,7 +99,7 @@ TEST(PrivateProfile, ADefaultThatDoesNotFitBecomesTheEmptyText)
     EXPECT_EQ(Read("Common", "Key", 1, "default"), NOTHING);
 }
 
-TEST_P(PrivateProfileReader, AMissingKeyIsTheEmptyTextWhateverTheDefault)
+TEST_P(PrivateProfileReader, AMissingKeyGivesTheEmptyTextAndNotTheDefault)
 {
     WriteText(FILE_NAME, "[Common]\nOther=1\nEmpty=\n");
     EXPECT_EQ(ReadKey("Common", "Key"), NOTHING);
@@ -109,7 +109,7 @@ TEST_P(PrivateProfileReader, AMissingKeyIsTheEmptyTextWhateverTheDefault)
     EXPECT_EQ(ReadKey("Common", "Key"), NOTHING);
 }
 
-// A file, and what key "Key" of section "Common" reads as.
+// A file, and the expected value of key "Key" in section "Common".
 struct ReadCase
 {
     const char* what;
@@ -123,39 +123,39 @@ TEST_P(PrivateProfileReader, LineTable)
     const ReadCase cases[] = {
         {"as the system writes it", "[Common]\nKey=value\n", "value"},
         {"no line feed at the end", "[Common]\nKey=value", "value"},
-        {"lines of a foreign system", "[Common]\r\nKey=value\r\n", "value"},
+        {"lines with CR LF", "[Common]\r\nKey=value\r\n", "value"},
         {"blanks around the equals sign", "[Common]\nKey  =   value\n", "value"},
-        {"a blank in the place of the equals sign", "[Common]\nKey value\n", "value"},
-        {"one further equals sign is skipped", "[Common]\nKey==value\n", "value"},
-        {"one further and no more", "[Common]\nKey===value\n", "=value"},
-        {"one behind the delimiter and blanks", "[Common]\nKey= = value\n", "value"},
-        {"one behind a blank as delimiter", "[Common]\nKey = =value\n", "=value"},
-        {"only equals signs are no value", "[Common]\nKey==\nKey= = \nKey=later\n", "later"},
-        {"blanks inside stay", "[Common]\nKey=a  b = c\n", "a  b = c"},
-        {"blanks at the end go", "[Common]\nKey=value  \n", "value"},
+        {"a blank instead of the equals sign", "[Common]\nKey value\n", "value"},
+        {"a second equals sign is skipped", "[Common]\nKey==value\n", "value"},
+        {"a third one is not", "[Common]\nKey===value\n", "=value"},
+        {"a second one after the delimiter and blanks is skipped", "[Common]\nKey= = value\n", "value"},
+        {"one after a blank as delimiter", "[Common]\nKey = =value\n", "=value"},
+        {"equals signs alone are not a value", "[Common]\nKey==\nKey= = \nKey=later\n", "later"},
+        {"inner blanks are kept", "[Common]\nKey=a  b = c\n", "a  b = c"},
+        {"trailing blanks are removed", "[Common]\nKey=value  \n", "value"},
         {"a tab is removed", "[Common]\nKey=va\tlue\t\n", "value"},
-        {"a tab is no delimiter", "[Common]\nKey\tvalue\n", ""},
+        {"a tab is not a delimiter", "[Common]\nKey\tvalue\n", ""},
         {"a tab in the name is removed", "[Common]\nK\tey=value\n", "value"},
         {"bytes above 126 are removed", "[Common]\nKey=\xC3\xA4p\x7Fq\xFF\n", "pq"},
-        {"nothing else in the value", "[Common]\nKey=\xC3\xA4\nKey=later\n", "later"},
+        {"a value of such bytes only is empty", "[Common]\nKey=\xC3\xA4\nKey=later\n", "later"},
         {"control bytes are removed", "[Common]\nKey=p\x01q\x1Br\n", "pqr"},
         {"a NUL byte is removed", "[Common]\nKey=a\0b\n"s, "ab"},
         {"a semicolon ends the value", "[Common]\nKey=a;b\n", "a"},
-        {"and the blank ahead of it goes", "[Common]\nKey=a ; b\n", "a"},
-        {"nothing ahead of the semicolon", "[Common]\nKey=;b\n", ""},
+        {"the blank before it is removed", "[Common]\nKey=a ; b\n", "a"},
+        {"nothing before the semicolon", "[Common]\nKey=;b\n", ""},
         {"a comment line", "[Common]\n;Key=old\nKey=value\n", "value"},
         {"a semicolon in the section line", "[Com;mon]\nKey=a\n[Common];x\nKey=b\n", "b"},
         {"a section in a comment", ";[Common]\nKey=a\n", ""},
         {"a section named in another case", "[COMMON]\nKey=value\n", "value"},
         {"a key named in another case", "[Common]\nKEY=value\n", "value"},
         {"blanks in the section name count", "[ Common ]\nKey=value\n", ""},
-        {"text behind the section name", "[Common]x\nKey=value\n", "value"},
+        {"text after the section name", "[Common]x\nKey=value\n", "value"},
         {"a section line is not indented", " [Common]\nKey=value\n", ""},
-        {"a section line needs its end", "[Common\nKey=value\n", ""},
-        {"one without is a line like others", "[Common]\n[Other\nKey=value\n", "value"},
-        {"ahead of any section", "Key=value\n", ""},
+        {"a section line requires a closing bracket", "[Common\nKey=value\n", ""},
+        {"without it the line is an ordinary one", "[Common]\n[Other\nKey=value\n", "value"},
+        {"before any section", "Key=value\n", ""},
         {"in another section", "[Other]\nKey=value\n[Common]\n", ""},
-        {"behind another section", "[Other]\nKey=a\n[Common]\nKey=b\n", "b"},
+        {"after another section", "[Other]\nKey=a\n[Common]\nKey=b\n", "b"},
         {"the section ends at the next", "[Common]\n[Other]\nKey=value\n", ""},
         {"the section twice", "[Common]\nA=1\n[Other]\n[common]\nKey=value\n", "value"},
         {"the first match wins", "[Common]\nKey=first\nKey=second\n", "first"},
@@ -165,7 +165,7 @@ TEST_P(PrivateProfileReader, LineTable)
         {"a longer name", "[Common]\nKey2=value\n", ""},
         {"a shorter name", "[Common]\nKe=value\n", ""},
         {"no delimiter", "[Common]\nKey\nKeyvalue\n", ""},
-        {"an old tail behind the match", "[Common]\nKey=1\n345\nKey=2\n", "1"},
+        {"the end of an old text after the match", "[Common]\nKey=1\n345\nKey=2\n", "1"},
     };
     for (const ReadCase& c : cases) {
         WriteText(FILE_NAME, c.text);
@@ -173,7 +173,7 @@ TEST_P(PrivateProfileReader, LineTable)
     }
 }
 
-TEST_P(PrivateProfileReader, ALineIsCutAt1023PrintableBytesAndItsRestIsNoOtherLine)
+TEST_P(PrivateProfileReader, ALineIsCutAt1023PrintableBytesAndTheNextLineIsFound)
 {
     for (const size_t length : {1022U, 1023U, 1024U, 1025U, 5000U, 100000U}) {
         const std::string line = "Key=" + std::string(length - 4, 'v');
@@ -191,7 +191,7 @@ TEST_P(PrivateProfileReader, TheRestOfALongLineIsDropped)
     EXPECT_EQ(ReadKey("Other", "Key"), NOTHING);
 }
 
-TEST_P(PrivateProfileReader, DroppedBytesDoNotCountIntoALine)
+TEST_P(PrivateProfileReader, DroppedBytesDoNotCountTowardsTheLineLength)
 {
     WriteText(FILE_NAME,
               "[Common]\n" + std::string(3000, '\t') + "Key=" + std::string(3000, '\xFF') + "value\n");
@@ -207,7 +207,7 @@ TEST_P(PrivateProfileReader, AValueThatDoesNotFitIsCut)
     EXPECT_EQ(ReadKey("Common", "Key", 1), NOTHING);
 }
 
-TEST(PrivateProfile, ASizeOfNothingLeavesTheBufferAlone)
+TEST(PrivateProfile, ASizeOfZeroDoesNotChangeTheBuffer)
 {
     WriteText(FILE_NAME, "[Common]\nKey=value\n");
     char byte = '#';
@@ -217,7 +217,7 @@ TEST(PrivateProfile, ASizeOfNothingLeavesTheBufferAlone)
     EXPECT_EQ(byte, '#');
 }
 
-TEST_P(PrivateProfileReader, WhatIsNoRegularFileReadsAsEmptyAtOnce)
+TEST_P(PrivateProfileReader, NonRegularFilesReadAsEmptyWithoutBlocking)
 {
     ASSERT_EQ(mkfifo("/tmp/fifo.ini", 0644), 0);
     EXPECT_EQ(ReadKey("Common", "Key", 64, "/tmp/fifo.ini"), NOTHING);
@@ -225,14 +225,14 @@ TEST_P(PrivateProfileReader, WhatIsNoRegularFileReadsAsEmptyAtOnce)
     EXPECT_EQ(ReadKey("Common", "Key", 64, "/dev/zero"), NOTHING);
 }
 
-TEST_P(PrivateProfileReader, TheLocaleChangesNothing)
+TEST_P(PrivateProfileReader, TheLocaleHasNoEffect)
 {
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     WriteText(FILE_NAME, "[COMMON]\nPUBLISHERID=\xC3\x84p\xE9\n");
     EXPECT_EQ(ReadKey("common", "publisherid"), Found("p"));
 }
 
-TEST_P(PrivateProfileReader, RubbishDoesNoHarm)
+TEST_P(PrivateProfileReader, RandomBytesDoNoHarm)
 {
     std::mt19937 random(4711);
     const std::string marks = "[]=; \t\n\nKeyCommon";
@@ -309,7 +309,7 @@ TEST(ProfileTextTest, IsNullWhenTheFileCannotBeOpened)
     EXPECT_EQ(ProfileText::Read(nullptr), nullptr);
 }
 
-TEST(ProfileTextTest, KeepsWhatTheFileHeldWhenItWasRead)
+TEST(ProfileTextTest, KeepsTheContentsOfTheTimeOfTheRead)
 {
     WriteText(FILE_NAME, "[Common]\nA=1\nB=2\n");
     const auto text = ProfileText::Read(FILE_NAME);
@@ -333,7 +333,7 @@ TEST(ProfileTextTest, FindsEveryKeyOfEverySection)
     }
 }
 
-TEST_F(PrivateProfileDeathTest, SectionAndKeyMustBeNamed)
+TEST_F(PrivateProfileDeathTest, SectionAndKeyAreRequired)
 {
     char text[8];
     EXPECT_DEATH(GetPrivateProfileStringA(nullptr, "Key", "", text, sizeof text, FILE_NAME),

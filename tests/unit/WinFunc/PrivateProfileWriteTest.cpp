@@ -1,4 +1,4 @@
-// Writing private profile files: the file's bytes behind each write, and the lines that a failure logs.
+// Writes to private profile files: the bytes of the file after each write, and the log lines of failures.
 #include "ChildProcess.h"
 #include "FileLocks.h"
 #include "OrdinaryRights.h"
@@ -40,7 +40,7 @@ mode_t Mode(const char* path)
     return info.st_mode & 07777;
 }
 
-/// The lines that a call put out, at the program's own log level.
+/// The lines that a call logs at level 3: warnings, but no debug traces.
 template <class Call>
 std::string Logged(Call call)
 {
@@ -50,7 +50,7 @@ std::string Logged(Call call)
     return output.Stop();
 }
 
-/// From here on every read of a file fails with EIO.
+/// Makes every further read of a file fail with EIO.
 bool BreakReading()
 {
     sock_filter program[] = {
@@ -77,7 +77,7 @@ struct KeyCase
     std::string before;
     const char* key;
     const char* value;
-    std::string behind; // empty: refused, the file stays as it was
+    std::string behind; // empty: refused, the file is unchanged
 };
 
 TEST(PrivateProfileWrite, KeyTable)
@@ -85,38 +85,39 @@ TEST(PrivateProfileWrite, KeyTable)
     const KeyCase cases[] = {
         {"an empty file", "", "Key", "value", "[Common]\nKey=value\n"},
         {"a new section", "[Other]\nA=1\n", "Key", "value", "[Other]\nA=1\n[Common]\nKey=value\n"},
-        {"behind an unfinished line", "[Other]\nA=1", "Key", "value", "[Other]\nA=1\n[Common]\nKey=value\n"},
-        {"behind two bytes", "ab", "Key", "value", "ab\n[Common]\nKey=value\n"},
-        {"behind one byte", "a", "Key", "value", "a[Common]\nKey=value\n"},
-        {"behind one line feed", "\n", "Key", "value", "\n[Common]\nKey=value\n"},
+        {"after an unfinished line", "[Other]\nA=1", "Key", "value", "[Other]\nA=1\n[Common]\nKey=value\n"},
+        {"after two bytes", "ab", "Key", "value", "ab\n[Common]\nKey=value\n"},
+        {"after one byte", "a", "Key", "value", "a[Common]\nKey=value\n"},
+        {"after one line feed", "\n", "Key", "value", "\n[Common]\nKey=value\n"},
         {"a new key becomes the first", "[Common]\nA=1\nB=2\n", "Key", "value",
          "[Common]\nKey=value\nA=1\nB=2\n"},
         {"in an empty section", "[Common]\n", "Key", "value", "[Common]\nKey=value\n"},
         {"a section between others", "[A]\nKey=0\n[Common]\n[B]\nKey=9\n", "Key", "value",
          "[A]\nKey=0\n[Common]\nKey=value\n[B]\nKey=9\n"},
-        {"a section that ends in a foreign system's way", "[Common]\r\nA=1\r\n", "Key", "value",
+        {"a section line with CR LF", "[Common]\r\nA=1\r\n", "Key", "value",
          "[Common]\nKey=value\n\nA=1\r\n"},
         {"a value of the same length", "[Common]\nKey=abc\nB=2\n", "Key", "xyz", "[Common]\nKey=xyz\nB=2\n"},
         {"a longer value", "[Common]\nKey=1\nB=2\n", "Key", "12345", "[Common]\nKey=12345\nB=2\n"},
-        {"a shorter value leaves the old end behind", "[Common]\nKey=12345\nB=abcd\n", "Key", "1",
+        {"a shorter value keeps the old end of the file", "[Common]\nKey=12345\nB=abcd\n", "Key", "1",
          "[Common]\nKey=1\nB=abcd\nbcd\n"},
         {"an empty value", "[Common]\nKey=1\n", "Key", "", "[Common]\nKey=\n\n"},
         {"an empty value becomes one", "[Common]\nKey=\nB=2\n", "Key", "value", "[Common]\nKey=value\nB=2\n"},
-        {"a blank ahead of the equals sign is the delimiter", "[Common]\nKey = 1\n", "Key", "234",
+        {"a blank before the equals sign is the delimiter", "[Common]\nKey = 1\n", "Key", "234",
          "[Common]\nKey 234\n"},
-        {"a tab too", "[Common]\nKey\t=1\n", "Key", "2", "[Common]\nKey\t2\n\n"},
+        {"a tab before the equals sign is the delimiter", "[Common]\nKey\t=1\n", "Key", "2",
+         "[Common]\nKey\t2\n\n"},
         {"case matters for the key", "[Common]\nKEY=old\n", "Key", "new", "[Common]\nKey=new\nKEY=old\n"},
         {"case matters for the section", "[COMMON]\nKey=old\n", "Key", "new",
          "[COMMON]\nKey=old\n[Common]\nKey=new\n"},
-        {"the tail of an earlier key", "[Common]\nMyKey=1\nKey=2\n", "Key", "3",
+        {"a match at the end of an earlier key", "[Common]\nMyKey=1\nKey=2\n", "Key", "3",
          "[Common]\nMyKey=3\nKey=2\n"},
-        {"a place in an earlier value", "[Common]\nA=Key x\nKey=2\n", "Key", "3",
+        {"a match in an earlier value", "[Common]\nA=Key x\nKey=2\n", "Key", "3",
          "[Common]\nA=Key 3\nKey=2\n"},
-        {"the section's name in a value", "[A]\nB=[Common] \nC=1\n", "Key", "v",
+        {"a match of the section in a value", "[A]\nB=[Common] \nC=1\n", "Key", "v",
          "[A]\nB=[Common]\nKey=v\n\nC=1\n"},
-        {"without a delimiter of its own it takes the next line's", "[Common]\nKey\nB=1\n", "Key", "2",
+        {"a key without a delimiter uses that of the next line", "[Common]\nKey\nB=1\n", "Key", "2",
          "[Common]\nKey\nB=2\n"},
-        {"one byte behind the section's name goes", "[Common]x\nA=1\n", "Key", "v",
+        {"one byte after the section's name is removed", "[Common]x\nA=1\n", "Key", "v",
          "[Common]\nKey=v\n\nA=1\n"},
         {"a bracket in a value hides later keys", "[Common]\nA=[x]\nKey=1\n", "Key", "2",
          "[Common]\nKey=2\nA=[x]\nKey=1\n"},
@@ -125,14 +126,14 @@ TEST(PrivateProfileWrite, KeyTable)
         {"the section line ends the file", "[A]\nB=1\n[Common]", "Key", "new", ""},
         {"the section line is the file", "[Common]", "Key", "new", ""},
         {"a key without a name", "[Common]\nA=1\n", "", "new", ""},
-        {"bytes behind a NUL stay", "[Common]\nKey=1\n\0\xFFrest\n"s, "Key", "2",
+        {"bytes after a NUL are kept", "[Common]\nKey=1\n\0\xFFrest\n"s, "Key", "2",
          "[Common]\nKey=2\n\0\xFFrest\n"s},
-        {"a key behind a NUL is not seen", "[Common]\n\0Key=1\n"s, "Key", "2", "[Common]\nKey=2\n\0Key=1\n"s},
-        {"a section behind a NUL is not seen", "a\0\n[Common]\nKey=1\n"s, "Key", "2",
+        {"a key after a NUL is not found", "[Common]\n\0Key=1\n"s, "Key", "2", "[Common]\nKey=2\n\0Key=1\n"s},
+        {"a section after a NUL is not found", "a\0\n[Common]\nKey=1\n"s, "Key", "2",
          "a\0\n[Common]\nKey=1\n[Common]\nKey=2\n"s},
         {"a NUL ends the section line", "[Common]\0\nKey=1\n"s, "Key", "2", ""},
         {"a NUL ends the key's line", "[Common]\nKey=1\0\n"s, "Key", "2", ""},
-        {"bytes above 126 stay", "[Common]\nN=\xC3\xA4\nKey=1\n", "Key", "\xC3\xBC",
+        {"bytes above 126 are kept", "[Common]\nN=\xC3\xA4\nKey=1\n", "Key", "\xC3\xBC",
          "[Common]\nN=\xC3\xA4\nKey=\xC3\xBC\n"},
     };
     for (const KeyCase& c : cases) {
@@ -146,7 +147,7 @@ TEST(PrivateProfileWrite, KeyTable)
     }
 }
 
-TEST(PrivateProfileWrite, ANewFileHasMode0755ByTheKeyWriterAnd0600ByTheSectionWriter)
+TEST(PrivateProfileWrite, TheKeyWriterCreatesMode0755AndTheSectionWriter0600)
 {
     umask(0);
     EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "value", FILE_NAME));
@@ -157,7 +158,7 @@ TEST(PrivateProfileWrite, ANewFileHasMode0755ByTheKeyWriterAnd0600ByTheSectionWr
     EXPECT_EQ(ReadText("/tmp/b.ini"), "[Common]\nKey=value\n");
 }
 
-TEST(PrivateProfileWrite, AValueWrittenUnderAnotherCaseWinsAtTheNextRead)
+TEST(PrivateProfileWrite, AKeyWrittenInAnotherCaseIsReadFirst)
 {
     WriteText(FILE_NAME, "[Common]\nKEY=old\n");
     EXPECT_TRUE(WritePrivateProfileStringA("Common", "key", "new", FILE_NAME));
@@ -165,7 +166,7 @@ TEST(PrivateProfileWrite, AValueWrittenUnderAnotherCaseWinsAtTheNextRead)
     EXPECT_EQ(Read("Common", "Key"), "new");
 }
 
-TEST(PrivateProfileWrite, ASectionWrittenUnderAnotherCaseComesSecond)
+TEST(PrivateProfileWrite, ASectionWrittenInAnotherCaseIsReadSecond)
 {
     WriteText(FILE_NAME, "[COMMON]\nKey=first\n");
     EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "second", FILE_NAME));
@@ -175,7 +176,7 @@ TEST(PrivateProfileWrite, ASectionWrittenUnderAnotherCaseComesSecond)
     EXPECT_EQ(Read("Common", "Other"), "only here");
 }
 
-TEST(PrivateProfileWrite, OneDigitOverFiveLeavesTheLastFourBytesOfTheFile)
+TEST(PrivateProfileWrite, WritingOneDigitOverFiveKeepsTheLastFourBytesOfTheFile)
 {
     WriteText(FILE_NAME, "[Common]\nStacker3=12345\nName=abcdefg\n");
     EXPECT_TRUE(WritePrivateProfileStringA("Common", "Stacker3", "7", FILE_NAME));
@@ -183,7 +184,7 @@ TEST(PrivateProfileWrite, OneDigitOverFiveLeavesTheLastFourBytesOfTheFile)
     EXPECT_EQ(Read("Common", "Name"), "abcdefg");
 }
 
-TEST(PrivateProfileWrite, LongTextsAreWrittenWhole)
+TEST(PrivateProfileWrite, LongTextsAreWrittenInFull)
 {
     const std::string before(3000000, 'x');
     WriteText(FILE_NAME, "[A]\n" + before + "\n[Common]\nKey=1\n[Z]\n" + before);
@@ -192,7 +193,7 @@ TEST(PrivateProfileWrite, LongTextsAreWrittenWhole)
     EXPECT_EQ(ReadText(FILE_NAME), "[A]\n" + before + "\n[Common]\nKey=" + value + "\n[Z]\n" + before);
 }
 
-TEST(PrivateProfileWrite, AFileBeyondAnyTextIsRefused)
+TEST(PrivateProfileWrite, AFileTooLargeForOneWriteIsRefused)
 {
     WriteText(FILE_NAME, "[Common]\nKey=1\n");
     std::filesystem::resize_file(FILE_NAME, 3ULL << 30);
@@ -239,7 +240,7 @@ TEST(PrivateProfileWrite, OnlyLinksOfRootAndOfThisUserAreFollowed)
 // ---------------------------------------------------------------------------------------------------------------------
 // Failures
 
-TEST(PrivateProfileWrite, AFileUnderNoFolderIsLogged)
+TEST(PrivateProfileWrite, AFailedLstatIsLogged)
 {
     WriteText("/tmp/file", "");
     const std::string lines =
@@ -273,7 +274,7 @@ TEST(PrivateProfileWrite, AFileThatCannotBeReadIsLogged)
     close(other);
 }
 
-TEST(PrivateProfileWrite, AFileThatCannotBeMadeIsLogged)
+TEST(PrivateProfileWrite, AFileThatCannotBeCreatedIsLogged)
 {
     const std::string lines =
         Logged([] { EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "v", "/tmp/absent/a.ini")); });
@@ -290,7 +291,7 @@ TEST(PrivateProfileWrite, AFailedWriteIsLogged)
         << lines;
 }
 
-TEST(PrivateProfileWrite, AShortWriteIsNotNoticed)
+TEST(PrivateProfileWrite, AShortWriteIsNotDetected)
 {
     signal(SIGXFSZ, SIG_IGN);
     const rlimit tiny = {12, 12};
@@ -307,7 +308,7 @@ TEST(PrivateProfileWrite, BelowTheWarningLevelNothingIsLogged)
     EXPECT_EQ(output.Stop(), "");
 }
 
-TEST(PrivateProfileWrite, TheSectionWriterFailsInSilence)
+TEST(PrivateProfileWrite, TheSectionWriterDoesNotLogFailures)
 {
     WriteText("/tmp/file", "");
     const std::string lines = Logged([] {
@@ -338,7 +339,7 @@ struct SectionCase
     const char* what;
     std::string before;
     std::string pairs;  // each ended by NUL; the string's own NUL ends the list
-    std::string behind; // empty: refused, the file stays as it was
+    std::string behind; // empty: refused, the file is unchanged
 };
 
 TEST(PrivateProfileWrite, SectionTable)
@@ -346,19 +347,19 @@ TEST(PrivateProfileWrite, SectionTable)
     const SectionCase cases[] = {
         {"an empty file", "", "A=1\0B=2\0"s, "[Common]\nA=1\nB=2\n"},
         {"a new section", "[Other]\nC=3\n", "A=1\0B=2\0"s, "[Other]\nC=3\n[Common]\nA=1\nB=2\n"},
-        {"behind an unfinished line", "[Other]\nC=3", "A=1\0"s, "[Other]\nC=3\n[Common]\nA=1\n"},
-        {"behind one byte", "a", "A=1\0"s, "a[Common]\nA=1\n"},
-        {"all lines go, blank ones too", "[Common]\nA=1\n\nX=9\n\n[Z]\nz=1\n", "A=2\0BB=345\0"s,
+        {"after an unfinished line", "[Other]\nC=3", "A=1\0"s, "[Other]\nC=3\n[Common]\nA=1\n"},
+        {"after one byte", "a", "A=1\0"s, "a[Common]\nA=1\n"},
+        {"all lines are replaced, blank ones too", "[Common]\nA=1\n\nX=9\n\n[Z]\nz=1\n", "A=2\0BB=345\0"s,
          "[Common]\nA=2\nBB=345\n[Z]\nz=1\n"},
-        {"a shorter section leaves the old end behind", "[Common]\nA=1\n[Z]\nz=1\n", ""s,
+        {"a shorter section keeps the old end of the file", "[Common]\nA=1\n[Z]\nz=1\n", ""s,
          "[Common]\n[Z]\nz=1\nz=1\n"},
         {"the last section", "[Z]\nz=1\n[Common]\nA=1\n", "A=2\0"s, "[Z]\nz=1\n[Common]\nA=2\n"},
         {"the last section, shorter", "[Common]\nA=12345\n", "A=1\0"s, "[Common]\nA=1\n345\n"},
         {"a section without lines", "[Common]\n[Z]\n", "A=1\0"s, "[Common]\nA=1\n[Z]\n"},
-        {"up to the next bracket, wherever", "[Common]\nA=1[2]\nB=1\n", "A=222\0"s,
+        {"the section ends at the next bracket anywhere", "[Common]\nA=1[2]\nB=1\n", "A=222\0"s,
          "[Common]\nA=222\n[2]\nB=1\n"},
         {"the section line ends the file", "[Z]\nz=1\n[Common]", "A=1\0"s, ""},
-        {"bytes behind a NUL stay", "[Common]\nA=1\n\0\xFFrest\n"s, "A=1\0B=2\0"s,
+        {"bytes after a NUL are kept", "[Common]\nA=1\n\0\xFFrest\n"s, "A=1\0B=2\0"s,
          "[Common]\nA=1\nB=2\n\0\xFFrest\n"s},
         {"a NUL ends the section line", "[Common]\0\nA=1\n"s, "A=2\0"s, ""},
     };
@@ -371,7 +372,7 @@ TEST(PrivateProfileWrite, SectionTable)
     }
 }
 
-TEST(PrivateProfileWrite, TheSectionWriterOpensWithATraceLine)
+TEST(PrivateProfileWrite, TheSectionWriterLogsATraceLine)
 {
     SetLogLevel(4);
     StdoutCapture output;
@@ -382,7 +383,7 @@ TEST(PrivateProfileWrite, TheSectionWriterOpensWithATraceLine)
         << lines;
 }
 
-TEST(PrivateProfileWrite, TheSectionWriterClearsTheErrorNumber)
+TEST(PrivateProfileWrite, TheSectionWriterClearsErrno)
 {
     WriteText(FILE_NAME, "[Common]\nA=1\n");
     SetLogLevel(3);
@@ -414,7 +415,7 @@ TEST(PrivateProfileProcess, ReadersAndWritersWaitForTheLock)
     EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nKey=3\n");
 }
 
-TEST(PrivateProfileProcess, AWriterAndReadersOfOneFile)
+TEST(PrivateProfileProcess, ReadersSeeWholeValuesWhileAWriterRuns)
 {
     constexpr int rounds = 400;
     WriteText(FILE_NAME, "[Common]\nFirst=aaaaaaaa\nCount=1000\nLast=zzzzzzzz\n");
@@ -445,7 +446,7 @@ TEST(PrivateProfileProcess, AWriterAndReadersOfOneFile)
     EXPECT_TRUE(WaitFor(writer));
 }
 
-TEST(PrivateProfileProcess, WritersThatLetTheFileGrowLoseNothing)
+TEST(PrivateProfileProcess, WritersThatExtendTheFileLoseNothing)
 {
     constexpr int keys = 100;
     WriteText(FILE_NAME, "[Common]\nEnd=1\n");

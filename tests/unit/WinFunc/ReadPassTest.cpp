@@ -32,7 +32,7 @@ void WriteRegistryValue(int number)
     WriteRegistry("[HKLM/a]\n\"x\"=dword:0000000" + std::to_string(number) + "\n\n");
 }
 
-/// What a program that opens the key now reads.
+/// Opens the key, as any program does, and returns the value.
 uint32_t RegistryValue()
 {
     const std::lock_guard lock(RegistryMutex());
@@ -57,7 +57,7 @@ void SetRegistryValue(uint32_t value)
 
 } // namespace
 
-TEST(ReadPassTest, WithoutAPassEachReadingGoesToTheFile)
+TEST(ReadPassTest, WithoutAPassEachReadReadsTheFile)
 {
     WriteText(FILE_A, Text(1));
     EXPECT_EQ(Key(FILE_A), "1");
@@ -66,7 +66,7 @@ TEST(ReadPassTest, WithoutAPassEachReadingGoesToTheFile)
     EXPECT_THAT(CountedLocks::Take(), ElementsAre("a.ini", "a.ini"));
 }
 
-TEST(ReadPassTest, AFileIsReadOnceInARow)
+TEST(ReadPassTest, ConsecutiveReadsOfAFileReadItOnce)
 {
     WriteText(FILE_A, Text(1));
     WriteText(FILE_B, Text(2));
@@ -82,7 +82,7 @@ TEST(ReadPassTest, AFileIsReadOnceInARow)
     EXPECT_EQ(Key(FILE_A), "3");
 }
 
-TEST(ReadPassTest, APassWithinAnotherOneBelongsToIt)
+TEST(ReadPassTest, ANestedPassSharesTheOuterOne)
 {
     WriteText(FILE_A, Text(1));
     const ReadPass pass;
@@ -94,7 +94,7 @@ TEST(ReadPassTest, APassWithinAnotherOneBelongsToIt)
     EXPECT_THAT(CountedLocks::Take(), ElementsAre("a.ini"));
 }
 
-TEST(ReadPassTest, WhatTheThreadWritesItReads)
+TEST(ReadPassTest, AThreadReadsWhatItWrote)
 {
     WriteText(FILE_A, Text(1));
     const ReadPass pass;
@@ -105,7 +105,7 @@ TEST(ReadPassTest, WhatTheThreadWritesItReads)
     EXPECT_EQ(Key(FILE_A), "3");
 }
 
-TEST(ReadPassTest, AFileThatComesIntoBeingIsSeen)
+TEST(ReadPassTest, AFileCreatedDuringThePassIsSeen)
 {
     const ReadPass pass;
     EXPECT_EQ(Key("/tmp/new.ini"), "no file");
@@ -113,7 +113,7 @@ TEST(ReadPassTest, AFileThatComesIntoBeingIsSeen)
     EXPECT_EQ(Key("/tmp/new.ini"), "1");
 }
 
-TEST(ReadPassTest, OtherThreadsAreNotConcerned)
+TEST(ReadPassTest, OtherThreadsDoNotShareThePass)
 {
     WriteText(FILE_A, Text(1));
     const ReadPass pass;
@@ -123,7 +123,7 @@ TEST(ReadPassTest, OtherThreadsAreNotConcerned)
     EXPECT_EQ(Key(FILE_A), "1");
 }
 
-TEST(ReadPassTest, TheCallsForOneKeyAlwaysReadTheFile)
+TEST(ReadPassTest, SingleKeyCallsAlwaysReadTheFile)
 {
     WriteText(FILE_A, Text(1));
     const ReadPass pass;
@@ -148,7 +148,7 @@ TEST(ReadPassTest, TheRegistryIsLoadedOnce)
     EXPECT_EQ(RegistryValue(), 2U);
 }
 
-TEST(ReadPassTest, AValueThatAnyThreadSetsLoadsTheRegistryAgain)
+TEST(ReadPassTest, AValueSetByAnyThreadCausesANewLoad)
 {
     WriteRegistryValue(1);
     const ReadPass pass;
@@ -162,7 +162,7 @@ TEST(ReadPassTest, AValueThatAnyThreadSetsLoadsTheRegistryAgain)
     EXPECT_THAT(CountedLocks::Take(), ElementsAre("registry.txt"));
 }
 
-TEST(ReadPassTest, AnOpeningWithinAPassTakesAnUnsavedValueBackToo)
+TEST(ReadPassTest, OpeningAKeyDuringAPassRevertsAnUnsavedValue)
 {
     WriteRegistryValue(1);
     const ReadPass pass;
@@ -174,7 +174,7 @@ TEST(ReadPassTest, AnOpeningWithinAPassTakesAnUnsavedValueBackToo)
     RegCloseKey(key);
 }
 
-TEST(ReadPassTest, ADeletedKeyLoadsTheRegistryAgain)
+TEST(ReadPassTest, DeletingAKeyCausesANewLoad)
 {
     WriteRegistryValue(1);
     const ReadPass pass;
@@ -186,7 +186,7 @@ TEST(ReadPassTest, ADeletedKeyLoadsTheRegistryAgain)
     EXPECT_THAT(CountedLocks::Take(), ElementsAre("registry.txt"));
 }
 
-TEST(ReadPassTest, AKeyThatIsMadeWithinAPassIsThere)
+TEST(ReadPassTest, AKeyCreatedDuringAPassCanBeOpened)
 {
     WriteRegistryValue(1);
     const ReadPass pass;
@@ -198,7 +198,7 @@ TEST(ReadPassTest, AKeyThatIsMadeWithinAPassIsThere)
     RegCloseKey(key);
 }
 
-TEST(ReadPassTest, AKeyOfAReadOnlyRegistryStaysReadOnlyWithinAPass)
+TEST(ReadPassTest, AKeyOfAReadOnlyRegistryStaysReadOnlyDuringAPass)
 {
     WriteRegistryValue(1);
     std::filesystem::permissions(REGISTRY_FILE, std::filesystem::perms(0444));

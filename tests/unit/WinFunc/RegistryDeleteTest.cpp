@@ -1,4 +1,4 @@
-// Deletions edit the file's text and leave the map alone.
+// Deletions edit the text file and do not change the map.
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -22,12 +22,12 @@ struct DeleteCase
     const char* what;
     const char* before;
     const char* name;
-    const char* behind; // NULL: untouched
+    const char* behind; // NULL: unchanged
 };
 
 const char TREE[] = "[HKLM/a]\n\"x\"=\"1\"\n\n[HKLM/a/b]\n\"y\"=\"2\"\n\n[HKLM/c]\n\"z\"=\"3\"\n\n";
 
-/// The file as it is now: a rewriting with the same bytes gives it another change time.
+/// The contents and the change time of the file: rewriting the same bytes changes the time.
 std::string FileState()
 {
     struct stat info = {};
@@ -52,20 +52,21 @@ using RegistryDeleteDeathTest = RegistryDelete;
 TEST_F(RegistryDelete, KeyTable)
 {
     const DeleteCase cases[] = {
-        {"the section goes with its values and its empty line", TREE, "c",
+        {"the section is removed with its values and its empty line", TREE, "c",
          "[HKLM/a]\n\"x\"=\"1\"\n\n[HKLM/a/b]\n\"y\"=\"2\"\n\n"},
         {"children stay", TREE, "a", "[HKLM/a/b]\n\"y\"=\"2\"\n\n[HKLM/c]\n\"z\"=\"3\"\n\n"},
         {"several levels with forward slashes", TREE, "a/b",
          "[HKLM/a]\n\"x\"=\"1\"\n\n[HKLM/c]\n\"z\"=\"3\"\n\n"},
-        {"backslashes stay as they are and find nothing", TREE, "a\\b", nullptr},
-        {"a key that is not there", TREE, "d", nullptr},
-        {"the whole tree is no section", TREE, "", "[HKLM/a/b]\n\"y\"=\"2\"\n\n[HKLM/c]\n\"z\"=\"3\"\n\n"},
-        {"a longer sibling that comes first is hit", "[HKLM/ab]\n\n[HKLM/a]\n\n", "a", "[HKLM/a]\n\n"},
-        {"one section a call", "[HKLM/a]\n\n[HKLM/a]\n\n", "a", "[HKLM/a]\n\n"},
+        {"backslashes are not converted and match nothing", TREE, "a\\b", nullptr},
+        {"an absent key", TREE, "d", nullptr},
+        {"an empty name matches the first section only", TREE, "",
+         "[HKLM/a/b]\n\"y\"=\"2\"\n\n[HKLM/c]\n\"z\"=\"3\"\n\n"},
+        {"a longer sibling that comes first is removed", "[HKLM/ab]\n\n[HKLM/a]\n\n", "a", "[HKLM/a]\n\n"},
+        {"one section per call", "[HKLM/a]\n\n[HKLM/a]\n\n", "a", "[HKLM/a]\n\n"},
         {"a match anywhere in the section line", "[old HKLM/a]\n\n[HKLM/a]\n\n", "a", "[HKLM/a]\n\n"},
-        {"what stands ahead of it stays", "# note\n\n[HKLM/a]\n\n", "a", "# note\n\n"},
-        {"the name in a value is no section", "[HKLM/b]\n\"[HKLM/a]\"=\"1\"\n\n", "a", nullptr},
-        {"the last line without a line feed stays so", "[HKLM/a]\n\n[HKLM/c]\n\"z\"=\"3\"", "a",
+        {"text before the section is kept", "# note\n\n[HKLM/a]\n\n", "a", "# note\n\n"},
+        {"the name in a value is not a section", "[HKLM/b]\n\"[HKLM/a]\"=\"1\"\n\n", "a", nullptr},
+        {"a last line without a line feed is kept unchanged", "[HKLM/a]\n\n[HKLM/c]\n\"z\"=\"3\"", "a",
          "[HKLM/c]\n\"z\"=\"3\""},
     };
     for (const DeleteCase& c : cases) {
@@ -89,7 +90,7 @@ TEST_F(RegistryDelete, ANullNameDeletesTheSectionOfTheKeyItself)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\"x\"=\"1\"\n\n[HKLM/a/b]\n\"y\"=\"2\"\n\n");
 }
 
-TEST_F(RegistryDelete, ASubKeyOfAnOpenKey)
+TEST_F(RegistryDelete, DeletesASubKeyOfAnOpenKey)
 {
     WriteRegistry(TREE);
     HKEY key = Open("a");
@@ -104,18 +105,18 @@ TEST_F(RegistryDelete, ValueTable)
         {"a string", "[HKLM/k]\n\"a\"=\"1\"\n\"b\"=\"2\"\n\n", "b", "[HKLM/k]\n\"a\"=\"1\"\n\n"},
         {"a number", "[HKLM/k]\n\"m\"=dword:00000001\n\"n\"=dword:00000002\n\n", "m",
          "[HKLM/k]\n\"n\"=dword:00000002\n\n"},
-        {"one that is not there", "[HKLM/k]\n\"a\"=\"1\"\n\n", "z", nullptr},
+        {"an absent value", "[HKLM/k]\n\"a\"=\"1\"\n\n", "z", nullptr},
         {"only in its own section",
          "[HKLM/j]\n\"a\"=\"0\"\n\n[HKLM/k]\n\"a\"=\"1\"\n\n[HKLM/l]\n\"a\"=\"2\"\n\n", "a",
          "[HKLM/j]\n\"a\"=\"0\"\n\n[HKLM/k]\n\n[HKLM/l]\n\"a\"=\"2\"\n\n"},
-        {"not in the section behind it", "[HKLM/k]\n\"b\"=\"1\"\n\n[HKLM/l]\n\"a\"=\"2\"\n\n", "a", nullptr},
+        {"not in the section after it", "[HKLM/k]\n\"b\"=\"1\"\n\n[HKLM/l]\n\"a\"=\"2\"\n\n", "a", nullptr},
         {"the first only", "[HKLM/k]\n\"a\"=\"1\"\n\"a\"=\"2\"\n\n", "a", "[HKLM/k]\n\"a\"=\"2\"\n\n"},
-        {"a value whose data holds the name, when it stands first",
-         "[HKLM/k]\n\"x\"=\"find b\"\n\"b\"=\"2\"\n\n", "b", "[HKLM/k]\n\"b\"=\"2\"\n\n"},
-        {"a longer name that holds it", "[HKLM/k]\n\"Connected2\"=\"1\"\n\"Connected\"=\"2\"\n\n",
+        {"an earlier value whose data contains the name", "[HKLM/k]\n\"x\"=\"find b\"\n\"b\"=\"2\"\n\n", "b",
+         "[HKLM/k]\n\"b\"=\"2\"\n\n"},
+        {"an earlier longer name that contains it", "[HKLM/k]\n\"Connected2\"=\"1\"\n\"Connected\"=\"2\"\n\n",
          "Connected", "[HKLM/k]\n\"Connected\"=\"2\"\n\n"},
         {"case matters", "[HKLM/k]\n\"A\"=\"1\"\n\n", "a", nullptr},
-        {"the first section that holds the path", "[HKLM/k/sub]\n\"a\"=\"1\"\n\n[HKLM/k]\n\"a\"=\"2\"\n\n",
+        {"the first section that contains the path", "[HKLM/k/sub]\n\"a\"=\"1\"\n\n[HKLM/k]\n\"a\"=\"2\"\n\n",
          "a", "[HKLM/k/sub]\n\n[HKLM/k]\n\"a\"=\"2\"\n\n"},
     };
     for (const DeleteCase& c : cases) {
@@ -133,7 +134,7 @@ TEST_F(RegistryDelete, ValueTable)
     }
 }
 
-TEST_F(RegistryDelete, ANullValueNameNamesNothing)
+TEST_F(RegistryDelete, ANullValueNameDeletesNothing)
 {
     const std::string text = "[HKLM/k]\n\"a\"=\"1\"\n\n";
     WriteRegistry(text);
@@ -143,7 +144,7 @@ TEST_F(RegistryDelete, ANullValueNameNamesNothing)
     EXPECT_EQ(ReadText(REGISTRY_FILE), text);
 }
 
-TEST_F(RegistryDelete, WhatIsDeletedStaysVisibleInThisProcess)
+TEST_F(RegistryDelete, DeletedEntriesStayVisibleInThisProcess)
 {
     WriteRegistry(TREE);
     HKEY key = Open("a");
@@ -155,7 +156,7 @@ TEST_F(RegistryDelete, WhatIsDeletedStaysVisibleInThisProcess)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\n[HKLM/c]\n\"z\"=\"3\"\n\n");
 }
 
-TEST_F(RegistryDelete, ClosingADirtyKeyBringsADeletedValueBack)
+TEST_F(RegistryDelete, ClosingADirtyKeyRestoresADeletedValue)
 {
     WriteRegistry("[HKLM/k]\n\"a\"=\"1\"\n\n");
     HKEY key = Open("k");
@@ -167,7 +168,7 @@ TEST_F(RegistryDelete, ClosingADirtyKeyBringsADeletedValueBack)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\"a\"=\"1\"\n\"b\"=\"2\"\n\n");
 }
 
-TEST_F(RegistryDelete, BadHandlesGive6)
+TEST_F(RegistryDelete, BadHandlesReturn6)
 {
     for (HKEY bad : {HKEY{nullptr}, HKEY{INVALID_HANDLE_VALUE}}) {
         EXPECT_EQ(RegDeleteKeyA(bad, "a"), 6);
@@ -175,7 +176,7 @@ TEST_F(RegistryDelete, BadHandlesGive6)
     }
 }
 
-TEST_F(RegistryDelete, AFileThatCannotBeOpenedGives12)
+TEST_F(RegistryDelete, AFileThatCannotBeOpenedReturns12)
 {
     WriteRegistry("[HKLM/k]\n\"a\"=\"1\"\n\n");
     HKEY key = Open("k");
@@ -186,7 +187,7 @@ TEST_F(RegistryDelete, AFileThatCannotBeOpenedGives12)
     RegCloseKey(key);
 }
 
-TEST_F(RegistryDelete, AFileThatCannotBeWrittenGives12AndStays)
+TEST_F(RegistryDelete, AFileThatCannotBeWrittenReturns12AndIsUnchanged)
 {
     WriteRegistry(TREE);
     ASSERT_EQ(chmod(REGISTRY_FILE, 0444), 0);
@@ -195,7 +196,7 @@ TEST_F(RegistryDelete, AFileThatCannotBeWrittenGives12AndStays)
     EXPECT_EQ(ReadText(REGISTRY_FILE), TREE);
 }
 
-TEST_F(RegistryDelete, AFullDiskGives12)
+TEST_F(RegistryDelete, AFullDiskReturns12)
 {
     WriteRegistry(TREE);
     HKEY key = Open("a");
@@ -208,7 +209,7 @@ TEST_F(RegistryDelete, AFullDiskGives12)
     RegCloseKey(key);
 }
 
-TEST_F(RegistryDeleteDeathTest, AKeyThatIsNotWritableStops)
+TEST_F(RegistryDeleteDeathTest, AKeyThatIsNotWritableStopsTheProcess)
 {
     WriteRegistry(TREE);
     ASSERT_EQ(chmod(REGISTRY_FILE, 0444), 0);
@@ -218,7 +219,7 @@ TEST_F(RegistryDeleteDeathTest, AKeyThatIsNotWritableStops)
     RegCloseKey(key);
 }
 
-TEST_F(RegistryDelete, AllOtherBytesStay)
+TEST_F(RegistryDelete, AllOtherBytesAreKept)
 {
     using namespace std::string_literals;
     const std::string odd = "[HKLM/b\0]\n\"nul\"=\"\0\"\n\xFF\xFE\r\n"s + std::string(5000, 'x') + "\n\n";

@@ -1,4 +1,4 @@
-// The registry's text file, byte for byte: what the store writes, and what it makes of what it finds.
+// The registry's text file, byte for byte: what the store writes, and how it reads existing text.
 #include "RegistryPath.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -33,7 +33,7 @@ void SetNumber(HKEY key, const char* name, DWORD number)
     EXPECT_EQ(RegSetValueExA(key, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number), 4), 0);
 }
 
-/// Loads a file of this text.
+/// Writes a file with this text and loads it.
 void Load(const std::string& text)
 {
     WriteRegistry(text);
@@ -55,7 +55,7 @@ protected:
 
 } // namespace
 
-TEST_F(RegistryFormat, AKeyCreatedAndClosedIsASectionLineAndAnEmptyLine)
+TEST_F(RegistryFormat, ACreatedKeyIsWrittenAsASectionLineAndAnEmptyLine)
 {
     RegCloseKey(Create(KEY));
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\n");
@@ -73,7 +73,7 @@ TEST_F(RegistryFormat, StringsComeFirstThenNumbersAsEightHexadecimalDigits)
                                        "\n");
 }
 
-TEST_F(RegistryFormat, StringsStandFirstWhateverTheNames)
+TEST_F(RegistryFormat, StringsPrecedeNumbersWhateverTheNames)
 {
     HKEY key = Create("K");
     SetNumber(key, "A", 1);
@@ -89,7 +89,7 @@ TEST_F(RegistryFormat, StringsStandFirstWhateverTheNames)
                                        "\n");
 }
 
-TEST_F(RegistryFormat, SectionsFollowInByteOrderOfTheirPaths)
+TEST_F(RegistryFormat, SectionsAreInByteOrderOfTheirPaths)
 {
     for (const char* name : {"b", "a\\x", "a", "B", "a b", "\xC3\xA4"}) {
         RegCloseKey(Create(name));
@@ -106,7 +106,7 @@ TEST_F(RegistryFormat, NothingIsEscaped)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/K]\n\"a=b\"=\"x\"y\\z\"\n\n");
 }
 
-TEST_F(RegistryFormat, ALoadedFileIsWrittenBackAsItWas)
+TEST_F(RegistryFormat, ALoadedFileIsWrittenBackUnchanged)
 {
     const std::string text = "[HKCU/Other]\n\"n\"=\"v\"\n\n[HKLM/K]\n\"A\"=\"1\"\n\"B\"=dword:00000002\n\n";
     WriteRegistry(text);
@@ -128,14 +128,14 @@ TEST_F(RegistryFormat, ANewFileHasMode0644)
     EXPECT_EQ(info.st_mode & 07777, 0644U);
 }
 
-TEST_F(RegistryFormat, AShorterTextLeavesNothingOfTheLongerOneBehind)
+TEST_F(RegistryFormat, AShorterTextReplacesALongerOneCompletely)
 {
     WriteRegistry(std::string(5000, 'x') + "\n");
     RegCloseKey(Create("K"));
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/K]\n\n");
 }
 
-TEST_F(RegistryFormat, WriteOutIsFalseWhenTheDiskIsFull)
+TEST_F(RegistryFormat, WriteOutFailsIfTheDiskIsFull)
 {
     RegCloseKey(Create("A key whose section line is longer than the disk has room for"));
     signal(SIGXFSZ, SIG_IGN);
@@ -144,13 +144,13 @@ TEST_F(RegistryFormat, WriteOutIsFalseWhenTheDiskIsFull)
     EXPECT_FALSE(RegWriteOut());
 }
 
-TEST_F(RegistryFormat, WriteOutIsFalseWhenTheFileCannotBeOpened)
+TEST_F(RegistryFormat, WriteOutFailsIfTheFileCannotBeOpened)
 {
     ASSERT_TRUE(std::filesystem::create_directory(REGISTRY_FILE));
     EXPECT_FALSE(RegWriteOut());
 }
 
-// One line under "[S]": what it leaves there.
+// One line in section "[S]", and the values that it sets there.
 struct LineCase
 {
     const char* line;
@@ -221,7 +221,7 @@ TEST_F(RegistryFormat, ASectionNameEndsAtTheFirstBracket)
     EXPECT_EQ(g_Registry.size(), 2U);
 }
 
-TEST_F(RegistryFormat, ATextHoldingAQuoteComesBackCut)
+TEST_F(RegistryFormat, ATextThatContainsAQuoteIsReadBackCut)
 {
     HKEY key = Create("K");
     SetText(key, "a", "before\"behind");
@@ -230,7 +230,7 @@ TEST_F(RegistryFormat, ATextHoldingAQuoteComesBackCut)
     EXPECT_EQ(g_Registry["HKLM/K"].stringValues, (Texts{{"a", "before"}}));
 }
 
-TEST_F(RegistryFormat, AValueLineAheadOfAnySectionIsIgnored)
+TEST_F(RegistryFormat, AValueLineBeforeAnySectionIsIgnored)
 {
     Load("\"a\"=\"stray\"\n\"n\"=dword:1\n[S]\n\"b\"=\"own\"\n");
     EXPECT_EQ(g_Registry.size(), 1U);
@@ -238,7 +238,7 @@ TEST_F(RegistryFormat, AValueLineAheadOfAnySectionIsIgnored)
     EXPECT_TRUE(g_Registry["S"].dwordValues.empty());
 }
 
-TEST_F(RegistryFormat, TheLoadMergesIntoTheMap)
+TEST_F(RegistryFormat, ALoadMergesTheFileIntoTheMap)
 {
     Load("[S]\n\"a\"=\"1\"\n\"b\"=\"2\"\n[T]\n\"t\"=\"t\"\n");
     Load("[S]\n\"a\"=\"new\"\n\"c\"=\"3\"\n");
@@ -258,7 +258,7 @@ TEST_F(RegistryFormat, TheLastLineNeedsNoLineFeed)
     EXPECT_EQ(g_Registry["S"].stringValues, (Texts{{"a", "1"}}));
 }
 
-TEST_F(RegistryFormat, LinesOfAForeignSystemEndReadTheSame)
+TEST_F(RegistryFormat, LinesWithCrLfAreReadTheSame)
 {
     Load("[S]\r\n\"a\"=\"1\"\r\n\"n\"=dword:0000000f\r\n\r\n");
     EXPECT_EQ(g_Registry["S"].stringValues, (Texts{{"a", "1"}}));
@@ -273,8 +273,8 @@ TEST_F(RegistryFormat, ALineEndsAtANulByte)
     EXPECT_EQ(g_Registry["S"].stringValues, (Texts{{"c", "3"}, {"d", "4"}}));
 }
 
-// Lines are read in pieces of 1023 bytes: a value whose closing quote lies beyond is lost.
-TEST_F(RegistryFormat, AValueThatFillsOnePieceSurvives)
+// Lines are read in pieces of 1023 bytes. A value whose closing quote is in a later piece is lost.
+TEST_F(RegistryFormat, AValueThatFillsOnePieceIsKept)
 {
     for (const size_t length : {1021U, 1022U, 1023U}) {
         const std::string text(length - std::string("\"a\"=\"\"").size(), 'v');
@@ -286,7 +286,7 @@ TEST_F(RegistryFormat, AValueThatFillsOnePieceSurvives)
     }
 }
 
-TEST_F(RegistryFormat, AValueCutByThePieceIsLostAndTheNextLinesAreNot)
+TEST_F(RegistryFormat, AValueLongerThanOnePieceIsLostButTheNextLinesAreKept)
 {
     for (const size_t length : {1024U, 1025U, 5000U}) {
         const std::string line = "\"a\"=\"" + std::string(length - 6, 'v') + "\"";
@@ -297,14 +297,14 @@ TEST_F(RegistryFormat, AValueCutByThePieceIsLostAndTheNextLinesAreNot)
     }
 }
 
-TEST_F(RegistryFormat, EachPieceOfALongLineIsJudgedAsALine)
+TEST_F(RegistryFormat, EachPieceOfALongLineIsParsedAsALine)
 {
     Load("[S]\n" + std::string(1023, '#') + "[T]\n\"a\"=\"1\"\n" + std::string(1023, '#') + "\"b\"=\"2\"\n");
     EXPECT_TRUE(g_Registry["S"].stringValues.empty());
     EXPECT_EQ(g_Registry["T"].stringValues, (Texts{{"a", "1"}, {"b", "2"}}));
 }
 
-TEST_F(RegistryFormat, AFileLargerThanAnyBufferReadsWhole)
+TEST_F(RegistryFormat, AFileLargerThanAnyBufferIsReadInFull)
 {
     std::string text;
     for (int number = 0; number < 5000; ++number) {
@@ -318,10 +318,10 @@ TEST_F(RegistryFormat, AFileLargerThanAnyBufferReadsWhole)
     }
 }
 
-TEST_F(RegistryFormat, RubbishDoesNoHarm)
+TEST_F(RegistryFormat, RandomBytesDoNoHarm)
 {
     std::mt19937 random(4711);
-    const std::string marks = "[]\"=\n\ndword:"; // what the reader looks for, often
+    const std::string marks = "[]\"=\n\ndword:"; // bytes that the reader searches for
     for (int round = 0; round < 200; ++round) {
         std::string text;
         for (int count = 0; count < 3000; ++count) {
@@ -333,7 +333,7 @@ TEST_F(RegistryFormat, RubbishDoesNoHarm)
     }
 }
 
-TEST_F(RegistryFormat, WhatIsNoRegularFileReadsAsEmpty)
+TEST_F(RegistryFormat, NonRegularFilesReadAsEmpty)
 {
     ASSERT_EQ(mkfifo(REGISTRY_FILE, 0644), 0);
     EXPECT_TRUE(RegReadIn(O_RDWR));
@@ -351,7 +351,7 @@ struct PathCase
     const char* path;
 };
 
-TEST_F(RegistryFormat, RootsHaveShortNamesAndPathsForwardSlashes)
+TEST_F(RegistryFormat, RootsHaveShortNamesAndPathsUseForwardSlashes)
 {
     const PathCase cases[] = {
         {HKEY_CLASSES_ROOT, "a", "HKCR/a"},

@@ -1,4 +1,4 @@
-// The registry's file between processes: every pass over it waits for the lock, and no descriptor is
+// The registry's file shared by processes: every pass over it waits for the lock, and no descriptor is
 // inherited.
 #include "ChildProcess.h"
 #include "FileLocks.h"
@@ -18,8 +18,8 @@
 
 namespace {
 
-/// True while a signal that was sent to the thread has not interrupted it yet. Asked of the kernel: a race
-/// detector puts off the handler itself until the call that waits has returned.
+/// True while a signal that was sent to the thread is pending. Reads the kernel's state, because the thread
+/// sanitizer delays the handler until the waiting call has returned.
 bool HasPendingSignal(pid_t thread)
 {
     std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/status");
@@ -48,8 +48,8 @@ class RegistryLock : public testing::TestWithParam<Pass>
 {
 };
 
-/// What a child of this process finds whose standard streams of these numbers are closed: 0, or where it
-/// failed.
+/// Opens a file in a process whose standard streams of these numbers are closed. Returns 0, or the number of
+/// the step that failed.
 int OpenWithout(const std::vector<int>& streams)
 {
     for (const int stream : streams) {
@@ -61,16 +61,16 @@ int OpenWithout(const std::vector<int>& streams)
     }
     for (const int stream : streams) {
         if (fcntl(stream, F_GETFD) != -1) {
-            return 2; // the first number is lost
+            return 2; // the first descriptor was not closed
         }
     }
     const int other = open(REGISTRY_FILE, O_RDWR | O_CLOEXEC);
-    return other != -1 && flock(other, LOCK_EX | LOCK_NB) == -1 ? 0 : 3; // the lock is that of the moved one
+    return other != -1 && flock(other, LOCK_EX | LOCK_NB) == -1 ? 0 : 3; // the moved one holds the lock
 }
 
 } // namespace
 
-TEST_P(RegistryLock, IsWaitedFor)
+TEST_P(RegistryLock, EachPassWaitsForIt)
 {
     WriteRegistry(TEXT);
     ASSERT_TRUE(RegReadIn(O_RDWR));
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Passes, RegistryLock,
                                               }}),
                          [](const auto& pass) { return pass.param.name; });
 
-TEST(RegistryProcess, TheLockIsWaitedForThroughInterruptions)
+TEST(RegistryProcess, SignalsDoNotEndTheWaitForTheLock)
 {
     struct sigaction action = {};
     action.sa_handler = [](int) {};
@@ -119,7 +119,7 @@ TEST(RegistryProcess, TheLockIsWaitedForThroughInterruptions)
     EXPECT_EQ(g_Registry.size(), 2U);
 }
 
-TEST(RegistryProcess, AWriterThatWaitedLeavesNothingOfALongerText)
+TEST(RegistryProcess, AWriterThatWaitedReplacesALongerTextCompletely)
 {
     WriteRegistry(TEXT);
     ASSERT_TRUE(RegReadIn(O_RDWR));
@@ -134,9 +134,9 @@ TEST(RegistryProcess, AWriterThatWaitedLeavesNothingOfALongerText)
     EXPECT_EQ(ReadText(REGISTRY_FILE), TEXT);
 }
 
-// The truncating open of a writer lies outside the lock, so a reader may find less; never a mixture of two
-// texts.
-TEST(RegistryProcess, WritersAndReadersNeverSeeAMixture)
+// A writer truncates the file before it takes the lock, so a reader may see less text, but never a mixture of
+// two texts.
+TEST(RegistryProcess, ReadersNeverSeeAMixtureOfTwoTexts)
 {
     const std::string mark(200, '#');
     const auto write = [&](const char* name, int rounds) {
@@ -167,7 +167,7 @@ TEST(RegistryProcess, WritersAndReadersNeverSeeAMixture)
 }
 
 // Another program empties the file while this one reads it.
-TEST(RegistryProcess, ALineCutByATruncationIsNotGivenOut)
+TEST(RegistryProcess, ALineCutByATruncationIsDiscarded)
 {
     const std::string line = "\"n\"=dword:00000001\n";
     std::string text;
@@ -197,7 +197,7 @@ TEST(LockedFileTest, DescriptorsAreNotInherited)
     EXPECT_EQ(fcntl(file.Descriptor(), F_GETFD) & FD_CLOEXEC, FD_CLOEXEC);
 }
 
-TEST(LockedFileTest, NeitherANullNameNorAnAbsentFileIsOpen)
+TEST(LockedFileTest, ANullNameAndAnAbsentFileAreNotOpen)
 {
     EXPECT_FALSE(LockedFile(nullptr, O_RDONLY).IsOpen());
     errno = 0;
@@ -205,7 +205,7 @@ TEST(LockedFileTest, NeitherANullNameNorAnAbsentFileIsOpen)
     EXPECT_EQ(errno, ENOENT);
 }
 
-TEST(LockedFileTest, AFileNeverTakesTheNumberOfAStandardStream)
+TEST(LockedFileTest, NeverUsesTheDescriptorOfAStandardStream)
 {
     WriteRegistry(TEXT);
     for (const std::vector<int>& streams :
@@ -214,7 +214,7 @@ TEST(LockedFileTest, AFileNeverTakesTheNumberOfAStandardStream)
     }
 }
 
-TEST(LockedFileTest, WhatIsPrintedWithoutAStandardOutputReachesNoFile)
+TEST(LockedFileTest, OutputWithoutAStandardOutputReachesNoFile)
 {
     WriteText("/tmp/a.ini", "[Common]\nKey=1\n");
     WriteRegistry(TEXT);
@@ -232,7 +232,7 @@ TEST(LockedFileTest, WhatIsPrintedWithoutAStandardOutputReachesNoFile)
     EXPECT_EQ(ReadText("/tmp/a.ini"), "[Common]\nKey=1\n");
 }
 
-TEST(LockedFileTest, ClosingTwiceIsHarmlessAndUnlocks)
+TEST(LockedFileTest, ClosingUnlocksAndMayBeRepeated)
 {
     WriteRegistry(TEXT);
     LockedFile file(REGISTRY_FILE, O_RDONLY);

@@ -1,5 +1,5 @@
-// Opening a key takes the file in anew, although an unchanged file is not parsed again: what the map holds
-// must not tell whether the parse was left out.
+// Opening a key loads the file again, but an unchanged file is not parsed again. The contents of the map must
+// not depend on whether the parse was skipped.
 #include "ChildProcess.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -34,7 +34,7 @@ std::string Value(HKEY key, const char* name = "x")
     return result == 0 ? text : "no value";
 }
 
-/// What a program that opens the key now reads.
+/// Opens the key, as any program does, and returns the value.
 std::string OpenAndRead()
 {
     HKEY key = Open();
@@ -49,7 +49,7 @@ void Set(HKEY key, const std::string& text, const char* name = "x")
     EXPECT_EQ(RegSetValueExA(key, name, 0, REG_SZ, data, static_cast<DWORD>(text.size() + 1)), 0);
 }
 
-/// Waits until the file's last change is so long ago that its time tells it from any later one.
+/// Waits until the last change of the file is so old that any later one gets a different time.
 void WaitUntilSettled()
 {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
@@ -68,10 +68,11 @@ void WaitUntilSettled()
     FAIL() << "the clock stands still";
 }
 
-/// True while the file system keeps whole seconds only.
+/// True to simulate a file system that stores whole seconds only.
 bool g_wholeSeconds = false;
 
-/// Waits for the first half of a second, from 200 ms on: what happens now falls into one and the same second.
+/// Waits for a time between 200 and 500 ms within a second, so that the following steps take place in the
+/// same second.
 void WaitForTheFirstHalfOfASecond()
 {
     timespec now = {};
@@ -81,7 +82,7 @@ void WaitForTheFirstHalfOfASecond()
     } while (now.tv_nsec < 200'000'000 || now.tv_nsec > 500'000'000);
 }
 
-/// Gives the file the modification time that it had before a change.
+/// Restores the modification time that the file had before a change.
 void SetModified(const struct stat& before)
 {
     const timespec times[] = {before.st_atim, before.st_mtim};
@@ -97,7 +98,7 @@ struct stat State()
 
 } // namespace
 
-// In the place of the C library's, for this program.
+// Replaces the C library's fstat in this program.
 int fstat(int descriptor, struct stat* info) noexcept
 {
     const int result = fstatat(descriptor, "", info, AT_EMPTY_PATH);
@@ -148,7 +149,7 @@ TEST(RegistryReload, AChangeThatKeepsSizeAndModificationTimeIsSeen)
     EXPECT_EQ(OpenAndRead(), "2");
 }
 
-TEST(RegistryReload, AnotherFileInItsPlaceIsSeen)
+TEST(RegistryReload, AReplacedFileIsSeen)
 {
     WriteRegistry(ValueLine(1));
     const std::string other = std::string(CONF_DIR) + "/other";
@@ -162,7 +163,7 @@ TEST(RegistryReload, AnotherFileInItsPlaceIsSeen)
     EXPECT_EQ(OpenAndRead(), "2");
 }
 
-TEST(RegistryReload, AVanishedFileIsMadeAnewAndTheMapStays)
+TEST(RegistryReload, ADeletedFileIsCreatedAgainAndTheMapIsKept)
 {
     WriteRegistry(ValueLine(1));
     WaitUntilSettled();
@@ -174,7 +175,7 @@ TEST(RegistryReload, AVanishedFileIsMadeAnewAndTheMapStays)
     EXPECT_EQ(OpenAndRead(), "3");
 }
 
-TEST(RegistryReload, AnyOpeningTakesAnUnsavedValueBack)
+TEST(RegistryReload, OpeningAnyKeyRevertsAnUnsavedValue)
 {
     for (const bool settled : {false, true}) {
         WriteRegistry(ValueLine(1));
@@ -194,7 +195,7 @@ TEST(RegistryReload, AnyOpeningTakesAnUnsavedValueBack)
     }
 }
 
-TEST(RegistryReload, AValueThatTheFormatCannotHoldComesBackAsTheFileSays)
+TEST(RegistryReload, AValueThatTheFormatCannotHoldIsReadBackFromTheFile)
 {
     WriteRegistry(ValueLine(1));
     HKEY key = Open();
@@ -210,7 +211,7 @@ TEST(RegistryReload, AValueThatTheFormatCannotHoldComesBackAsTheFileSays)
     EXPECT_EQ(OpenAndRead(), "cut");
 }
 
-TEST(RegistryReload, ADeletedValueIsGoneFromTheFileAndStaysInTheMap)
+TEST(RegistryReload, ADeletedValueIsRemovedFromTheFileButStaysInTheMap)
 {
     for (const bool settled : {false, true}) {
         WriteRegistry("[HKLM/a]\n\"x\"=\"1\"\n\"y\"=\"2\"\n\n");
@@ -231,7 +232,7 @@ TEST(RegistryReload, ADeletedValueIsGoneFromTheFileAndStaysInTheMap)
     }
 }
 
-TEST(RegistryReload, ADeletedKeyIsGoneFromTheFileAndStaysInTheMap)
+TEST(RegistryReload, ADeletedKeyIsRemovedFromTheFileButStaysInTheMap)
 {
     WriteRegistry(ValueLine(1) + "[HKLM/b]\n\n");
     WaitUntilSettled();
@@ -241,7 +242,7 @@ TEST(RegistryReload, ADeletedKeyIsGoneFromTheFileAndStaysInTheMap)
     EXPECT_EQ(ReadText(REGISTRY_FILE), ValueLine(1));
 }
 
-TEST(RegistryReload, AFileOfTheFutureIsReadEachTime)
+TEST(RegistryReload, AFileWithAFutureTimeIsReadEachTime)
 {
     WriteRegistry(ValueLine(1));
     timespec times[] = {{0, UTIME_NOW}, {0, 0}};
@@ -254,7 +255,7 @@ TEST(RegistryReload, AFileOfTheFutureIsReadEachTime)
     EXPECT_EQ(OpenAndRead(), "2");
 }
 
-TEST(RegistryReload, ChangesWithinTheSecondOfACoarseFileSystemAreSeen)
+TEST(RegistryReload, ChangesWithinOneSecondOnACoarseFileSystemAreSeen)
 {
     g_wholeSeconds = true;
     WaitForTheFirstHalfOfASecond();

@@ -1,4 +1,4 @@
-// The calls on keys and values: their results, what they put out and what they leave alone.
+// The calls on keys and values: their results, their outputs and what they leave unchanged.
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -106,7 +106,7 @@ using RegistryStoreDeathTest = RegistryStore;
 // ---------------------------------------------------------------------------------------------------------------------
 // Opening, creating, closing
 
-TEST_F(RegistryStore, OpeningWithoutFolderAndFileMakesBothAndFindsNothing)
+TEST_F(RegistryStore, OpeningCreatesAMissingFolderAndFile)
 {
     std::filesystem::remove_all(CONF_DIR);
     HKEY key = INVALID_HANDLE_VALUE;
@@ -117,7 +117,7 @@ TEST_F(RegistryStore, OpeningWithoutFolderAndFileMakesBothAndFindsNothing)
     EXPECT_EQ(std::filesystem::file_size(REGISTRY_FILE), 0U);
 }
 
-TEST_F(RegistryStore, OnlyOneLevelOfTheFolderIsMade)
+TEST_F(RegistryStore, OnlyOneLevelOfTheFolderIsCreated)
 {
     std::filesystem::remove_all(INSTALL_DIR);
     EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, "K", 0, nullptr, 0, 0, nullptr, nullptr, nullptr), 5);
@@ -135,14 +135,14 @@ TEST_F(RegistryStore, OpeningFindsExactPathsOnly)
     }
 }
 
-TEST_F(RegistryStore, AResultPointerOfNullOnlyAsks)
+TEST_F(RegistryStore, ANullResultPointerOnlyTestsTheKey)
 {
     WriteRegistry("[HKLM/a]\n\n");
     EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, "a", 0, KEY_READ, nullptr), 0);
     EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, "b", 0, KEY_READ, nullptr), 2);
 }
 
-TEST_F(RegistryStore, OpeningABadHandleGives6)
+TEST_F(RegistryStore, ABadHandleReturns6)
 {
     for (HKEY bad : BAD_KEYS) {
         HKEY key = nullptr;
@@ -153,7 +153,7 @@ TEST_F(RegistryStore, OpeningABadHandleGives6)
     EXPECT_FALSE(std::filesystem::exists(REGISTRY_FILE)) << "a bad handle reads nothing";
 }
 
-TEST_F(RegistryStore, AnOpenedKeyIsWritableAndCleanWhateverAccessIsAskedFor)
+TEST_F(RegistryStore, AnOpenedKeyIsWritableAndCleanWithAnyAccessMask)
 {
     WriteRegistry("[HKLM/a]\n\n");
     const Key key(Open("a"));
@@ -170,7 +170,7 @@ TEST_F(RegistryStore, ACreatedKeyIsWritableAndDirty)
     EXPECT_TRUE(key->bDirty);
 }
 
-TEST_F(RegistryStore, CreatingMakesNoEntriesForTheLevelsAbove)
+TEST_F(RegistryStore, CreatingAKeyDoesNotCreateItsParents)
 {
     RegCloseKey(Create("a\\b\\c"));
     EXPECT_EQ(g_Registry.size(), 1U);
@@ -189,14 +189,14 @@ TEST_F(RegistryStore, CreatingAnExistingKeyKeepsItsValues)
     EXPECT_EQ(ReadText(REGISTRY_FILE), text);
 }
 
-TEST_F(RegistryStore, CreatingWithoutAResultWritesNothing)
+TEST_F(RegistryStore, CreatingWithoutAResultPointerWritesNothing)
 {
     EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, "a", 0, nullptr, 0, 0, nullptr, nullptr, nullptr), 0);
     EXPECT_EQ(ReadText(REGISTRY_FILE), "");
     EXPECT_TRUE(g_Registry.contains("HKLM/a"));
 }
 
-TEST_F(RegistryStore, ClosingACleanKeyLeavesTheFileAlone)
+TEST_F(RegistryStore, ClosingACleanKeyDoesNotChangeTheFile)
 {
     const std::string text = "# kept as it is\n[HKLM/a]\n\"x\"=\"1\"";
     WriteRegistry(text);
@@ -204,7 +204,7 @@ TEST_F(RegistryStore, ClosingACleanKeyLeavesTheFileAlone)
     EXPECT_EQ(ReadText(REGISTRY_FILE), text);
 }
 
-TEST_F(RegistryStore, ValuesReachTheFileAtTheCloseAndNotBefore)
+TEST_F(RegistryStore, ValuesAreWrittenWhenTheKeyIsClosed)
 {
     const std::string text = "[HKLM/a]\n\n";
     WriteRegistry(text);
@@ -215,7 +215,7 @@ TEST_F(RegistryStore, ValuesReachTheFileAtTheCloseAndNotBefore)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\"x\"=\"1\"\n\n");
 }
 
-TEST_F(RegistryStore, AWriteOutRestoresWhatAnotherProgramRemoved)
+TEST_F(RegistryStore, WritingRestoresEntriesThatAnotherProgramRemoved)
 {
     WriteRegistry("[HKLM/a]\n\"x\"=\"1\"\n\n");
     HKEY key = Open("a");
@@ -225,7 +225,7 @@ TEST_F(RegistryStore, AWriteOutRestoresWhatAnotherProgramRemoved)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\"x\"=\"1\"\n\"y\"=\"2\"\n\n");
 }
 
-TEST_F(RegistryStore, AReadOnlyFileGivesAKeyThatIsNotWritable)
+TEST_F(RegistryStore, AKeyOfAReadOnlyFileIsNotWritable)
 {
     WriteRegistry("[HKLM/a]\n\"x\"=\"1\"\n\n");
     ASSERT_EQ(chmod(REGISTRY_FILE, 0444), 0);
@@ -236,7 +236,7 @@ TEST_F(RegistryStore, AReadOnlyFileGivesAKeyThatIsNotWritable)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/a]\n\"x\"=\"1\"\n\n");
 }
 
-TEST_F(RegistryStoreDeathTest, SettingAValueOfAKeyThatIsNotWritableStops)
+TEST_F(RegistryStoreDeathTest, SettingAValueOfAKeyThatIsNotWritableStopsTheProcess)
 {
     WriteRegistry("[HKLM/a]\n\n");
     ASSERT_EQ(chmod(REGISTRY_FILE, 0444), 0);
@@ -245,7 +245,7 @@ TEST_F(RegistryStoreDeathTest, SettingAValueOfAKeyThatIsNotWritableStops)
     EXPECT_DEATH(Set(key, "x", REG_SZ, "1", 2), DIED_FALSE);
 }
 
-TEST_F(RegistryStoreDeathTest, AFileThatCanNeitherBeReadNorMadeStopsTheOpening)
+TEST_F(RegistryStoreDeathTest, AFileThatCannotBeReadOrCreatedStopsTheProcess)
 {
     std::filesystem::remove_all(CONF_DIR);
     WriteText(CONF_DIR, "in the place of the folder");
@@ -254,7 +254,7 @@ TEST_F(RegistryStoreDeathTest, AFileThatCanNeitherBeReadNorMadeStopsTheOpening)
     EXPECT_DEATH(RegOpenKeyExA(HKEY_LOCAL_MACHINE, "a", 0, KEY_READ, &key), DIED_FALSE);
 }
 
-TEST_F(RegistryStoreDeathTest, AWriteOutThatFailsStopsTheClose)
+TEST_F(RegistryStoreDeathTest, AFailedWriteOnCloseStopsTheProcess)
 {
     ASSERT_EQ(symlink("/dev/full", REGISTRY_FILE), 0);
     HKEY key = Create("a");
@@ -263,7 +263,7 @@ TEST_F(RegistryStoreDeathTest, AWriteOutThatFailsStopsTheClose)
     EXPECT_EQ(RegCloseKey(key), 0);
 }
 
-TEST_F(RegistryStoreDeathTest, ARootIsNoOpenKey)
+TEST_F(RegistryStoreDeathTest, UsingARootAsAnOpenKeyStopsTheProcess)
 {
     EXPECT_DEATH(RegCloseKey(HKEY_LOCAL_MACHINE), DIED_FALSE);
     EXPECT_DEATH(Set(HKEY_LOCAL_MACHINE, "x", REG_SZ, "1", 2), DIED_FALSE);
@@ -302,7 +302,7 @@ TEST_F(RegistryStore, OnlyTextsAndNumbersOfFourBytesAreStored)
     EXPECT_EQ(g_Registry["HKLM/a"].dwordValues["n4_4"], 0x74786574U);
 }
 
-TEST_F(RegistryStore, ASetOfBinaryDataStoresNothingAndLeavesTheKeyClean)
+TEST_F(RegistryStore, SettingBinaryDataStoresNothingAndLeavesTheKeyClean)
 {
     const std::string text = "[HKLM/a]\n\n\n";
     WriteRegistry(text);
@@ -313,7 +313,7 @@ TEST_F(RegistryStore, ASetOfBinaryDataStoresNothingAndLeavesTheKeyClean)
     EXPECT_EQ(ReadText(REGISTRY_FILE), text);
 }
 
-TEST_F(RegistryStore, SettingAndAskingMakeTheKeysEntry)
+TEST_F(RegistryStore, SettingAndQueryingCreateTheKeyInTheMap)
 {
     const Key key(Create("a"));
     g_Registry.erase("HKLM/a");
@@ -333,7 +333,7 @@ struct QueryCase
     LSTATUS result;
     DWORD typeBehind;
     DWORD sizeBehind;
-    const char* data; // the first bytes of the buffer, NULL when it stays as it was
+    const char* data; // the first bytes of the buffer; NULL if it is unchanged
     size_t dataSize;
 };
 
@@ -378,7 +378,7 @@ TEST_F(RegistryStore, QueryTable)
     }
 }
 
-TEST_F(RegistryStore, AQueryReadsTheMapAsItStoodAtTheLastOpen)
+TEST_F(RegistryStore, AQueryReturnsTheValueLoadedByTheLastOpen)
 {
     WriteRegistry("[HKLM/a]\n\"x\"=dword:00000001\n\n[HKLM/b]\n\n");
     const Key key(Open("a"));
@@ -398,7 +398,7 @@ TEST_F(RegistryStore, AQueryReadsTheMapAsItStoodAtTheLastOpen)
 // ---------------------------------------------------------------------------------------------------------------------
 // Sub keys
 
-TEST_F(RegistryStore, EnumerationShowsDirectChildrenInByteOrder)
+TEST_F(RegistryStore, EnumerationListsDirectChildrenInByteOrder)
 {
     WriteRegistry("[HKLM/a]\n\n[HKLM/a/b]\n\n[HKLM/a/B]\n\n[HKLM/a/b/c]\n\n[HKLM/a/a]\n\n[HKLM/ab/"
                   "c]\n\n[HKLM/a b/c]\n\n");
@@ -408,7 +408,7 @@ TEST_F(RegistryStore, EnumerationShowsDirectChildrenInByteOrder)
     EXPECT_EQ(Children(HKEY_LOCAL_MACHINE), (Names{"a"}));
 }
 
-TEST_F(RegistryStore, AGrandchildAloneIsCountedAndNotEnumerated)
+TEST_F(RegistryStore, AGrandchildIsCountedButNotEnumerated)
 {
     WriteRegistry("[HKLM/a]\n\n[HKLM/a/child/grandchild]\n\n");
     const Key key(Open("a"));
@@ -416,7 +416,7 @@ TEST_F(RegistryStore, AGrandchildAloneIsCountedAndNotEnumerated)
     EXPECT_EQ(Info(key), (KeyInfo{1, 5})) << "the longest first component: child";
 }
 
-TEST_F(RegistryStore, AKeyWithoutSubKeysHasNone)
+TEST_F(RegistryStore, AKeyWithoutSubKeysEnumeratesNone)
 {
     WriteRegistry("[HKLM/a]\n\n");
     const Key key(Open("a"));
@@ -424,7 +424,7 @@ TEST_F(RegistryStore, AKeyWithoutSubKeysHasNone)
     EXPECT_EQ(Info(key), (KeyInfo{0, 0}));
 }
 
-TEST_F(RegistryStore, EitherOutputOfTheKeyInformationMayBeLeftOut)
+TEST_F(RegistryStore, EitherOutputOfTheKeyInformationIsOptional)
 {
     WriteRegistry("[HKLM/a]\n\n[HKLM/a/four]\n\n");
     const Key key(Open("a"));
@@ -439,7 +439,7 @@ TEST_F(RegistryStore, EitherOutputOfTheKeyInformationMayBeLeftOut)
     EXPECT_EQ(number, 4U);
 }
 
-TEST_F(RegistryStore, ANameNeedsRoomForItsNul)
+TEST_F(RegistryStore, AnEnumeratedNameRequiresSpaceForItsNul)
 {
     WriteRegistry("[HKLM/a]\n\n[HKLM/a/four]\n\n");
     const Key key(Open("a"));
@@ -455,7 +455,7 @@ TEST_F(RegistryStore, ANameNeedsRoomForItsNul)
     EXPECT_EQ(RegEnumKeyExA(key, 1, name, &size, nullptr, nullptr, nullptr, nullptr), 259);
 }
 
-TEST_F(RegistryStoreDeathTest, EnumerationNeedsItsOutputs)
+TEST_F(RegistryStoreDeathTest, EnumerationRequiresItsOutputs)
 {
     WriteRegistry("[HKLM/a]\n\n");
     const Key key(Open("a"));
@@ -467,7 +467,7 @@ TEST_F(RegistryStoreDeathTest, EnumerationNeedsItsOutputs)
                  "Assertion `lpcchName != NULL' failed");
 }
 
-TEST_F(RegistryStoreDeathTest, KeyInformationGivesCountAndLengthOnly)
+TEST_F(RegistryStoreDeathTest, KeyInformationSupportsCountAndLengthOnly)
 {
     WriteRegistry("[HKLM/a]\n\n");
     const Key key(Open("a"));
@@ -483,10 +483,10 @@ TEST_F(RegistryStoreDeathTest, KeyInformationGivesCountAndLengthOnly)
     for (const int which : {0, 1, 2, 3, 4, 5, 6, 7, 8, 10}) {
         EXPECT_DEATH(ask(which), DIED_FALSE) << which;
     }
-    ask(9); // none of them: answered
+    ask(9); // no unsupported output
 }
 
-TEST_F(RegistryStoreDeathTest, ValuesAreNotEnumerated)
+TEST_F(RegistryStoreDeathTest, EnumeratingValuesStopsTheProcess)
 {
     EXPECT_DEATH(RegEnumValueA(HKEY_LOCAL_MACHINE, 0, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr),
                  DIED_FALSE);

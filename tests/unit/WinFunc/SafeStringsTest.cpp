@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-// An allocation beyond all memory yields NULL under the sanitizers too.
+// Makes an allocation that is too large return NULL under the sanitizers too.
 extern "C" const char* __asan_default_options();
 extern "C" const char* __asan_default_options()
 {
@@ -23,7 +23,7 @@ extern "C" const char* __tsan_default_options()
 
 namespace {
 
-/// The whole of a destination of 16 bytes, filled with '#' before the call but for the text it starts with.
+/// A destination of 16 bytes that holds a text and its NUL, followed by '#' bytes.
 class Destination
 {
 public:
@@ -44,7 +44,7 @@ private:
     std::string m_bytes;
 };
 
-/// `text` with its escapes, filled up to the 16 bytes of a destination with what was there before.
+/// `text` padded with '#' to the 16 bytes of a destination.
 std::string Bytes(std::string text)
 {
     text.resize(16, '#');
@@ -94,14 +94,14 @@ TEST(SafeStrings, StrncpyTable)
         std::string bytes;
     };
     const Row rows[] = {
-        {16, "abc", 6, 0, Bytes("abc\0\0\0"s)},    // filled up with NULs to the count
-        {16, "abcdef", 6, 0, Bytes("abcdef"s)},    // no NUL of its own
-        {16, "abcdefghi", 6, 0, Bytes("abcdef"s)}, // cut, and no NUL either
-        {16, "abc", 0, 0, Bytes("old\0"s)},        // nothing asked, nothing written
+        {16, "abc", 6, 0, Bytes("abc\0\0\0"s)},    // padded with NULs to the count
+        {16, "abcdef", 6, 0, Bytes("abcdef"s)},    // not terminated
+        {16, "abcdefghi", 6, 0, Bytes("abcdef"s)}, // cut and not terminated
+        {16, "abc", 0, 0, Bytes("old\0"s)},        // nothing requested, nothing written
         {6, "abcdef", 6, 34, Bytes("\0ld\0"s)},    // the count alone would fill the destination
-        {6, "abcdefghi", 9, 34, Bytes("\0ld\0"s)}, // the size limits the walk
+        {6, "abcdefghi", 9, 34, Bytes("\0ld\0"s)}, // the size limits the scan
         {7, "abcdefghi", 6, 0, Bytes("abcdef"s)},  // one byte of room left
-        {4, "abc", 8, 0, Bytes("abc\0\0\0\0\0"s)}, // the fill goes by the count, not the size
+        {4, "abc", 8, 0, Bytes("abc\0\0\0\0\0"s)}, // padded to the count, not the size
         {0, "abc", 0, 34, Bytes("\0ld\0"s)},       {16, nullptr, 6, 22, Bytes("\0ld\0"s)},
     };
     for (const Row& row : rows) {
@@ -180,7 +180,7 @@ TEST(SafeStrings, StrlwrLowersUpToTheFirstNulOrTheSize)
     EXPECT_EQ(_strlwr_s(nullptr, 3), 22);
 }
 
-TEST(SafeStrings, StruprTakesAllBytesBehindANulToo)
+TEST(SafeStrings, StruprConvertsBytesAfterANulToo)
 {
     std::string text("ab\0cd`{z"s);
     EXPECT_EQ(_strupr_s(text.data(), text.size()), 0);
@@ -217,13 +217,13 @@ TEST(SafeStrings, StrnicmpTable)
         {"abc", "ABC", 3, Same},
         {"ABC", "abc", 3, Same},
         {"aBc", "AbD", 2, Same},
-        {"aBc", "AbD", 3, More}, // 'a' behind 'A' in the exact compare, which gives the result
+        {"aBc", "AbD", 3, More}, // the exact comparison gives the result: 'a' is after 'A'
         {"AbC", "aBd", 3, Less},
         {"a1", "a2", 2, Less},
         {"a2", "a1", 2, More},
         {"a ", "a\t", 2, More},
         {"a b", "A B", 3, Same},
-        {"a-b", "a+b", 3, Same}, // neither letter, digit nor white space: no compare
+        {"a-b", "a+b", 3, Same}, // neither letter, digit nor white space: not compared
         {"a-b", "axb", 3, Same},
         {"axb", "a-b", 3, More}, // the left text's byte decides
         {"abc", "abd", 0, Same},
@@ -248,7 +248,8 @@ TEST(SafeStrings, StrnicmpTable)
 
 TEST(SafeStrings, StrnicmpStaysInsideBothTexts)
 {
-    // Texts in memory blocks of just their size: the address sanitizer sees each byte read beyond.
+    // Each text has a memory block of exactly its size, so that the address sanitizer detects reads beyond
+    // it.
     std::mt19937 random(20261121);
     const std::string alphabet = "aAbB1 -\xe4";
     std::uniform_int_distribution<size_t> letter(0, alphabet.size() - 1);
@@ -269,7 +270,7 @@ TEST(SafeStrings, StrnicmpStaysInsideBothTexts)
     }
 }
 
-TEST(SafeStrings, StrspnpGivesThePositionBehindTheSpan)
+TEST(SafeStrings, StrspnpReturnsThePositionAfterTheSpan)
 {
     const char text[] = "aabbc";
     EXPECT_EQ(_strspnp(text, "ab"), text + 4);

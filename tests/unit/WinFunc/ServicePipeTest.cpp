@@ -1,4 +1,4 @@
-// The control service's socket behind the pipe name, against a scripted service.
+// The connection to the control service's socket by pipe name, with a scripted service.
 #include "StdoutCapture.h"
 #include "UnixListener.h"
 #include "WinFunc.h"
@@ -26,12 +26,12 @@
 
 namespace {
 
-socklen_t connectedSize = 0; ///< of the address that was connected to last
+socklen_t connectedSize = 0; ///< of the address of the last connect
 sockaddr_un connectedTo = {};
 
 } // namespace
 
-// The program's own definition takes the C library's place for the layer and passes the calls on.
+// This definition replaces the C library's in this program and forwards the calls.
 extern "C" int connect(int fd, const sockaddr* address, socklen_t size)
 {
     connectedSize = size;
@@ -100,7 +100,7 @@ TEST(ServicePipeTest, CarriesARequestAndItsReply)
     EXPECT_TRUE(peer.WaitForClose()) << "the connection lives as long as the handle";
 }
 
-TEST(ServicePipeTest, ConnectsToTheWholeZeroedAddress)
+TEST(ServicePipeTest, ConnectsWithAnAddressZeroedToItsEnd)
 {
     UnixListener service(socketPath);
     const HANDLE handle = Connect();
@@ -113,7 +113,7 @@ TEST(ServicePipeTest, ConnectsToTheWholeZeroedAddress)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(ServicePipeTest, AnyPipeNameReachesTheSameSocketWithAnyAccess)
+TEST(ServicePipeTest, AnyPipeNameAndAccessReachTheSameSocket)
 {
     UnixListener service(socketPath);
     const std::string longName = R"(\\.\pipe\)" + std::string(10000, 'n');
@@ -187,7 +187,7 @@ TEST(ServicePipeTest, NothingIsLoggedUpToLevelOne)
     EXPECT_EQ(console.Stop(), "");
 }
 
-TEST(ServicePipeTest, WithoutADescriptorItFailsInSilence)
+TEST(ServicePipeTest, WithoutAFreeDescriptorItFailsAndLogsNothing)
 {
     UnixListener service(socketPath);
     SetLogLevel(4);
@@ -204,7 +204,7 @@ TEST(ServicePipeTest, WithoutADescriptorItFailsInSilence)
     EXPECT_EQ(console.Stop(), "");
 }
 
-TEST(ServicePipeTest, NoDescriptorIsLost)
+TEST(ServicePipeTest, DescriptorsDoNotLeak)
 {
     const size_t before = OpenDescriptors();
     for (int i = 0; i < 20; ++i) {
@@ -218,7 +218,7 @@ TEST(ServicePipeTest, NoDescriptorIsLost)
     EXPECT_EQ(OpenDescriptors(), before + 1) << "the listener's";
 }
 
-TEST(ServicePipeTest, AConnectionNeverTakesTheNumberOfAStandardStream)
+TEST(ServicePipeTest, NeverUsesTheDescriptorOfAStandardStream)
 {
     UnixListener service(socketPath);
     for (const int stream : {0, 1, 2}) {
@@ -231,7 +231,7 @@ TEST(ServicePipeTest, AConnectionNeverTakesTheNumberOfAStandardStream)
     }
 }
 
-TEST(ServicePipeTest, AClosedServiceReadsAsTheEnd)
+TEST(ServicePipeTest, AClosedServiceReadsAsEndOfFile)
 {
     UnixListener service(socketPath);
     const HANDLE handle = Connect();
@@ -244,7 +244,7 @@ TEST(ServicePipeTest, AClosedServiceReadsAsTheEnd)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST(ServicePipeTest, AWriteToAClosedServiceFailsAndTheProcessLives)
+TEST(ServicePipeTest, WritingToAClosedServiceFailsWithoutASignal)
 {
     UnixListener service(socketPath);
     const HANDLE handle = Connect();
@@ -263,7 +263,7 @@ TEST(ServicePipeTest, AWriteToAClosedServiceFailsAndTheProcessLives)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-/// The names in a new program's list of open descriptors.
+/// The open descriptors of a new program, as printed by ls.
 std::string DescriptorsOfAChild()
 {
     std::array<int, 2> ends = {};
@@ -329,7 +329,7 @@ TEST(ServicePipeTest, ShutdownWakesABlockedReadAndKeepsTheDescriptor)
     while (!reading) {
         std::this_thread::yield();
     }
-    ObjectOf<WinFileHandle>(handle).Shutdown(); // ahead of the read or within it
+    ObjectOf<WinFileHandle>(handle).Shutdown(); // before or during the read
     reader.join();
     EXPECT_EQ(read, "");
     EXPECT_TRUE(peer.WaitForClose());
@@ -340,7 +340,7 @@ TEST(ServicePipeTest, ShutdownWakesABlockedReadAndKeepsTheDescriptor)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-// Signals without SA_RESTART, one after the other into the thread that is inside a call.
+// Signals without SA_RESTART, sent one at a time to the thread that is in a call.
 
 std::atomic<int> signals = 0;
 
@@ -349,8 +349,8 @@ void CountSignal(int)
     ++signals;
 }
 
-/// Interrupts the thread until `done` or so many times, each signal behind the delivery of the one before.
-/// The race detector delivers late: a signal is given up after a while.
+/// Interrupts the thread at most `times` times, until `done`. Sends each signal after the delivery of the
+/// previous one, or after 50 ms: the thread sanitizer delivers late.
 void Interrupt(std::thread& thread, const std::atomic<bool>& done, int times)
 {
     for (int i = 0; i < times && !done; ++i) {
@@ -374,7 +374,7 @@ protected:
     }
 };
 
-TEST_F(InterruptedCallTest, AReadGoesOn)
+TEST_F(InterruptedCallTest, ReadContinues)
 {
     UnixListener service(socketPath);
     const HANDLE handle = Connect();
@@ -393,12 +393,12 @@ TEST_F(InterruptedCallTest, AReadGoesOn)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST_F(InterruptedCallTest, AWriteGoesOn)
+TEST_F(InterruptedCallTest, WriteContinues)
 {
     UnixListener service(socketPath);
     const HANDLE handle = Connect();
     UnixPeer peer = service.Accept();
-    // Fill what the connection takes, so that one more byte has to wait.
+    // Fill the socket buffers, so that one more byte has to wait.
     const int descriptor = DescriptorOf(handle);
     const int flags = fcntl(descriptor, F_GETFL);
     ASSERT_EQ(fcntl(descriptor, F_SETFL, flags | O_NONBLOCK), 0);
@@ -429,10 +429,10 @@ TEST_F(InterruptedCallTest, AWriteGoesOn)
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
-TEST_F(InterruptedCallTest, AConnectGoesOn)
+TEST_F(InterruptedCallTest, ConnectContinues)
 {
     UnixListener service(socketPath, 0);
-    const HANDLE waiting = Connect(); // the one that a backlog of none holds
+    const HANDLE waiting = Connect(); // fills the backlog: 0 allows one waiting connection
     ASSERT_NE(waiting, INVALID_HANDLE_VALUE);
     std::atomic<bool> done = false;
     HANDLE handle = INVALID_HANDLE_VALUE;

@@ -9,8 +9,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-// Which calls of the C library Sleep is made of. No time passes here: this program's definitions take the
-// place of the library's.
+// The C library calls that Sleep makes. No time passes: this program's definitions replace the C library's.
 
 namespace {
 
@@ -31,7 +30,7 @@ Calls CallsOf(DWORD milliseconds)
 
 } // namespace
 
-// house-rule: sleeps: the definition that takes the C library's place
+// house-rule: sleeps: the definition that replaces the C library's
 extern "C" unsigned int sleep(unsigned int seconds)
 {
     calls.push_back("sleep " + std::to_string(seconds));
@@ -43,7 +42,7 @@ extern "C" unsigned int sleep(unsigned int seconds)
     return left;
 }
 
-// house-rule: sleeps: the definition that takes the C library's place
+// house-rule: sleeps: the definition that replaces the C library's
 extern "C" int usleep(useconds_t microseconds)
 {
     calls.push_back("usleep " + std::to_string(microseconds));
@@ -64,7 +63,7 @@ TEST(Sleep, ZeroYieldsTheProcessor)
     EXPECT_EQ(CallsOf(0), Calls{"sched_yield"});
 }
 
-TEST(Sleep, WholeSecondsThenTheRest)
+TEST(Sleep, SleepsWholeSecondsThenTheRest)
 {
     EXPECT_EQ(CallsOf(3250), (Calls{"sleep 3", "usleep 250000"}));
     EXPECT_EQ(CallsOf(1001), (Calls{"sleep 1", "usleep 1000"}));
@@ -73,7 +72,7 @@ TEST(Sleep, WholeSecondsThenTheRest)
     EXPECT_EQ(CallsOf(INFINITE), (Calls{"sleep 4294967", "usleep 295000"}));
 }
 
-TEST(Sleep, GoesOnWithWhatASignalLeftOver)
+TEST(Sleep, ContinuesWithTheTimeThatASignalLeft)
 {
     leftOver = {4, 1};
     EXPECT_EQ(CallsOf(5500), (Calls{"sleep 5", "sleep 4", "sleep 1", "usleep 500000"}));

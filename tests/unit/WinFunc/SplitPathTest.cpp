@@ -26,7 +26,7 @@ std::ostream& operator<<(std::ostream& out, const Parts& parts)
                << parts.ext << "]";
 }
 
-/// The buffers are of just these sizes, and each is all NULs behind its text.
+/// Uses buffers of exactly these sizes and expects only NULs after each text.
 Parts Split(const std::string& path, size_t driveSize, size_t dirSize, size_t nameSize, size_t extSize)
 {
     std::vector<char> buffers[4] = {std::vector<char>(driveSize, '#'), std::vector<char>(dirSize, '#'),
@@ -70,7 +70,7 @@ TEST(SplitPath, Table)
         {"opt/folder/name", {0, "", "/folder/", "name", ""}}, // from the first slash on
         {"opt/name", {0, "", "/", "name", ""}},
         {"a.tar.gz", {0, "", "", "a.tar", ".gz"}},
-        {"/a.b/name", {0, "", "/a.b/", "name", ""}}, // a dot in the folder is no extension
+        {"/a.b/name", {0, "", "/a.b/", "name", ""}}, // a dot in the folder starts no extension
         {".hidden", {0, "", "", "", ".hidden"}},
         {"name.", {0, "", "", "name", "."}},
         {"C:/folder/name.ext", {0, "C:", "/folder/", "name", ".ext"}},
@@ -78,7 +78,7 @@ TEST(SplitPath, Table)
         {"/a/b:c", {0, "b:", "/a/", "b:c", ""}},
         {"x:y:z", {0, "x:", "", "x:y:z", ""}},
         {":name", {0, "", "", ":name", ""}},
-        {"\\folder\\name.ext", {0, "", "", "\\folder\\name", ".ext"}}, // no separator
+        {"\\folder\\name.ext", {0, "", "", "\\folder\\name", ".ext"}}, // not a separator
         {"//a//b", {0, "", "//a//", "b", ""}},
     };
     for (const Row& row : rows) {
@@ -86,7 +86,7 @@ TEST(SplitPath, Table)
     }
 }
 
-TEST(SplitPath, WhatDoesNotFitStaysEmptyWithoutAnError)
+TEST(SplitPath, PartsThatDoNotFitStayEmptyWithoutAnError)
 {
     const std::string path = "C:/dir/name.ext";
     EXPECT_EQ(Split(path, 3, 6, 5, 5), (Parts{0, "C:", "/dir/", "name", ".ext"}));
@@ -97,7 +97,7 @@ TEST(SplitPath, WhatDoesNotFitStaysEmptyWithoutAnError)
     EXPECT_EQ(Split(path, 1, 1, 1, 1), (Parts{0, "", "", "", ""}));
 }
 
-TEST(SplitPath, BadArgumentsGive22)
+TEST(SplitPath, BadArgumentsReturn22)
 {
     char buffer[16] = "old";
     EXPECT_EQ(_splitpath_s(nullptr, buffer, 16, buffer, 16, buffer, 16, buffer, 16), 22);
@@ -122,7 +122,7 @@ TEST(SplitPath, BadArgumentsGive22)
     EXPECT_STREQ(buffer, "old");
 }
 
-TEST(SplitPath, OutputsThatAreNotWantedAreSkipped)
+TEST(SplitPath, OmittedOutputsAreSkipped)
 {
     const char* const expected[] = {"C:", "/dir/", "name", ".ext"};
     for (int wanted = 0; wanted < 4; ++wanted) {
@@ -139,7 +139,7 @@ TEST(SplitPath, OutputsThatAreNotWantedAreSkipped)
     EXPECT_EQ(_splitpath_s("C:/dir/name.ext", nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0), 0);
 }
 
-TEST(SplitPath, AnyPathInAnySizes)
+TEST(SplitPath, RandomPathsIntoBuffersOfRandomSizes)
 {
     std::mt19937 random(5);
     const std::string alphabet = "a./:\\\xff";

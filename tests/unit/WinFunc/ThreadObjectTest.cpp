@@ -17,7 +17,7 @@ static_assert(WM_QUIT == 18);
 
 namespace {
 
-/// Notes each message that it is given, and answers as told.
+/// Records each message and returns `answer`.
 class NotingThread final : public CWinThread
 {
 public:
@@ -44,7 +44,7 @@ class BareApp final : public CWinApp
 {
 };
 
-/// Where a virtual operation stands in its class's table, counted from 0.
+/// The index of a virtual function in the table of its class, from 0.
 template <class MEMBER>
 size_t SlotOf(MEMBER member)
 {
@@ -55,13 +55,13 @@ size_t SlotOf(MEMBER member)
 
 } // namespace
 
-TEST(WinThread, SlotsInOrder)
+TEST(WinThread, VirtualFunctionsHaveFixedSlots)
 {
     EXPECT_EQ(SlotOf(&CWinThread::ExitInstance), 0U);
     EXPECT_EQ(SlotOf(&CWinThread::PreTranslateMessage), 1U);
 }
 
-TEST(WinThread, PostedMessagesQueueUp)
+TEST(WinThread, PostedMessagesAreQueued)
 {
     NotingThread thread;
     EXPECT_EQ(thread.PostThreadMessage(5, 6, -7), TRUE);
@@ -75,9 +75,9 @@ TEST(WinThread, PostedMessagesQueueUp)
     EXPECT_EQ(thread.m_messages[1].wParam, UINTPTR_MAX);
 }
 
-TEST(WinThread, PumpHandlesOneMessageACall)
+TEST(WinThread, PumpHandlesOneMessagePerCall)
 {
-    for (const BOOL answer : {FALSE, TRUE}) { // which nobody looks at
+    for (const BOOL answer : {FALSE, TRUE}) { // the answer is ignored
         NotingThread thread;
         thread.answer = answer;
         EXPECT_TRUE(thread.MessagePump()); // empty
@@ -120,7 +120,7 @@ TEST(WinThread, QuitStaysAtTheHead)
     EXPECT_FALSE(thread.m_bQuit); // nothing sets it
 }
 
-TEST(WinThread, QuitMessageDropsTheExitCode)
+TEST(WinThread, QuitMessageIgnoresTheExitCode)
 {
     SetLogLevel(3);
     NotingThread thread;
@@ -154,7 +154,7 @@ TEST(WinThread, BaseVersionsStopTheProcess)
     EXPECT_DEATH(thread.MessagePump(), "Assertion `0' failed");
 }
 
-TEST(WinApp, NoneExistsInThisSystem)
+TEST(WinApp, NoObjectExistsInThisSystem)
 {
     EXPECT_EQ(CWinApp::s_pApp, nullptr);
     EXPECT_EQ(CWinApp::GetApp(), nullptr);
@@ -162,7 +162,7 @@ TEST(WinApp, NoneExistsInThisSystem)
     EXPECT_EQ(AfxGetInstanceHandle(), nullptr);
 }
 
-TEST(WinApp, AnObjectWouldBeTheOne)
+TEST(WinApp, GetAppReturnsAConstructedObject)
 {
     BareApp app;
     EXPECT_EQ(AfxGetApp(), &app);
@@ -171,7 +171,7 @@ TEST(WinApp, AnObjectWouldBeTheOne)
     CWinApp::s_pApp = nullptr;
 }
 
-TEST(Exception, OperationsAreTrivialAndStandBehindTheDestructor)
+TEST(Exception, OperationsDoNothingAndFollowTheDestructorInTheTable)
 {
     static_assert(std::has_virtual_destructor_v<CException>);
     EXPECT_EQ(SlotOf(&CException::Delete), 2U);

@@ -123,7 +123,7 @@ TEST(Time, TickCountIsTheMonotonicClockIn32Bits)
     EXPECT_LE(ticks - static_cast<DWORD>(before), static_cast<DWORD>(after - before));
 }
 
-TEST(Time, SleepLastsItsTime)
+TEST(Time, SleepLastsAsLongAsRequested)
 {
     for (const DWORD asked : {0U, 1U, 50U, 1020U}) {
         const int64_t before = MonotonicMilliseconds();
@@ -134,7 +134,7 @@ TEST(Time, SleepLastsItsTime)
     }
 }
 
-TEST(Time, SleepGoesOnAfterASignal)
+TEST(Time, SleepContinuesAfterASignal)
 {
     struct sigaction action{};
     action.sa_handler = [](int) {};
@@ -166,7 +166,7 @@ TEST(Time, CompareFileTimeTable)
     }
 }
 
-TEST(Time, FileTimeConversionsLeaveTheirOutputsAlone)
+TEST(Time, FileTimeConversionsDoNotChangeTheirOutputs)
 {
     FILETIME fileTime{11, 22};
     SYSTEMTIME systemTime{1, 2, 3, 4, 5, 6, 7, 8};
@@ -181,7 +181,7 @@ TEST(Time, FileTimeConversionsLeaveTheirOutputsAlone)
     EXPECT_EQ(fileTime.dwHighDateTime, 22U);
 }
 
-TEST(Time, TheZonesBiasIsTheDifferenceOfTheHoursOfTheDay)
+TEST(Time, TimeZoneBiasIsTheDifferenceOfTheHoursOfTheDay)
 {
     struct Row
     {
@@ -194,7 +194,7 @@ TEST(Time, TheZonesBiasIsTheDifferenceOfTheHoursOfTheDay)
         UseTimeZone(row.zone);
         TIME_ZONE_INFORMATION information;
         int64_t minute = 0;
-        do { // once more when the minute changed meanwhile
+        do { // repeat if the minute changed meanwhile
             minute = NowInMilliseconds() / 60000;
             memset(&information, 0xFF, sizeof information);
             EXPECT_EQ(GetTimeZoneInformation(&information), 0U);
@@ -209,9 +209,9 @@ TEST(Time, TheZonesBiasIsTheDifferenceOfTheHoursOfTheDay)
     }
 }
 
-TEST(Time, ClocksMayBeReadByManyThreads)
+TEST(Time, ManyThreadsMayReadTheClocks)
 {
-    unsetenv("TZ"); // the C library then takes up the system's zone anew at each look
+    unsetenv("TZ"); // the C library then reads the system's time zone on each call
     std::thread threads[4];
     for (std::thread& thread : threads) {
         thread = std::thread([] {

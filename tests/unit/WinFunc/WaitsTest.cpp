@@ -1,4 +1,4 @@
-// Waiting for one of several objects, or for all of them.
+// Waits for one of several objects, or for all of them.
 #include "CountedSleep.h"
 #include "WinFunc.h"
 
@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 constexpr DWORD failed = 0xFFFFFFFF;
 
-/// Answers by script, the last answer again and again, and notes the timeouts it was given.
+/// Returns scripted results and then repeats the last one. Records the timeouts of its calls.
 class Scripted : public virtual WinWaitableHandle
 {
 public:
@@ -38,7 +38,7 @@ public:
     }
 
     std::vector<DWORD> timeouts;
-    DWORD takes = 0; ///< no answer before so many milliseconds of the object's life are over
+    DWORD takes = 0; ///< no call returns earlier than this after construction, in milliseconds
 
 private:
     std::deque<DWORD> m_answers;
@@ -67,7 +67,7 @@ protected:
 using WaitAnyTest = WaitsTest;
 using WaitAllTest = WaitsTest;
 
-TEST_F(WaitAnyTest, OfTwoSetEventsTheFirstWins)
+TEST_F(WaitAnyTest, TheFirstOfTwoSetEventsWins)
 {
     WinEvent one(false, true);
     WinEvent two(false, true);
@@ -79,7 +79,7 @@ TEST_F(WaitAnyTest, OfTwoSetEventsTheFirstWins)
     EXPECT_TRUE(two.signal);
 }
 
-TEST_F(WaitAnyTest, OfNoHandlesNoneIsSignalled)
+TEST_F(WaitAnyTest, AnEmptyListTimesOut)
 {
     EXPECT_EQ(WaitForMultipleObjects(0, nullptr, FALSE, 0), 258u);
 }
@@ -100,7 +100,7 @@ TEST_F(WaitAnyTest, AZeroTimeoutPollsEachOnceInOrder)
     EXPECT_EQ(CountedSleep::The().Count(), 0u);
 }
 
-TEST_F(WaitAnyTest, TheFirstHandleCarriesTheTiming)
+TEST_F(WaitAnyTest, TheTimeoutIsSpentOnTheFirstHandleInStepsOf10)
 {
     struct Case
     {
@@ -118,7 +118,7 @@ TEST_F(WaitAnyTest, TheFirstHandleCarriesTheTiming)
     }
 }
 
-TEST_F(WaitAnyTest, TheLongestTimeoutsAreNotUpAtOnce)
+TEST_F(WaitAnyTest, TheLongestTimeoutsDoNotExpireAtOnce)
 {
     for (const DWORD timeout : {DWORD{0x80000000}, DWORD{0xFFFFFFFE}, INFINITE}) {
         Scripted first({258, 258, 0});
@@ -127,14 +127,14 @@ TEST_F(WaitAnyTest, TheLongestTimeoutsAreNotUpAtOnce)
     }
 }
 
-TEST_F(WaitAnyTest, AnEventInFrontSleepsTenFineStepsARound)
+TEST_F(WaitAnyTest, AnEventInFrontSleepsTenFineStepsPerRound)
 {
     WinEvent first(false, false);
     EXPECT_EQ(WaitAny({ToHandle(&first)}, 25), 258u);
     EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 30}}));
 }
 
-TEST_F(WaitAnyTest, TheFirstWinsWithinItsTurnAndTheLowestIndexAmongTheOthers)
+TEST_F(WaitAnyTest, TheFirstHandleIsCheckedFirstThenTheLowestIndexWins)
 {
     Scripted first({258, 0});
     Scripted second({258});
@@ -148,7 +148,7 @@ TEST_F(WaitAnyTest, TheFirstWinsWithinItsTurnAndTheLowestIndexAmongTheOthers)
     EXPECT_THAT(later.timeouts, ElementsAre(0u, 0u));
 }
 
-TEST_F(WaitAnyTest, TheOthersArePolledOnlyBehindATimeoutOfTheFirst)
+TEST_F(WaitAnyTest, TheOthersArePolledOnlyAfterATimeoutOfTheFirst)
 {
     for (const DWORD result : {WAIT_ABANDONED, failed}) {
         Scripted first({result, result, 258});
@@ -163,7 +163,7 @@ TEST_F(WaitAnyTest, TheOthersArePolledOnlyBehindATimeoutOfTheFirst)
     EXPECT_EQ(first.timeouts.size(), 3u);
 }
 
-TEST_F(WaitAnyTest, AMutexIsTakenInFrontAloneAndNeverBehind)
+TEST_F(WaitAnyTest, AMutexIsTakenOnlyAsTheFirstHandle)
 {
     WinEvent idle(false, false);
     WinMutex mutex(false);
@@ -177,7 +177,7 @@ TEST_F(WaitAnyTest, AWaitThatTimesOutConsumesNothing)
     WinEvent first(false, false);
     WinEvent second(false, false);
     CountedSleep::The().Start([&](uint64_t number) {
-        if (number == 30) { // in the last sleep of the last round: the poll behind it sees this
+        if (number == 30) { // in the last sleep of the last round: the next poll sees the event
             second.SetEvent();
         }
     });
@@ -189,7 +189,7 @@ TEST_F(WaitAnyTest, AWaitThatTimesOutConsumesNothing)
     EXPECT_EQ(WaitAny({ToHandle(&first), ToHandle(&second)}, 0), 1u);
 }
 
-TEST_F(WaitAnyTest, ThereIsNoUpperLimitOfHandles)
+TEST_F(WaitAnyTest, TheNumberOfHandlesHasNoUpperLimit)
 {
     constexpr size_t count = 5000;
     std::deque<WinEvent> events;
@@ -202,14 +202,14 @@ TEST_F(WaitAnyTest, ThereIsNoUpperLimitOfHandles)
     EXPECT_EQ(WaitAny(handles, 0), 258u);
 }
 
-TEST_F(WaitAllTest, OfNoHandlesAllAreSignalled)
+TEST_F(WaitAllTest, AnEmptyListIsSignalled)
 {
     for (const DWORD timeout : {DWORD{0}, DWORD{25}, INFINITE}) {
         EXPECT_EQ(WaitForMultipleObjects(0, nullptr, TRUE, timeout), 0u);
     }
 }
 
-TEST_F(WaitAllTest, ZeroAndInfiniteGoToEachHandleAsTheyAre)
+TEST_F(WaitAllTest, ZeroAndInfiniteArePassedToEachHandle)
 {
     for (const DWORD timeout : {DWORD{0}, INFINITE}) {
         Scripted a({0});
@@ -247,7 +247,7 @@ TEST_F(WaitAllTest, AFiniteTimeoutIsSharedByTheHandles)
     EXPECT_GE(third.timeouts[0], timeout - passed);
 }
 
-TEST_F(WaitAllTest, TimeThatIsUpIsATimeoutAlthoughTheHandleWasSignalled)
+TEST_F(WaitAllTest, AnExpiredTimeoutOverridesASignalledHandle)
 {
     Scripted slow({0});
     Scripted unasked({0});
@@ -283,7 +283,7 @@ TEST_F(WaitAllTest, AnEventTakenEarlyStaysConsumedWhenALaterOneTimesOut)
     }
 }
 
-TEST_F(WaitAllTest, AMutexIsTakenByAnyTimeoutButZero)
+TEST_F(WaitAllTest, AMutexIsTakenWithAnyTimeoutExceptZero)
 {
     WinEvent set(true, true);
     WinMutex mutex(false);
@@ -292,7 +292,7 @@ TEST_F(WaitAllTest, AMutexIsTakenByAnyTimeoutButZero)
     EXPECT_FALSE(mutex.mtx.try_lock());
 }
 
-TEST_F(WaitsTest, AnyValueButZeroMeansAll)
+TEST_F(WaitsTest, AnyNonzeroValueMeansAll)
 {
     WinEvent set(true, true);
     WinEvent unset(true, false);
@@ -301,7 +301,7 @@ TEST_F(WaitsTest, AnyValueButZeroMeansAll)
     EXPECT_EQ(WaitForMultipleObjects(2, handles, FALSE, 0), 0u);
 }
 
-TEST_F(WaitsTest, AHandleThatIsNoObjectStopsTheProcess)
+TEST_F(WaitsTest, AnInvalidHandleStopsTheProcess)
 {
     WinEvent unset(true, false);
     for (const HANDLE none : {HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
