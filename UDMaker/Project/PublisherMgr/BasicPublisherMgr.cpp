@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The retries that the service goes by in the record's mode.
+/// The retry count that the service applies in the record's mode.
 UINT RetryCountInForce(const PUBLISHERINFO& sPublisherInfo)
 {
     if (sPublisherInfo.uiPublishMode != PUBMGR_PUBLISHMODE_READ) {
@@ -62,7 +62,7 @@ bool CBasicPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHER
     if (szPublisherRegistID[0] == '\0') {
         return false;
     }
-    const CString strRegistID = szPublisherRegistID; // may be the record's own text
+    const CString strRegistID = szPublisherRegistID; // may point into the record
     psPublisherInfo->Clear();
     const SettingFile file = FileOf(strRegistID.c_str());
     const SettingRecord record = file.Read();

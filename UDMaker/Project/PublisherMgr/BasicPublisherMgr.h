@@ -1,5 +1,5 @@
-// Publishers attached to this computer: the setting file for their settings, the control service for
-// everything that the device knows.
+// Publishers attached to this computer. Settings come from the setting file, device data from the control
+// service.
 #pragma once
 
 #include "PublisherMgrIF.h"
@@ -12,9 +12,9 @@
 
 struct PublisherModel;
 
-/// Serves any local model; the model classes override what differs. Holds no publisher data: each call reads
-/// the file or asks the service anew, over a connection of its own. An exchange blocks until the service
-/// answers or closes.
+/// Serves any local model; the model classes override what differs. Caches no publisher data: each call reads
+/// the file or queries the service over its own connection. An exchange blocks until the service replies or
+/// closes the connection.
 class CBasicPublisherMgr : public IPublisherMgr
 {
 public:
@@ -80,7 +80,7 @@ public:
     bool IsRunningCommunicateService() override;
     bool SetServiceUpdateErrorDiscContinueCount(long* pResultCode, LPCTSTR szPublisherRegistID) override;
 
-    // A local publisher takes its jobs from the job folder: these do nothing.
+    // A local publisher reads its jobs from the job folder, so these do nothing.
 
     bool StartConnection(LPCTSTR szPublisherRegistID, DWORD* pdwHandle, DWORD* pdwResultCode) override;
     bool EndConnection(DWORD dwHandle) override;
@@ -92,14 +92,14 @@ public:
     bool CommitJob(DWORD dwHandle, int nServerJobID, DWORD* pdwResultCode) override;
     bool SendDiscInfo(DWORD dwHandle, int nServerJobID, const BYTE* pData, DWORD dwSize,
                       DWORD* pdwResultCode) override;
-    /// Cancels by the job id alone.
+    /// Cancels by job id only.
     bool CancelJob(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, DWORD dwHandle, int nServerJobID,
                    long* pResultCode) override;
     CString GetHostName(LPCTSTR szPublisherRegistID) override;
     CString GetDeviceInfo(LPCTSTR szPublisherRegistID, DWORD dwInfoType, DWORD* pdwResultCode) override;
     int GetCommunicateJobCount(LPCTSTR szPublisherRegistID) override;
 
-    // What a model can do, by its row of the table
+    // Capabilities of the model, from its row of the table
 
     virtual bool IsSupportPublishMode(UINT uiPublishMode);
     virtual bool IsSupportDiscType(UINT uiDiscType);
@@ -107,14 +107,14 @@ public:
     virtual bool IsSupportStacker4();
 
     bool SetServiceJobMove(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, long* pResultCode);
-    /// ARV_PC_PNUM_PRECISION_*; low for a service that does not know. 0xFFFFFFFF on failure.
+    /// ARV_PC_PNUM_PRECISION_*; low if the service does not support the query. 0xFFFFFFFF on failure.
     ULONG GetServiceAbilityPnumPrecision(LPCTSTR szPublisherRegistID, long* pResultCode);
-    /// Brings the stackers in line with the mode. `bChanged` is set on a change and never cleared.
+    /// Adjusts the stackers to the mode. Sets `bChanged` on a change and never clears it.
     bool UpdatePublishInfoFromPubMode(PUBLISHERINFO* pstPubInfo, bool& bChanged);
     /// The first 1.25 percent of a part's life do not count.
     unsigned long CalcDriveMaintenanceValueCorrection(unsigned long ulUsedValue, unsigned long ulLifeValue);
 
-    // The exchange with the service
+    // Exchange with the service
 
     struct ServiceCommand
     {
@@ -124,50 +124,50 @@ public:
         ULONG ulSubParam;
     };
 
-    /// One command; see below.
+    /// Runs one command; see below.
     int GetServiceResponse(ULONG ulControlID, LPCTSTR pPublisherRegistID, LPCTSTR pJobID, ULONG ulSubParam,
                            void** ppResponse, ULONG* pResponseLength);
-    /// Runs the commands in turn, a connection each. 0, an ERR_SERVICE_* value, or the code of the service.
-    /// On 0 each `ppResponse[i]` is null for an empty payload, or an array of char that the caller frees with
-    /// delete[]. On any other result all are null.
+    /// Runs the commands in order, each on its own connection. Returns 0, an ERR_SERVICE_* value, or the
+    /// result code of the service. On 0, each `ppResponse[i]` is null for an empty payload, or an array of
+    /// char that the caller frees with delete[]. On any other result all are null.
     int GetServiceResponse(ServiceCommand* pCommand, int nCommandCnt, void** ppResponse,
                            ULONG* pResponseLength);
     /// The caller closes the handle. INVALID_HANDLE_VALUE on failure.
     HANDLE OpenServicePipe(int* pResultCode);
     bool WriteServiceCommand(HANDLE hPipe, void* pImg, ULONG ulImgLength, int* pResultCode);
-    /// Takes exactly so many bytes, in one read.
+    /// Reads exactly `ulResponseLength` bytes in one read.
     bool ReadServiceResponse(HANDLE hPipe, void* pResponse, ULONG ulResponseLength, int* pResultCode);
-    /// Ends the exchange that was begun last, from another thread; it then fails with -1.
+    /// Called from another thread: aborts the exchange that started last, which then fails with -1.
     bool CancelCommunicateService();
 
 protected:
     struct ServicePayload
     {
-        std::unique_ptr<char[]> pData; ///< null when there is none
+        std::unique_ptr<char[]> pData; ///< null if empty
         ULONG ulLength = 0;
     };
 
-    /// One exchange. The result goes to `*pResultCode` too, when set.
+    /// Runs one exchange. Also stores the result in `*pResultCode`, which may be null.
     int AskService(ULONG ulControlID, LPCTSTR szPublisherRegistID, LPCTSTR pJobID, ULONG ulSubParam,
                    ServicePayload& payload, long* pResultCode);
     struct RecordQuery
     {
         ULONG ulControlID;
         void* pAnswer;
-        ULONG ulSize; ///< bytes that the answer must have
+        ULONG ulSize; ///< required size of the reply, in bytes
     };
 
-    /// Asks all in one go. Either all answers are filled or none is.
+    /// Runs all queries. Fills either all answers or none.
     bool QueryRecords(LPCTSTR szPublisherRegistID, std::initializer_list<RecordQuery> queries,
                       long* pResultCode);
-    /// One question whose answer is a payload of exactly `ulSize` bytes.
+    /// Runs one query. Fails unless the payload has exactly `ulSize` bytes.
     bool QueryService(ULONG ulControlID, LPCTSTR szPublisherRegistID, void* pAnswer, ULONG ulSize,
                       long* pResultCode);
-    /// The same, where a service that answers in another size cannot be.
+    /// As QueryService, but a successful reply of another size stops the process.
     bool QueryServiceChecked(ULONG ulControlID, LPCTSTR szPublisherRegistID, void* pAnswer, ULONG ulSize,
                              long* pResultCode);
 
-    /// What auto loader and printer tell, for models with and without drives.
+    /// Fills in the versions of auto loader and printer, for models with and without drives.
     static void SetCommonVersions(PUBLISHERVERSIONINFO& sVersionInfo, LPCTSTR szPublisherRegistID,
                                   const ST_PC_ALD_INFO& ald, const ST_PC_PRT_INFO& printer);
 
@@ -175,7 +175,7 @@ protected:
     /// The settings that models with and without drives share.
     static void ReadCommonSettings(const SettingRecord& record, LPCTSTR szPublisherRegistID,
                                    PUBLISHERINFO& info);
-    /// Mode and output stackers alone; the rest of the file stays.
+    /// Writes only the mode and the output stackers; the rest of the file stays.
     void WriteModeKeys(LPCTSTR szPublisherRegistID, const PUBLISHERINFO& sPublisherInfo) const;
 
 private:
@@ -194,8 +194,8 @@ private:
     void PublishPipe(HANDLE hPipe);
     void ClosePipe(HANDLE hPipe);
 
-    HANDLE m_hPipeConnection = nullptr; // of the exchange begun last, while it runs
-    OVERLAPPED m_olAnsync{};            // passed to the transfers, which end inside the call
+    HANDLE m_hPipeConnection = nullptr; // of the exchange that started last, while it runs
+    OVERLAPPED m_olAnsync{};            // passed to the transfers, which complete inside the call
     bool m_bConnectPublisherIDMode;
     CString m_strSettingFolder;
     std::mutex m_mtxPipeConnection; // guards m_hPipeConnection: a handle in it is not yet closed

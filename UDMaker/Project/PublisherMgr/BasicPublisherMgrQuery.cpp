@@ -1,4 +1,4 @@
-// What a local publisher is asked and told through the control service.
+// Queries and commands to a local publisher through the control service.
 #include "BasicPublisherMgr.h"
 
 #include <cstring>
@@ -217,7 +217,7 @@ ULONG CBasicPublisherMgr::GetServiceAbilityPnumPrecision(LPCTSTR szPublisherRegi
     ULONG ulPrecision = static_cast<ULONG>(-1);
     if (!QueryService(ARV_PC_GET_ABILITY_PNUM_PRECISION, szPublisherRegistID, &ulPrecision,
                       sizeof ulPrecision, &lResult) &&
-        lResult == ARV_PC_ERROR_FAILURE) { // a service from before this control
+        lResult == ARV_PC_ERROR_FAILURE) { // an older service without this control
         lResult = 0;
         ulPrecision = ARV_PC_PNUM_PRECISION_LOW;
     }

@@ -1,5 +1,5 @@
-// The exchange with the control service. All transfers end inside their call on this platform; the branches
-// for pending transfers and a busy pipe belong to the client's contract with the layer below and stay.
+// The exchange with the control service. On this platform all transfers complete inside their call. The
+// branches for pending transfers and a busy pipe are part of the contract with the layer below and stay.
 #include "BasicPublisherMgr.h"
 
 #include "WinFunc.h"
@@ -14,7 +14,7 @@ constexpr int RETRY_OPEN_CNT = 40;
 constexpr DWORD RETRY_OPEN_WAIT = 50;             // milliseconds
 constexpr DWORD TIMEOUT_WRITECOMMAND = 1000;      // milliseconds
 constexpr DWORD TIMEOUT_READCOMMAND = 1000;       // milliseconds
-constexpr unsigned long longestRead = 0x7FFFFFFF; // bytes that one ReadFile can ask for
+constexpr unsigned long longestRead = 0x7FFFFFFF; // maximum bytes of one ReadFile
 
 void FreeResponses(void** ppResponse, ULONG* pResponseLength, int nCount)
 {
@@ -157,12 +157,12 @@ int CBasicPublisherMgr::GetServiceResponse(ServiceCommand* pCommand, int nComman
     return nResult;
 }
 
-/// One command on its own connection. A payload that was begun is left to the caller, whatever the result.
+/// Runs one command on an open connection. The caller frees the payload, even after a failure.
 bool CBasicPublisherMgr::Exchange(HANDLE hPipe, const ServiceCommand& command, void** ppResponse,
                                   ULONG* pResponseLength, int* pResultCode)
 {
     ST_PC_SERVICE_CONTROL request;
-    std::memset(&request, 0, sizeof request); // the padding goes out too
+    std::memset(&request, 0, sizeof request); // the padding is sent too
     request.ulControlID = command.ulControlID;
     if (command.pPublisherRegistID != nullptr && m_bConnectPublisherIDMode) {
         strncpy_s(request.acPublisherName, sizeof request.acPublisherName, command.pPublisherRegistID,
@@ -190,7 +190,7 @@ bool CBasicPublisherMgr::Exchange(HANDLE hPipe, const ServiceCommand& command, v
         return true;
     }
 
-    // The length is the peer's word: one that no single read delivers is refused unallocated.
+    // The length is untrusted: reject a length above the limit of one read before allocating.
     char* pPayload =
         header.ulDataLength <= longestRead ? new (std::nothrow) char[header.ulDataLength] : nullptr;
     if (pPayload == nullptr) {
@@ -227,7 +227,7 @@ bool CBasicPublisherMgr::CancelCommunicateService()
 {
     const std::lock_guard lock(m_mtxPipeConnection);
     if (m_hPipeConnection != nullptr) {
-        // Its exchange still uses the descriptor and closes it: ending the stream is what wakes that thread.
+        // The exchange still uses the descriptor and closes it. Shutting down the stream wakes its thread.
         auto* pPipe = dynamic_cast<WinFileHandle*>(static_cast<IWinHandle*>(m_hPipeConnection));
         ASSERT(pPipe != nullptr);
         pPipe->Shutdown();

@@ -1,4 +1,4 @@
-// The registry key of one device of this computer, written by the control service.
+// The registry key of one device of this computer. The control service writes it.
 #pragma once
 
 #include "PubMgrConst.h"

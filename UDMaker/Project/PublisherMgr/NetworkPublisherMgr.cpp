@@ -1,4 +1,4 @@
-// What is stored of a network publisher, the way to its server, and the settings that the server tells.
+// The setting file of a network publisher, connections to its server, and the settings on the server.
 #include "NetworkPublisherMgr.h"
 
 #include "NW_Com_Lib.h"
@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr DWORD APP_VERSION = 1; // of the callers of the library
+constexpr DWORD APP_VERSION = 1; // version of the application, passed to the library
 constexpr UINT NOT_KNOWN = 0xFFFFFFFF;
 constexpr UINT COPIES_MAX = 1000;
-constexpr UINT COPIES_MAX_SECURE = 50; // in the two modes with an operator beside the machine
+constexpr UINT COPIES_MAX_SECURE = 50; // in the two modes that require an operator at the device
 
 } // namespace
 
@@ -115,7 +115,7 @@ CString CNetworkPublisherMgr::GetHostNameFull(LPCTSTR szPublisherRegistID)
 CString CNetworkPublisherMgr::GetHostName(LPCTSTR szPublisherRegistID)
 {
     const CString strAddress = GetHostNameFull(szPublisherRegistID);
-    return strAddress.substr(strAddress.rfind('\\') + 1); // no backslash: all of it
+    return strAddress.substr(strAddress.rfind('\\') + 1); // the whole address if it has no backslash
 }
 
 bool CNetworkPublisherMgr::IsPossibleCommunicateService(long*)
@@ -134,7 +134,7 @@ bool CNetworkPublisherMgr::IsPossibleCommunicate(LPCTSTR szPublisherRegistID, lo
         return false;
     }
     DWORD dwHandle = 0;
-    DWORD dwCode = NCL_SUCCESS; // stays so when there is no address to go to
+    DWORD dwCode = NCL_SUCCESS; // unchanged if there is no address
     const bool bConnected = StartConnection(szPublisherRegistID, &dwHandle, &dwCode);
     Put(pResultCode, dwCode);
     if (bConnected) {
@@ -159,7 +159,7 @@ bool CNetworkPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISH
     if (szPublisherRegistID[0] == '\0') {
         return false;
     }
-    const CString strRegistID = szPublisherRegistID; // may be the record's own text
+    const CString strRegistID = szPublisherRegistID; // may point into the record
     PUBLISHERINFO& info = *psPublisherInfo;
     info.Clear();
     info.uiPublisherType = PUBMGR_CONNECTTYPE_NETWORK;
@@ -183,7 +183,7 @@ bool CNetworkPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISH
     return bConnectionError || ReadSettingsOfServer(info);
 }
 
-/// What is read before a failure stays in the record.
+/// Values read before a failure stay in the record.
 bool CNetworkPublisherMgr::ReadSettingsOfServer(PUBLISHERINFO& info)
 {
     const Connection connection(*this, info.strPublisherRegistID.c_str());
@@ -213,7 +213,7 @@ bool CNetworkPublisherMgr::ReadSettingsOfServer(PUBLISHERINFO& info)
     info.uiStacker2DiscType = converted(NCL_DIT_STACKER2_DISC_TYPE);
 
     const DWORD dwCode = ask(NCL_DIT_STACKER3_DISC_TYPE);
-    if (dwCode == NCL_ERR_SERVER_OTHER) { // an older server has no such setting: the mode decides
+    if (dwCode == NCL_ERR_SERVER_OTHER) { // older servers lack this setting: derive it from the mode
         const bool bBatch = info.uiPublishMode == PUBMGR_PUBLISHMODE_BATCH;
         dwValue = bBatch ? NCL_STACKER_DISCHARGE : NCL_STACKER_DONTUSE;
     } else if (dwCode != NCL_SUCCESS) {
@@ -254,8 +254,8 @@ bool CNetworkPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
         ASSERT(GetLastError() == ERROR_ACCESS_DENIED);
         return false;
     }
-    // The suite's services read it too; that some of them cannot is no failure of the writing. A link that
-    // was put in its place meanwhile gives its target no rights.
+    // The services of the suite read the file too. A failure to change the mode is not a failure of the
+    // write. AT_SYMLINK_NOFOLLOW: if a symbolic link has replaced the file, its target is not changed.
     [[maybe_unused]] const int result =
         fchmodat(AT_FDCWD, file.Path().c_str(), S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH, AT_SYMLINK_NOFOLLOW);
     return true;

@@ -1,5 +1,5 @@
-// Publishers that a publisher server on the network stands before: the setting file for their names and their
-// address, the server for everything else.
+// Network publishers, each reached through its own server. Name and address come from the setting file,
+// everything else from the server.
 #pragma once
 
 #include "NW_Com_LibConst.h"
@@ -8,12 +8,12 @@
 
 #include <functional>
 
-/// Turns each operation into one short connection: open, ask, close. What the server tells is converted into
-/// the values that the control service uses, so that the windows know no difference. Keeps nothing between
-/// calls. An operation blocks while the host's name is looked up, then for 5 seconds at most while no
-/// connection can be made, and then as long as the server takes, up to 2 minutes of silence for each request.
+/// Runs each operation on a short connection: open, query, close. Converts the replies into the values of the
+/// control service, so that callers need not distinguish the two. Caches nothing between calls. An operation
+/// blocks for the host name lookup, then at most 5 seconds for the connection, and then until the server
+/// replies or sends nothing for 2 minutes, for each request.
 ///
-/// Where no connection can be made `*pResultCode` becomes -1.
+/// If the connection fails, `*pResultCode` becomes -1.
 class CNetworkPublisherMgr : public IPublisherMgr
 {
 public:
@@ -21,10 +21,10 @@ public:
     CNetworkPublisherMgr(bool bPublisherIDMode, CString strPath);
 
     UINT GetPublisherMgrType() override;
-    /// Name, printer, connection type and address alone. A file that may not be written is a failure, any
-    /// other trouble stops the process.
+    /// Writes only name, printer, connection type and address. Returns false if access to the file is denied;
+    /// any other error stops the process.
     bool UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo) override;
-    /// With `bConnectionError` the values that only the server knows stay 0xFFFFFFFF.
+    /// With `bConnectionError`, the values from the server stay 0xFFFFFFFF.
     bool GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo,
                           BOOL bConnectionError) override;
     CString GetPublisherGUID(LPCTSTR szPublisherRegistID) override;
@@ -32,13 +32,14 @@ public:
     CString GetSupportWriteSpeedString(LPCTSTR szPublisherRegistID, UINT uiDrive) override;
 
     bool IsPossibleCommunicateService(long* pResultCode) override;
-    /// `*pResultCode` takes the NCL_ code why no connection can be made.
+    /// `*pResultCode` receives the NCL_ code of the connection attempt.
     bool IsPossibleCommunicate(LPCTSTR szPublisherRegistID, long* pResultCode) override;
     int GetJobCount(LPCTSTR szPublisherRegistID, long* pResultCode) override;
-    /// `*pResultCode` takes an NCL_FATAL_ERR_ value. A server that cannot be reached has no fatal error.
+    /// `*pResultCode` receives an NCL_FATAL_ERR_ value, or ARV_PC_ERROR_OFFLINE if the query fails. False if
+    /// no connection can be made.
     bool IsFatalErrorInPublisher(LPCTSTR szPublisherRegistID, long* pResultCode) override;
 
-    /// Cancels the first job of that id that the server lets go.
+    /// Cancels the first job with that id for which the server accepts the request.
     bool SetServiceJobCancel(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, long* pResultCode) override;
     bool SetServiceJobErrorCancel(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, long* pResultCode) override;
     bool SetServiceNotifyChange(LPCTSTR szPublisherRegistID, long* pResultCode) override;
@@ -56,8 +57,8 @@ public:
     bool GetServiceJobStatusFinish(LPCTSTR szPublisherRegistID, JobStatusArray* parrJobStatus,
                                    long* pResultCode) override;
 
-    // Outputs may be null. `*pResultCode` takes 0, or an ERR_SERVICE_* value for what the server or the way
-    // to it failed in. A state that no table knows stops the process.
+    // Outputs may be null. `*pResultCode` receives 0, or an ERR_SERVICE_* value for a failure of the server
+    // or the connection. An unknown drive or printer state stops the process.
 
     bool GetServiceInkStatus(LPCTSTR szPublisherRegistID, ST_PC_INK_STATUS* pInkStatus,
                              long* pResultCode) override;
@@ -66,16 +67,16 @@ public:
                                long* pResultCode) override;
     bool GetServicePrinterStatus(LPCTSTR szPublisherRegistID, ULONG* pulPrinterStatus,
                                  long* pResultCode) override;
-    /// Stacker 4 is told as stacker 3 is: programs count on it.
+    /// Stacker 4 gets the value of stacker 3: programs of the suite rely on it.
     bool GetServiceStackerStatus(LPCTSTR szPublisherRegistID, ULONG* pulStacker1, ULONG* pulStacker2,
                                  ULONG* pulStacker3, ULONG* pulStacker4, long* pResultCode) override;
     int GetServiceEstimateCirculation(LPCTSTR szPublisherRegistID, long* pResultCode) override;
-    /// `*pResultCode` takes the NCL_ code itself. The mode is written on a failure too, as one that is not
-    /// known.
+    /// `*pResultCode` receives the NCL_ code itself. If the query fails, the mode is set to the value for
+    /// an unknown mode.
     bool GetServicePublishMode(LPCTSTR szPublisherRegistID, ULONG* pulPublishMode,
                                long* pResultCode) override;
 
-    // What a network publisher lacks: nothing is done, and nothing is written.
+    // Not supported by network publishers: does nothing and writes no output.
 
     bool UpdatePublishMode(LPCTSTR szPublisherRegistID, const PUBLISHERINFO* psPublisherInfo,
                            bool bResetDefault, bool* pbSetDefault) override;
@@ -91,9 +92,9 @@ public:
     bool IsRunningCommunicateService() override;
     bool SetServiceUpdateErrorDiscContinueCount(long* pResultCode, LPCTSTR szPublisherRegistID) override;
 
-    // Job submission, on a handle that the caller holds. Codes are those of the library (NCL_).
+    // Job submission on a handle owned by the caller. The result codes are those of the library (NCL_).
 
-    /// `*pdwResultCode` stays as it was when the publisher has no address.
+    /// `*pdwResultCode` is unchanged if the publisher has no address.
     bool StartConnection(LPCTSTR szPublisherRegistID, DWORD* pdwHandle, DWORD* pdwResultCode) override;
     bool EndConnection(DWORD dwHandle) override;
     CString GetPublishID(DWORD dwHandle, DWORD* pdwResultCode) override;
@@ -104,48 +105,48 @@ public:
     bool CommitJob(DWORD dwHandle, int nServerJobID, DWORD* pdwResultCode) override;
     bool SendDiscInfo(DWORD dwHandle, int nServerJobID, const BYTE* pData, DWORD dwSize,
                       DWORD* pdwResultCode) override;
-    /// By the server's number alone.
+    /// Cancels by the server's job number only.
     bool CancelJob(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, DWORD dwHandle, int nServerJobID,
                    long* pResultCode) override;
     DWORD SendDiscWriteInfo(DWORD dwHandle, int nServerJobID, const BYTE* pData, DWORD dwSize);
     DWORD SendDiscImage(DWORD dwHandle, int nServerJobID, const BYTE* pData, DWORD dwSize,
                         DWORD dwTotalSizeLow, DWORD dwTotalSizeHigh, const char* pszImageName);
 
-    /// What follows the last backslash of the address.
+    /// The part of the address after the last backslash.
     CString GetHostName(LPCTSTR szPublisherRegistID) override;
-    /// The address as it is stored.
+    /// The address as stored.
     CString GetHostNameFull(LPCTSTR szPublisherRegistID);
     CString GetDeviceInfo(LPCTSTR szPublisherRegistID, DWORD dwInfoType, DWORD* pdwResultCode) override;
     int GetCommunicateJobCount(LPCTSTR szPublisherRegistID) override;
 
-    /// Whether a server can be served that need not be registered: an NCL_ code.
+    /// Tests the connection to a server, which need not be registered. Returns an NCL_ code.
     DWORD ConnectionTest(LPCTSTR lpszHostName);
 
-    // For other programs of the suite, which bring their own.
+    // Declared for other programs of the suite, which define these themselves.
 
     bool GetServiceJobStatusInner(LPCTSTR szPublisherRegistID, DWORD dwType, JobStatusArray* parrJobStatus,
                                   long* pResultCode);
     bool CancelCommunicateService();
 
-    // The library's values as those of publisher management and of the control service.
+    // Conversion of the library's values to those of publisher management and of the control service.
 
-    /// An enPublishMode; 0xFFFFFFFF for a mode that is not known.
+    /// An enPublishMode; 0xFFFFFFFF for an unknown mode.
     static UINT ConvertComLibValueToPubMgrValue_PubMode(DWORD dwValue);
-    /// `dwComLibValueType` is the NCL_DIT_ number of a value that is a number; 0xFFFFFFFF for any other, and
-    /// for a value that the type does not have.
+    /// `dwComLibValueType` is the NCL_DIT_ number of a numeric value. Returns 0xFFFFFFFF for any other type
+    /// and for a value that is not defined for the type.
     static UINT ConvertComLibValueToPubMgrValue(DWORD dwComLibValueType, DWORD dwValue);
     /// An ARV_PC_DRV_STATE_* value.
     static ULONG ConvertComLibValueToPubMgrValue_DrvStatus(const DrvStatusBaseEx& drv);
     /// An ARV_PC_PRT_STATE_* value.
     static ULONG ConvertComLibValueToPubMgrValue_PrnStatus(const PrnStatus& dsPrinter);
-    /// A percentage, with ARV_PC_INK_NEAR_EMPTY or without, or a value of the ink table.
+    /// A percentage, optionally with ARV_PC_INK_NEAR_EMPTY, or a special ink value.
     static ULONG ConvertComLibValueToPubMgrValue_InkStatus(const InkStatusBase& isInk);
     /// ARV_PC_ALD_STATE_* bits.
     static ULONG ConvertComLibValueToPubMgrValue_AldStatus(const ALDStatus& asAld);
-    /// A quantity or an ARV_PC_STK_STATUS_* value, with ARV_PC_STK_STATUS_SUPPLY or without.
+    /// A quantity or an ARV_PC_STK_STATUS_* value, optionally with ARV_PC_STK_STATUS_SUPPLY.
     static ULONG ConvertComLibValueToPubMgrValue_StackerStatus(const StackerStatusBase& stk);
-    /// Texts that are too long for the record are cut. A job to which its submitter gave no id gets one made
-    /// of the publisher's and the server's number, cut to 39 bytes.
+    /// Truncates texts that are too long for the record. A job without an id gets one made of the publisher's
+    /// regist id and the server's job number, truncated to 39 bytes.
     static ST_PC_JOB_STATUS ConvertComLibValueToPubMgrValue_JobStatus(const JobStatus& js,
                                                                       LPCTSTR szPublisherRegistID);
     static ST_PC_JOB_STATUS ConvertComLibValueToPubMgrValue_JobStatus(const JobStatusEx& js,
@@ -155,11 +156,11 @@ public:
                                                                        LPCTSTR szPublisherRegistID);
 
 private:
-    /// A connection for one operation, which ends with the object.
+    /// A connection for one operation. The destructor ends it.
     class Connection
     {
     public:
-        /// `*pResultCode` becomes -1 when none can be made; it may be null.
+        /// `*pResultCode` becomes -1 if the connection fails; `pResultCode` may be null.
         Connection(CNetworkPublisherMgr& mgr, LPCTSTR szPublisherRegistID, long* pResultCode = nullptr);
         Connection(const Connection&) = delete;
         Connection& operator=(const Connection&) = delete;
@@ -176,15 +177,15 @@ private:
 
     using Question = std::function<DWORD(DWORD dwHandle)>;
 
-    /// A code of the library (NCL_) as 0 or an ERR_SERVICE_* value.
+    /// Converts a code of the library (NCL_) to 0 or an ERR_SERVICE_* value.
     static long ServiceResult(DWORD dwCode);
 
     SettingFile FileOf(LPCTSTR szPublisherRegistID) const;
     bool ReadSettingsOfServer(PUBLISHERINFO& info);
-    /// One question on a connection of its own; its code goes to `*pResultCode` as an ERR_SERVICE_* value.
+    /// Runs one query on its own connection. `*pResultCode` receives the result of ServiceResult.
     bool Ask(LPCTSTR szPublisherRegistID, long* pResultCode, const Question& question);
-    /// Lists the jobs that are not finished, those that are, or both; true if either list could be had. Only
-    /// then the array is filled anew.
+    /// Lists the unfinished jobs, the finished jobs, or both. Returns true if at least one query succeeds.
+    /// Only then the array is replaced.
     bool ListJobs(LPCTSTR szPublisherRegistID, bool bUnfinished, bool bFinished,
                   JobStatusArray* parrJobStatus, long* pResultCode);
     /// The number of jobs of an NCL_JNT_ kind, or -1.

@@ -1,4 +1,4 @@
-// The values of the network library as those that publisher management and the control service use.
+// Converts values of the network library to those of publisher management and the control service.
 #include "NetworkPublisherMgr.h"
 
 #include "WireText.h"
@@ -12,23 +12,23 @@ constexpr UINT NO_VALUE = 0xFFFFFFFF;
 constexpr DWORD LAST_DISC_TYPE = NCL_STACKER_BD_QL;
 constexpr DWORD FULL_CARTRIDGE = 100;
 constexpr size_t LONGEST_MADE_JOB_ID = 39;
-/// The first cause that is known to servers alone.
+/// The first cause that only servers report.
 constexpr DWORD FIRST_FACTOR_OF_SERVERS = NCL_JOB_STATUS_FACTOR_ERR_DISC_UNMATCH;
-/// No state of a job; the programs of the suite count on the number.
+/// Not a job state; the programs of the suite rely on the number.
 constexpr unsigned long STATE_OF_A_SERVERS_FACTOR = 1001;
 
-/// As many bytes as the field takes beside its NUL. The field is zero so far.
+/// Copies the text, truncated to leave room for the NUL. The field must be zero before the call.
 template <size_t size>
 void CopyText(char (&field)[size], const std::string& text)
 {
     std::copy_n(text.data(), std::min(text.size(), size - 1), field);
 }
 
-/// The id of a job to which its submitter gave none.
+/// The id of a job that was submitted without one.
 CString MadeJobID(LPCTSTR szPublisherRegistID, DWORD nServerJobID)
 {
     CString strNumber;
-    strNumber.Format(".%X", nServerJobID); // short, whatever the publisher's id is
+    strNumber.Format(".%X", nServerJobID); // formatted alone: its length does not depend on the regist id
     return (CString(szPublisherRegistID) + strNumber).substr(0, LONGEST_MADE_JOB_ID);
 }
 
@@ -117,7 +117,7 @@ UINT CNetworkPublisherMgr::ConvertComLibValueToPubMgrValue(DWORD dwComLibValueTy
     switch (dwComLibValueType) {
     case NCL_DIT_DRV_USED:
         return dwValue <= NCL_DRV_USED_DRIVE2 ? dwValue : NO_VALUE;
-    case NCL_DIT_DRV_CONFIRM: // the two sides number the ways of checking the other way round
+    case NCL_DIT_DRV_CONFIRM: // verify and compare have swapped numbers
         if (dwValue == NCL_DRV_CONFIRM_VERIFY) {
             return 2;
         }

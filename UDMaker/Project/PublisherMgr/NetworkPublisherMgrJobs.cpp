@@ -1,4 +1,4 @@
-// The jobs of a network publisher: their lists and their number, their end, and their submission.
+// The jobs of a network publisher: lists, counts, cancellation and submission.
 #include "NetworkPublisherMgr.h"
 
 #include "NW_Com_Lib.h"
@@ -15,15 +15,15 @@
 
 namespace {
 
-constexpr DWORD LONGEST_LIST = 1000; // records; no server keeps more
+constexpr DWORD LONGEST_LIST = 1000; // records; servers keep at most this many
 
-/// The operation of the library that lists jobs as such records.
+/// The library function that lists jobs as records of this type.
 template <class Record>
 using List = DWORD (*)(DWORD dwHandle, DWORD dwType, Record* pRecords, DWORD dwLength, DWORD* pdwCount);
 
-/// Memory for the longest list of jobs (1.8 MB). The process keeps one such block for its next query, because
-/// fresh pages cost more processor time than the query itself. Queries that run at the same time take more
-/// from the system and give it back; on the heap, every polling thread would keep a block.
+/// Memory for the longest list of jobs (1.8 MB). The process keeps one block for its next query, because
+/// new pages cost more CPU time than the query itself. Concurrent queries map further blocks and unmap them;
+/// on the heap, every polling thread would keep a block.
 class ListMemory
 {
 public:
@@ -48,7 +48,7 @@ public:
         }
     }
 
-    /// Null if the system has none.
+    /// Null if the allocation failed.
     void* Pages() const
     {
         return m_pPages;
@@ -60,14 +60,14 @@ private:
     void* m_pPages;
 };
 
-/// The jobs of a server as the library hands them out.
+/// The jobs of a server as the library returns them.
 template <class Record>
 class JobList
 {
 public:
     JobList() : m_pRecords(static_cast<Record*>(m_memory.Pages())) {}
 
-    /// Asks for the jobs of an NCL_JST_ kind; without success there are none.
+    /// Reads the jobs of an NCL_JST_ kind. On failure the list stays empty.
     bool Ask(DWORD dwHandle, List<Record> pList, DWORD dwType)
     {
         DWORD dwCount = 0;
@@ -95,7 +95,7 @@ private:
     DWORD m_dwCount = 0;
 };
 
-/// The jobs of an NCL_JST_ kind, converted, behind what the array holds.
+/// Converts the jobs of an NCL_JST_ kind and appends them to the array.
 template <class Record>
 bool AppendJobs(DWORD dwHandle, List<Record> pList, DWORD dwType, LPCTSTR szPublisherRegistID,
                 JobStatusArray& arrJobStatus)
@@ -112,7 +112,7 @@ bool AppendJobs(DWORD dwHandle, List<Record> pList, DWORD dwType, LPCTSTR szPubl
 } // namespace
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Lists and numbers
+// Lists and counts
 
 bool CNetworkPublisherMgr::ListJobs(LPCTSTR szPublisherRegistID, bool bUnfinished, bool bFinished,
                                     JobStatusArray* parrJobStatus, long* pResultCode)
@@ -178,7 +178,7 @@ int CNetworkPublisherMgr::GetCommunicateJobCount(LPCTSTR szPublisherRegistID)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// The end of a job
+// Cancellation
 
 bool CNetworkPublisherMgr::SetServiceJobCancel(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, long* pResultCode)
 {
@@ -226,7 +226,7 @@ CString CNetworkPublisherMgr::GetPublishID(DWORD dwHandle, DWORD* pdwResultCode)
 {
     DWORD dwSize = 0;
     char cNone = '\0';
-    ::GetPublishID(dwHandle, &cNone, 0, &dwSize); // the server's id waits on the handle for the next call
+    ::GetPublishID(dwHandle, &cNone, 0, &dwSize); // the handle keeps the server's id for the next call
     std::vector<char> id(dwSize + size_t{1});
     DWORD dwNeeded = 0;
     Put(pdwResultCode, ::GetPublishID(dwHandle, id.data(), dwSize, &dwNeeded));

@@ -1,4 +1,4 @@
-// What the server of a network publisher tells of its machine, and what such a publisher lacks.
+// Device status from the server of a network publisher, and the operations that it does not support.
 #include "NetworkPublisherMgr.h"
 
 #include "NW_Com_Lib.h"
@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr size_t LONGEST_TEXT = 1024; // of a version, a name or a serial number, with its NUL
+constexpr size_t LONGEST_TEXT = 1024; // bytes of a version, name or serial number, including NUL
 
-/// Puts a text of the device into `strText`, which stays as it was on a failure.
+/// Reads a text of the device into `strText`, which is unchanged on failure.
 bool ReadText(DWORD dwHandle, DWORD dwInfoType, CString& strText)
 {
     std::array<char, LONGEST_TEXT> text = {};
@@ -22,7 +22,7 @@ bool ReadText(DWORD dwHandle, DWORD dwInfoType, CString& strText)
     return true;
 }
 
-/// What the records with and without Blu-ray counters share.
+/// Copies the record; the counters for Blu-ray only from the extended one.
 template <class Wire>
 void CopyMaintenance(PUBLISHERMAINTENANCEINFO& info, const Wire& wire)
 {
@@ -210,7 +210,7 @@ bool CNetworkPublisherMgr::GetServicePrinterStatus(LPCTSTR szPublisherRegistID, 
              [&printer](DWORD dwHandle) { return ::GetPrnStatus(dwHandle, &printer); })) {
         return false;
     }
-    if (pulPrinterStatus != nullptr) { // a printer that nobody asked about is in no unknown state
+    if (pulPrinterStatus != nullptr) { // without an output, an unknown state must not stop the process
         *pulPrinterStatus = ConvertComLibValueToPubMgrValue_PrnStatus(printer);
     }
     return true;
@@ -228,7 +228,7 @@ bool CNetworkPublisherMgr::GetServiceStackerStatus(LPCTSTR szPublisherRegistID, 
     Put(pulStacker1, ConvertComLibValueToPubMgrValue_StackerStatus(stackers.Stacker1));
     Put(pulStacker2, ConvertComLibValueToPubMgrValue_StackerStatus(stackers.Stacker2));
     Put(pulStacker3, ConvertComLibValueToPubMgrValue_StackerStatus(stackers.Stacker3));
-    Put(pulStacker4, ConvertComLibValueToPubMgrValue_StackerStatus(stackers.Stacker3)); // as the suite has it
+    Put(pulStacker4, ConvertComLibValueToPubMgrValue_StackerStatus(stackers.Stacker3)); // see the header
     return true;
 }
 
@@ -252,7 +252,7 @@ bool CNetworkPublisherMgr::GetServicePublishMode(LPCTSTR szPublisherRegistID, UL
     if (!connection.IsOpen()) {
         return false;
     }
-    DWORD dwMode = PUBMGR_PUBLISHMODE_ERROR; // no mode of the library
+    DWORD dwMode = PUBMGR_PUBLISHMODE_ERROR; // not a mode of the library
     const DWORD dwCode = ::GetServerMode(connection.Handle(), &dwMode);
     Put(pResultCode, dwCode);
     *pulPublishMode = ConvertComLibValueToPubMgrValue_PubMode(dwMode);

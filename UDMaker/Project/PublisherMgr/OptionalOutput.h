@@ -1,4 +1,4 @@
-// Outputs that a caller may leave out.
+// Optional output arguments.
 #pragma once
 
 #include <type_traits>

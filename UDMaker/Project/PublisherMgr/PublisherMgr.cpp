@@ -1,4 +1,4 @@
-// Which implementation serves a publisher.
+// Selects the implementation that serves a publisher.
 #include "PublisherMgr.h"
 
 #include "DeviceKey.h"

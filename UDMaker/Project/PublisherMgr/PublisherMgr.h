@@ -1,4 +1,4 @@
-// The one class that the application uses for publishers.
+// The class through which the application accesses publishers.
 #pragma once
 
 #include "PublisherMgrIF.h"
@@ -7,10 +7,9 @@
 
 struct PublisherModel;
 
-/// Finds out from a regist id which implementation serves a publisher, and keeps the store of setting files.
-/// Nothing of a publisher is kept between calls: each reads the setting file and the registry again, unless
-/// the thread holds a ReadPass. Safe for several threads at once. The operations that ask a device block
-/// until it answers.
+/// Maps a regist id to the implementation that serves the publisher, and manages the setting files. Caches
+/// nothing between calls: each call reads the setting file and the registry again, unless the thread holds a
+/// ReadPass. Thread-safe. Operations that query a device block until it replies.
 class CPublisherMgr
 {
 public:
@@ -20,14 +19,14 @@ public:
     CPublisherMgr(const CPublisherMgr&) = delete;
     CPublisherMgr& operator=(const CPublisherMgr&) = delete;
 
-    // Which implementation serves a publisher. The object stays the manager's; null when there is none.
+    // The implementation that serves a publisher. The manager keeps ownership; null if there is none.
 
     IPublisherMgr* GetPublisherMgrIFFromType(UINT uiPublisherDevType);
     IPublisherMgr* GetPublisherMgrIFFromID(LPCTSTR szPublisherRegistID);
     /// enPublisherConnectType.
     UINT GetConnectType(LPCTSTR szPublisherRegistID);
-    /// The model as the service recorded it, a bare family or a full model value; 0 without a setting file,
-    /// 0xFFFFFFFF when the device key does not tell.
+    /// The model as recorded by the service: a bare family or a full model value. 0 without a setting file,
+    /// 0xFFFFFFFF if the device key does not contain it.
     DWORD GetLocalDeviceDPType(LPCTSTR szPublisherRegistID);
     /// enPublisherType.
     UINT GetPublisherDevType(LPCTSTR szPublisherRegistID);
@@ -36,50 +35,50 @@ public:
 
     // The store of setting files
 
-    /// enCreateSettingFileError; a file that exists already is an error.
+    /// Returns an enCreateSettingFileError; an existing file is an error.
     long CreatePublisherSettingFile(LPCTSTR szPublisherRegistID);
-    /// True: the installation makes the folder.
+    /// Always true: the installation creates the folder.
     bool CreateSettingFolder();
     bool IsExistSettingFolder();
     CString GetSettingFolderePath();
-    /// Writes the record as the publisher that its own regist id names; the first argument is not used.
+    /// Writes the record under the regist id in the record; the first argument is ignored.
     bool AddPublisher(LPCTSTR szPublisherRegistID, PUBLISHERINFO sPublisherInfo);
-    /// True also when there is no such publisher.
+    /// True also if there is no such publisher.
     bool DeletePublisher(LPCTSTR szPublisherRegistID);
     bool UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo);
-    /// Fills `uiPublisherDevType` whatever the result.
+    /// Sets `uiPublisherDevType` on failure too, unless no implementation serves the publisher.
     bool GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo, BOOL bConnectionError);
     CString GetPublisherName(LPCTSTR szPublisherRegistID);
-    /// Leaves the output empty when no publisher bears the name. Case matters.
+    /// The output is empty if no publisher has the name. Case-sensitive.
     void GetPublisherRegistIDFromName(LPCTSTR lpszPublisherName, CString* pstrPublisherRegistID);
-    /// Appends the regist ids in no order; the number of them.
+    /// Appends the regist ids in unspecified order. Returns the number appended.
     int EnumRegistedPublisher(CStringArray* psarrPublisherRegistID);
-    /// With `bOnlyCorrect` the name must be correct too: at most 64 bytes, no backslash. A null id asks for
-    /// any publisher, and only for correct ones.
+    /// With `bOnlyCorrect` the name must also be valid: at most 64 bytes, no backslash. A null id means any
+    /// publisher and requires `bOnlyCorrect`.
     bool IsExistRegistedPublisher(LPCTSTR szPublisherRegistID, BOOL bOnlyCorrect);
-    /// Whether there is a setting file, also one that cannot be read. Nothing is opened.
+    /// Whether there is a setting file, even an unreadable one. Does not open it.
     bool IsExistSettingFile(LPCTSTR szPublisherRegistID);
-    /// Case matters.
+    /// Case-sensitive.
     bool IsExistSameNamePublisher(LPCTSTR lpszPublisherName);
 
     // Devices of this computer
 
-    /// The GUIDs of all devices that the service has recorded, replacing what the array held.
+    /// Replaces the content of the array by the GUIDs of all devices that the service has recorded.
     int EnumConnectedPublisher(CStringArray* psarrGUIDList);
-    /// Whether the device is present; with a null GUID whether any device was ever recorded.
+    /// Whether the device is connected; with a null GUID, whether any device is recorded.
     bool IsExistConnectedPublisher(LPCTSTR lpszGUID);
     /// Whether the key has a sub key.
     bool IsExistRegistryKey(HKEY hRoot, LPCTSTR pszRootKey);
-    /// ARV_PC_USBMODE_* of a device that is present; 0 otherwise.
+    /// ARV_PC_USBMODE_* of a connected device; 0 otherwise.
     int IsSuperSpeedUSB(LPCTSTR lpszGUID);
-    /// Forgets the devices that are absent and that no registered publisher uses.
+    /// Removes the keys of devices that are disconnected and that no registered publisher uses.
     void ClearUnusedGUID();
 
     bool IsExistArchiveDiscFunctionPublisher();
     bool IsExistErrorRateFunctionPublisher();
     bool IsExistLocalPublisher();
 
-    // Options of the error-rate measurement. A getter leaves its output alone when there is no such value.
+    // Options of the error-rate measurement. A getter does not change its output if the value is missing.
 
     bool GetThresholdOfC1Error(UINT* puiValue);
     bool SetThresholdOfC1Error(UINT uiValue);
@@ -94,8 +93,8 @@ public:
     bool GetErrorRateLogFolderPath(CString* pstrPath);
     bool SetErrorRateLogFolderPath(CString strPath);
 
-    // Forwards to the implementation that serves the publisher (see IPublisherMgr); false, -1, 0 or an empty
-    // text when there is none.
+    // Forwarded to the implementation that serves the publisher (see IPublisherMgr). False, -1, 0 or an empty
+    // text if there is none.
 
     bool UpdatePublishMode(LPCTSTR szPublisherRegistID, const PUBLISHERINFO* psPublisherInfo,
                            bool bResetDefault, bool* pbSetDefault);
@@ -137,8 +136,8 @@ public:
                                    ULONG* pulStacker3, ULONG* pulStacker4, long* pResultCode);
     bool GetServiceUSBMode(LPCTSTR szPublisherRegistID, ULONG* pulUSBMode, long* pResultCode);
     bool IsRunningCommunicateService();
-    /// Tells the service for every registered publisher that measures error rates; the id is ignored. The
-    /// result of the last one, false when there is none.
+    /// Notifies the service for every registered publisher that measures error rates; the id is ignored.
+    /// Returns the result for the last publisher, or false if there is none.
     bool SetServiceUpdateErrorDiscContinueCount(long* pResultCode, LPCTSTR lpszPublisherID);
     bool StartConnection(LPCTSTR szPublisherRegistID, DWORD* pdwHandle, DWORD* pdwResultCode);
     bool EndConnection(DWORD dwHandle);

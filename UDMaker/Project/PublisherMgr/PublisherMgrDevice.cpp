@@ -1,4 +1,4 @@
-// The devices that the control service has recorded in the registry, and the options kept there.
+// The devices that the control service records in the registry, and the options stored there.
 #include "PublisherMgr.h"
 
 #include "DeviceKey.h"
@@ -166,7 +166,7 @@ bool CPublisherMgr::GetErrorRateLogFolderPath(CString* pstrPath)
 
 bool CPublisherMgr::SetErrorRateLogFolderPath(CString strPath)
 {
-    // Not SetRegStrData, which takes a registry that cannot be opened for an impossible case.
+    // Not SetRegStrData, which stops the process if the key cannot be opened.
     CRegUtility key;
     return key.OpenReg(HKEY_LOCAL_MACHINE, REG_PUB_KEY_ROOT, FALSE, TRUE) == ERROR_SUCCESS &&
            key.SetRegStrValue(REG_PUB_OPTION_VAL_ERRORRATELOGFOLDER, strPath.c_str(), -1) == ERROR_SUCCESS;

@@ -1,4 +1,4 @@
-// Operations of the facade that one implementation carries out.
+// Facade operations that are forwarded to one implementation.
 #include "PublisherMgr.h"
 
 #include "ModelTable.h"

@@ -1,4 +1,4 @@
-// The records of publisher management and the one interface to every kind of publisher.
+// The records of publisher management and the interface to every kind of publisher.
 #pragma once
 
 #include "PubMgrConst.h"
@@ -9,7 +9,7 @@
 struct tagPublisherInfo
 {
     CString strGUID;              ///< name of the device key; empty for a network publisher
-    CString strPublisherRegistID; ///< stem of the setting file, the key of every operation
+    CString strPublisherRegistID; ///< base name of the setting file, the key of every operation
     CString strPublisherName;     ///< shown to the user
     UINT uiPublishMode = PUBMGR_DEFAULT_PUBLISHMODE;
     UINT uiStacker1DiscType = PUBMGR_DEFAULT_STACKERTYPE;
@@ -17,7 +17,7 @@ struct tagPublisherInfo
     UINT uiStacker3DiscType = PUBMGR_STACKERDISCTYPE_NOTUSE;
     UINT uiStacker4DiscType = PUBMGR_STACKERDISCTYPE_OUTPUT;
     UINT uiUseDrive = PUBMGR_DEFAULT_USEDRIVE;
-    UINT uiRetryCount = PUBMGR_DEFAULT_RETRYCOUNT; ///< the count in force
+    UINT uiRetryCount = PUBMGR_DEFAULT_RETRYCOUNT; ///< the effective count
     CString strPrinterName;
     bool bAddErrorMark = true;                            ///< mark failed discs
     UINT uiPublisherType = PUBMGR_CONNECTTYPE_LOCAL;      ///< enPublisherConnectType, not the model
@@ -26,10 +26,10 @@ struct tagPublisherInfo
     UINT uiPublisherDevType = PUBMGR_PUBLISHERTYPE_BASIC; ///< enPublisherType
     UINT uiRetryCountR = PUBMGR_DEFAULT_RETRYCOUNT;
     UINT uiRetryCountW = PUBMGR_DEFAULT_RETRYCOUNT;
-    bool bContinuePublish = true; ///< carry on after a read error
+    bool bContinuePublish = true; ///< continue after a read error
     UINT uiNetPublisherType = PUBMGR_NPTYPE_UNKNOWN;
 
-    /// Back to the values of a new record, but for `uiAddErrorMark`, which becomes 0.
+    /// Resets all fields to the values of a new record, except `uiAddErrorMark`, which becomes 0.
     void Clear()
     {
         *this = tagPublisherInfo();
@@ -54,7 +54,7 @@ struct tagPublisherVersionInfo
 };
 using PUBLISHERVERSIONINFO = tagPublisherVersionInfo;
 
-/// Counts of one drive, each with its life limit. ARV_PC_MAINTENANCEINFO_UNKNOWN is shown as not known.
+/// Counters of one drive, each with its life limit. ARV_PC_MAINTENANCEINFO_UNKNOWN is shown as unknown.
 struct tagPublisherMaintenanceInfoDrive
 {
     UINT uiTrayCount = ARV_PC_MAINTENANCEINFO_UNKNOWN;
@@ -90,10 +90,10 @@ using PUBLISHERMAINTENANCEINFO = tagPublisherMaintenanceInfo;
 using JobStatusArray = CArray<ST_PC_JOB_STATUS, const ST_PC_JOB_STATUS&>;
 using NotifyStatusArray = CArray<unsigned int, unsigned int const&>;
 
-/// One kind of publisher. Publishers are named by their regist id. `pResultCode` may be null; it takes 0, an
-/// ERR_SERVICE_* value for a failure of the client, or the positive code of the service or server. A null
-/// argument other than that stops the process unless an implementation says otherwise. Safe for several
-/// threads at once. Operations that ask a device block until it answers.
+/// One kind of publisher. The regist id identifies a publisher. `pResultCode` may be null; it receives 0, an
+/// ERR_SERVICE_* value for a failure of the client, or the positive code of the service or server. Any other
+/// null argument stops the process unless an implementation documents otherwise. Thread-safe. Operations that
+/// query a device block until it replies.
 class IPublisherMgr
 {
 public:
@@ -101,11 +101,11 @@ public:
 
     /// enPublisherType of the publishers served.
     virtual UINT GetPublisherMgrType() = 0;
-    /// Writes the whole record to the setting file that its regist id names.
+    /// Writes the whole record to the setting file named by its regist id.
     virtual bool UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo) = 0;
     virtual bool UpdatePublishMode(LPCTSTR szPublisherRegistID, const PUBLISHERINFO* psPublisherInfo,
                                    bool bResetDefault, bool* pbSetDefault) = 0;
-    /// `bConnectionError`: the caller knows that the device cannot be reached, so no connection is tried.
+    /// `bConnectionError`: the caller knows that the device is unreachable, so no connection is attempted.
     virtual bool GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo,
                                   BOOL bConnectionError) = 0;
     virtual CString GetPublisherGUID(LPCTSTR szPublisherRegistID) = 0;
@@ -117,7 +117,7 @@ public:
     virtual bool IsPossibleCommunicate(LPCTSTR szPublisherRegistID, long* pResultCode) = 0;
     /// The number of jobs, or -1.
     virtual int GetJobCount(LPCTSTR szPublisherRegistID, long* pResultCode) = 0;
-    /// `*pResultCode` takes the fatal code, ARV_PC_ERROR_OFFLINE when none could be had.
+    /// `*pResultCode` receives the fatal code, or ARV_PC_ERROR_OFFLINE if the query fails.
     virtual bool IsFatalErrorInPublisher(LPCTSTR szPublisherRegistID, long* pResultCode) = 0;
 
     virtual bool SetServiceJobCancel(LPCTSTR szPublisherRegistID, LPCTSTR pJobID, long* pResultCode) = 0;
@@ -150,7 +150,7 @@ public:
                                          long* pResultCode) = 0;
     virtual bool GetServiceStackerStatus(LPCTSTR szPublisherRegistID, ULONG* pulStacker1, ULONG* pulStacker2,
                                          ULONG* pulStacker3, ULONG* pulStacker4, long* pResultCode) = 0;
-    /// The number of prints that the ink is good for, or -1.
+    /// The number of prints that the remaining ink allows, or -1.
     virtual int GetServiceEstimateCirculation(LPCTSTR szPublisherRegistID, long* pResultCode) = 0;
     virtual bool GetServiceFatalCode(LPCTSTR szPublisherRegistID, ULONG* pulFatalCode, long* pResultCode) = 0;
     virtual bool GetServiceNotifyStatus(LPCTSTR szPublisherRegistID, NotifyStatusArray* parrNotifyStatus,
@@ -163,12 +163,12 @@ public:
                                            ULONG* pulStacker2, ULONG* pulStacker3, ULONG* pulStacker4,
                                            long* pResultCode) = 0;
     virtual bool GetServiceUSBMode(LPCTSTR szPublisherRegistID, ULONG* pulUSBMode, long* pResultCode) = 0;
-    /// Whether an exchange with the service is under way.
+    /// Whether an exchange with the service is in progress.
     virtual bool IsRunningCommunicateService() = 0;
-    /// Mind the order of the arguments.
+    /// The order of the arguments differs from the other operations.
     virtual bool SetServiceUpdateErrorDiscContinueCount(long* pResultCode, LPCTSTR szPublisherRegistID) = 0;
 
-    // Job submission. A connection that was started is ended by its caller.
+    // Job submission. The caller ends each connection that it starts.
 
     virtual bool StartConnection(LPCTSTR szPublisherRegistID, DWORD* pdwHandle, DWORD* pdwResultCode) = 0;
     virtual bool EndConnection(DWORD dwHandle) = 0;

@@ -73,7 +73,7 @@ bool CPublisherMgr::UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo)
 bool CPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo,
                                      BOOL bConnectionError)
 {
-    // The list asks this of every publisher at each tick: the model and the record come from one reading.
+    // The list calls this for every publisher at each timer tick, so model and record share one read.
     std::optional<ReadPass> pass(std::in_place);
     const bool bNamed = szPublisherRegistID != nullptr && szPublisherRegistID[0] != '\0';
     const UINT uiDevType =
@@ -86,7 +86,7 @@ bool CPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO*
         return false;
     }
     const bool bRead = pPubMgr->GetPublisherInfo(szPublisherRegistID, psPublisherInfo, bConnectionError);
-    // What could not be read may have vanished since the look-up.
+    // After a failure the file may have been deleted since the lookup, so look up the model again.
     pass.reset();
     psPublisherInfo->uiPublisherDevType = bRead ? uiDevType : GetPublisherDevType(szPublisherRegistID);
     return bRead;

@@ -23,7 +23,7 @@ void SettingLines::Add(LPCTSTR szKey, UINT uiValue)
 
 const char* SettingLines::Block() const
 {
-    return m_strBlock.c_str(); // its end is the other NUL
+    return m_strBlock.c_str(); // c_str() adds the final NUL
 }
 
 bool SettingRecord::Exists() const
@@ -54,7 +54,7 @@ UINT SettingRecord::NPType() const
     const std::string strType =
         m_text != nullptr ? m_text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, 31)
                           : std::string();
-    const ErrnoKeeper keeper; // an ERANGE must not fail the next reply of a server
+    const ErrnoKeeper keeper; // ERANGE in errno would make the next server reply fail
     const auto uiType = static_cast<UINT>(std::atoi(strType.c_str()));
     return uiType > PUBMGR_NPTYPE_300NII_BDXL ? UINT{PUBMGR_NPTYPE_UNKNOWN} : uiType;
 }

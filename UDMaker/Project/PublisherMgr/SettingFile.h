@@ -1,4 +1,4 @@
-// One publisher's setting file: an ini file with the one section "Common".
+// The setting file of one publisher: an ini file with a single section, "Common".
 #pragma once
 
 #include "ProfileText.h"
@@ -7,54 +7,53 @@
 #include <memory>
 #include <string>
 
-/// The lines of a file that is written anew.
+/// The lines that replace the section of a setting file.
 class SettingLines
 {
 public:
-    /// Of a text the first line: what stands behind a line end would read as a key of its own. "NotSet"
-    /// stands for an empty one.
+    /// Adds only the first line of a text, because text after a line end would be read as another key. An
+    /// empty text becomes "NotSet".
     void Add(LPCTSTR szKey, const std::string& strValue);
     void Add(LPCTSTR szKey, UINT uiValue);
-    /// "key=value" texts, each with a NUL, and another NUL.
+    /// "key=value" texts, each terminated by NUL, followed by another NUL.
     const char* Block() const;
 
 private:
     std::string m_strBlock;
 };
 
-/// What a setting file held when it was read.
+/// The content of a setting file at the time of the read.
 class SettingRecord
 {
 public:
-    /// Whether there is such a file. One that cannot be opened exists too.
+    /// Whether the file exists. True also for a file that cannot be opened.
     bool Exists() const;
-    /// At most 255 bytes of the value. Empty for a key that is missing; "NotSet" when the file could not be
-    /// opened.
+    /// At most 255 bytes of the value. Empty if the key is missing; "NotSet" if the file could not be opened.
     CString String(LPCTSTR szKey) const;
     UINT Int(LPCTSTR szKey, int nDefault) const;
-    /// An enPublisherConnectType, or another number as it stands in the file.
+    /// An enPublisherConnectType, or any other number found in the file.
     UINT ConnectType() const;
-    /// The kind of a network publisher as it was last met, an enNetworkPublisherType.
+    /// The kind of network publisher last reported by the server, an enNetworkPublisherType.
     UINT NPType() const;
 
 private:
     friend class SettingFile;
 
     bool m_bExists = false;
-    std::shared_ptr<const ProfileText> m_text; // null: it could not be opened
+    std::shared_ptr<const ProfileText> m_text; // null if the file could not be opened
 };
 
-/// Names the file; nothing is opened or kept between calls.
+/// Holds the name of the file. Opens and caches nothing between calls.
 class SettingFile
 {
 public:
     SettingFile(const std::string& strFolder, LPCTSTR szPublisherRegistID);
 
     const std::string& Path() const;
-    /// All keys with one open and one lock, or as this thread's ReadPass has read them.
+    /// Reads all keys with one open and one lock, or returns what this thread's ReadPass has read.
     SettingRecord Read() const;
     bool WriteInt(LPCTSTR szKey, UINT uiValue) const;
-    /// Puts the lines in the place of all that were there. GetLastError tells why it failed.
+    /// Replaces all lines of the section. On failure GetLastError returns the reason.
     bool Write(const SettingLines& lines) const;
 
 private:

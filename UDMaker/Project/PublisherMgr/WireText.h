@@ -1,4 +1,4 @@
-// Texts in the fixed fields of records.
+// Texts in fixed-size fields of records.
 #pragma once
 
 #include "Win_def_MFC.h"
@@ -7,7 +7,7 @@
 #include <cstring>
 #include <string>
 
-/// The text of a fixed field, whose NUL a peer may have left out.
+/// The text of a fixed-size field. The peer may omit the terminating NUL.
 template <size_t size>
 CString WireText(const char (&field)[size])
 {
