@@ -1,4 +1,4 @@
-// A client of a publisher server in plain socket calls and bytes.
+// A client of a publisher server that uses plain socket calls and bytes.
 #pragma once
 
 #include <cerrno>
@@ -45,7 +45,7 @@ public:
         pollfd entry{m_fd, POLLIN, 0};
         return ::poll(&entry, 1, patience) > 0;
     }
-    /// All that comes until `end` stands at its end, or the connection ends; `ended` tells which.
+    /// Reads until the bytes end with `end`, the connection ends (sets `ended`) or PATIENCE has elapsed.
     std::string readUntil(const std::string& end, bool& ended) const
     {
         std::string all;
@@ -60,7 +60,7 @@ public:
         }
         return all;
     }
-    /// A head with its "Content-Length", and the body behind it.
+    /// Reads a header with its "Content-Length" and the body after it.
     std::string readReply() const
     {
         bool ended = false;

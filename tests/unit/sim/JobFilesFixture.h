@@ -1,4 +1,4 @@
-// Job files as programs leave them for the service, and what is left of them.
+// Valid job files, and functions that write and read files.
 #pragma once
 
 #include <filesystem>
@@ -64,7 +64,7 @@ inline std::string fileText(const std::string& path)
     return text.str();
 }
 
-/// `text` with one piece of it, which must be there, replaced by another.
+/// Replaces one part of `text`, which must exist, by another.
 inline std::string with(std::string text, const std::string& piece, const std::string& other)
 {
     return text.replace(text.find(piece), piece.size(), other);

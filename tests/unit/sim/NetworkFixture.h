@@ -1,4 +1,4 @@
-// A publisher server that is asked without a wire, and the bytes of its replies.
+// A publisher server that is called directly, without a network, and the bytes of its replies.
 #pragma once
 
 #include <string>
@@ -54,13 +54,13 @@ public:
     {
         return ask("POST", target, form, {{"Content-Type", FORM_HEADER}}).body;
     }
-    /// The status byte of a job's control.
+    /// Sends an action for a job. Returns the status byte, or -1 for any other reply.
     int control(const std::string& action, const std::string& job)
     {
         const std::string reply = post("/webapp2/JobController", "action=" + action + "&serverjobid=" + job);
         return reply.size() == 3 && reply.substr(1) == std::string(2, '\0') ? reply[0] : -1;
     }
-    /// Registers a job; its id in eight digits, and its credentials in `headers`.
+    /// Registers a job. Returns its id in eight digits and sets `headers` to its credentials.
     std::string registerJob(udsim::HttpHeaders& headers, const std::string& data = "Count = 1\n",
                             const std::string& servlet = "NormalJobSetter")
     {

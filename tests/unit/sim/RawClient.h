@@ -1,4 +1,4 @@
-// A client of the control service in plain socket calls and bytes.
+// A client of the control service that uses plain socket calls and bytes.
 #pragma once
 
 #include <cerrno>
@@ -11,7 +11,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-/// Bytes of a fixed size, with fields set at offsets.
+/// Bytes of a fixed size with fields at given offsets.
 class Bytes
 {
 public:
@@ -107,7 +107,7 @@ public:
     {
         ::shutdown(m_fd, SHUT_WR);
     }
-    /// What one read of `size` bytes gives, as soon as there is anything; empty at the end or after the time.
+    /// One read of at most `size` bytes. Empty at the end of the stream or after `patience` milliseconds.
     std::string readOnce(size_t size, int patience = PATIENCE) const
     {
         if (!isReadable(patience)) {
@@ -123,7 +123,7 @@ public:
         pollfd entry{m_fd, POLLIN, 0};
         return ::poll(&entry, 1, patience) > 0;
     }
-    /// Reads a header and then its payload, each in one read. Nothing when either comes short.
+    /// Reads a header and then its payload, each in one read. Returns nothing if either is short.
     std::optional<RawReply> readReply() const
     {
         const std::string header = readOnce(24);
@@ -146,7 +146,7 @@ private:
     bool m_connected = false;
 };
 
-/// One command over a connection of its own; result 99999 when no whole reply comes.
+/// Sends one command on its own connection. The result is 99999 without a complete reply.
 inline RawReply ask(uint64_t control, const std::string& publisher = "", const std::string& job = "",
                     uint64_t parameter = 0)
 {

@@ -1,4 +1,4 @@
-// A room that is open for the length of a test.
+// A room that runs for the duration of a test.
 #pragma once
 
 #include <string>

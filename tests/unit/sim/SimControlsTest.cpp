@@ -59,7 +59,7 @@ std::string u32(uint64_t value)
 class SimControls : public testing::Test
 {
 protected:
-    /// The request was answered under its own id, with success, and with this payload.
+    /// Expects a successful reply with the id of the request and this payload.
     void expectPayload(uint64_t control, const std::string& publisher, const std::string& payload,
                        uint64_t parameter = 0)
     {
@@ -123,7 +123,7 @@ TEST_F(SimControls, JobStopContinueCancel)
     expectResult(3, ID, 25, SECOND_JOB);
 }
 
-TEST_F(SimControls, EveryJobCommandKnowsItsJobs)
+TEST_F(SimControls, JobCommandsRefuseUnknownJobs)
 {
     for (const uint64_t control : {1U, 2U, 3U, 23U}) {
         expectResult(control, ID, 22, "LOCALHOST_ABC1234_0009");
@@ -151,13 +151,13 @@ TEST_F(SimControls, JobStatusOfWaitingJobs)
     expectPayload(4, ID, "", 0);
 }
 
-TEST_F(SimControls, JobStatusInTheMiddleOfTheWork)
+TEST_F(SimControls, JobStatusOfARunningJob)
 {
     m_open.room.advance(14'050); // one disc done, four seconds into the next
     const RawReply reply = ask(4, ID, "", 3);
     ASSERT_EQ(reply.length, 2 * 1088U);
     EXPECT_EQ(numberAt(reply.payload, 512, 8), 2U);  // running
-    EXPECT_EQ(numberAt(reply.payload, 520, 8), 0U);  // without a factor
+    EXPECT_EQ(numberAt(reply.payload, 520, 8), 0U);  // no factor
     EXPECT_EQ(numberAt(reply.payload, 528, 8), 1U);  // complete
     EXPECT_EQ(numberAt(reply.payload, 544, 8), 30U); // estimate
     EXPECT_EQ(numberAt(reply.payload, 552, 8), 15U); // remaining: 2 discs less 4.05 s
@@ -202,7 +202,7 @@ TEST_F(SimControls, DriveStatus)
     expectPayload(7, "away", Bytes(128).u64(0, 0x20).u64(64, 0x20).str());
     m_open.room.advance(500);
     expectPayload(7, ID, Bytes(128).u64(0, 0x40).u64(64, 1).str());
-    m_open.room.advance(3250); // 37 percent of the disc: 27 of the 55 percent that are writing
+    m_open.room.advance(3250); // 37 percent of the disc: 27 of the 55 percent for writing
     expectPayload(7, ID, Bytes(128).u64(0, 2 + 4).u64(56, 49).u64(64, 1).str());
     m_open.room.advance(3000); // 67 percent
     expectPayload(7, ID, Bytes(128).u64(0, 2 + 8).u64(56, 13).u64(64, 1).str());
@@ -271,7 +271,7 @@ TEST_F(SimControls, JobCount)
 {
     expectPayload(13, ID, u32(2));
     expectPayload(13, "small", u32(0));
-    expectPayload(13, "", u32(3)); // of all machines
+    expectPayload(13, "", u32(3)); // all machines
 }
 
 TEST_F(SimControls, EstimatedPrints)
@@ -322,7 +322,7 @@ TEST_F(SimControls, DeviceStatus)
     expectPayload(19, "away", u32(0));
 }
 
-TEST_F(SimControls, NoticesWithoutAnAnswer)
+TEST_F(SimControls, NoticesHaveNoPayload)
 {
     expectResult(20, ID, 0);
     expectResult(25, ID, 0);
@@ -344,7 +344,7 @@ TEST_F(SimControls, FatalErrorCode)
     expectPayload(22, ID, u32(0));
 }
 
-TEST_F(SimControls, ErrorCancelConcernsAJobThatStandsInError)
+TEST_F(SimControls, ErrorCancelRequiresAJobInError)
 {
     expectResult(23, ID, 25, FIRST_JOB);
     m_open.room.advance(1000);
@@ -372,7 +372,7 @@ TEST_F(SimControls, NotifyStatus)
 TEST_F(SimControls, PrecisionOfThePrintableCount)
 {
     expectPayload(26, ID, u32(1));
-    expectResult(26, "small", 1001); // too old to tell
+    expectResult(26, "small", 1001); // too old for this query
 }
 
 TEST_F(SimControls, MaintenanceBox)
@@ -477,7 +477,7 @@ TEST_F(SimControls, ARequestInPieces)
     EXPECT_EQ(reply->payload, u32(2));
 }
 
-TEST_F(SimControls, AnUnfinishedRequestIsNoRequest)
+TEST_F(SimControls, AnIncompleteRequestIsIgnored)
 {
     const RawClient client;
     ASSERT_TRUE(client.send(requestFrame(18, ID).substr(0, 407)));
@@ -507,7 +507,7 @@ TEST_F(SimControls, RequestsAreRecorded)
     EXPECT_EQ(m_open.room.requests(), (std::vector<udsim::Request>{{21, ID, "", 1}, {3, ID, FIRST_JOB, 0}}));
 }
 
-TEST_F(SimControls, TheLongestListArrivesInOnePiece)
+TEST_F(SimControls, TheLongestListArrivesInOneRead)
 {
     for (int i = 0; i < 33; ++i) {
         EXPECT_NE(m_open.room.addJob("Small"), "");

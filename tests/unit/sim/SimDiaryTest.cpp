@@ -1,4 +1,4 @@
-// The service's log file: what stands in it, and how it is turned over.
+// The log file of the service: its content and its rotation.
 #include <regex>
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ constexpr char LOG[] = "/var/log/arvenUlmarDiscControl.log";
 constexpr char ID[] = "{ARPUB20260105_1}";
 constexpr size_t STAMP = 20; ///< "2026-01-05 09:30:07 "
 
-/// The lines of a log, each without the date and time that it must begin with.
+/// The lines of a log without date and time. Each line must begin with them.
 std::vector<std::string> linesOf(const std::string& path)
 {
     const std::regex dated("[0-9]{4}-[01][0-9]-[0-3][0-9] [0-2][0-9]:[0-5][0-9]:[0-6][0-9] .*");
@@ -33,7 +33,7 @@ using Lines = std::vector<std::string>;
 
 } // namespace
 
-TEST(SimLog, TheDayOfAService)
+TEST(SimLog, LogsTheEventsOfASession)
 {
     {
         OpenRoom open(
@@ -89,7 +89,7 @@ TEST(SimLog, TheDayOfAService)
               }));
 }
 
-TEST(SimLog, EveryCommandThatChangesSomething)
+TEST(SimLog, DescribesEveryCommandThatChangesState)
 {
     const std::pair<udsim::Request, std::string> table[] = {
         {{1, "p", "J", 0}, "stop of job J accepted"},
@@ -109,7 +109,7 @@ TEST(SimLog, EveryCommandThatChangesSomething)
     }
 }
 
-TEST(SimLog, ASecondRoomWritesOnBehindTheFirst)
+TEST(SimLog, ASecondRoomAppends)
 {
     for (int turn = 0; turn < 2; ++turn) {
         const OpenRoom open("");
@@ -118,7 +118,7 @@ TEST(SimLog, ASecondRoomWritesOnBehindTheFirst)
               (Lines{"service started", "service stopped", "service started", "service stopped"}));
 }
 
-TEST(SimLog, IsThereForEveryoneToRead)
+TEST(SimLog, IsReadableByEveryone)
 {
     ::umask(022); // as udsim sets it
     const OpenRoom open("");
@@ -127,7 +127,7 @@ TEST(SimLog, IsThereForEveryoneToRead)
     EXPECT_EQ(status.st_mode, S_IFREG | 0644U);
 }
 
-TEST(SimLog, OldFilesMoveOn)
+TEST(SimLog, OldFilesAreRotated)
 {
     const std::string path = "/tmp/service.log";
     const udsim::ServiceLog log(path, 3 * (STAMP + 8), 2); // three lines of seven letters
@@ -143,7 +143,7 @@ TEST(SimLog, OldFilesMoveOn)
     EXPECT_FALSE(std::filesystem::exists(path + ".3"));
 }
 
-TEST(SimLog, ALineLongerThanAFileIsWrittenAllTheSame)
+TEST(SimLog, ALineLongerThanTheLimitIsWritten)
 {
     const udsim::ServiceLog log("/tmp/service.log", 10, 1);
     std::string error;
@@ -153,7 +153,7 @@ TEST(SimLog, ALineLongerThanAFileIsWrittenAllTheSame)
     EXPECT_EQ(linesOf("/tmp/service.log.1"), Lines{"first"});
 }
 
-TEST(SimLog, TheServiceTurnsItsLogOver)
+TEST(SimLog, TheServiceRotatesItsLog)
 {
     putFile(LOG, std::string(262'144, 'x'));
     const OpenRoom open("");
@@ -161,7 +161,7 @@ TEST(SimLog, TheServiceTurnsItsLogOver)
     EXPECT_EQ(std::filesystem::file_size(LOG + std::string(".1")), 262'144U);
 }
 
-TEST(SimLog, ALogThatCannotBeWrittenIsNotedOnce)
+TEST(SimLog, AnUnwritableLogIsReportedOnce)
 {
     std::filesystem::create_directory(LOG);
     udsim::Room room(scenarioOf("[publisher A]\nmodel = RT-30\nid = a\n"));

@@ -1,4 +1,4 @@
-// What each fault does to the bytes, and whom it befalls.
+// The effect of each fault on the bytes, and the requests that it applies to.
 #include <chrono>
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ id = b
 const std::string HEADER_OF_22 = Bytes(24).u64(0, 22).u64(16, 4).str();
 const std::string ZERO = Bytes(4).str();
 
-/// All bytes that come until the connection ends; the test fails when it does not end.
+/// All bytes until the connection ends. Fails the test if it does not end.
 std::string readToTheEnd(const RawClient& client)
 {
     std::string all;
@@ -58,7 +58,7 @@ protected:
 
 } // namespace
 
-TEST_F(SimFault, RefuseStopsTheListening)
+TEST_F(SimFault, RefuseStopsListening)
 {
     befall("refuse");
     const RawClient refused;
@@ -133,7 +133,7 @@ TEST_F(SimFault, Close)
     EXPECT_EQ(readToTheEnd(client), "");
 }
 
-TEST_F(SimFault, DelayIsNoSooner)
+TEST_F(SimFault, DelayIsAMinimum)
 {
     befall("delay 120");
     const auto start = std::chrono::steady_clock::now();
@@ -141,7 +141,7 @@ TEST_F(SimFault, DelayIsNoSooner)
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(120));
 }
 
-TEST_F(SimFault, ADelayedAnswerHoldsUpNobodyElse)
+TEST_F(SimFault, ADelayedReplyDelaysNoOtherConnection)
 {
     befall("delay 3600000", 22);
     const RawClient late;
@@ -151,7 +151,7 @@ TEST_F(SimFault, ADelayedAnswerHoldsUpNobodyElse)
     EXPECT_FALSE(late.isReadable(0));
 }
 
-TEST_F(SimFault, BefallsOnlyItsPublisherAndControl)
+TEST_F(SimFault, AppliesOnlyToItsPublisherAndControl)
 {
     befall("result 1004", 22, "B");
     EXPECT_EQ(ask(22, "b").result, 1004U);
@@ -160,7 +160,7 @@ TEST_F(SimFault, BefallsOnlyItsPublisherAndControl)
     EXPECT_EQ(ask(22, "nobody").result, 21U);
 }
 
-TEST_F(SimFault, BefallsAsOftenAsItSays)
+TEST_F(SimFault, AppliesTheGivenNumberOfTimes)
 {
     befall("result 1004", 22, "", 2);
     EXPECT_EQ(ask(22, "a").result, 1004U);
@@ -168,7 +168,7 @@ TEST_F(SimFault, BefallsAsOftenAsItSays)
     EXPECT_EQ(ask(22, "a").result, 0U);
 }
 
-TEST_F(SimFault, TheFirstThatFitsCounts)
+TEST_F(SimFault, TheFirstMatchingFaultApplies)
 {
     befall("result 1", 22, "", 1);
     befall("result 2", 22);
@@ -178,7 +178,7 @@ TEST_F(SimFault, TheFirstThatFitsCounts)
     EXPECT_EQ(ask(22, "a").result, 0U);
 }
 
-TEST_F(SimFault, AllOfThemFromAScenario)
+TEST_F(SimFault, ScenariosAcceptEveryFault)
 {
     for (const char* const text : {"refuse", "stall", "wrong-id", "short-header", "short-payload",
                                    "huge-length", "result 0", "result 1001", "close", "delay 5"}) {

@@ -1,4 +1,4 @@
-// The registry file, the setting files and the folders, as the service keeps them.
+// The registry file, the setting files and the folders that the service maintains.
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -48,7 +48,7 @@ constexpr char SAMPLE_LINES[] = "\"Text\"=\"new\"\n\"Number\"=dword:0000002a\n";
 
 } // namespace
 
-TEST(SimRegistry, NewSectionsGoToTheEnd)
+TEST(SimRegistry, NewSectionsAreAppended)
 {
     const std::string section = "[HKLM/Software/ARVEN/K]\n" + std::string(SAMPLE_LINES) + "\n";
     EXPECT_EQ(udsim::withRegistryKeys("", sample()), section);
@@ -66,7 +66,7 @@ TEST(SimRegistry, OtherValuesOfTheSectionStay)
                   "\"Before\"=\"1\"\n\"Numbers\"=dword:00000002\n\n[Z]\n");
 }
 
-TEST(SimRegistry, StrangeLinesStayByteForByte)
+TEST(SimRegistry, UnknownLinesStayByteForByte)
 {
     const std::string strange =
         "\"no section\"=\"x\"\r\n[open\n\"Text\"=\"mine\"\n[A]B]\n=\n\"half\n\xff\xfe\n" +
@@ -76,7 +76,7 @@ TEST(SimRegistry, StrangeLinesStayByteForByte)
     EXPECT_EQ(result.substr(strange.size()), "[HKLM/Software/ARVEN/K]\n" + std::string(SAMPLE_LINES) + "\n");
 }
 
-TEST(SimRegistry, ASectionThatStandsTwiceIsSetOnce)
+TEST(SimRegistry, ADuplicateSectionIsSetOnce)
 {
     EXPECT_EQ(udsim::withRegistryKeys(
                   "[HKLM/Software/ARVEN/K]\n\"Text\"=\"1\"\n[B]\n[HKLM/Software/ARVEN/K]\n\"Text\"=\"2\"\n",
@@ -119,7 +119,7 @@ TEST(SimRegistry, WaitsForTheLockOfAnotherProgram)
         std::string error;
         EXPECT_TRUE(udsim::writeRegistryKeys("/tmp/registry.txt", sample(), error)) << error;
     });
-    // The other program writes under its lock; what it wrote must still be there in the end.
+    // The other program writes while it holds the lock. Its text must still be there at the end.
     EXPECT_EQ(::pwrite(other, "[B]\n", 4, 4), 4);
     EXPECT_EQ(contents("/tmp/registry.txt"), "[A]\n[B]\n");
     ::flock(other, LOCK_UN);
@@ -129,7 +129,7 @@ TEST(SimRegistry, WaitsForTheLockOfAnotherProgram)
               "[A]\n[B]\n[HKLM/Software/ARVEN/K]\n" + std::string(SAMPLE_LINES) + "\n");
 }
 
-TEST(SimInstallation, StartMakesEverything)
+TEST(SimInstallation, StartCreatesAllFiles)
 {
     const OpenRoom open(ONE);
     EXPECT_EQ(contents(REGISTRY), "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n"
@@ -179,7 +179,7 @@ TEST(SimInstallation, ExistingFilesSurvive)
     EXPECT_EQ(contents(std::string(SETTINGS) + "one.ini"), "[Common]\nGUID={G1}\nPublisherName=Renamed\n");
 }
 
-TEST(SimInstallation, AMachineThatIsNotRegisteredHasNoSettingFile)
+TEST(SimInstallation, AnUnregisteredMachineHasNoSettingFile)
 {
     const OpenRoom open(std::string(ONE) + "registered = no\n");
     EXPECT_FALSE(std::filesystem::exists(std::string(SETTINGS) + "one.ini"));
@@ -196,7 +196,7 @@ TEST(SimInstallation, ConnectedFollowsTheMachine)
     EXPECT_NE(contents(REGISTRY).find("\"Connected\"=dword:00000001\n"), std::string::npos);
 }
 
-TEST(SimInstallation, TheSettingFileSaysWhichDeviceAnIdStandsFor)
+TEST(SimInstallation, TheSettingFileMapsAnIdToADevice)
 {
     OpenRoom open(std::string(ONE) +
                   "[publisher B]\nmodel = RT-30\nguid = {G2}\nerror = 19\nregistered = no\n");
@@ -219,7 +219,7 @@ TEST(SimInstallation, NotifyChangeReadsTheSettingFileAgain)
     EXPECT_EQ(open.room.look("A")->state().shownName, "New name");
 }
 
-TEST(SimInstallation, AFolderThatCannotBeMadeIsReported)
+TEST(SimInstallation, AFolderThatCannotBeCreatedIsReported)
 {
     put("/opt/arven", "a file in the way");
     udsim::Room room(scenarioOf(ONE));

@@ -1,4 +1,4 @@
-// udsim forget: what it removes, and what it leaves alone.
+// udsim forget: what it removes and what it keeps.
 #include <filesystem>
 #include <fstream>
 
@@ -18,7 +18,7 @@ constexpr char ROOM[] = "[publisher Studio A]\nmodel = RT-300III BD\nguid = {G1}
                         "[publisher B]\nmodel = RT-30II\nguid = {G2}\nid = two\nregistered = no\n"
                         "[network N]\nmodel = RT-300NII\nid = net\nhost = 127.0.0.11\n";
 
-/// All files below the settings, with their contents.
+/// All setting files with their contents.
 std::string settings()
 {
     std::string all;
@@ -28,7 +28,7 @@ std::string settings()
     return all;
 }
 
-/// Runs the room of the scenario; everything that it printed.
+/// Runs the room of the scenario. Returns its output.
 std::string runRoom()
 {
     ProgramProcess room(UDSIM, {SCENARIO});
@@ -46,9 +46,9 @@ protected:
     }
 };
 
-TEST_F(SimForget, LeavesNothingOfTheScenario)
+TEST_F(SimForget, RemovesEverythingOfTheScenario)
 {
-    std::ofstream(REGISTRY).close(); // as the package makes it
+    std::ofstream(REGISTRY).close(); // as the package creates it
     EXPECT_NE(runRoom().find("udsim: its publishers stay registered; to remove them: "
                              "udsim forget '/tmp/my room.udsim'\nudsim: ended\n"),
               std::string::npos);
@@ -67,7 +67,7 @@ TEST_F(SimForget, LeavesNothingOfTheScenario)
     EXPECT_EQ(again.status, 0);
 }
 
-TEST_F(SimForget, LeavesEverythingElseByteForByte)
+TEST_F(SimForget, KeepsEverythingElseByteForByte)
 {
     const std::string keys =
         "[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n\n"
@@ -83,7 +83,7 @@ TEST_F(SimForget, LeavesEverythingElseByteForByte)
     EXPECT_EQ(ReadText(REGISTRY), keys + "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n");
 }
 
-TEST_F(SimForget, TakesNoPublisherOfAnotherDeviceOrServerForItsOwn)
+TEST_F(SimForget, KeepsPublishersOfOtherDevicesAndServers)
 {
     std::ofstream(std::string(SETTINGS) + "/one.ini") << "[Common]\nGUID={OTHER}\nPublisherName=Mine\n";
     std::ofstream(std::string(SETTINGS) + "/net.ini")
@@ -105,13 +105,13 @@ TEST_F(SimForget, FindsPublishersWhoseSettingsWereChanged)
     EXPECT_EQ(settings(), "");
 }
 
-TEST_F(SimForget, MakesNoRegistry)
+TEST_F(SimForget, CreatesNoRegistry)
 {
     EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).status, 0);
     EXPECT_FALSE(fs::exists(REGISTRY));
 }
 
-TEST_F(SimForget, WaitsForTheEndOfTheRoom)
+TEST_F(SimForget, IsRefusedWhileARoomRuns)
 {
     ProgramProcess room(UDSIM, {SCENARIO});
     room.readUntil("udsim: ready\n");

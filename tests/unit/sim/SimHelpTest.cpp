@@ -1,4 +1,4 @@
-// The help and the manual page keep up with the program.
+// The help and the manual page match the program.
 #include <regex>
 #include <set>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Every option that the program's sources take.
+/// All options found in the sources of the program.
 std::set<std::string> options()
 {
     const std::regex literal("\"(--[a-z]+)\"");
@@ -53,7 +53,7 @@ TEST(SimHelp, NamesEveryOptionAndCommand)
     }
 }
 
-TEST(SimHelp, NamesScenariosThatThePackageBrings)
+TEST(SimHelp, NamesOnlyInstalledScenarios)
 {
     const std::regex path("(/?[a-z/]*)/([a-z]+\\.udsim)");
     for (const std::string& text : {runProgram(UDSIM, {"--help"}).output, manualPage()}) {
@@ -78,7 +78,7 @@ TEST(SimHelp, FitsATerminal)
     }
 }
 
-TEST(SimHelp, EverySubcommandIsAManualSection)
+TEST(SimHelp, TheManualHasItsSections)
 {
     const std::string page = manualPage();
     for (const char* const heading :
@@ -88,7 +88,7 @@ TEST(SimHelp, EverySubcommandIsAManualSection)
     }
 }
 
-TEST(SimHelp, TheRecordingInTheManualIsOne)
+TEST(SimHelp, TheRecordingInTheManualIsValid)
 {
     const std::string page = std::regex_replace(manualPage(), std::regex(R"(\\e)"), "\\");
     const size_t start = page.find("\nudsim-recording") + 1;

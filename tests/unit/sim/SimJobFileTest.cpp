@@ -1,4 +1,4 @@
-// What makes a job file a proper one: its form, its values, and the publisher that it is for.
+// Validation of job files: their form, their values and their publisher.
 #include <algorithm>
 #include <random>
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr char PUBLISHER[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\nname = Studio\n";
 
-/// What the service says to a job file; empty when it takes it.
+/// The reason why the service refuses a job file; empty if it accepts the file.
 std::string refusalIn(OpenRoom& open, const std::string& text)
 {
     putFile(JOBS + std::string("x_0000.epj"), text);
@@ -59,7 +59,7 @@ TEST(SimJobFile, ANozzleCheck)
     EXPECT_EQ(job->eject, 2);
 }
 
-TEST(SimJobFile, EveryLineHasToBeThereInItsPlace)
+TEST(SimJobFile, EveryLineIsRequiredInItsPlace)
 {
     const std::string whole = HEAD_CLEANING;
     size_t lines = 0;
@@ -76,7 +76,7 @@ TEST(SimJobFile, EveryLineHasToBeThereInItsPlace)
     EXPECT_EQ(lines, 20U);
 }
 
-TEST(SimJobFile, TheFormIsKeptToTheBlank)
+TEST(SimJobFile, TheFormMustMatchExactly)
 {
     const std::string whole = HEAD_CLEANING;
     const std::pair<std::string, std::string> table[] = {
@@ -183,11 +183,10 @@ TEST(SimJobFile, EveryRefusal)
     EXPECT_EQ(open.room.jobs("A").size(), 1U);
 }
 
-TEST(SimJobFile, TheTimeOfTheIdIsInAnyTimeZone)
+TEST(SimJobFile, TheTimeOfTheIdMayBeInAnyTimeZone)
 {
     std::string error;
-    for (const char* const created :
-         {"1767564007", "1767655807"}) { // eleven and a half, fourteen hours apart
+    for (const char* const created : {"1767564007", "1767655807"}) { // 11.5 and 14 hours apart
         EXPECT_TRUE(udsim::parseJobFile(with(HEAD_CLEANING, "1767605407", created), error)) << error;
     }
     EXPECT_TRUE(udsim::parseJobFile(
@@ -195,7 +194,7 @@ TEST(SimJobFile, TheTimeOfTheIdIsInAnyTimeZone)
         << error;
 }
 
-TEST(SimJobFile, WhereANozzleCheckMayEject)
+TEST(SimJobFile, EjectStackersOfANozzleCheck)
 {
     struct Row
     {
@@ -228,14 +227,14 @@ TEST(SimJobFile, WhereANozzleCheckMayEject)
     }
 }
 
-TEST(SimJobFile, AFullListTakesNoJob)
+TEST(SimJobFile, AFullListRefusesAJob)
 {
     OpenRoom open(std::string(PUBLISHER) + "jobs = 33\n");
     EXPECT_EQ(refusalIn(open, NOZZLE_CHECK), "the publisher's job list is full");
     EXPECT_EQ(open.room.jobs("A").size(), 33U);
 }
 
-TEST(SimJobFile, WhatIsWhole)
+TEST(SimJobFile, OnlyACompleteFileIsWhole)
 {
     const std::string whole = HEAD_CLEANING;
     EXPECT_TRUE(udsim::isWholeJobFile(whole));
@@ -246,9 +245,9 @@ TEST(SimJobFile, WhatIsWhole)
     EXPECT_TRUE(udsim::isWholeJobFile(with(whole, "PrintQuality = 0", "PrintQuality = 9")));
 }
 
-TEST(SimJobFile, AnyBytesAreRefusedWithAPlainReason)
+TEST(SimJobFile, RandomChangesAreParsedOrRefusedWithAPrintableReason)
 {
-    std::mt19937 random(20260105); // NOLINT: the same bytes every time
+    std::mt19937 random(20260105); // NOLINT: reproducible bytes
     const auto below = [&](size_t bound) { return static_cast<size_t>(random() % bound); };
     for (int turn = 0; turn < 20'000; ++turn) {
         std::string text = turn % 2 == 0 ? HEAD_CLEANING : NOZZLE_CHECK;

@@ -1,4 +1,4 @@
-// The job folder: which files the service takes out of it, when, and in what order.
+// The job folder: which files the service takes from it, when, and in which order.
 #include <random>
 
 #include <fcntl.h>
@@ -22,7 +22,7 @@ constexpr char PUBLISHER[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20
 constexpr char FOLDER[] = "/opt/arven/Ulmar Disc Maker/JOB";
 constexpr JobInbox::Clock::time_point START{};
 
-/// From here on file modes hold for this process as for everyone's.
+/// Drops all capabilities, so that file modes apply to this process.
 void giveUpPrivileges()
 {
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
@@ -37,7 +37,7 @@ protected:
     {
         std::filesystem::create_directory("/tmp/jobs");
     }
-    /// The names of what is taken at this time, each with the reason if it was refused.
+    /// The names of the files taken at this time, each with the reason if it is refused.
     std::vector<std::string> taken(std::chrono::milliseconds at = {})
     {
         std::vector<std::string> names;
@@ -63,7 +63,7 @@ using Names = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(SimJobInbox, FilesInTheOrderOfTheirNames)
+TEST_F(SimJobInbox, FilesAreTakenInNameOrder)
 {
     for (const char* const name : {"b_0001.epj", "a_0002.epj", "b_0000.epj", "a_0010.epj"}) {
         put(name);
@@ -73,7 +73,7 @@ TEST_F(SimJobInbox, FilesInTheOrderOfTheirNames)
     EXPECT_EQ(taken(), Names{});
 }
 
-TEST_F(SimJobInbox, TheTextComesByteByByte)
+TEST_F(SimJobInbox, TheTextIsReadByteForByte)
 {
     put("a.epj", NOZZLE_CHECK);
     const auto found = m_inbox.take(START);
@@ -92,7 +92,7 @@ TEST_F(SimJobInbox, OtherFilesStay)
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator("/tmp/jobs"), {}), 7);
 }
 
-TEST_F(SimJobInbox, AWriterHasSomeSecondsToComeToTheEnd)
+TEST_F(SimJobInbox, AWriterHasThreeSecondsToFinish)
 {
     using std::chrono::milliseconds;
     const std::string whole = HEAD_CLEANING;
@@ -120,7 +120,7 @@ TEST_F(SimJobInbox, SizeIsBounded)
     EXPECT_TRUE(std::filesystem::is_empty("/tmp/jobs"));
 }
 
-TEST_F(SimJobInbox, WhatIsNoFileIsRefused)
+TEST_F(SimJobInbox, OnlyRegularFilesAreAccepted)
 {
     putFile("/tmp/elsewhere", HEAD_CLEANING);
     std::filesystem::create_symlink("/tmp/elsewhere", "/tmp/jobs/link.epj");
@@ -132,7 +132,7 @@ TEST_F(SimJobInbox, WhatIsNoFileIsRefused)
     EXPECT_EQ(fileText("/tmp/elsewhere"), HEAD_CLEANING);
 }
 
-TEST_F(SimJobInbox, AFileThatNobodyMayRead)
+TEST_F(SimJobInbox, AnUnreadableFileIsRefused)
 {
     put("a.epj");
     std::filesystem::permissions("/tmp/jobs/a.epj", std::filesystem::perms::none);
@@ -151,7 +151,7 @@ TEST_F(SimJobInbox, AFileThatCannotBeRemovedIsReportedOnce)
     EXPECT_TRUE(isThere("a.epj"));
 }
 
-TEST_F(SimJobInbox, NoFolderHasNoFiles)
+TEST_F(SimJobInbox, AMissingFolderHasNoFiles)
 {
     std::filesystem::remove("/tmp/jobs");
     EXPECT_EQ(taken(), Names{});
@@ -160,9 +160,9 @@ TEST_F(SimJobInbox, NoFolderHasNoFiles)
     EXPECT_EQ(taken(), Names{});
 }
 
-TEST_F(SimJobInbox, AnyBytesInAnyFile)
+TEST_F(SimJobInbox, RandomBytesAreRefused)
 {
-    std::mt19937 random(7); // NOLINT: the same bytes every time
+    std::mt19937 random(7); // NOLINT: reproducible bytes
     for (int file = 0; file < 300; ++file) {
         std::string bytes(random() % 3000, '\0');
         std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
@@ -177,7 +177,7 @@ TEST_F(SimJobInbox, AnyBytesInAnyFile)
     EXPECT_EQ(refused, 300U);
 }
 
-TEST(SimJobFolderOfARoom, IsMadeForEveryone)
+TEST(SimJobFolderOfARoom, IsCreatedForEveryone)
 {
     ::umask(077);
     const OpenRoom open(PUBLISHER);
@@ -191,7 +191,7 @@ TEST(SimJobFolderOfARoom, IsMadeForEveryone)
     }
 }
 
-TEST(SimJobFolderOfARoom, WhatIsThereStays)
+TEST(SimJobFolderOfARoom, ExistingFilesStay)
 {
     std::filesystem::create_directories("/opt/arven/Ulmar Disc Maker/res/prnfile");
     putFile("/opt/arven/Ulmar Disc Maker/res/prnfile/nozzleCheck.prn", "pattern");
@@ -230,7 +230,7 @@ TEST(SimJobFolderOfARoom, TheFolderMayMoveWhileTheServiceRuns)
     EXPECT_EQ(open.room.takenFiles()[0].job, CLEANING_ID);
 }
 
-TEST(SimJobFolderOfARoom, ALinkThatLeadsNowhereIsNoHindrance)
+TEST(SimJobFolderOfARoom, ADanglingLinkIsIgnored)
 {
     std::filesystem::create_directories("/opt/arven/Ulmar Disc Maker");
     std::filesystem::create_symlink("/tmp/none", FOLDER);
@@ -239,7 +239,7 @@ TEST(SimJobFolderOfARoom, ALinkThatLeadsNowhereIsNoHindrance)
     EXPECT_EQ(std::filesystem::read_symlink(FOLDER), "/tmp/none");
 }
 
-TEST(SimJobFolderOfARoom, IsLookedIntoByItselfWhileTimeStandsStill)
+TEST(SimJobFolderOfARoom, IsPolledWhileTheClockStands)
 {
     OpenRoom open(PUBLISHER);
     putFile(JOBS + std::string("a.epj"), HEAD_CLEANING);
@@ -251,7 +251,7 @@ TEST(SimJobFolderOfARoom, IsLookedIntoByItselfWhileTimeStandsStill)
     EXPECT_TRUE(std::filesystem::is_empty(FOLDER));
 }
 
-TEST(SimJobFolderOfARoom, NobodyLooksWhileTheServiceIsStopped)
+TEST(SimJobFolderOfARoom, IsNotReadWhileTheServiceIsStopped)
 {
     OpenRoom open(PUBLISHER);
     ASSERT_TRUE(open.room.tell("", "service off"));
@@ -263,7 +263,7 @@ TEST(SimJobFolderOfARoom, NobodyLooksWhileTheServiceIsStopped)
     EXPECT_EQ(open.room.takenFiles().size(), 1U);
 }
 
-TEST(SimJobFolderOfARoom, OnlyTheRoomThatIsOpenTakesFiles)
+TEST(SimJobFolderOfARoom, OnlyAStartedRoomTakesFiles)
 {
     udsim::Room second(scenarioOf(PUBLISHER));
     {

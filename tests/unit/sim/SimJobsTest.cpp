@@ -1,4 +1,4 @@
-// What time and commands do to jobs, stackers and ink. No sockets: the machines alone.
+// The effect of time and commands on jobs, stackers and ink. Uses only the machines, no sockets.
 #include <gtest/gtest.h>
 
 #include "RoomFixture.h"
@@ -65,7 +65,7 @@ TEST_F(SimJobs, FromWaitingToFinished)
     EXPECT_FALSE(machine().isWorking());
 }
 
-TEST_F(SimJobs, EqualSumsOfTimeLeadToEqualStates)
+TEST_F(SimJobs, TheStepSizeDoesNotChangeTheState)
 {
     World other = m_world;
     m_world.advance(15'025);
@@ -111,7 +111,7 @@ TEST_F(SimJobs, AMachineWithoutDrivesOnlyPrints)
     EXPECT_EQ(world.publishers()[0].jobs()[0].type, 2U);
 }
 
-TEST_F(SimJobs, StackersAndInkGoDown)
+TEST_F(SimJobs, PrintsUseUpDiscsAndInk)
 {
     tell("stacker 1 10");
     m_world.advance(30'050);
@@ -154,7 +154,7 @@ TEST_F(SimJobs, AFullOutputStopsTheMachine)
     EXPECT_EQ(machine().state().stackers[3].discs, 100U);
 }
 
-TEST_F(SimJobs, NoInkStopsWhatPrints)
+TEST_F(SimJobs, MissingInkStopsPrintJobs)
 {
     tell("ink yellow 0");
     m_world.advance(1000);
@@ -168,7 +168,7 @@ TEST_F(SimJobs, NoInkStopsWhatPrints)
     EXPECT_EQ(job(0).status, RUNNING);
 }
 
-TEST_F(SimJobs, AnErrorPausesAndTheDiscIsTakenUpAgain)
+TEST_F(SimJobs, AnErrorPausesAndTheDiscIsResumed)
 {
     m_world.advance(4000);
     tell("error 9");
@@ -216,7 +216,7 @@ TEST_F(SimJobs, PauseAndResumeOnDemand)
     EXPECT_EQ(job(0).status, FINISHED);
 }
 
-TEST_F(SimJobs, StopTakesEffectBehindTheDisc)
+TEST_F(SimJobs, StopTakesEffectAfterTheDisc)
 {
     m_world.advance(1000);
     EXPECT_EQ(machine().stopJob(job(0).id), 0U);
@@ -232,7 +232,7 @@ TEST_F(SimJobs, StopTakesEffectBehindTheDisc)
     EXPECT_EQ(job(0).status, FINISHED);
 }
 
-TEST_F(SimJobs, CancelTakesEffectBehindTheDisc)
+TEST_F(SimJobs, CancelTakesEffectAfterTheDisc)
 {
     m_world.advance(1000);
     EXPECT_EQ(machine().cancelJob(job(0).id), 0U);
@@ -242,7 +242,7 @@ TEST_F(SimJobs, CancelTakesEffectBehindTheDisc)
     EXPECT_EQ(job(0).completed, 1U);
 }
 
-TEST_F(SimJobs, PendingCommandsDoNotWaitForAHindrance)
+TEST_F(SimJobs, PendingCommandsTakeEffectDuringAnError)
 {
     m_world.advance(1000);
     EXPECT_EQ(machine().cancelJob(job(0).id), 0U);
@@ -252,7 +252,7 @@ TEST_F(SimJobs, PendingCommandsDoNotWaitForAHindrance)
     EXPECT_EQ(job(0).factor, 0U);
 }
 
-TEST_F(SimJobs, OldJobsAreForgotten)
+TEST_F(SimJobs, OldJobsAreRemoved)
 {
     for (int i = 0; i < 60; ++i) {
         ASSERT_NE(machine().addJob({.name = "Job " + std::to_string(i)}), "");
@@ -285,7 +285,7 @@ TEST_F(SimJobs, EventsHappenAtTheirTime)
     EXPECT_TRUE(world.serviceOn());
 }
 
-TEST_F(SimJobs, NotesTellWhatChanged)
+TEST_F(SimJobs, NotesReportChanges)
 {
     m_world.advance(0);
     EXPECT_EQ(m_world.takeNotes(), (std::vector<std::string>{"0:00 A: ready, 2 waiting"}));

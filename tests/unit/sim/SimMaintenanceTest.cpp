@@ -1,4 +1,4 @@
-// Head cleanings and nozzle checks on their way through a machine, and the changes of its settings.
+// Head cleanings and nozzle checks from the job file to the end, and changes of the settings.
 #include <gtest/gtest.h>
 
 #include "JobFilesFixture.h"
@@ -12,7 +12,7 @@ constexpr char SETTING[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher/{ARPUB
 constexpr char IDLE[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\nname = Studio\n"
                         "disc-time = 10s\ncleaning-time = 5s\nink.black = 20\n";
 
-/// Takes the job file in, without any time passing.
+/// Has the room take the job file without advancing its clock.
 void take(OpenRoom& open, const std::string& text)
 {
     const size_t before = open.room.takenFiles().size();
@@ -32,7 +32,7 @@ udsim::Publisher machine(const OpenRoom& open)
     return *open.room.look("A");
 }
 
-/// The first job's payload as it has to come.
+/// The expected payload of the first job.
 Bytes jobPayload(const std::string& id, const std::string& name, uint64_t status)
 {
     return Bytes(1088).text(0, id).text(256, name).u64(512, status).text(584, "udsim").u64(1080, 32);
@@ -40,7 +40,7 @@ Bytes jobPayload(const std::string& id, const std::string& name, uint64_t status
 
 } // namespace
 
-TEST(SimMaintenance, AHeadCleaningFromTheFileToTheEnd)
+TEST(SimMaintenance, RunsAHeadCleaning)
 {
     OpenRoom open(IDLE);
     take(open, HEAD_CLEANING);
@@ -66,7 +66,7 @@ TEST(SimMaintenance, AHeadCleaningFromTheFileToTheEnd)
     EXPECT_EQ(machine(open).printedDiscs(), 0U);
 }
 
-TEST(SimMaintenance, ANozzleCheckFromTheFileToTheEnd)
+TEST(SimMaintenance, RunsANozzleCheck)
 {
     OpenRoom open(IDLE);
     take(open, NOZZLE_CHECK);
@@ -91,14 +91,14 @@ TEST(SimMaintenance, ANozzleCheckFromTheFileToTheEnd)
     EXPECT_EQ(machine(open).state().stackers[3].discs, 1U);
 }
 
-TEST(SimMaintenance, WhereTheDiscOfANozzleCheckGoes)
+TEST(SimMaintenance, DestinationOfANozzleCheck)
 {
     struct Row
     {
         const char* settings;
         int eject;
         uint64_t destinations;
-        size_t stacker; ///< where the disc is in the end, from 0
+        size_t stacker; ///< final stacker of the disc, counted from 0
     };
     const Row table[] = {
         {"model = RT-300III BD\nstacker2 = 100\n", 2, 8, 3},
@@ -121,7 +121,7 @@ TEST(SimMaintenance, WhereTheDiscOfANozzleCheckGoes)
     }
 }
 
-TEST(SimMaintenance, ANozzleCheckWantsADiscInStacker1)
+TEST(SimMaintenance, ANozzleCheckRequiresADiscInStacker1)
 {
     OpenRoom open(std::string(IDLE) + "mode = 1\nstacker1 = 0\nstacker2 = 50\n");
     take(open, with(NOZZLE_CHECK, "Eject = 2", "Eject = 0"));
@@ -134,7 +134,7 @@ TEST(SimMaintenance, ANozzleCheckWantsADiscInStacker1)
     EXPECT_EQ(machine(open).state().stackers[1].discs, 50U);
 }
 
-TEST(SimMaintenance, WithoutInkNothingIsCleaned)
+TEST(SimMaintenance, ACleaningRequiresInk)
 {
     OpenRoom open(std::string(IDLE) + "ink.cyan = 0\n");
     take(open, HEAD_CLEANING);
@@ -146,7 +146,7 @@ TEST(SimMaintenance, WithoutInkNothingIsCleaned)
     EXPECT_EQ(open.room.jobs("A").at(0).status, 9U);
 }
 
-TEST(SimMaintenance, ACleaningNeverTakesMoreInkThanThereIs)
+TEST(SimMaintenance, ACleaningUsesAtMostTheInkLeft)
 {
     OpenRoom open(std::string(IDLE) + "ink.cyan = 1\n");
     take(open, HEAD_CLEANING);
@@ -154,7 +154,7 @@ TEST(SimMaintenance, ACleaningNeverTakesMoreInkThanThereIs)
     EXPECT_EQ(machine(open).state().ink[0], 0U);
 }
 
-TEST(SimMaintenance, AMachineThatIsOffLetsTheJobWait)
+TEST(SimMaintenance, JobsWaitWhileTheMachineIsOffline)
 {
     OpenRoom open(std::string(IDLE) + "connected = no\n");
     take(open, HEAD_CLEANING);
@@ -169,7 +169,7 @@ TEST(SimMaintenance, AMachineThatIsOffLetsTheJobWait)
     EXPECT_EQ(open.room.jobs("A").at(0).factor, 11U);
 }
 
-TEST(SimMaintenance, JobsAreDoneOneAfterTheOther)
+TEST(SimMaintenance, JobsRunInOrder)
 {
     OpenRoom open(std::string(IDLE) + "job = First, type=print\n");
     take(open, HEAD_CLEANING);
@@ -184,7 +184,7 @@ TEST(SimMaintenance, JobsAreDoneOneAfterTheOther)
     EXPECT_EQ(open.room.jobs("A").at(2).status, 8U);
 }
 
-TEST(SimMaintenance, ACleaningIsWorkThatForbidsAChange)
+TEST(SimMaintenance, SettingsCannotChangeDuringACleaning)
 {
     OpenRoom open(IDLE);
     take(open, HEAD_CLEANING);
@@ -196,7 +196,7 @@ TEST(SimMaintenance, ACleaningIsWorkThatForbidsAChange)
     EXPECT_EQ(ask(21, ID, "", 2).result, 0U);
 }
 
-TEST(SimMaintenance, AModeAndThenItsSettings)
+TEST(SimMaintenance, TheModeAndItsSettingsAreApplied)
 {
     struct Row
     {
@@ -226,7 +226,7 @@ TEST(SimMaintenance, AModeAndThenItsSettings)
     }
 }
 
-TEST(SimMaintenance, NotesForTheOneWhoWatches)
+TEST(SimMaintenance, NotesReportSettingChanges)
 {
     udsim::Room room(scenarioOf(IDLE));
     std::vector<std::string> notes;
@@ -240,7 +240,7 @@ TEST(SimMaintenance, NotesForTheOneWhoWatches)
     ask(16, ID);
     ask(18, ID);
     ask(16, "nobody\n");
-    room.stop(); // the notes came on the room's thread
+    room.stop(); // joins the thread that adds the notes
     EXPECT_EQ(last(), (std::vector<std::string>{
                           "0:00 Studio: publish mode 2 set",
                           "0:00 Studio: publish mode 7 refused with code 37",

@@ -1,4 +1,4 @@
-// Which known word somebody meant who wrote another.
+// Suggestions for mistyped words.
 #include <gtest/gtest.h>
 
 #include "Nearest.h"
@@ -11,25 +11,25 @@ TEST(SimNearest, Suggestions)
         "online",         "offline",  "disc-time", "maintenance-box", "server-mode", "model",
         "stacker1.media", "Studio A", "Studio B",  "wrong-id",        "id"};
     const std::pair<std::string, std::string> table[] = {
-        {"ofline", "offline"},   // a letter missing: nearer by its beginning than "online"
-        {"offlline", "offline"}, // one too many
-        {"offlime", "offline"},  // a wrong one
-        {"offlnie", "offline"},  // two swapped
+        {"ofline", "offline"},   // missing letter; the prefix makes it closer than "online"
+        {"offlline", "offline"}, // extra letter
+        {"offlime", "offline"},  // wrong letter
+        {"offlnie", "offline"},  // swapped letters
         {"OFFLINE", "offline"},  // capitals
         {"studio a", "Studio A"},
         {"disk-time", "disc-time"},
-        {"box", "maintenance-box"}, // a part between hyphens
-        {"mode", "server-mode"},    // a part, and not the slip of another
+        {"box", "maintenance-box"}, // part between hyphens
+        {"mode", "server-mode"},    // part, preferred to a typo of "model"
         {"media", "stacker1.media"},
-        {"wro", "wrong-id"}, // a beginning
+        {"wro", "wrong-id"}, // prefix
         {"wrong", "wrong-id"},
         {"maintenence-bocks", "maintenance-box"},
         {"ID", "id"},
-        {"ie", ""}, // too short for a slip
-        {"wr", ""}, // too short for a beginning
+        {"ie", ""}, // too short for a typo
+        {"wr", ""}, // too short for a prefix
         {"", ""},
         {"dance", ""},
-        {"offhand", ""}, // three slips in seven letters
+        {"offhand", ""}, // three typos in seven letters
         {std::string(100'000, 'o'), ""},
     };
     for (const auto& [word, expected] : table) {

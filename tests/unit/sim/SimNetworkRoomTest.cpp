@@ -1,4 +1,4 @@
-// Publisher servers at their addresses: the wire, the requests that are kept, and what goes wrong on demand.
+// Publisher servers at their addresses: the HTTP traffic, the recorded requests and the faults.
 #include <fstream>
 #include <sstream>
 
@@ -49,7 +49,7 @@ protected:
         fault->after = after;
         m_open.room.setFault(*fault);
     }
-    /// What comes for the first request until the connection ends, which it has to.
+    /// All bytes after one request until the connection ends. Fails the test if it does not end.
     std::string toTheEnd(const std::string& request = MODE) const
     {
         const HttpClient client;
@@ -66,7 +66,7 @@ protected:
 
 } // namespace
 
-TEST_F(SimNetworkRoom, AConnectionIsKept)
+TEST_F(SimNetworkRoom, ConnectionsAreKeptAlive)
 {
     const HttpClient client;
     ASSERT_EQ(client.error(), 0);
@@ -80,7 +80,7 @@ TEST_F(SimNetworkRoom, AConnectionIsKept)
     EXPECT_EQ(m_room.httpRequests().size(), 3U);
 }
 
-TEST_F(SimNetworkRoom, WhatARequestLeaves)
+TEST_F(SimNetworkRoom, RequestsAreRecorded)
 {
     const HttpClient client("127.0.0.12");
     const std::string reply = client.ask("POST /webapp2/IFVersionChecker HTTP/1.1\r\nHost:localhost\r\n"
@@ -102,7 +102,7 @@ TEST_F(SimNetworkRoom, WhatARequestLeaves)
     EXPECT_EQ(request.bodySha1, "b39e442a4af593ed103305f45a9fbee696796bb7");
 }
 
-TEST_F(SimNetworkRoom, AnyMethodAndALargeBody)
+TEST_F(SimNetworkRoom, OtherMethodsAndALargeBody)
 {
     const HttpClient client;
     const std::string registered =
@@ -137,7 +137,7 @@ TEST_F(SimNetworkRoom, SettingFiles)
               "PublisherURL=127.0.0.12\nNPType=1\n");
 }
 
-TEST_F(SimNetworkRoom, AServerGoesAndComesBack)
+TEST_F(SimNetworkRoom, AServerCanStopAndRestart)
 {
     const HttpClient open;
     ASSERT_EQ(bodyOf(open.ask(MODE)), MODE_BODY);
@@ -174,7 +174,7 @@ TEST_F(SimNetworkRoom, AServerGoesAndComesBackOftenWithConnectionsThatStall)
     }
 }
 
-TEST_F(SimNetworkRoom, TheRoomEndsWithEverythingOpen)
+TEST_F(SimNetworkRoom, TheRoomStopsWithOpenConnections)
 {
     befall("stall");
     const HttpClient stalled;
@@ -195,7 +195,7 @@ TEST_F(SimNetworkRoom, TheRoomEndsWithEverythingOpen)
     EXPECT_EQ(bodyOf(HttpClient().ask(MODE)), MODE_BODY);
 }
 
-TEST_F(SimNetworkRoom, AnAddressThatIsTaken)
+TEST_F(SimNetworkRoom, AnAddressInUseIsRefused)
 {
     udsim::Room second(scenarioOf(TWO_SERVERS));
     std::string error;
@@ -285,7 +285,7 @@ TEST_F(SimNetworkRoom, FaultsThatEndTheConnection)
     }
 }
 
-TEST_F(SimNetworkRoom, APromiseThatIsNotKept)
+TEST_F(SimNetworkRoom, AContentLengthLargerThanTheBody)
 {
     befall("content-length 4294967296");
     const HttpClient client;
@@ -297,7 +297,7 @@ TEST_F(SimNetworkRoom, APromiseThatIsNotKept)
     EXPECT_FALSE(client.isReadable(50)) << "silence, and no end";
 }
 
-TEST_F(SimNetworkRoom, WhomAFaultBefalls)
+TEST_F(SimNetworkRoom, FaultsApplyToMatchingRequests)
 {
     const HttpClient client;
     befall("status 12", "/webapp2/Server", 2, 1);
@@ -320,7 +320,7 @@ TEST_F(SimNetworkRoom, ARefusedRequestChangesNothing)
     EXPECT_EQ(bodyOf(client.ask(request)), hex("00 00 04 00 00 00 01"));
 }
 
-TEST_F(SimNetworkRoom, TimePassesForThemToo)
+TEST_F(SimNetworkRoom, TimeAdvancesForServersToo)
 {
     m_room.addJob("A", {.name = "Disc"});
     m_room.advance(60'000);

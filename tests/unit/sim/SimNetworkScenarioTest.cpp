@@ -1,4 +1,4 @@
-// The scenario's language about network publishers: what it means, and what it says about mistakes.
+// Scenarios with network publishers: their meaning and their error messages.
 #include "NetworkFixture.h"
 
 using udsim::HttpFault;

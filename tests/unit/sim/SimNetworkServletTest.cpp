@@ -93,7 +93,7 @@ TEST(SimNetworkServlet, NumericInformation)
     EXPECT_EQ(server.get(NUMBER + "9"), OTHER);
 }
 
-TEST(SimNetworkServlet, WhatTheModelsCannotTell)
+TEST(SimNetworkServlet, ValuesThatSomeModelsLack)
 {
     struct Row
     {
@@ -115,7 +115,7 @@ TEST(SimNetworkServlet, WhatTheModelsCannotTell)
     }
 }
 
-TEST(SimNetworkServlet, StatusAtRest)
+TEST(SimNetworkServlet, StatusWhenIdle)
 {
     NetworkServer server("server-mode = 2\nink.black = 9\nink.cyan = 80\nink.yellow = 35\nstacker1 = 60\n");
     EXPECT_EQ(server.get(STATUS + "0"), item(std::string(16, '\0')));
@@ -172,7 +172,7 @@ TEST(SimNetworkServlet, FullStackersInTheNotice)
     EXPECT_EQ(bigEndianAt(batch.get(STATUS + "6"), 3 + 28, 4), 0x4U) << "batch mode has its own bit";
 }
 
-TEST(SimNetworkServlet, ADiscOnItsWay)
+TEST(SimNetworkServlet, StatusWhileWriting)
 {
     NetworkServer server("disc-time = 10s\njob = Disc, copies=2\n");
     server.server.step(50);
@@ -252,9 +252,9 @@ TEST(SimNetworkServlet, TheRecordOfAJob)
     EXPECT_EQ(server.get(JOBS + "2"), DONE);
 }
 
-TEST(SimNetworkServlet, TextsAreCutAtWholeCharacters)
+TEST(SimNetworkServlet, TextsAreTruncatedAtCharacterBoundaries)
 {
-    // 254 letters and a character of two units: 255 units would part it.
+    // 254 letters and a character of two UTF-16 units: a cut at 255 units would split it.
     NetworkServer server("");
     udsim::JobSetup job;
     job.name = std::string(254, 'a') + "\xF0\x9F\x92\xBF";
@@ -287,7 +287,7 @@ TEST(SimNetworkServlet, StatusBytesOfJobs)
     EXPECT_EQ(server.control("0", "00000002"), 7) << "it is committed already";
 }
 
-TEST(SimNetworkServlet, ACoverThatWasOpenedIsRemembered)
+TEST(SimNetworkServlet, AnOpenedCoverIsRecordedInTheJob)
 {
     NetworkServer server("disc-time = 1s\njobs = 1\n");
     server.server.step(50);
@@ -307,7 +307,7 @@ TEST(SimNetworkServlet, ACoverThatWasOpenedIsRemembered)
     EXPECT_EQ(bigEndianAt(ended, 3 + 658, 4), 2U);
 }
 
-TEST(SimNetworkServlet, ByTheSubmittersId)
+TEST(SimNetworkServlet, ControlsJobsByTheSubmittersId)
 {
     NetworkServer server("serial = S\njobs = 3\n");
     const std::string path = "/webapp2/JobControllerExt";

@@ -1,4 +1,4 @@
-// Jobs on their way into a publisher server: registration, folder, pieces of files, hashes, commitment.
+// Uploads of jobs to a publisher server: registration, folder, parts of files, hashes, commit.
 #include "NetworkFixture.h"
 
 namespace {
@@ -79,7 +79,7 @@ TEST(SimNetworkUpload, ANormalJobFromEndToEnd)
     EXPECT_TRUE(net.server.uploads().jobs().empty()) << "the files go when the job has ended";
 }
 
-TEST(SimNetworkUpload, CredentialsAreThoseOfTheJob)
+TEST(SimNetworkUpload, CredentialsBelongToOneJob)
 {
     NetworkServer net("");
     HttpHeaders first;
@@ -174,7 +174,7 @@ TEST(SimNetworkUpload, HashPathOfEachModel)
     }
 }
 
-TEST(SimNetworkUpload, OldServersTakeNoHashesAndMakeNoFolders)
+TEST(SimNetworkUpload, OldServersAcceptNoHashesAndCreateNoFolders)
 {
     const std::pair<const char*, bool> table[] = {{"1.9", false},  {"2.0", true}, {"2.29", true},
                                                   {"2.30", false}, {"3", true},   {"3.29", true},
@@ -258,7 +258,7 @@ TEST(SimNetworkUpload, AHeadCleaning)
     EXPECT_EQ(net.server.machine().state().ink[0], 47U);
 }
 
-TEST(SimNetworkUpload, SpecialJobsThatAreRefused)
+TEST(SimNetworkUpload, InvalidSpecialJobsAreRefused)
 {
     const std::pair<const char*, const char*> table[] = {
         {"0x01030000", "0x01050000"},
@@ -281,7 +281,7 @@ TEST(SimNetworkUpload, SpecialJobsThatAreRefused)
     }
 }
 
-TEST(SimNetworkUpload, WhatFilesSayOfTheWork)
+TEST(SimNetworkUpload, UploadedFilesDetermineTheJobType)
 {
     struct Row
     {

@@ -1,4 +1,4 @@
-// The program udsim, from outside, and the scenario of the demo.
+// The program udsim, run as a process, and the demo scenario.
 #include <algorithm>
 #include <csignal>
 #include <fstream>
@@ -110,7 +110,7 @@ TEST(SimProgram, WrongArguments)
     }
 }
 
-TEST(SimProgram, ABadScenario)
+TEST(SimProgram, AnInvalidScenarioIsReported)
 {
     putScenario("[publisher A]\nmodel = RT-1\n");
     for (const std::vector<std::string>& arguments :
@@ -143,7 +143,7 @@ TEST(SimProgram, ChecksEveryScenarioOfTheProject)
     }
 }
 
-TEST(SimProgram, RunsUntilItIsEnded)
+TEST(SimProgram, RunsUntilASignal)
 {
     putScenario("[publisher A]\nmodel = RT-30\nid = a\n[event]\nat = 100s\npublisher = A\ndo = error 9\n");
     for (const int signal : {SIGTERM, SIGINT}) {
@@ -175,7 +175,7 @@ TEST(SimProgram, AnOptionAndItsValueInOneWord)
     }
 }
 
-TEST(SimProgram, WritesForOthersToReadWhateverTheUmask)
+TEST(SimProgram, FilesAreReadableByOthersUnderAnyUmask)
 {
     putScenario("[publisher A]\nmodel = RT-30\nid = a\n");
     ::umask(077);
@@ -190,7 +190,7 @@ TEST(SimProgram, WritesForOthersToReadWhateverTheUmask)
     }
 }
 
-TEST(SimProgram, PrintsWhatTheAgentTakes)
+TEST(SimProgram, PrintsTheRecordsOfTheAgent)
 {
     putScenario("");
     Udsim udsim({SCENARIO});
@@ -208,7 +208,7 @@ TEST(SimProgram, PrintsWhatTheAgentTakes)
     udsim.readUntil("log 4 RT300API[7]: word\n");
 }
 
-TEST(SimProgram, ASecondOneIsRefused)
+TEST(SimProgram, ASecondInstanceIsRefused)
 {
     putScenario("");
     Udsim first({SCENARIO});
@@ -219,7 +219,7 @@ TEST(SimProgram, ASecondOneIsRefused)
     EXPECT_EQ(ask(13).result, 0U);
 }
 
-TEST(SimDemo, TheScenarioStaysLively)
+TEST(SimDemo, ChangesAtLeastSixTimesAMinute)
 {
     std::string error;
     const auto scenario = udsim::Scenario::load(DEMO_SCENARIO, error);
@@ -260,7 +260,7 @@ TEST(SimDemo, AMachineOfEachFamilyIsIdle)
     }
 }
 
-TEST(SimDemo, EveryMachineHasProperties)
+TEST(SimDemo, UsesTheModelsOfThePropertyDialog)
 {
     std::string error;
     const auto scenario = udsim::Scenario::load(DEMO_SCENARIO, error);

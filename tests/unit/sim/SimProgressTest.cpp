@@ -1,4 +1,4 @@
-// The progress of jobs as lines, and the terminal's bytes.
+// Progress lines of jobs, and the bytes written to the terminal.
 #include <gtest/gtest.h>
 
 #include "Progress.h"
@@ -57,7 +57,7 @@ TEST(SimProgress, States)
     }
 }
 
-TEST(SimProgress, OfAServersMachine)
+TEST(SimProgress, OfANetworkPublisher)
 {
     udsim::World world(scenarioOf("[network N]\nmodel = RT-300N\ndisc-time = 10s\njob = X, copies=2\n"));
     world.advance(1000);
@@ -76,7 +76,7 @@ TEST(SimProgress, LinesOf80Columns)
                      "Clinic                                  [################]  100%  cleaning"}));
 }
 
-TEST(SimProgress, EveryWidthIsKept)
+TEST(SimProgress, LinesFitEveryWidth)
 {
     const std::vector<JobProgress> jobs{{"Studio with a very long name indeed",
                                          "Größe \xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E and more and more words",
@@ -91,7 +91,7 @@ TEST(SimProgress, EveryWidthIsKept)
     EXPECT_EQ(progressLines(jobs, 200, 24)[0].find("Studio with a v...  Größe "), 0U);
 }
 
-TEST(SimProgress, ATerminalOfFewLines)
+TEST(SimProgress, ASmallTerminalShowsFewerJobs)
 {
     const std::vector<JobProgress> jobs(5, JobProgress{"A", "X", 1, 1, 7, "writing"});
     EXPECT_EQ(progressLines(jobs, 80, 5).size(), 5U);
@@ -102,15 +102,15 @@ TEST(SimProgress, ATerminalOfFewLines)
     EXPECT_TRUE(progressLines(jobs, 80, 0).empty());
 }
 
-TEST(SimProgress, TextsInColumns)
+TEST(SimProgress, TextsAreMeasuredInColumns)
 {
     EXPECT_EQ(udsim::fit("abc", 5), "abc  ");
     EXPECT_EQ(udsim::fit("abcdef", 5), "ab...");
     EXPECT_EQ(udsim::fit("abcdef", 3), "abc");
     EXPECT_EQ(udsim::fit("abcdef", 0), "");
-    EXPECT_EQ(udsim::columnsOf("\xE6\x97\xA5\xE6\x9C\xAC"), 4U);           // two wide signs
-    EXPECT_EQ(udsim::fit("\xE6\x97\xA5\xE6\x9C\xAC", 3), "\xE6\x97\xA5 "); // half of one is none
-    EXPECT_EQ(udsim::columnsOf("u\xCC\x88"), 1U);                          // a sign and its dots
+    EXPECT_EQ(udsim::columnsOf("\xE6\x97\xA5\xE6\x9C\xAC"), 4U);           // two wide characters
+    EXPECT_EQ(udsim::fit("\xE6\x97\xA5\xE6\x9C\xAC", 3), "\xE6\x97\xA5 "); // a wide character is not split
+    EXPECT_EQ(udsim::columnsOf("u\xCC\x88"), 1U);                          // a letter and a combining mark
     EXPECT_EQ(udsim::fit("a\tb\x7F", 4), "a?b?");
     EXPECT_EQ(udsim::fit("\xFF", 1), "\xEF\xBF\xBD");
 }

@@ -1,4 +1,4 @@
-// The file of a recording: its bytes, and files that are none.
+// Recording files: their format, and invalid files.
 #include <fstream>
 
 #include <gtest/gtest.h>
@@ -42,7 +42,7 @@ TEST(SimRecording, BytesAsText)
     }
 }
 
-TEST(SimRecording, EveryByteComesBack)
+TEST(SimRecording, EveryByteSurvivesQuoting)
 {
     std::string bytes;
     for (int turn = 0; turn < 3; ++turn) {
@@ -54,7 +54,7 @@ TEST(SimRecording, EveryByteComesBack)
     EXPECT_EQ(udsim::unquotedBytes(udsim::quotedBytes(bytes), MOST), bytes);
 }
 
-TEST(SimRecording, TextsThatAreNoBytes)
+TEST(SimRecording, InvalidTextsAreRefused)
 {
     for (const char* const text : {"", "\"", "a", "\"a", "a\"", R"("a"b")", R"("\")", R"("\q")", R"("\x")",
                                    R"("\x1")", R"("\xg1")", R"("\0")", R"("\0{")", R"("\0{}")", R"("\0{x}")",
@@ -117,7 +117,7 @@ TEST(SimRecording, Mistakes)
         {"[publisher A]\nmodel = RT-30\n", none},
         {"udsim-recording 2 service\n", none},
         {"udsim-recording 1 kitchen\n", none},
-        {"udsim-recording 1 service", none}, // cut off
+        {"udsim-recording 1 service", none}, // truncated
         {std::string(1000, '\0') + "\n", none},
         {start + "hello\n", noMessage},
         {start + "1 1 ask 1 \"a\"\n", noMessage},
@@ -143,7 +143,7 @@ TEST(SimRecording, Mistakes)
     }
 }
 
-TEST(SimRecording, ACutFileIsTakenUpToTheCut)
+TEST(SimRecording, ATruncatedFileIsReadUpToTheCut)
 {
     const std::string whole = std::string(START) + "0.001 1 ask 3 \"abc\"\n0.002 1 answer 3 \"def\"\n";
     const size_t second = whole.find("0.002");
@@ -157,7 +157,7 @@ TEST(SimRecording, ACutFileIsTakenUpToTheCut)
     }
 }
 
-TEST(SimRecording, AGarbledFileIsRefusedOrTaken)
+TEST(SimRecording, ACorruptFileIsRefusedOrRead)
 {
     const std::string whole =
         std::string(START) + "0.001 1 ask 9 \"a\\0{7}\\x01\"\n0.002 1 answer 3 \"def\"\n0.003 1 closed\n";

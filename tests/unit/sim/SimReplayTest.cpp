@@ -1,4 +1,4 @@
-// Requests found in a recording, and a recording played to a client.
+// Requests in a recording, and the replay of a recording to a client.
 #include <mutex>
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ std::string answerText(const std::string& body)
     return "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
 }
 
-/// A recording of a server, played at 127.0.0.40, port 8080.
+/// Replays a recording of a server at 127.0.0.40, port 8080.
 class Played
 {
 public:
@@ -107,7 +107,7 @@ TEST(SimReplay, SizesOfRequests)
     }
 }
 
-TEST(SimReplay, AnswersInOrderAndTheLastOneAgain)
+TEST(SimReplay, AnswersComeInOrderAndTheLastOneRepeats)
 {
     udsim::RecordedAnswers answers(
         {Of::server,
@@ -139,7 +139,7 @@ TEST(SimReplay, AnswersInOrderAndTheLastOneAgain)
         << "what came in between";
 }
 
-TEST(SimReplay, PlaysToAClient)
+TEST(SimReplay, RepliesToAClient)
 {
     const std::string one = answerText("one");
     Played played({message(1, Kind::ask, "GET /a HTTP/1.1\r\n\r\n"), message(1, Kind::answer, one),
@@ -162,7 +162,7 @@ TEST(SimReplay, PlaysToAClient)
               "for");
 }
 
-TEST(SimReplay, SilenceAndEndsAreKept)
+TEST(SimReplay, SilenceAndDisconnectsAreReplayed)
 {
     Played played({message(1, Kind::ask, "GET /silent HTTP/1.1\r\n\r\n"),
                    message(2, Kind::ask, "GET /gone HTTP/1.1\r\n\r\n"),
@@ -181,7 +181,7 @@ TEST(SimReplay, SilenceAndEndsAreKept)
     EXPECT_TRUE(silent.WaitForClose());
 }
 
-TEST(SimReplay, PeersThatSendNonsense)
+TEST(SimReplay, PeersThatSendInvalidRequests)
 {
     Played played(
         {message(1, Kind::ask, "GET /a HTTP/1.1\r\n\r\n"), message(1, Kind::answer, answerText("x"))});

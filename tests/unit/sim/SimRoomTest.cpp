@@ -53,7 +53,7 @@ TEST(SimAgent, Entries)
     }
 }
 
-TEST(SimAgent, CollectsWhatItIsSent)
+TEST(SimAgent, CollectsRecords)
 {
     const OpenRoom open(TWO);
     sendDatagram("MESSAGE=RT300API[1]: one\nPRIORITY=4\n");
@@ -94,7 +94,7 @@ TEST(SimRoom, AStoppedRoomStillTakesCommands)
     EXPECT_EQ(ask(22, "a").payload, Bytes(4).u32(0, 11).str());
 }
 
-TEST(SimRoom, WhatItDoesNotUnderstand)
+TEST(SimRoom, InvalidCommandsAreRefused)
 {
     udsim::Room room(scenarioOf(TWO));
     std::string error;
@@ -128,7 +128,7 @@ TEST(SimRoom, TwoRoomsAtOnceAreRefused)
     EXPECT_EQ(ask(13, "a").result, 0U) << "the first one is unharmed";
 }
 
-TEST(SimRoom, ASocketLeftBehindIsNoHindrance)
+TEST(SimRoom, AStaleSocketIsReplaced)
 {
     const int dead = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un address{};
@@ -140,7 +140,7 @@ TEST(SimRoom, ASocketLeftBehindIsNoHindrance)
     EXPECT_EQ(ask(13, "a").result, 0U);
 }
 
-TEST(SimRoom, EveryUserMayAsk)
+TEST(SimRoom, EveryUserMayConnect)
 {
     const OpenRoom open(TWO);
     for (const char* const path : {CONTROL, AGENT}) {
@@ -150,7 +150,7 @@ TEST(SimRoom, EveryUserMayAsk)
     }
 }
 
-TEST(SimRoom, TheServiceMayStopAndComeBack)
+TEST(SimRoom, TheServiceCanStopAndRestart)
 {
     OpenRoom open(TWO);
     for (int turn = 0; turn < 20; ++turn) {
@@ -178,7 +178,7 @@ TEST(SimRoom, NoDescriptorIsInherited)
     }
 }
 
-TEST(SimRoom, AClientThatGoesAwayIsForgotten)
+TEST(SimRoom, ADisconnectedClientIsRemoved)
 {
     OpenRoom open(TWO);
     std::string error;
@@ -189,7 +189,7 @@ TEST(SimRoom, AClientThatGoesAwayIsForgotten)
         ASSERT_TRUE(stalled.send(requestFrame(13, "a")));
         ASSERT_TRUE(open.room.waitForRequests(13, 1));
     }
-    // A further request is served only after the thread has been round again.
+    // Another request is served only after a further iteration of the thread's loop.
     open.room.clearFaults();
     ask(13, "a");
     ask(13, "a");
@@ -217,7 +217,7 @@ TEST(SimRoom, StopEndsStalledAndDelayedConnections)
     EXPECT_EQ(silent.readOnce(1), "");
 }
 
-TEST(SimRoom, AClientThatNeverReadsHoldsUpNobody)
+TEST(SimRoom, AClientThatDoesNotReadBlocksNoOther)
 {
     OpenRoom open(TWO);
     for (int i = 0; i < 32; ++i) {
@@ -226,7 +226,7 @@ TEST(SimRoom, AClientThatNeverReadsHoldsUpNobody)
     const RawClient lazy;
     std::string frames;
     for (int i = 0; i < 16; ++i) {
-        frames += requestFrame(4, "a", "", 3); // 16 lists of 35 KB: more than a socket holds
+        frames += requestFrame(4, "a", "", 3); // 16 lists of 35 KB: more than a socket buffer holds
     }
     ASSERT_TRUE(lazy.send(frames));
     EXPECT_EQ(ask(13, "a").result, 0U);
@@ -239,7 +239,7 @@ TEST(SimRoom, AClientThatNeverReadsHoldsUpNobody)
     EXPECT_EQ(received, 16 * (24 + 33 * 1088U));
 }
 
-TEST(SimRoom, AClientThatLeavesBeforeItsAnswerIsNoSignal)
+TEST(SimRoom, AClientThatLeavesBeforeItsReplyCausesNoSignal)
 {
     OpenRoom open(TWO);
     for (int i = 0; i < 200; ++i) {
@@ -249,9 +249,9 @@ TEST(SimRoom, AClientThatLeavesBeforeItsAnswerIsNoSignal)
     EXPECT_EQ(ask(13, "a").result, 0U);
 }
 
-TEST(SimRoom, MoreConnectionsThanItKeeps)
+TEST(SimRoom, MoreConnectionsThanTheLimit)
 {
-    // Both ends of all of them are in this process. The sandbox allows as many as Debian does.
+    // This process holds both ends of every connection. The sandbox has Debian's descriptor limits.
     rlimit descriptors = {};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &descriptors), 0);
     ASSERT_GE(descriptors.rlim_max, 2048U);
@@ -268,18 +268,18 @@ TEST(SimRoom, MoreConnectionsThanItKeeps)
     EXPECT_EQ(ask(13, "a").result, 0U);
 }
 
-TEST(SimRoom, TimePassesByItselfAtItsSpeed)
+TEST(SimRoom, TheClockRunsAtTheGivenSpeed)
 {
     OpenRoom open(TWO, 1000);
     bool done = false;
     const auto end = std::chrono::steady_clock::now() + PATIENCE;
     while (!done && std::chrono::steady_clock::now() < end) {
-        done = numberAt(ask(4, "a", "", 1).payload, 528, 8) > 0; // discs that are complete
+        done = numberAt(ask(4, "a", "", 1).payload, 528, 8) > 0; // completed discs
     }
     EXPECT_TRUE(done);
 }
 
-TEST(SimRoom, NotesAndRequestsAreHandedOn)
+TEST(SimRoom, CallbacksReceiveNotesAndRequests)
 {
     udsim::Room room(scenarioOf(TWO));
     std::vector<std::string> notes;

@@ -1,4 +1,4 @@
-// The scenario's language: what it means, and what it says about mistakes.
+// Scenarios: their meaning and their error messages.
 #include <fstream>
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ using udsim::Command;
 using udsim::Fault;
 using udsim::Scenario;
 
-TEST(SimScenario, NothingIsAScenario)
+TEST(SimScenario, AnEmptyTextIsAScenario)
 {
     EXPECT_TRUE(scenarioOf("").publishers.empty());
     EXPECT_TRUE(scenarioOf("# words\n\n; more words\r\n   \t\n").publishers.empty());
@@ -137,7 +137,7 @@ TEST(SimScenario, EveryKeyOfAPublisher)
     EXPECT_EQ(setup.jobs[3].name, "Disc");
 }
 
-TEST(SimScenario, DefaultsTellMachinesApart)
+TEST(SimScenario, DefaultsDifferBetweenMachines)
 {
     const Scenario scenario = scenarioOf("[publisher A]\nmodel = RT-30\n[publisher B]\nmodel = RT-30\n");
     EXPECT_EQ(scenario.publishers[0].guid, "{5D2C0A10-7B3E-4C11-9A60-000000000001}");
@@ -149,7 +149,7 @@ TEST(SimScenario, DefaultsTellMachinesApart)
     EXPECT_TRUE(scenario.publishers[1].connected);
 }
 
-TEST(SimScenario, EventsAndFaultsMayStandBeforeTheirPublisher)
+TEST(SimScenario, EventsAndFaultsMayPrecedeTheirPublisher)
 {
     const Scenario scenario = scenarioOf("[event]\nat = 0s\npublisher = A\ndo = error 19\n"
                                          "[event]\nevery = 30s\npublisher = A\ndo = add-job X, copies=2\n"
@@ -241,7 +241,7 @@ TEST(SimScenario, EveryCommand)
     }
 }
 
-TEST(SimScenario, MistakesAreNamedWithTheirLine)
+TEST(SimScenario, MistakesAreReportedWithTheirLine)
 {
     const std::string machine = "[publisher A]\nmodel = RT-30\n"; // two lines
     const std::pair<std::string, std::string> table[] = {
@@ -326,9 +326,9 @@ TEST(SimScenario, MistakesAreNamedWithTheirLine)
     }
 }
 
-TEST(SimScenario, EveryKeyThatIsSuggestedExists)
+TEST(SimScenario, EverySuggestedKeyExists)
 {
-    // A key is offered for itself with a letter too many; the key itself has to be known then.
+    // A key with one extra letter makes the parser suggest the key. The key itself must be known.
     const std::pair<std::string, std::string> sections[] = {
         {"[publisher A]\nmodel = RT-30\n", "name guid id serial registered connected mode error disc-time "
                                            "cleaning-time jobs job stacker1 stacker4.media ink.cyan "
@@ -345,7 +345,7 @@ TEST(SimScenario, EveryKeyThatIsSuggestedExists)
             std::string error;
             Scenario::parse(start + key + " = \x01", error);
             EXPECT_EQ(error.find("unknown key"), std::string::npos) << key << ": " << error;
-            // A shorter one forgives no slip, or is near another; supplies say by themselves what they need.
+            // Shorter keys tolerate no typo or are close to another key. Supplies have their own messages.
             if (key.size() >= 6 && !key.starts_with("stacker") && !key.starts_with("ink.")) {
                 EXPECT_FALSE(Scenario::parse(start + key + "x = 1", error));
                 EXPECT_NE(error.find("unknown key \"" + key + "x\""), std::string::npos) << error;

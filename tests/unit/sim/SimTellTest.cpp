@@ -1,4 +1,4 @@
-// Commands for a room that runs: over the socket, from the program, and from peers that mean no good.
+// Commands for a running room: over the socket, from the program, and from misbehaving peers.
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -53,7 +53,7 @@ std::string rawAnswer(const std::string& bytes)
 
 } // namespace
 
-TEST(SimTell, LinesOfRequests)
+TEST(SimTell, RequestsAreFormattedAndParsed)
 {
     const TellRequest tell{false, "Studio A", "add-job X, copies=2"};
     EXPECT_EQ(tell.line(), "tell\tStudio A\tadd-job X, copies=2");
@@ -70,7 +70,7 @@ TEST(SimTell, LinesOfRequests)
     }
 }
 
-TEST(SimTell, RequestsInTheRoom)
+TEST(SimTell, RequestsAreExecuted)
 {
     OpenRoom open(ROOM);
     EXPECT_EQ(udsim::carryOut(open.room, {true, {}, {}}).text, "Studio A  ready, 0 waiting\n"
@@ -103,7 +103,7 @@ TEST(SimTell, EveryCommand)
     EXPECT_EQ(taking.open.room.look("Studio A")->state().stackers[0].discs, 100U) << "refilled last";
 }
 
-TEST(SimTell, AJobListThatIsFull)
+TEST(SimTell, AFullJobListRefusesAJob)
 {
     TakingCommands taking;
     std::string error;
@@ -116,7 +116,7 @@ TEST(SimTell, AJobListThatIsFull)
     EXPECT_EQ(refused->text, "the publisher's job list is full");
 }
 
-TEST(SimTell, WhatIsNoRequest)
+TEST(SimTell, InvalidRequestsAreRefused)
 {
     TakingCommands taking;
     EXPECT_EQ(rawAnswer("sing\n"), "refused\nnot understood");
@@ -126,7 +126,7 @@ TEST(SimTell, WhatIsNoRequest)
     EXPECT_EQ(rawAnswer(std::string(5000, 'x')), "") << "an endless line";
 }
 
-TEST(SimTell, PeersThatSendNothingAreTurnedAway)
+TEST(SimTell, SilentPeersAreDisconnected)
 {
     TakingCommands taking;
     std::vector<UnixPeer> silent;
@@ -136,7 +136,7 @@ TEST(SimTell, PeersThatSendNothingAreTurnedAway)
     EXPECT_EQ(rawAnswer("list\n"), "") << "one too many is turned away at once";
     EXPECT_TRUE(silent.front().WaitForClose()) << "it has five seconds";
     silent.clear();
-    // The room takes commands again once the others have gone.
+    // The room takes commands again after the other peers have disconnected.
     std::string answer;
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     while (answer.empty() && std::chrono::steady_clock::now() < end) {
@@ -145,7 +145,7 @@ TEST(SimTell, PeersThatSendNothingAreTurnedAway)
     EXPECT_EQ(answer.find("done\n"), 0U);
 }
 
-TEST(SimTell, StopsWithPeersThatStayOn)
+TEST(SimTell, StopsWithOpenConnections)
 {
     auto taking = std::make_unique<TakingCommands>();
     UnixPeer silent = connection();
@@ -157,7 +157,7 @@ TEST(SimTell, StopsWithPeersThatStayOn)
     EXPECT_FALSE(std::filesystem::exists(PATH));
 }
 
-TEST(SimTell, TheSocketIsItsOwners)
+TEST(SimTell, TheSocketIsPrivateAndExclusive)
 {
     TakingCommands taking;
     struct stat found{};
@@ -170,7 +170,7 @@ TEST(SimTell, TheSocketIsItsOwners)
     EXPECT_EQ(rawAnswer("list\n").find("done\n"), 0U);
 }
 
-TEST(SimTell, PathsThatCannotBe)
+TEST(SimTell, InvalidPathsAreReported)
 {
     OpenRoom open(ROOM);
     std::ofstream("/tmp/precious") << "text";
@@ -188,7 +188,7 @@ TEST(SimTell, PathsThatCannotBe)
         EXPECT_EQ(error, expected);
     }
     EXPECT_EQ(std::filesystem::file_size("/tmp/precious"), 4U);
-    { // a socket that was left behind goes
+    { // a stale socket is replaced
         UnixListener left("/tmp/left");
         left.StopListening();
         udsim::TellSocket socket(open.room);
@@ -197,7 +197,7 @@ TEST(SimTell, PathsThatCannotBe)
     }
 }
 
-TEST(SimTell, ARunningRoom)
+TEST(SimTell, SendsCommandsToARunningRoom)
 {
     std::ofstream("/tmp/room.udsim") << ROOM;
     ProgramProcess room(UDSIM, {"/tmp/room.udsim"});
@@ -207,7 +207,7 @@ TEST(SimTell, ARunningRoom)
         std::vector<std::string> words;
         int status;
         std::string output;
-        const char* note; ///< that the room prints
+        const char* note; ///< printed by the room
     };
     const Row table[] = {
         {{"Studio A", "offline"}, 0, "", "Studio A: not connected, 0 waiting\n"},
@@ -247,7 +247,7 @@ TEST(SimTell, ARunningRoom)
     EXPECT_FALSE(std::filesystem::exists("/var/run/udsim.socket"));
 }
 
-TEST(SimTell, AnotherPlace)
+TEST(SimTell, TheControlOptionNamesTheSocket)
 {
     std::ofstream("/tmp/room.udsim") << ROOM;
     ProgramProcess room(UDSIM, {"--control", PATH, "/tmp/room.udsim"});
@@ -261,7 +261,7 @@ TEST(SimTell, AnotherPlace)
         "(--control names another place)\n");
 }
 
-TEST(SimTell, SomebodyWhoIsNoUdsim)
+TEST(SimTell, AnInvalidReplyIsReported)
 {
     UnixListener other(PATH);
     ProgramProcess told(UDSIM, {"tell", "--control", PATH, "B", "offline"});

@@ -1,4 +1,4 @@
-// udsim on a terminal, and away from it.
+// The output of udsim on a terminal and elsewhere.
 #include <chrono>
 #include <fstream>
 
@@ -17,7 +17,7 @@ void putScenario()
     std::ofstream(SCENARIO) << "[publisher A]\nmodel = RT-30\ndisc-time = 400s\njob = Concert, copies=2\n";
 }
 
-/// A room on a terminal of so many columns.
+/// A room on a terminal with the given number of columns.
 class OnTerminal
 {
 public:
@@ -64,7 +64,7 @@ TEST(SimTerminal, JobsAreRedrawnInPlace)
     EXPECT_EQ(terminal.process->wait(), 0);
 }
 
-TEST(SimTerminal, TheWidthIsTheTerminals)
+TEST(SimTerminal, LinesFitTheTerminal)
 {
     OnTerminal terminal(24, "xterm");
     const std::string output = terminal.process->readUntil("A  Concert");
@@ -73,7 +73,7 @@ TEST(SimTerminal, TheWidthIsTheTerminals)
     EXPECT_LT(terminal.process->readUntil("\x1b[K").find("\x1b[K", line) - line, 24U);
 }
 
-TEST(SimTerminal, OneThatCannotRedrawGetsPlainLines)
+TEST(SimTerminal, ADumbTerminalGetsPlainLines)
 {
     OnTerminal terminal(80, "dumb");
     terminal.process->readUntil("udsim: ready");
@@ -81,7 +81,7 @@ TEST(SimTerminal, OneThatCannotRedrawGetsPlainLines)
     EXPECT_EQ(terminal.process->readUntil("\n").find('\x1b'), std::string::npos);
 }
 
-TEST(SimTerminal, AwayFromItThereAreNoEscapes)
+TEST(SimTerminal, OtherOutputHasNoEscapeSequences)
 {
     putScenario();
     ::setenv("TERM", "xterm", 1);

@@ -1,4 +1,4 @@
-// What a recorder writes down, and the secrets that it does not.
+// What a recorder writes, and the secrets that it masks.
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr char FILE_NAME[] = "/tmp/a.udrec";
 
-/// The messages of what `write` does with a recorder.
+/// The messages that `write` records.
 template <class Write>
 std::vector<udsim::Message> recorded(Recording::Of of, Write&& write)
 {
@@ -48,13 +48,13 @@ TEST(SimBlanker, Headers)
         {"X-Authorization: a\r\n", "X-Authorization: a\r\n"},
         {"Authorizations: a\r\n", "Authorizations: a\r\n"},
         {"Host: Authorization: a\r\n", "Host: Authorization: a\r\n"},
-        // Behind a body that was not answered another request may stand.
+        // Another request may follow a body that was not answered.
         {"POST / HTTP/1.1\r\n\r\nbody\r\nAuthorization: a\r\n",
          "POST / HTTP/1.1\r\n\r\nbody\r\nAuthorization:**\r\n"},
     };
     for (const auto& [text, expected] : table) {
         EXPECT_EQ(udsim::Blanker().pass(text), expected);
-        for (size_t cut = 0; cut <= text.size(); ++cut) { // wherever it comes in two pieces
+        for (size_t cut = 0; cut <= text.size(); ++cut) { // split in two at every position
             udsim::Blanker blanker;
             const std::string first = blanker.pass(text.substr(0, cut));
             EXPECT_EQ(first + blanker.pass(text.substr(cut)), expected) << cut;
@@ -62,7 +62,7 @@ TEST(SimBlanker, Headers)
     }
 }
 
-TEST(SimBlanker, TheWordThatOpensUploads)
+TEST(SimBlanker, UploadPasswordsAreMasked)
 {
     const std::string ask =
         "GET /webapp2/UploadInfoGetter?serverjobid=00000003 HTTP/1.1\r\nHost:localhost\r\n\r\n";
@@ -87,7 +87,7 @@ TEST(SimBlanker, TheWordThatOpensUploads)
     EXPECT_FALSE(udsim::asksForTheWord("GET /webapp2/DevInfoGetter?type=5 HTTP/1.1\r\n\r\n"));
 }
 
-TEST(SimTranscript, NoOrderOfRequestsAndAnswersBringsSecretsOut)
+TEST(SimTranscript, SecretsAreMaskedInAnyMessageOrder)
 {
     const std::string other = "GET /webapp2/DevInfoGetter?type=5 HTTP/1.1\r\n\r\n";
     const std::string getter = "GET /webapp2/UploadInfoGetter?serverjobid=00000003 HTTP/1.1\r\n\r\n";
@@ -95,13 +95,13 @@ TEST(SimTranscript, NoOrderOfRequestsAndAnswersBringsSecretsOut)
     const std::string item = std::string("\0\0!", 3) + "SECRETSECRETSECRETSECRETSECRETSEC";
     using Part = std::pair<Kind, std::string>;
     const std::vector<std::vector<Part>> table = {
-        {{Kind::ask, other + getter}, {Kind::answer, head + head + item}}, // two requests ahead
+        {{Kind::ask, other + getter}, {Kind::answer, head + head + item}}, // two requests before the replies
         {{Kind::ask, getter + other}, {Kind::answer, head + item + head}},
         {{Kind::ask, getter}, {Kind::answer, head}, {Kind::ask, other}, {Kind::answer, item}},
         {{Kind::ask, getter},
          {Kind::answer, head.substr(0, 24)},
          {Kind::ask, other},
-         {Kind::answer, head.substr(24) + item}}, // cut within the cookie's line
+         {Kind::answer, head.substr(24) + item}}, // split within the line of the cookie
         {{Kind::ask, getter.substr(0, 20)}, {Kind::ask, getter.substr(20)}, {Kind::answer, head + item}},
     };
     for (const auto& parts : table) {
@@ -115,7 +115,7 @@ TEST(SimTranscript, NoOrderOfRequestsAndAnswersBringsSecretsOut)
     }
 }
 
-TEST(SimTranscript, WhatComesFromOneSideIsOneMessage)
+TEST(SimTranscript, ConsecutiveBytesOfOneSideAreOneMessage)
 {
     const auto messages = recorded(Recording::Of::server, [](udsim::Transcript& transcript) {
         transcript.add(Kind::ask, "GET /a HTT");
@@ -135,7 +135,7 @@ TEST(SimTranscript, WhatComesFromOneSideIsOneMessage)
     EXPECT_EQ(messages[3].kind, Kind::closed);
 }
 
-TEST(SimTranscript, OfGigabytesTheBeginningIsKept)
+TEST(SimTranscript, OnlyTheStartOfALargeMessageIsKept)
 {
     const std::string piece(1 << 20, 'x');
     const auto messages = recorded(Recording::Of::server, [&](udsim::Transcript& transcript) {
@@ -153,7 +153,7 @@ TEST(SimTranscript, OfGigabytesTheBeginningIsKept)
     EXPECT_EQ(messages[1].bytes.size(), 16U << 20);
 }
 
-TEST(SimTranscript, FramesOfTheServiceAreExplained)
+TEST(SimTranscript, ServiceFramesHaveComments)
 {
     const auto messages = recorded(Recording::Of::service, [](udsim::Transcript& transcript) {
         transcript.add(Kind::ask, requestFrame(4, "R", "J", 3));
@@ -171,7 +171,7 @@ TEST(SimTranscript, FramesOfTheServiceAreExplained)
     EXPECT_NE(text.find(" 1 answer 26 \"\\x04\\0{7}\\x0b\\0{7}\\x02\\0{7}hi\"\n"), std::string::npos) << text;
 }
 
-TEST(SimRecorder, WritesNewFilesForTheirOwner)
+TEST(SimRecorder, CreatesOnlyNewPrivateFiles)
 {
     udsim::Recorder recorder([](const std::string&) {});
     std::string error;
@@ -186,7 +186,7 @@ TEST(SimRecorder, WritesNewFilesForTheirOwner)
     EXPECT_EQ(error, "/tmp/none/a.udrec: No such file or directory");
 }
 
-TEST(SimRecorder, ARemarkIsALineForTheReader)
+TEST(SimRecorder, ARemarkIsAComment)
 {
     const auto messages = recorded(Recording::Of::server, [](udsim::Transcript&) {});
     EXPECT_TRUE(messages.empty());
@@ -199,7 +199,7 @@ TEST(SimRecorder, ARemarkIsALineForTheReader)
     EXPECT_TRUE(Recording::load(FILE_NAME, error)) << error;
 }
 
-TEST(SimRecorder, AFullRecordingIsToldOnce)
+TEST(SimRecorder, AFullRecordingIsReportedOnce)
 {
     std::vector<std::string> notes;
     constexpr uint64_t LARGEST = 300'000;
@@ -207,7 +207,7 @@ TEST(SimRecorder, AFullRecordingIsToldOnce)
     std::filesystem::remove(FILE_NAME);
     std::string error;
     ASSERT_TRUE(recorder.open(FILE_NAME, Recording::Of::server, error));
-    const std::string large(16'000, '\xFF'); // four letters a byte
+    const std::string large(16'000, '\xFF'); // four characters per byte
     EXPECT_TRUE(recorder.isComplete());
     for (int i = 0; i < 6; ++i) {
         recorder.write({0, 1, Kind::answer, large.size(), large}, {});

@@ -1,5 +1,5 @@
-// udsim run by an ordinary user: what it says when a permission is missing. The folders and sockets in the
-// way belong to the user as well, without his having the right to them.
+// udsim run by an unprivileged user: its messages when a permission is missing. The user owns the folders and
+// sockets of the test, but their modes deny access.
 #include <filesystem>
 #include <fstream>
 
@@ -18,7 +18,7 @@ constexpr char SETTINGS[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
 constexpr char CONTROL[] = "/var/run/udsim.socket";
 constexpr auto READ_ONLY = fs::perms::owner_read | fs::perms::owner_exec;
 
-TEST(SimUser, IsToldThatTheRoomNeedsRoot)
+TEST(SimUser, RunningARoomRequiresRoot)
 {
     ASSERT_NE(geteuid(), 0U);
     std::ofstream(SCENARIO) << "[publisher A]\nmodel = RT-30\n";
@@ -28,7 +28,7 @@ TEST(SimUser, IsToldThatTheRoomNeedsRoot)
     EXPECT_EQ(ended.status, 1);
 }
 
-TEST(SimUser, IsToldThatForgettingNeedsRoot)
+TEST(SimUser, ForgetRequiresRoot)
 {
     std::ofstream(SCENARIO) << "[publisher A]\nmodel = RT-30\nid = a\nguid = {G}\n";
     fs::create_directories(SETTINGS);
