@@ -1,4 +1,4 @@
-// Tables of constants with the values that others count on.
+// Tables of constants with the values that other programs rely on.
 #pragma once
 
 #include <gtest/gtest.h>

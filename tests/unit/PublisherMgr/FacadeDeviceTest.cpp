@@ -1,4 +1,4 @@
-// The devices in the registry, and the options kept there.
+// The devices and the options in the registry.
 #include "LogAgent.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
@@ -39,7 +39,7 @@ TEST(ConnectedPublishers, AreTheSubKeysOfTheLocalKey)
     EXPECT_THAT(std::vector<std::string>(guids.begin(), guids.end()), testing::ElementsAre("{A}", "{B}"));
 }
 
-TEST(IsExistConnectedPublisher, NeedsTheValueOne)
+TEST(IsExistConnectedPublisher, RequiresTheValueOne)
 {
     WriteRegistry(DeviceSection("{on}", "\"Connected\"=dword:00000001\n") +
                   DeviceSection("{off}", "\"Connected\"=dword:00000000\n") +
@@ -59,7 +59,7 @@ TEST(IsExistConnectedPublisher, WithoutGUIDAnyRecordedDeviceCounts)
     CPublisherMgr mgr(true);
     EXPECT_FALSE(mgr.IsExistConnectedPublisher(nullptr));
     WriteRegistry(DeviceSection("{off}", ""));
-    // The key itself was never written: only its sub key is there.
+    // Only the sub key is written, not the key itself.
     EXPECT_FALSE(mgr.IsExistConnectedPublisher(nullptr));
     WriteRegistry("[" + product + "/Local]\n\n" + DeviceSection("{off}", ""));
     EXPECT_TRUE(mgr.IsExistConnectedPublisher(nullptr));
@@ -117,7 +117,7 @@ TEST(IsSuperSpeedUSB, IsTheModeOfAPresentDevice)
     EXPECT_EQ(mgr.IsSuperSpeedUSB(nullptr), 0);
 }
 
-TEST(ClearUnusedGUID, ForgetsOnlyWhatIsAbsentAndUnused)
+TEST(ClearUnusedGUID, RemovesOnlyDisconnectedAndUnusedDevices)
 {
     WriteRegistry("[" + product + "/Local]\n\n" + DeviceSection("{case}", "") +
                   DeviceSection("{no value}", "") + DeviceSection("{off}", "\"Connected\"=dword:00000000\n") +
@@ -130,7 +130,7 @@ TEST(ClearUnusedGUID, ForgetsOnlyWhatIsAbsentAndUnused)
     EXPECT_TRUE(HasDevice("{used}"));
     EXPECT_FALSE(HasDevice("{off}"));
     EXPECT_FALSE(HasDevice("{no value}"));
-    EXPECT_FALSE(HasDevice("{case}")); // names are compared with regard to case
+    EXPECT_FALSE(HasDevice("{case}")); // the comparison is case-sensitive
 }
 
 TEST(ClearUnusedGUID, WithoutAnyDeviceNothingHappens)
@@ -141,7 +141,7 @@ TEST(ClearUnusedGUID, WithoutAnyDeviceNothingHappens)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "");
 }
 
-TEST(FunctionQueries, LookAtTheBareFamily)
+TEST(FunctionQueries, CompareTheBareFamily)
 {
     const struct
     {
@@ -224,16 +224,16 @@ TEST(ErrorRateOptions, TheLogFolderIsAText)
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[" + product + "]\n\"ErrorRateLogFolder\"=\"/var/log/rates\"\n\n");
 }
 
-TEST(ErrorRateOptions, ARegistryThatCannotBeWrittenIsAFailure)
+TEST(ErrorRateOptions, AnUnwritableRegistryIsAFailure)
 {
-    CPublisherMgr mgr(true); // no folder, hence no registry
+    CPublisherMgr mgr(true); // no folder, so no registry
     for (const Option& option : options) {
         EXPECT_FALSE((mgr.*option.set)(1)) << option.value;
     }
     EXPECT_FALSE(mgr.SetErrorRateLogFolderPath("/var/log/rates"));
 }
 
-TEST(ErrorRateOptions, AValueOfTheOtherKindIsNotRead)
+TEST(ErrorRateOptions, AValueOfTheWrongTypeIsNotRead)
 {
     WriteRegistry("[" + product + "]\n\"C1Error\"=\"12\"\n\"ErrorRateLogFolder\"=dword:00000001\n\n");
     CPublisherMgr mgr(true);

@@ -1,5 +1,5 @@
-// What the facade yields where no implementation serves the publisher. (That it forwards everything else is
-// tested against a service.)
+// The results of the facade if no implementation serves the publisher. (Tests with a service cover the
+// forwarding of everything else.)
 #include "LogAgent.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// An operation by id; true when it gave its value for "none".
+/// An operation by id. True if it returns its value for "no publisher".
 struct Operation
 {
     const char* name;
@@ -138,7 +138,7 @@ const std::vector<Operation> byId = {
      }},
 };
 
-TEST(Forwards, WithoutAnIdEachGivesItsNone)
+TEST(Forwards, WithoutAnIdEachReturnsItsDefault)
 {
     CPublisherMgr mgr(true);
     for (const LPCTSTR id : {LPCTSTR{nullptr}, ""}) {
@@ -151,7 +151,7 @@ TEST(Forwards, WithoutAnIdEachGivesItsNone)
     }
 }
 
-TEST(Forwards, ACancelOfAnUnknownPublisherIsLoggedAndNoOtherForwardIs)
+TEST(Forwards, OnlyACancelOfAnUnknownPublisherIsLogged)
 {
     LogAgent agent;
     SetLogLevel(2);
@@ -164,8 +164,8 @@ TEST(Forwards, ACancelOfAnUnknownPublisherIsLoggedAndNoOtherForwardIs)
                                            "found\nPRIORITY=4\n"});
 }
 
-/// A network publisher whose file is gone, which says so whatever is on the network.
-TEST(Forwards, ConnectionsAreTheNetworkImplementationsWhateverThePublisherIs)
+/// Without a setting file there is no address, whatever is on the network.
+TEST(Forwards, ConnectionsUseTheNetworkImplementationForEveryPublisher)
 {
     CPublisherMgr mgr(true);
     DWORD handle = 77;
@@ -201,7 +201,7 @@ TEST(Forwards, JobSubmissionGoesToTheLibrary)
     EXPECT_EQ(job, 99);
 }
 
-/// What a network publisher lacks tells that it was reached: true, where no implementation gives false.
+/// Unsupported operations show that the network publisher is served: they return true, without it false.
 TEST(Forwards, ANetworkPublisherIsServed)
 {
     WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");
@@ -218,7 +218,7 @@ TEST(Forwards, ANetworkPublisherIsServed)
     EXPECT_EQ(code, -1);
 }
 
-TEST(Forwards, ErrorRateCountsNeedAPublisherThatMeasures)
+TEST(Forwards, ErrorRateCountsRequireAPublisherThatMeasures)
 {
     WriteLocalPublisher("R", "00000005");
     CPublisherMgr mgr(true);
@@ -227,7 +227,7 @@ TEST(Forwards, ErrorRateCountsNeedAPublisherThatMeasures)
     EXPECT_EQ(code, 77);
 }
 
-TEST(Forwards, LocalConstantsComeThrough)
+TEST(Forwards, ConstantsOfLocalPublishersAreForwarded)
 {
     WriteLocalPublisher("R", "00000005");
     CPublisherMgr mgr(true);

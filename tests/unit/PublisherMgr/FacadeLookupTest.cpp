@@ -1,4 +1,4 @@
-// Which implementation serves a publisher.
+// The implementation that serves a publisher.
 #include "LogAgent.h"
 #include "Models.h"
 #include "NetworkPublisherMgr.h"
@@ -24,7 +24,7 @@ std::string LogLine(int priority, const std::string& text)
            "\nPRIORITY=" + std::to_string(priority) + "\n";
 }
 
-/// As the registry file writes a number.
+/// A number in the format of the registry file.
 std::string Hex8(UINT value)
 {
     std::ostringstream text;
@@ -114,7 +114,7 @@ TEST(PublisherMgrType, DPTypeMap)
     }
 }
 
-TEST(PublisherMgrType, BareFamilySevenIsTheBlurayModelAndTheFullValueTheDVDModel)
+TEST(PublisherMgrType, Family7IsTheBluRayModelAndTheFullValueTheDVDModel)
 {
     CPublisherMgr mgr(true);
     WriteLocalPublisher("R", "00000007");
@@ -164,14 +164,14 @@ TEST(PublisherMgrType, BelowLevelTwoNothingIsLogged)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST(PublisherMgrType, ATextIsNoDPType)
+TEST(PublisherMgrType, ATextIsNotADPType)
 {
     WritePublisher("R", "[Common]\nGUID={G}\n");
     WriteRegistry(DeviceSection("{G}", "\"DPType\"=\"6\"\n"));
     EXPECT_EQ(CPublisherMgr(true).GetLocalDeviceDPType("R"), 0xFFFFFFFFu);
 }
 
-TEST(PublisherMgrType, NoIdHasNoImplementation)
+TEST(PublisherMgrType, ANullOrEmptyIdHasNoImplementation)
 {
     CPublisherMgr mgr(true);
     EXPECT_EQ(mgr.GetPublisherMgrIFFromID(nullptr), nullptr);
@@ -208,7 +208,7 @@ TEST(ConnectType, ComesFromTheFile)
     }
 }
 
-TEST(ConnectType, ANetworkPublisherIsSoWhateverItsGUIDSays)
+TEST(ConnectType, ANetworkPublisherIsServedAsSuchWhateverItsGUID)
 {
     WriteLocalPublisher("R", "00000007");
     WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");
@@ -225,7 +225,7 @@ TEST(NPType, IsAtMostThree)
     {
         const char* line;
         UINT type;
-    } rows[] = {// of a long text 31 bytes count
+    } rows[] = {// only the first 31 bytes count
                 {"NPType=0000000000000000000000000000003\n", 3},
                 {"NPType=00000000000000000000000000000003\n", 0},
                 {"", 0},
@@ -253,7 +253,7 @@ TEST(NPTypeDeathTest, ANullIdStopsTheProcess)
     EXPECT_DEATH(CPublisherMgr(true).GetNPType(nullptr), "!= FALSE");
 }
 
-TEST(FacadeGetPublisherInfo, WithoutAnImplementationItIsLoggedAndRefused)
+TEST(FacadeGetPublisherInfo, WithoutAnImplementationItFailsAndIsLogged)
 {
     LogAgent agent;
     SetLogLevel(2);
@@ -269,7 +269,7 @@ TEST(FacadeGetPublisherInfo, WithoutAnImplementationItIsLoggedAndRefused)
     EXPECT_EQ(info.uiPublisherDevType, 8u);
 }
 
-TEST(FacadeGetPublisherInfo, TheModelIsStoredAlsoOnFailure)
+TEST(FacadeGetPublisherInfo, TheModelIsStoredOnFailureToo)
 {
     MakePublisherFolder();
     LogAgent agent;

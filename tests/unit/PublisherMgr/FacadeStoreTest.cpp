@@ -1,4 +1,4 @@
-// The store of setting files: made, listed, named, removed.
+// The store of setting files: creation, listing, names and removal.
 #include "LogAgent.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
@@ -32,7 +32,7 @@ std::vector<std::string> Ids(CPublisherMgr& mgr)
     return {ids.begin(), ids.end()};
 }
 
-TEST(SettingFolder, IsWhereTheInstallationMadeIt)
+TEST(SettingFolder, IsThatOfTheInstallation)
 {
     CPublisherMgr mgr(true);
     EXPECT_EQ(mgr.GetSettingFolderePath(), folder);
@@ -43,7 +43,7 @@ TEST(SettingFolder, IsWhereTheInstallationMadeIt)
     EXPECT_TRUE(mgr.IsExistSettingFolder());
 }
 
-TEST(CreatePublisherSettingFile, MakesAnEmptyFileOnce)
+TEST(CreatePublisherSettingFile, CreatesAnEmptyFileOnce)
 {
     MakePublisherFolder();
     CPublisherMgr mgr(true);
@@ -65,7 +65,7 @@ TEST(CreatePublisherSettingFile, Failures)
     EXPECT_EQ(mgr.CreatePublisherSettingFile(std::string(100000, 'i').c_str()), 1);
 }
 
-TEST(IsExistSettingFile, IsTrueForAnyFileOfTheName)
+TEST(IsExistSettingFile, IsTrueForAnyFileWithTheName)
 {
     CPublisherMgr mgr(true);
     EXPECT_FALSE(mgr.IsExistSettingFile("P"));
@@ -108,7 +108,7 @@ TEST(FacadeUpdatePublisherInfo, WritesThroughTheModel)
     EXPECT_FALSE(mgr.UpdatePublisherInfo(info));
 }
 
-TEST(DeletePublisher, RemovesTheFileAlone)
+TEST(DeletePublisher, RemovesOnlyTheFile)
 {
     WriteLocalPublisher("R", "00000008");
     WritePublisher("S", "[Common]\n");
@@ -120,7 +120,7 @@ TEST(DeletePublisher, RemovesTheFileAlone)
     EXPECT_EQ(ReadText(REGISTRY_FILE), registry);
 }
 
-TEST(DeletePublisher, AnAbsentPublisherIsDeleted)
+TEST(DeletePublisher, SucceedsForAnAbsentPublisher)
 {
     CPublisherMgr mgr(true);
     EXPECT_TRUE(mgr.DeletePublisher("R"));
@@ -128,7 +128,7 @@ TEST(DeletePublisher, AnAbsentPublisherIsDeleted)
     EXPECT_TRUE(mgr.DeletePublisher("R"));
 }
 
-TEST(DeletePublisher, WhatCannotBeDeletedIsToldSo)
+TEST(DeletePublisher, FailsIfTheFileCannotBeDeleted)
 {
     MakePublisherFolder();
     fs::create_directory(PublisherFile("R"));
@@ -151,7 +151,7 @@ TEST(EnumRegistedPublisher, AMissingFolderLeavesTheArrayAsItWas)
     EXPECT_EQ(ids[0], "old");
 }
 
-TEST(EnumRegistedPublisher, AppendsAndCountsThisCallAlone)
+TEST(EnumRegistedPublisher, AppendsAndCountsOnlyThisCall)
 {
     WritePublisher("A", "");
     WritePublisher("B", "");
@@ -165,7 +165,7 @@ TEST(EnumRegistedPublisher, AppendsAndCountsThisCallAlone)
     EXPECT_EQ(ids[0], "old");
 }
 
-TEST(EnumRegistedPublisher, TheFirstExtensionCutsTheName)
+TEST(EnumRegistedPublisher, TheIdEndsAtTheFirstExtension)
 {
     MakePublisherFolder();
     const std::string longest = std::string(251, 'x') + ".ini";
@@ -230,7 +230,7 @@ TEST(PublisherName, ComesFromTheFile)
     EXPECT_EQ(mgr.GetPublisherName("absent"), "");
 }
 
-TEST(PublisherName, IsFoundWithRegardToCase)
+TEST(PublisherName, IsFoundCaseSensitively)
 {
     WritePublisher("R", "[Common]\nPublisherName=Lab 1\n");
     WritePublisher("S", "[Common]\nPublisherName=NotSet\n");
@@ -284,7 +284,7 @@ TEST(IsExistRegistedPublisher, AnyPublisherMeansOneWithAnId)
     EXPECT_TRUE(mgr.IsExistRegistedPublisher(nullptr, TRUE));
 }
 
-TEST(IsExistRegistedPublisherDeathTest, AnyPublisherIsAskedForCorrectOnesAlone)
+TEST(IsExistRegistedPublisherDeathTest, ANullIdRequiresCorrectNames)
 {
     EXPECT_DEATH(CPublisherMgr(true).IsExistRegistedPublisher(nullptr, FALSE), "!= FALSE");
 }

@@ -1,5 +1,4 @@
-// The interface to a publisher: each operation with its signature, at its place in the table of virtual
-// functions.
+// The interface to a publisher: the signature of each operation and its position in the virtual table.
 #include "300MODPublisherMgr.h"
 
 #include <gtest/gtest.h>
@@ -15,11 +14,11 @@ using Id = LPCTSTR;
 using Jobs = CArray<ST_PC_JOB_STATUS, const ST_PC_JOB_STATUS&>*;
 using Notifications = CArray<unsigned int, unsigned int const&>*;
 
-// What an implementation sees is what counts: a 64-bit `ULONG` would be another interface.
+// The types are part of the interface: a 64-bit `ULONG` would change it.
 static_assert(sizeof(UINT) == 4 && sizeof(DWORD) == 4 && sizeof(ULONG) == 4 && sizeof(long) == 8);
 static_assert(std::is_abstract_v<IPublisherMgr> && std::has_virtual_destructor_v<IPublisherMgr>);
 
-/// Where a virtual function stands in the table, in bytes from an origin that all functions share.
+/// The position of a virtual function in the table, in bytes from an origin common to all functions.
 template <class Class, class Result, class... Arguments>
 std::uintptr_t Place(Result (Class::*function)(Arguments...))
 {
@@ -29,14 +28,14 @@ std::uintptr_t Place(Result (Class::*function)(Arguments...))
     return words[0];
 }
 
-/// The operation of exactly this signature, told from its overloads.
+/// Selects the operation with exactly this signature among its overloads.
 template <class Signature, class Class = IPublisherMgr>
 std::uintptr_t Slot(Signature Class::* function)
 {
     return Place(function);
 }
 
-/// Each place follows the one before, with none between them.
+/// Expects each position to follow the previous one without a gap.
 void ExpectInARow(const std::vector<std::uintptr_t>& places)
 {
     for (size_t i = 1; i < places.size(); ++i) {
@@ -44,7 +43,7 @@ void ExpectInARow(const std::vector<std::uintptr_t>& places)
     }
 }
 
-TEST(PublisherInterface, OperationsStandInOrderWithTheirSignatures)
+TEST(PublisherInterface, OperationsAreInOrderWithTheirSignatures)
 {
     using I = IPublisherMgr;
     using JobCommand = bool(Id, Id, long*);
@@ -102,7 +101,7 @@ TEST(PublisherInterface, OperationsStandInOrderWithTheirSignatures)
     ExpectInARow(places);
 }
 
-TEST(PublisherInterface, LocalPublishersAddTheirOwnBehindIt)
+TEST(PublisherInterface, LocalPublishersAddTheirOwnAfterIt)
 {
     using Basic = CBasicPublisherMgr;
     using Mod = C300MODPublisherMgr;

@@ -1,4 +1,4 @@
-// The settings of local publishers: what is read from the setting file, what is written to it.
+// The settings of local publishers: reading and writing the setting file.
 #include "LogAgent.h"
 #include "Models.h"
 #include "OrdinaryRights.h"
@@ -73,7 +73,7 @@ TEST(GetPublisherInfo, ReadsEveryKey)
     EXPECT_EQ(info.uiPublisherDevType, 0u);
 }
 
-TEST(GetPublisherInfo, MissingKeysReadAsTheDefaultsOfNumbersAndAsEmptyTexts)
+TEST(GetPublisherInfo, MissingKeysReadAsDefaultNumbersAndEmptyTexts)
 {
     WritePublisher("R", "[Common]\nGUID=\n");
     PUBLISHERINFO info;
@@ -101,7 +101,7 @@ TEST(GetPublisherInfo, FlagsAreTrueWhenNotZero)
     EXPECT_TRUE(info.bAddErrorMark);
 }
 
-TEST(GetPublisherInfo, AFileThatCannotBeReadGivesNotSet)
+TEST(GetPublisherInfo, AnUnreadableFileReadsAsNotSet)
 {
     WritePublisher("R", fullFile);
     std::filesystem::permissions(PublisherFile("R"), std::filesystem::perms::none);
@@ -114,7 +114,7 @@ TEST(GetPublisherInfo, AFileThatCannotBeReadGivesNotSet)
     EXPECT_EQ(info.uiPublishMode, 0xFFFFFFFFu);
 }
 
-TEST(GetPublisherInfo, LongTextsAreCutAt255Bytes)
+TEST(GetPublisherInfo, LongTextsAreTruncatedTo255Bytes)
 {
     WritePublisher("R", "[Common]\nPublisherName=" + std::string(300, 'n') + "\nPublishMode=2\n");
     PUBLISHERINFO info;
@@ -123,7 +123,7 @@ TEST(GetPublisherInfo, LongTextsAreCutAt255Bytes)
     EXPECT_EQ(info.uiPublishMode, 2u);
 }
 
-TEST(GetPublisherInfo, AnEmptyIdLeavesTheRecordAlone)
+TEST(GetPublisherInfo, AnEmptyIdDoesNotChangeTheRecord)
 {
     PUBLISHERINFO info;
     info.strPublisherName = "old";
@@ -152,7 +152,7 @@ TEST(GetPublisherInfo, AMissingFileClearsTheRecordAndIsLogged)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST(GetPublisherInfo, TheRecordsOwnIdMayNameIt)
+TEST(GetPublisherInfo, TheIdMayPointIntoTheRecord)
 {
     const std::string id(100, 'i');
     WritePublisher(id, fullFile);
@@ -165,7 +165,7 @@ TEST(GetPublisherInfo, TheRecordsOwnIdMayNameIt)
     }
 }
 
-TEST(GetPublisherInfo, TheModelWithoutDrivesReadsEightKeysAndIsSilent)
+TEST(GetPublisherInfo, TheModelWithoutDrivesReadsEightKeysAndLogsNothing)
 {
     WritePublisher("R", fullFile);
     PUBLISHERINFO info;
@@ -221,7 +221,7 @@ TEST(GetPublisherGUID, AMissingFileIsLogged)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST(GetPublisherGUID, AFileThatCannotBeReadGivesNotSet)
+TEST(GetPublisherGUID, AnUnreadableFileReadsAsNotSet)
 {
     WritePublisher("R", fullFile);
     std::filesystem::permissions(PublisherFile("R"), std::filesystem::perms::none);
@@ -256,12 +256,12 @@ TEST(GetCopiesMax, FollowsTheMode)
     }
 }
 
-TEST(GetCopiesMax, WithoutAFileTheDefaultModeCounts)
+TEST(GetCopiesMax, WithoutAFileTheDefaultModeApplies)
 {
     EXPECT_EQ(Make<CBasicPublisherMgr>()->GetCopiesMax("absent", false), 1000u);
 }
 
-/// A model of the future: a mode that has no limit of copies yet.
+/// A future model with a mode that has no limit of copies.
 class SecurityModeMgr : public CBasicPublisherMgr
 {
 public:
@@ -272,7 +272,7 @@ public:
     }
 };
 
-TEST(GetCopiesMaxDeathTest, AModeThatTheModelLacksStopsTheProcess)
+TEST(GetCopiesMaxDeathTest, AnUnsupportedModeStopsTheProcess)
 {
     WritePublisher("R", "[Common]\nPublishMode=1\n");
     EXPECT_DEATH(Make<CSDPublisherMgr>()->GetCopiesMax("R", false), "!= FALSE");
@@ -281,7 +281,7 @@ TEST(GetCopiesMaxDeathTest, AModeThatTheModelLacksStopsTheProcess)
     EXPECT_DEATH(Make<SecurityModeMgr>()->GetCopiesMax("R", false), "!= FALSE");
 }
 
-TEST(WriteSpeeds, TwoDriveModelsAnswerForEachDrive)
+TEST(WriteSpeeds, ModelsWithTwoDrivesReturnThemForEachDrive)
 {
     WritePublisher("R", fullFile);
     WriteRegistry(DeviceSection("{G}", "\"DRV1SupportWriteSpeed\"=\"CD-R:40\"\n"
@@ -295,7 +295,7 @@ TEST(WriteSpeeds, TwoDriveModelsAnswerForEachDrive)
     EXPECT_EQ(mgr->GetSupportWriteSpeedString("absent", 1), "");
 }
 
-TEST(WriteSpeeds, SingleDriveModelsAnswerForDrive1)
+TEST(WriteSpeeds, ModelsWithOneDriveReturnThemForDrive1)
 {
     WritePublisher("R", fullFile);
     WriteRegistry(DeviceSection("{G}", "\"DRV1SupportWriteSpeed\"=\"CD-R:40\"\n"
@@ -309,16 +309,16 @@ TEST(WriteSpeeds, SingleDriveModelsAnswerForDrive1)
     }
 }
 
-TEST(WriteSpeeds, ADriveThatDoesNotExistTouchesNoFile)
+TEST(WriteSpeeds, AMissingDriveReadsNoFile)
 {
-    LogAgent agent; // a look at the absent file would be told
+    LogAgent agent; // a read of the absent file would be logged
     SetLogLevel(2);
     EXPECT_EQ(Make<CBasicPublisherMgr>()->GetSupportWriteSpeedString("R", 3), "");
     EXPECT_EQ(Make<CSDPublisherMgr>()->GetSupportWriteSpeedString("R", 2), "");
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST(WriteSpeeds, AMissingValueIsTheEmptyText)
+TEST(WriteSpeeds, AMissingValueIsAnEmptyText)
 {
     WritePublisher("R", fullFile);
     WriteRegistry(DeviceSection("{G}", "\"DRV1SupportWriteSpeed\"=dword:00000001\n"));
@@ -379,7 +379,7 @@ TEST(UpdatePublisherInfo, WritesTheWholeSectionInOrder)
                                               "AddErrorMark=0\n");
 }
 
-TEST(UpdatePublisherInfo, DriveKeysAreForEveryModelWithDrives)
+TEST(UpdatePublisherInfo, EveryModelWithDrivesHasTheDriveKeys)
 {
     for (const UINT type : {0u, 3u, 4u, 6u, 8u, 0x10000005u, 0x10000007u, 0x20000007u, 0x10000009u,
                             0x20000009u, 0x30000008u, 0x30000009u}) {
@@ -408,12 +408,12 @@ TEST(UpdatePublisherInfo, TheModelWithoutDrivesLosesTheDriveKeys)
     PUBLISHERINFO back;
     ASSERT_TRUE(Make<CBasicPublisherMgr>()->GetPublisherInfo("R", &back, FALSE));
     EXPECT_EQ(back.strPublisherName, "Lab 1");
-    // The text is shorter than before; a tail of the old one stays behind it.
+    // The new text is shorter; the end of the old text stays after it.
     EXPECT_THAT(ReadPublisher("R"), testing::StartsWith(driveless));
     EXPECT_EQ(ReadPublisher("R").size(), std::string(fullFile).size());
 }
 
-TEST(UpdatePublisherInfo, TheRetryCountInForceFollowsMode)
+TEST(UpdatePublisherInfo, TheEffectiveRetryCountFollowsTheMode)
 {
     const struct
     {
@@ -452,7 +452,7 @@ TEST(UpdatePublisherInfo, EmptyTextsAreWrittenAsNotSetAndUnknownNumbersAsMinusOn
 
 TEST(UpdatePublisherInfo, AFailureIsLogged)
 {
-    LogAgent agent; // there is no folder, so the file cannot be made
+    LogAgent agent; // there is no folder, so the file cannot be created
     SetLogLevel(2);
     EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(Record()));
     EXPECT_EQ(agent.TakeAll(),
@@ -503,7 +503,7 @@ TEST(UpdatePublisherInfo, ANameWithABracketKeepsTheOtherKeys)
     }
 }
 
-TEST(UpdatePublisherInfo, AnyLengthOfANameLeavesOtherFilesAlone)
+TEST(UpdatePublisherInfo, NamesOfAnyLengthDoNotChangeOtherFiles)
 {
     WritePublisher("other", fullFile);
     for (const size_t length : {255u, 256u, 1000u, 1023u, 1024u, 5000u, 100000u}) {
@@ -520,7 +520,7 @@ TEST(UpdatePublisherInfo, AnyLengthOfANameLeavesOtherFilesAlone)
     EXPECT_EQ(ReadPublisher("other"), fullFile);
 }
 
-TEST(UpdatePublisherInfo, AnIdOfAnyLengthIsOneFileOrNone)
+TEST(UpdatePublisherInfo, AnIdOfAnyLengthWritesOneFileOrNone)
 {
     MakePublisherFolder();
     PUBLISHERINFO info = Record();
@@ -532,7 +532,7 @@ TEST(UpdatePublisherInfo, AnIdOfAnyLengthIsOneFileOrNone)
     EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
 }
 
-TEST(UpdatePublisherInfoDeathTest, ARecordWithoutIdStopsTheProcess)
+TEST(UpdatePublisherInfoDeathTest, ARecordWithoutAnIdStopsTheProcess)
 {
     EXPECT_DEATH(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(PUBLISHERINFO()), "!= FALSE");
 }

@@ -1,4 +1,4 @@
-// All model classes, each under the name of its row in a table.
+// All model classes.
 #pragma once
 
 #include "300IIBDPublisherMgr.h"

@@ -1,4 +1,4 @@
-// What each model can do.
+// The capabilities of each model.
 #include "Models.h"
 
 #include <gtest/gtest.h>
@@ -85,7 +85,7 @@ TEST(Models, CapabilityTable)
     }
 }
 
-TEST(Models, NoModelTakesWhatIsNoBlankDisc)
+TEST(Models, NoModelSupportsOtherDiscTypes)
 {
     for (const Model& model : models) {
         const auto mgr = model.make();
@@ -95,7 +95,7 @@ TEST(Models, NoModelTakesWhatIsNoBlankDisc)
     }
 }
 
-TEST(Models, QuadLayerIsForBDXLAlone)
+TEST(Models, OnlyBDXLModelsSupportQuadLayer)
 {
     EXPECT_TRUE(Make<C30IIBDXLPublisherMgr>()->IsSupportDiscType(PUBMGR_STACKERDISCTYPE_BDRQL));
     EXPECT_FALSE(Make<C30IIPublisherMgr>()->IsSupportDiscType(PUBMGR_STACKERDISCTYPE_BDRQL));
@@ -114,7 +114,7 @@ struct Stackers
     bool operator==(const Stackers&) const = default;
 };
 
-/// What the rule makes of the stackers; in `changed` whether it said so.
+/// Applies the rule to the stackers. `changed` receives the flag that it reports.
 Stackers Fit(CBasicPublisherMgr& mgr, UINT mode, const Stackers& before, bool& changed)
 {
     PUBLISHERINFO info;
@@ -169,7 +169,7 @@ TEST(StackersFollowMode, WithFourStackers)
                    {1, {bdr, bdr, out, none}, {cd, cd, out, none}},
                    // Read
                    {6, {dvdr, cd, none, out}, {in, out, none, out}},
-                   // 3 and 4 stay as they are when both receive or rest, even both the same
+                   // 3 and 4 are unchanged if both are output or not used, even if both are equal
                    {0, {cd, out, none, none}, {cd, out, none, none}},
                    {0, {cd, out, out, out}, {cd, out, out, out}},
                    {2, {cd, cd, out, none}, {cd, cd, out, none}},
@@ -191,7 +191,7 @@ TEST(StackersFollowMode, WithThreeStackers)
                                             });
 }
 
-TEST(StackersFollowMode, LowVolumeForcesOutputIntoStacker3WhateverItHeld)
+TEST(StackersFollowMode, LowVolumeAlwaysSetsStacker3ToOutput)
 {
     const auto mgr = Make<CSDPublisherMgr>();
     for (const UINT stacker3 : {out, in, none, cd, 0xFFFFFFFFu}) {
@@ -204,7 +204,7 @@ TEST(StackersFollowMode, LowVolumeForcesOutputIntoStacker3WhateverItHeld)
     }
 }
 
-TEST(StackersFollowMode, BatchSetsTheErrorMarkAndSaysSo)
+TEST(StackersFollowMode, BatchSetsTheErrorMarkAndReportsTheChange)
 {
     PUBLISHERINFO info;
     info.uiPublishMode = PUBMGR_PUBLISHMODE_BATCH;
@@ -227,14 +227,14 @@ TEST(StackersFollowMode, TheFlagIsNeverCleared)
     EXPECT_TRUE(changed);
 }
 
-TEST(StackersFollowMode, NoRecordIsRefused)
+TEST(StackersFollowMode, ANullRecordIsRefused)
 {
     bool changed = false;
     EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublishInfoFromPubMode(nullptr, changed));
     EXPECT_FALSE(changed);
 }
 
-/// A model of the future: a mode that the rule does not know.
+/// A future model with modes that the rule does not support.
 class EveryModeMgr : public CBasicPublisherMgr
 {
 public:
@@ -256,7 +256,7 @@ TEST(StackersFollowMode, AModeWithoutARuleIsRefused)
     }
 }
 
-TEST(StackersFollowModeDeathTest, AModeThatTheModelLacksStopsTheProcess)
+TEST(StackersFollowModeDeathTest, AnUnsupportedModeStopsTheProcess)
 {
     PUBLISHERINFO info;
     info.uiPublishMode = PUBMGR_PUBLISHMODE_BATCH;
@@ -267,7 +267,7 @@ TEST(StackersFollowModeDeathTest, AModeThatTheModelLacksStopsTheProcess)
 // ---------------------------------------------------------------------------------------------------------------------
 // Wear
 
-TEST(MaintenanceCorrection, TheFirstPartOfALifeDoesNotCount)
+TEST(MaintenanceCorrection, TheStartOfALifeDoesNotCount)
 {
     const auto mgr = Make<CBasicPublisherMgr>();
     EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(100, 8000), 0u);
@@ -275,13 +275,13 @@ TEST(MaintenanceCorrection, TheFirstPartOfALifeDoesNotCount)
     EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(99, 8000), 0u);
     EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(0, 0), 0u);
     EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(5, 0), 5u);
-    EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(2, 159), 1u); // 1.9875 is cut to 1
+    EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(2, 159), 1u); // 1.9875 is truncated to 1
     EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(600000, 1000000), 587500u);
     EXPECT_EQ(mgr->CalcDriveMaintenanceValueCorrection(0xFFFFFFFF, 0xFFFFFFFF), 4241280204u);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// What only a network publisher has
+// Operations for network publishers only
 
 TEST(LocalPublisher, NetworkOperationsAreConstants)
 {

@@ -1,4 +1,4 @@
-// What each operation asks of the network library, in which order, and what it makes of the answers.
+// The calls of each operation to the network library, their order, and the use of the results.
 #include "NetworkOperations.h"
 #include "NetworkScriptFixture.h"
 #include "StdoutCapture.h"
@@ -104,14 +104,14 @@ TEST_F(NetworkCalls, TheFourthStackerFollowsTheThird)
     }
 }
 
-TEST_F(NetworkCalls, AServerWithoutASettingOfTheThirdStacker)
+TEST_F(NetworkCalls, AServerWithoutASettingForTheThirdStacker)
 {
     m_library.failAt = 4;
     m_library.failCode = NCL_ERR_SERVER_OTHER;
     for (DWORD mode = 0; mode <= 5; ++mode) {
         m_library.Forget();
         m_library.mode = mode;
-        m_library.numbers[NCL_DIT_STACKER3_DISC_TYPE] = 5; // it is not told
+        m_library.numbers[NCL_DIT_STACKER3_DISC_TYPE] = 5; // not returned
         const PUBLISHERINFO info = Info();
         const bool isBatch = mode == NCL_MODE_BATCH;
         EXPECT_EQ(info.uiStacker3DiscType, isBatch ? 0U : 32U) << mode;
@@ -131,7 +131,7 @@ TEST_F(NetworkCalls, TheMarkAsANumberAndAsAFlag)
     }
 }
 
-TEST_F(NetworkCalls, AConnectionThatIsKnownToFailIsNotTried)
+TEST_F(NetworkCalls, AConnectionThatIsKnownToFailIsNotAttempted)
 {
     PUBLISHERINFO info;
     EXPECT_TRUE(m_mgr.GetPublisherInfo("R", &info, TRUE));
@@ -144,7 +144,7 @@ TEST_F(NetworkCalls, AConnectionThatIsKnownToFailIsNotTried)
 
 TEST_F(NetworkCalls, CopiesByTheMode)
 {
-    const UINT rows[] = {50, 50, 1000, 1000, 1000, 1000}; // by the server's number; 5 is none
+    const UINT rows[] = {50, 50, 1000, 1000, 1000, 1000}; // indexed by the server's number; 5 is undefined
     for (DWORD mode = 0; mode < std::size(rows); ++mode) {
         m_library.mode = mode;
         EXPECT_EQ(m_mgr.GetCopiesMax("R", false), rows[mode]) << mode;
@@ -216,7 +216,7 @@ TEST_F(NetworkCalls, ListsOfJobs)
     EXPECT_STREQ(jobs[0].acJobID, "R.2A");
 }
 
-TEST_F(NetworkCalls, AListOfAllJobsEmptiesTheArrayEvenWithoutJobs)
+TEST_F(NetworkCalls, EmptyListsOfJobsEmptyTheArray)
 {
     m_library.unfinished.clear();
     m_library.finished.clear();
@@ -242,7 +242,7 @@ TEST_F(NetworkCalls, AThousandJobsAreListed)
     EXPECT_STREQ(jobs[1000].acJobID, "R.2A");
 }
 
-TEST_F(NetworkCalls, ACancelTellsWhatItCancels)
+TEST_F(NetworkCalls, ACancelPrintsTheJob)
 {
     m_library.unfinished.resize(3, m_library.unfinished.front());
     m_library.unfinished[0].wszJobIdentificationID[0] = 'j';
@@ -256,7 +256,7 @@ TEST_F(NetworkCalls, ACancelTellsWhatItCancels)
                                              "CancelJob(7, 1234)", "EndConnection(7)"));
 }
 
-TEST_F(NetworkCalls, ACancelOfAJobThatIsNotThere)
+TEST_F(NetworkCalls, ACancelOfAnUnknownJob)
 {
     StdoutCapture out;
     for (const char* job : {"j", "JJ", "K", "R.5"}) {
@@ -268,7 +268,7 @@ TEST_F(NetworkCalls, ACancelOfAJobThatIsNotThere)
     EXPECT_EQ(out.Stop(), "");
 }
 
-TEST_F(NetworkCalls, ACancelOnAConnectionOfTheCallersOwn)
+TEST_F(NetworkCalls, ACancelOnAConnectionOfTheCaller)
 {
     long code = 77;
     EXPECT_TRUE(m_mgr.CancelJob("R", "J", 9, 42, &code));
@@ -335,7 +335,7 @@ TEST_F(NetworkCalls, LoaderAndPrinter)
     EXPECT_EQ(printer, 0x20U);
 }
 
-TEST_F(NetworkCalls, TheFourthStackerTellsWhatTheThirdHolds)
+TEST_F(NetworkCalls, TheFourthStackerHasTheStatusOfTheThird)
 {
     m_library.stackers = {{50, TRUE}, {102, FALSE}, {7, TRUE}, {99, FALSE}};
     ULONG values[4] = {};
@@ -346,7 +346,7 @@ TEST_F(NetworkCalls, TheFourthStackerTellsWhatTheThirdHolds)
     EXPECT_EQ(values[3], 0x80000007U);
 }
 
-TEST_F(NetworkCalls, PrintsThatTheInkIsGoodFor)
+TEST_F(NetworkCalls, EstimatedPrints)
 {
     const std::pair<DWORD, int> rows[] = {{0, 0},           {1, 1},       {120, 120},
                                           {0xFFFE, 0xFFFE}, {0xFFFF, -1}, {0x10000, 0x10000}};
@@ -371,7 +371,7 @@ TEST_F(NetworkCalls, ModesOfEveryNumber)
     }
 }
 
-TEST_F(NetworkCalls, NobodyNeedsTheOutputs)
+TEST_F(NetworkCalls, OutputsAreOptional)
 {
     EXPECT_TRUE(m_mgr.GetServiceInkStatus("R", nullptr, nullptr));
     EXPECT_TRUE(m_mgr.GetServiceAldStatus("R", nullptr, nullptr));
@@ -486,11 +486,11 @@ TEST_F(NetworkCalls, FiguresOfOtherDevices)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// The virtual operations below the queries
+// The virtual operations used by the queries
 
 namespace {
 
-/// Its connections are of its own.
+/// Overrides the connections.
 class OtherConnections : public CNetworkPublisherMgr
 {
 public:
@@ -513,7 +513,7 @@ public:
     int ended = 0;
 };
 
-/// Its servers stand elsewhere.
+/// Overrides the host name.
 class OtherHosts : public CNetworkPublisherMgr
 {
 public:
@@ -526,7 +526,7 @@ public:
 
 } // namespace
 
-TEST_F(NetworkCalls, QueriesTakeTheConnectionsOfTheirClass)
+TEST_F(NetworkCalls, QueriesUseTheConnectionsOfTheirClass)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         OtherConnections mgr(true, PUBLISHER_SETTING_DIR);
@@ -540,7 +540,7 @@ TEST_F(NetworkCalls, QueriesTakeTheConnectionsOfTheirClass)
     }
 }
 
-TEST_F(NetworkCalls, ConnectionsTakeTheHostOfTheirClass)
+TEST_F(NetworkCalls, ConnectionsUseTheHostOfTheirClass)
 {
     OtherHosts mgr(true, PUBLISHER_SETTING_DIR);
     EXPECT_TRUE(mgr.IsPossibleCommunicate("absent", nullptr));

@@ -1,11 +1,10 @@
-// Every operation against a server that refuses each of its requests in turn, with every result code there
-// is.
+// Every operation against a server that refuses each of its requests in turn, with every result code.
 #include "NetworkOperations.h"
 #include "NetworkScriptFixture.h"
 
 namespace {
 
-/// All named codes, and some that have no name.
+/// All named codes and some unnamed ones.
 std::vector<DWORD> FailureCodes()
 {
     std::vector<DWORD> codes;
@@ -33,7 +32,7 @@ protected:
         m_library.Forget();
         return operation.call(m_mgr, "R", takesCode);
     }
-    /// All that were made but the end of the connection and what needs no server.
+    /// The number of requests, without the end of the connection and calls that need no server.
     size_t Requests() const
     {
         return m_library.calls.size() - CountOf(m_library.calls, "EndConnection") -
@@ -63,7 +62,7 @@ TEST_F(NetworkCodes, WithoutFailuresEachMakesItsRequestsOnOneConnection)
     }
 }
 
-TEST_F(NetworkCodes, AServerThatCannotBeReached)
+TEST_F(NetworkCodes, AnUnreachableServer)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         for (const DWORD code : FailureCodes()) {
@@ -104,7 +103,7 @@ TEST_F(NetworkCodes, EachRequestRefusedInTurn)
     }
 }
 
-TEST_F(NetworkCodes, NobodyNeedsTheResultCode)
+TEST_F(NetworkCodes, TheResultCodeIsOptional)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         for (size_t request = 0; request <= operation.requests + 1; ++request) {
@@ -122,7 +121,7 @@ TEST_F(NetworkCodes, NobodyNeedsTheResultCode)
     }
 }
 
-TEST_F(NetworkCodes, AListOfAllJobsIsGoodWhenOneOfItsTwoHalvesIs)
+TEST_F(NetworkCodes, AListOfAllJobsSucceedsIfOneOfItsHalvesDoes)
 {
     const NetworkOperation& operation = NetworkOperationOf("GetServiceJobStatus");
     for (const DWORD code : FailureCodes()) {
@@ -149,7 +148,7 @@ TEST_F(NetworkCodes, AListOfAllJobsIsGoodWhenOneOfItsTwoHalvesIs)
     }
 }
 
-TEST_F(NetworkCodes, ACancelThatIsRefused)
+TEST_F(NetworkCodes, ARefusedCancel)
 {
     const NetworkOperation& operation = NetworkOperationOf("SetServiceJobCancel");
     for (const DWORD code : FailureCodes()) {
@@ -166,7 +165,7 @@ TEST_F(NetworkCodes, ACancelThatIsRefused)
     }
 }
 
-TEST_F(NetworkCodes, ACancelGoesOnToTheNextJobOfTheName)
+TEST_F(NetworkCodes, ARefusedCancelContinuesWithTheNextJobOfTheId)
 {
     m_library.unfinished.resize(3, m_library.unfinished.front());
     m_library.unfinished[1].nServerJobID = 6;
@@ -186,7 +185,7 @@ TEST_F(NetworkCodes, ACancelGoesOnToTheNextJobOfTheName)
                                      "EndConnection(7)"));
 }
 
-TEST_F(NetworkCodes, VersionsThatWereReadStay)
+TEST_F(NetworkCodes, VersionsReadBeforeAFailureStay)
 {
     const std::vector<CString PUBLISHERVERSIONINFO::*> order = {
         &PUBLISHERVERSIONINFO::strSerialNo,         &PUBLISHERVERSIONINFO::strAutoLoaderVersion,
@@ -212,7 +211,7 @@ TEST_F(NetworkCodes, VersionsThatWereReadStay)
     }
 }
 
-TEST_F(NetworkCodes, TheModeIsToldAlsoOnFailure)
+TEST_F(NetworkCodes, TheModeIsSetOnFailureToo)
 {
     for (const DWORD code : FailureCodes()) {
         Fail(1, code);
@@ -225,7 +224,7 @@ TEST_F(NetworkCodes, TheModeIsToldAlsoOnFailure)
     }
 }
 
-TEST_F(NetworkCodes, TheTestOfAConnectionTellsItsCode)
+TEST_F(NetworkCodes, TheConnectionTestReturnsItsCode)
 {
     EXPECT_EQ(m_mgr.ConnectionTest("\\\\other"), 0U);
     EXPECT_THAT(m_library.calls, testing::ElementsAre("StartConnection(1, \\\\other)", "EndConnection(7)"));
@@ -240,7 +239,7 @@ TEST_F(NetworkCodes, TheTestOfAConnectionTellsItsCode)
     EXPECT_TRUE(m_library.calls.empty());
 }
 
-TEST_F(NetworkCodes, AConnectionOfTheCallersOwn)
+TEST_F(NetworkCodes, AConnectionOwnedByTheCaller)
 {
     DWORD handle = 0;
     DWORD code = 77;
@@ -263,7 +262,7 @@ TEST_F(NetworkCodes, AConnectionOfTheCallersOwn)
     }
 }
 
-TEST_F(NetworkCodes, WithoutAFileNoServerIsAsked)
+TEST_F(NetworkCodes, WithoutAFileNoServerIsQueried)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         m_library.Forget();

@@ -1,4 +1,4 @@
-// The values of a publisher server in those of the control service: settings and device status.
+// Conversion of the values of a publisher server to those of the control service: settings and device status.
 #include "InstallPaths.h"
 #include "NW_Com_Lib.h"
 #include "NetworkPublisherMgr.h"
@@ -18,7 +18,7 @@ protected:
 };
 using NetworkConvertDeathTest = NetworkConvert;
 
-/// 0 to 20, the values around the special ones, and the ends of the range.
+/// 0 to 110, the values around the special ones, and the ends of the range.
 const std::vector<DWORD>& AnyValues()
 {
     static const std::vector<DWORD> values = [] {
@@ -88,7 +88,7 @@ TEST_F(NetworkConvert, DriveStates)
     }
 }
 
-TEST_F(NetworkConvertDeathTest, ADriveStateThatThereIsNotStopsTheProcess)
+TEST_F(NetworkConvertDeathTest, AnUnknownDriveStateStopsTheProcess)
 {
     for (DWORD state = 7; state <= 20; ++state) {
         EXPECT_DEATH(m_mgr.ConvertComLibValueToPubMgrValue_DrvStatus(DrvStatusBaseEx{state, 0}), "Assertion")
@@ -109,7 +109,7 @@ TEST_F(NetworkConvert, PrinterStates)
     }
 }
 
-TEST_F(NetworkConvertDeathTest, APrinterStateThatThereIsNotStopsTheProcess)
+TEST_F(NetworkConvertDeathTest, AnUnknownPrinterStateStopsTheProcess)
 {
     for (DWORD state = 6; state <= 20; ++state) {
         EXPECT_DEATH(m_mgr.ConvertComLibValueToPubMgrValue_PrnStatus(PrnStatus{state, TRUE}), "Assertion")
@@ -173,7 +173,7 @@ const LoaderFlag LOADER_FLAGS[] = {
     {&ALDStatus::bRestore, 0x8000000},
     {&ALDStatus::bDiscNoAdjustment, 0x10000000},
     {&ALDStatus::bFanLow, 0x20000000},
-    // These have no bit of their own.
+    // These have no bit.
     {&ALDStatus::bElectronLock, 0},
     {&ALDStatus::bOutputDisc, 0},
     {&ALDStatus::bStacker2Operated, 0},
@@ -182,7 +182,7 @@ const LoaderFlag LOADER_FLAGS[] = {
     {&ALDStatus::bUnexpectedPowerOff, 0},
 };
 
-TEST_F(NetworkConvert, LoaderFlagsAlone)
+TEST_F(NetworkConvert, SingleLoaderFlags)
 {
     ASSERT_EQ(std::size(LOADER_FLAGS) * sizeof(BOOL), sizeof(ALDStatus)) << "a flag without a row";
     EXPECT_EQ(m_mgr.ConvertComLibValueToPubMgrValue_AldStatus(ALDStatus{}), 0U);
@@ -205,7 +205,7 @@ TEST_F(NetworkConvert, LoaderFlagsInPairs)
     }
 }
 
-TEST_F(NetworkConvert, LoaderFlagsTogether)
+TEST_F(NetworkConvert, AllLoaderFlags)
 {
     ALDStatus loader{};
     for (const LoaderFlag& row : LOADER_FLAGS) {

@@ -1,4 +1,4 @@
-// The jobs of a publisher server as jobs of the control service.
+// Conversion of the jobs of a publisher server to those of the control service.
 #include "InstallPaths.h"
 #include "NW_Com_Lib.h"
 #include "NetworkPublisherMgr.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Both kinds of job record take the same way, but for the remaining time.
+/// Both kinds of job record are converted alike, except for the remaining time.
 template <class Job>
 class NetworkJobConvert : public testing::Test
 {
@@ -42,7 +42,7 @@ std::string Times(size_t count, const std::string& piece)
     return text;
 }
 
-/// The values from 0 to 20, around the special ones, and the ends of the range.
+/// 0 to 20, the values around the special ones, and the ends of the range.
 std::vector<DWORD> AnyNumbers()
 {
     std::vector<DWORD> numbers{53, 54, 55, 56, 57, 204, 205, 1001, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
@@ -56,7 +56,7 @@ const std::string UMLAUT = "\xC3\xBC";
 
 } // namespace
 
-TYPED_TEST(NetworkJobConvert, CarriesEveryField)
+TYPED_TEST(NetworkJobConvert, ConvertsEveryField)
 {
     TypeParam job{};
     job.dwJobStatus = 1;
@@ -89,7 +89,7 @@ TYPED_TEST(NetworkJobConvert, CarriesEveryField)
     EXPECT_EQ(result.ulSource, 3U);
     EXPECT_EQ(result.ulDestination, 12U);
     EXPECT_EQ(result.ulPubMode, 1U);
-    // What a server does not tell.
+    // Fields that a server does not provide.
     EXPECT_EQ(result.ulJobIndex, 0U);
     EXPECT_EQ(result.ulImproperNumber, 0U);
     EXPECT_EQ(std::string(result.acApprovalPerson, sizeof result.acApprovalPerson), std::string(65, '\0'));
@@ -100,7 +100,7 @@ TYPED_TEST(NetworkJobConvert, CarriesEveryField)
     EXPECT_EQ(result.ulStacker3, 0U);
 }
 
-TYPED_TEST(NetworkJobConvert, NumbersAreCarriedWhole)
+TYPED_TEST(NetworkJobConvert, NumbersKeepAllBits)
 {
     TypeParam job{};
     job.dwPublicationNumber = 0xFFFFFFFF;
@@ -118,7 +118,7 @@ TYPED_TEST(NetworkJobConvert, NumbersAreCarriedWhole)
     EXPECT_EQ(result.ulDestination, 0xFFFFFFFAU);
 }
 
-TEST(NetworkJobRemainingTime, IsOfTheExtendedRecordAlone)
+TEST(NetworkJobRemainingTime, ComesFromTheExtendedRecord)
 {
     JobStatusEx job{};
     job.dwEstimateTime = 400;
@@ -183,7 +183,7 @@ TYPED_TEST(NetworkJobConvert, ModeOfEveryNumber)
     }
 }
 
-TYPED_TEST(NetworkJobConvert, AJobWithoutAnIdGetsOneOfThePublisherAndItsNumber)
+TYPED_TEST(NetworkJobConvert, AJobWithoutAnIdGetsOneMadeOfPublisherAndNumber)
 {
     struct Row
     {
@@ -214,7 +214,7 @@ TYPED_TEST(NetworkJobConvert, AJobWithoutAnIdGetsOneOfThePublisherAndItsNumber)
     }
 }
 
-TYPED_TEST(NetworkJobConvert, AnIdOfTheSubmitterStaysAsLongAsItsFieldTakes)
+TYPED_TEST(NetworkJobConvert, AnIdOfTheSubmitterIsTruncatedToItsField)
 {
     for (const size_t length : {1U, 39U, 40U, 254U, 255U, 256U, 765U}) {
         TypeParam job{};
@@ -224,7 +224,7 @@ TYPED_TEST(NetworkJobConvert, AnIdOfTheSubmitterStaysAsLongAsItsFieldTakes)
     }
 }
 
-TYPED_TEST(NetworkJobConvert, NamesAreCutAt255AndPersonsAt64)
+TYPED_TEST(NetworkJobConvert, NamesAreTruncatedTo255BytesAndPersonsTo64)
 {
     for (const size_t length : {0U, 1U, 254U, 255U, 256U, 765U}) {
         TypeParam job{};
@@ -242,7 +242,7 @@ TYPED_TEST(NetworkJobConvert, NamesAreCutAt255AndPersonsAt64)
     }
 }
 
-TYPED_TEST(NetworkJobConvert, TextsOfSeveralBytesACharacterFitToo)
+TYPED_TEST(NetworkJobConvert, MultibyteTextsFitToo)
 {
     TypeParam job{};
     SetText(job.wszJobName, "x" + Times(200, UMLAUT));

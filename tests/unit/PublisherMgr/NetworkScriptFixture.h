@@ -1,4 +1,4 @@
-// A network publisher "R" whose server is a script.
+// A network publisher "R" with a scripted server.
 #pragma once
 
 #include "NetworkPublisherMgr.h"

@@ -1,5 +1,4 @@
-// What a network publisher keeps on this computer: its setting file, which is read and written without a
-// server.
+// The local data of a network publisher: its setting file, which is read and written without a server.
 #include "NetworkPublisherMgr.h"
 #include "OrdinaryRights.h"
 #include "PublisherFiles.h"
@@ -24,12 +23,12 @@ const std::string FILE_TEXT = "[Common]\n"
 class NetworkSettings : public testing::Test
 {
 protected:
-    /// Without a server: whoever tries to reach one is refused.
+    /// There is no server: every connection attempt is refused.
     CNetworkPublisherMgr m_mgr{true, PUBLISHER_SETTING_DIR};
 };
 using NetworkSettingsDeathTest = NetworkSettings;
 
-/// No record has these values by itself.
+/// Values that no new or cleared record has.
 PUBLISHERINFO UsedRecord()
 {
     PUBLISHERINFO info;
@@ -89,7 +88,7 @@ TEST_F(NetworkSettings, TheIdModeOfTheConstructorDoesNotMatter)
     EXPECT_EQ(other.GetPublisherMgrType(), 1U);
 }
 
-TEST_F(NetworkSettings, TheFolderIsThatOfTheConstructor)
+TEST_F(NetworkSettings, TheConstructorSetsTheFolder)
 {
     std::filesystem::create_directories("/tmp/others");
     WriteText("/tmp/others/R.ini", "[Common]\nPublisherURL=elsewhere\n");
@@ -118,7 +117,7 @@ TEST_F(NetworkSettings, TheLocalPartOfTheRecord)
           info.uiStacker4DiscType, info.uiUseDrive, info.uiRetryCount, info.uiAddErrorMark}) {
         EXPECT_EQ(field, 0xFFFFFFFFU);
     }
-    // The rest is as it is in a cleared record.
+    // The other fields have the values of a cleared record.
     EXPECT_TRUE(info.bAddErrorMark);
     EXPECT_TRUE(info.bContinuePublish);
     EXPECT_EQ(info.uiPublisherDevType, 0U);
@@ -127,7 +126,7 @@ TEST_F(NetworkSettings, TheLocalPartOfTheRecord)
     EXPECT_EQ(ReadPublisher("R"), FILE_TEXT);
 }
 
-TEST_F(NetworkSettings, AServerThatCannotBeReachedLeavesTheLocalPart)
+TEST_F(NetworkSettings, AnUnreachableServerLeavesTheLocalPart)
 {
     WritePublisher("R", FILE_TEXT);
     PUBLISHERINFO info = UsedRecord();
@@ -167,7 +166,7 @@ TEST_F(NetworkSettings, MissingKeysReadAsEmptyTexts)
     EXPECT_EQ(info.uiPublisherType, 1U) << "whatever the file says";
 }
 
-TEST_F(NetworkSettings, AFileThatCannotBeReadGivesNotSet)
+TEST_F(NetworkSettings, AnUnreadableFileReadsAsNotSet)
 {
     WritePublisher("R", FILE_TEXT);
     std::filesystem::permissions(PublisherFile("R"), std::filesystem::perms::none);
@@ -182,7 +181,7 @@ TEST_F(NetworkSettings, AFileThatCannotBeReadGivesNotSet)
     EXPECT_EQ(m_mgr.GetHostName("R"), "NotSet");
 }
 
-TEST_F(NetworkSettings, AnEmptyIdLeavesTheRecordAlone)
+TEST_F(NetworkSettings, AnEmptyIdDoesNotChangeTheRecord)
 {
     PUBLISHERINFO info = UsedRecord();
     EXPECT_FALSE(m_mgr.GetPublisherInfo("", &info, TRUE));
@@ -207,7 +206,7 @@ TEST_F(NetworkSettings, WithoutAFileTheRecordIsClearedAndHasItsId)
     }
 }
 
-TEST_F(NetworkSettings, TheRecordsOwnIdMayNameIt)
+TEST_F(NetworkSettings, TheIdMayPointIntoTheRecord)
 {
     const std::string id(100, 'i');
     WritePublisher(id, FILE_TEXT);
@@ -218,7 +217,7 @@ TEST_F(NetworkSettings, TheRecordsOwnIdMayNameIt)
     EXPECT_EQ(info.strPublisherName, "Lab 1");
 }
 
-TEST_F(NetworkSettings, LongTextsAreCutAt255Bytes)
+TEST_F(NetworkSettings, LongTextsAreTruncatedTo255Bytes)
 {
     WritePublisher("R", "[Common]\nPublisherName=" + std::string(600, 'n') + "\nPrinterName=" +
                             std::string(600, 'p') + "\nPublisherURL=" + std::string(600, 'h') + "\n");
@@ -244,7 +243,7 @@ TEST_F(NetworkSettings, HostsWithAndWithoutBackslashes)
     }
 }
 
-TEST_F(NetworkSettings, HostsOfPublishersThatAreNotThere)
+TEST_F(NetworkSettings, HostsOfAbsentPublishers)
 {
     MakePublisherFolder();
     EXPECT_EQ(m_mgr.GetHostName("R"), "");
@@ -263,7 +262,7 @@ TEST_F(NetworkSettings, ThereIsNoDeviceKey)
 // ---------------------------------------------------------------------------------------------------------------------
 // Writing
 
-TEST_F(NetworkSettings, ANewFileIsWrittenWholeAndForAllToRead)
+TEST_F(NetworkSettings, ANewFileIsCompleteAndReadableByAll)
 {
     MakePublisherFolder();
     EXPECT_TRUE(m_mgr.UpdatePublisherInfo(Record()));
@@ -271,7 +270,7 @@ TEST_F(NetworkSettings, ANewFileIsWrittenWholeAndForAllToRead)
     EXPECT_EQ(ModeOf(PublisherFile("R")), 0644U);
 }
 
-TEST_F(NetworkSettings, AFileOfAnotherModeGetsTheOneOfAll)
+TEST_F(NetworkSettings, AnExistingFileGetsMode0644)
 {
     for (const mode_t mode : {0755U, 0600U, 0666U, 0444U, 04755U}) {
         WritePublisher("R", "[Common]\n");
@@ -283,7 +282,7 @@ TEST_F(NetworkSettings, AFileOfAnotherModeGetsTheOneOfAll)
     }
 }
 
-TEST_F(NetworkSettings, TheWholeSectionIsReplacedWithTheKindThatTheServerHad)
+TEST_F(NetworkSettings, TheWholeSectionIsReplacedIncludingTheKindOfTheServer)
 {
     WritePublisher("R", "[Common]\nNPType=2\nPublisherName=Old\n");
     EXPECT_TRUE(m_mgr.UpdatePublisherInfo(Record()));
@@ -311,7 +310,7 @@ TEST_F(NetworkSettings, EmptyTextsAreWrittenAsNotSet)
                                   "PublisherConnectionType=1\nPublisherURL=NotSet\n");
 }
 
-TEST_F(NetworkSettings, TheConnectionKindIsThatOfTheRecord)
+TEST_F(NetworkSettings, TheConnectionTypeIsThatOfTheRecord)
 {
     for (const UINT kind : {0U, 1U, 2U, 12345U}) {
         MakePublisherFolder();
@@ -324,7 +323,7 @@ TEST_F(NetworkSettings, TheConnectionKindIsThatOfTheRecord)
     }
 }
 
-TEST_F(NetworkSettings, WhatIsWrittenIsReadAgain)
+TEST_F(NetworkSettings, AWrittenRecordCanBeReadAgain)
 {
     MakePublisherFolder();
     PUBLISHERINFO written = Record();
@@ -339,7 +338,7 @@ TEST_F(NetworkSettings, WhatIsWrittenIsReadAgain)
     EXPECT_EQ(m_mgr.GetHostName("R"), "host");
 }
 
-TEST_F(NetworkSettings, NamesOfAnyLengthLeaveOtherFilesAlone)
+TEST_F(NetworkSettings, NamesOfAnyLengthDoNotChangeOtherFiles)
 {
     WritePublisher("other", FILE_TEXT);
     for (const size_t length : {255U, 256U, 1023U, 1024U, 5000U, 100'000U}) {
@@ -371,7 +370,7 @@ TEST_F(NetworkSettings, TextsCannotForgeKeys)
     }
 }
 
-TEST_F(NetworkSettings, AFileThatMayNotBeWrittenIsAFailure)
+TEST_F(NetworkSettings, AFileWithoutWritePermissionIsAFailure)
 {
     for (const mode_t mode : {0444U, 0U}) {
         WritePublisher("R", FILE_TEXT);
@@ -384,12 +383,12 @@ TEST_F(NetworkSettings, AFileThatMayNotBeWrittenIsAFailure)
     }
 }
 
-TEST_F(NetworkSettingsDeathTest, AFolderThatIsNotThereStopsTheProcess)
+TEST_F(NetworkSettingsDeathTest, AMissingFolderStopsTheProcess)
 {
     EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
 }
 
-TEST_F(NetworkSettingsDeathTest, AFolderInTheFilesPlaceStopsTheProcess)
+TEST_F(NetworkSettingsDeathTest, AFolderInPlaceOfTheFileStopsTheProcess)
 {
     std::filesystem::create_directories(PublisherFile("R"));
     EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
@@ -433,7 +432,7 @@ TEST_F(NetworkSettings, NullArgumentsThatAreRefused)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// What a network publisher lacks
+// Operations that a network publisher does not support
 
 TEST_F(NetworkSettings, WithoutAFileThereIsNothingToConnectTo)
 {
@@ -448,7 +447,7 @@ TEST_F(NetworkSettings, WithoutAFileThereIsNothingToConnectTo)
     EXPECT_EQ(handle, 77U);
 }
 
-TEST_F(NetworkSettings, OperationsThatThereAreNotDoNothing)
+TEST_F(NetworkSettings, UnsupportedOperationsDoNothing)
 {
     WritePublisher("R", FILE_TEXT);
     PUBLISHERINFO info = Record();
@@ -478,7 +477,7 @@ TEST_F(NetworkSettings, OperationsThatThereAreNotDoNothing)
     EXPECT_EQ(ReadPublisher("R"), FILE_TEXT);
 }
 
-TEST_F(NetworkSettings, OperationsThatThereAreNotTakeNullArguments)
+TEST_F(NetworkSettings, UnsupportedOperationsAcceptNullArguments)
 {
     EXPECT_FALSE(m_mgr.UpdatePublishMode(nullptr, nullptr, false, nullptr));
     EXPECT_FALSE(m_mgr.SetServiceJobStop(nullptr, nullptr, nullptr));

@@ -1,10 +1,10 @@
-// The steps of a submission, each on a connection that its caller holds.
+// The steps of a submission, each on a connection of the caller.
 #include "NetworkScriptFixture.h"
 
 using testing::ElementsAre;
 using NetworkSubmission = NetworkScriptFixture;
 
-TEST_F(NetworkSubmission, PublishIdsComeInTwoSteps)
+TEST_F(NetworkSubmission, PublishIdsAreReadInTwoSteps)
 {
     DWORD code = 77;
     EXPECT_EQ(m_mgr.GetPublishID(9, &code), "PUBLISH_1");
@@ -15,7 +15,7 @@ TEST_F(NetworkSubmission, PublishIdsComeInTwoSteps)
     EXPECT_EQ(code, 0U);
 }
 
-TEST_F(NetworkSubmission, PublishIdsThatAreRefused)
+TEST_F(NetworkSubmission, RefusedPublishIds)
 {
     m_library.failAt = 1; // the second step
     m_library.failCode = NCL_ERR_CONNECTION_CLOSE;
@@ -30,7 +30,7 @@ TEST_F(NetworkSubmission, PublishIdsThatAreRefused)
     EXPECT_EQ(code, 9U);
 }
 
-TEST_F(NetworkSubmission, EachStepOfASubmissionPassesItsBytesOn)
+TEST_F(NetworkSubmission, EachStepPassesItsBytesToTheLibrary)
 {
     const std::string text("a\0b", 3);
     const BYTE* const bytes = reinterpret_cast<const BYTE*>(text.data());
@@ -63,7 +63,7 @@ TEST_F(NetworkSubmission, EachStepOfASubmissionPassesItsBytesOn)
                             "SendDiscImage(9, 42, 0, 0, 0, null)", "CommitJob(9, 42)"));
 }
 
-TEST_F(NetworkSubmission, EachStepOfASubmissionTellsItsCode)
+TEST_F(NetworkSubmission, EachStepReturnsItsCode)
 {
     const BYTE bytes[] = {1};
     m_library.failAt = 0;

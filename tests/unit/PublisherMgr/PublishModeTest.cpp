@@ -1,4 +1,4 @@
-// The change of a publisher's mode, with what follows from it.
+// Changes of the publish mode and their effects.
 #include "Models.h"
 #include "PublisherFiles.h"
 
@@ -13,7 +13,7 @@ constexpr UINT in = PUBMGR_STACKERDISCTYPE_INPUT;
 constexpr UINT none = PUBMGR_STACKERDISCTYPE_NOTUSE;
 constexpr UINT cd = PUBMGR_STACKERDISCTYPE_CDR;
 
-/// A publisher in normal mode on which a change to its own settings changes nothing.
+/// A publisher in normal mode whose settings already fit the mode.
 PUBLISHERINFO Stored()
 {
     PUBLISHERINFO info;
@@ -74,7 +74,7 @@ TEST(UpdatePublishMode, ANullIdIsRefused)
     EXPECT_TRUE(setDefault);
 }
 
-TEST(UpdatePublishMode, NothingToChangeWritesNoRecord)
+TEST(UpdatePublishMode, UnchangedSettingsWriteNoRecord)
 {
     Store(Stored());
     const std::string before = ReadPublisher("R");
@@ -86,7 +86,7 @@ TEST(UpdatePublishMode, NothingToChangeWritesNoRecord)
     EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublishMode("R", &wanted, true, nullptr));
 }
 
-TEST(UpdatePublishMode, BatchFitsTheStackersAndSaysSo)
+TEST(UpdatePublishMode, BatchAdjustsTheStackersAndReportsTheChange)
 {
     PUBLISHERINFO stored = Stored();
     stored.bAddErrorMark = false;
@@ -106,7 +106,7 @@ TEST(UpdatePublishMode, BatchFitsTheStackersAndSaysSo)
     EXPECT_TRUE(after.bAddErrorMark);
 }
 
-TEST(UpdatePublishMode, TheCallersFieldsAreTakenOver)
+TEST(UpdatePublishMode, TheFieldsOfTheCallerAreStored)
 {
     const struct
     {
@@ -139,7 +139,7 @@ TEST(UpdatePublishMode, TheCallersFieldsAreTakenOver)
 TEST(UpdatePublishMode, AChangedRetryCountAloneWritesTheRecord)
 {
     Store(Stored());
-    // A key that no record has is gone when the record was written anew.
+    // An unknown key: it disappears when the record is rewritten.
     ASSERT_TRUE(WritePrivateProfileStringA("Common", "Extra", "1", PublisherFile("R").c_str()));
     ASSERT_EQ(ReadPublisher("R").substr(0, 16), "[Common]\nExtra=1");
     PUBLISHERINFO wanted = Load();
@@ -148,7 +148,7 @@ TEST(UpdatePublishMode, AChangedRetryCountAloneWritesTheRecord)
     EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublishMode("R", &wanted, true, &setDefault));
     EXPECT_FALSE(setDefault);
     EXPECT_NE(ReadPublisher("R").substr(0, 16), "[Common]\nExtra=1");
-    EXPECT_EQ(Load().uiRetryCount, 5u); // the count in force follows from mode and retries
+    EXPECT_EQ(Load().uiRetryCount, 5u); // the effective count follows from mode and retries
 }
 
 TEST(UpdatePublishMode, ModelsWithoutDriveChoiceKeepTheirDrive)
@@ -166,9 +166,9 @@ TEST(UpdatePublishMode, ModelsWithoutDriveChoiceKeepTheirDrive)
     EXPECT_EQ(ReadPublisher("R"), before);
 }
 
-TEST(UpdatePublishMode, ARecordThatIsWrittenHasTheDriveKeysWhateverTheModel)
+TEST(UpdatePublishMode, AWrittenRecordHasTheDriveKeysForEveryModel)
 {
-    // The record is read anew from the file, and the file does not tell the model.
+    // The record is read again from the file, which does not contain the model.
     PUBLISHERINFO stored = Stored();
     stored.uiPublisherDevType = PUBMGR_PUBLISHERTYPE_AP;
     stored.uiStacker2DiscType = in;
@@ -180,7 +180,7 @@ TEST(UpdatePublishMode, ARecordThatIsWrittenHasTheDriveKeysWhateverTheModel)
     EXPECT_NE(ReadPublisher("R").find("UseDrive"), std::string::npos);
 }
 
-TEST(UpdatePublishModeDeathTest, WhatCannotFailStopsTheProcess)
+TEST(UpdatePublishModeDeathTest, UnexpectedFailuresStopTheProcess)
 {
     PUBLISHERINFO wanted = Stored();
     bool setDefault = false;
@@ -195,7 +195,7 @@ TEST(UpdatePublishModeDeathTest, WhatCannotFailStopsTheProcess)
     EXPECT_DEATH(mgr->UpdatePublishMode("R", &wanted, true, nullptr), "!= FALSE");
 }
 
-/// A model that reads and writes its record in a way of its own.
+/// A model with its own functions to read and write the record.
 template <class Base>
 class OwnRecordMgr : public Base
 {
@@ -239,13 +239,13 @@ void ExpectModelsOwnRecord()
     EXPECT_DEATH(mgr.UpdatePublishMode("R", &wanted, true, &setDefault), "!= FALSE");
 }
 
-TEST(UpdatePublishModeDeathTest, TheModelsOwnRecordIsReadAndWritten)
+TEST(UpdatePublishModeDeathTest, TheFunctionsOfTheModelReadAndWriteTheRecord)
 {
     ExpectModelsOwnRecord<CBasicPublisherMgr>();
     ExpectModelsOwnRecord<CAPPublisherMgr>();
 }
 
-TEST(GetCopiesMax, FollowsTheModelsOwnRecord)
+TEST(GetCopiesMax, UsesTheRecordOfTheModel)
 {
     OwnRecordMgr<C300MODPublisherMgr> mgr(true, PUBLISHER_SETTING_DIR);
     mgr.record.uiPublishMode = PUBMGR_PUBLISHMODE_READ;
@@ -254,7 +254,7 @@ TEST(GetCopiesMax, FollowsTheModelsOwnRecord)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// The model without drives has a rule of its own
+// The model without drives has its own rule
 
 TEST(UpdatePublishMode, RuleOfTheModelWithoutDrives)
 {
@@ -309,7 +309,7 @@ TEST(UpdatePublishMode, RuleOfTheModelWithoutDrives)
     }
 }
 
-TEST(UpdatePublishMode, TheModelWithoutDrivesTakesANullFlag)
+TEST(UpdatePublishMode, TheModelWithoutDrivesAcceptsANullFlag)
 {
     Store(Stored());
     PUBLISHERINFO wanted = Stored();
@@ -318,7 +318,7 @@ TEST(UpdatePublishMode, TheModelWithoutDrivesTakesANullFlag)
     EXPECT_EQ(Load().uiStacker2DiscType, in);
 }
 
-TEST(UpdatePublishModeDeathTest, AnotherModeStopsTheModelWithoutDrives)
+TEST(UpdatePublishModeDeathTest, AnyOtherModeStopsTheModelWithoutDrives)
 {
     Store(Stored());
     PUBLISHERINFO wanted = Stored();

@@ -1,4 +1,4 @@
-// The numbers and words of publisher management, of the setting files and of the registry.
+// The numbers and texts of publisher management, of the setting files and of the registry.
 #include "ConstantRows.h"
 #include "JobMgrConst.h"
 #include "NW_Com_LibConst.h"
@@ -412,7 +412,7 @@ TEST(Constants, DiscTypeWords)
     });
 }
 
-// One number, two words; a family and a class in one number.
+// Two names for one number; family and drive class in one number.
 static_assert(PUBMGR_PUBLISHMODE_LOWVOLUME == PUBMGR_PUBLISHMODE_OUTPUT);
 static_assert((PUBMGR_PUBLISHERTYPE_30II_BDXL & 0xF) == 8 && PUBMGR_PUBLISHERTYPE_30II_BDXL >> 28 == 3);
 

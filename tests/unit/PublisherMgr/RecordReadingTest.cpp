@@ -1,4 +1,4 @@
-// How often the setting files and the registry are read, and that a record comes from one state of its file.
+// The number of reads of setting files and registry, and the consistency of each record.
 #include "CountedLocks.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
@@ -87,7 +87,7 @@ TEST(RecordReading, OnePassReadsEachFileAndTheRegistryOnce)
 TEST(RecordReading, TheNextPassSeesEveryChange)
 {
     CPublisherMgr mgr(true);
-    for (const char* name : {"One", "Two", "Sie"}) { // of one length, within one tick of the clock
+    for (const char* name : {"One", "Two", "Sie"}) { // equal length, within one tick of the file clock
         WritePublisher("P", std::string("[Common]\nPublisherName=") + name + "\n");
         const ReadPass pass;
         EXPECT_EQ(Record(mgr, "P").strPublisherName, name);
@@ -104,7 +104,7 @@ TEST(RecordReading, TheNextPassSeesEveryChange)
     EXPECT_FALSE(mgr.GetPublisherInfo("P", &info, FALSE));
 }
 
-TEST(RecordReading, ARecordIsNeverTornByAWriter)
+TEST(RecordReading, AConcurrentWriterNeverTearsARecord)
 {
     const auto block = [](int number) {
         const std::string value = std::to_string(number);

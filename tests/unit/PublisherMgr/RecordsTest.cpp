@@ -12,7 +12,7 @@
 namespace {
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Wire records: every field at its place
+// Wire records: offset and size of every field
 
 template <class T, class Member>
 constexpr size_t SizeOf(Member T::*)
@@ -218,14 +218,14 @@ TEST(PublisherInfo, NewRecordHasTheDefaults)
     ExpectDefaults(PUBLISHERINFO(), 1);
 }
 
-TEST(PublisherInfo, ClearDiffersFromNewInTheErrorMarkNumberAlone)
+TEST(PublisherInfo, ClearDiffersFromNewOnlyInTheErrorMarkNumber)
 {
     PUBLISHERINFO info = Filled();
     info.Clear();
     ExpectDefaults(info, 0);
 }
 
-TEST(PublisherInfo, CopiesTakeAllFields)
+TEST(PublisherInfo, CopiesHaveAllFields)
 {
     const PUBLISHERINFO original = Filled();
     const PUBLISHERINFO copy(original);
@@ -251,7 +251,7 @@ bool Ascend(const std::vector<const void*>& fields)
     return std::is_sorted(fields.begin(), fields.end(), std::less<>());
 }
 
-TEST(PublisherVersionInfo, FieldsStandInOrder)
+TEST(PublisherVersionInfo, FieldsAreInOrder)
 {
     const PUBLISHERVERSIONINFO i;
     static_assert(sizeof(i) == 11 * sizeof(CString));
@@ -261,7 +261,7 @@ TEST(PublisherVersionInfo, FieldsStandInOrder)
                 &i.strDrive2Version, &i.strSSSVersion, &i.strUDNAVersion}));
 }
 
-TEST(PublisherMaintenanceInfo, FieldsStandInOrder)
+TEST(PublisherMaintenanceInfo, FieldsAreInOrder)
 {
     const PUBLISHERMAINTENANCEINFO i;
     const PUBMAINTINFODRIVE& d = i.midrvDrive1;
@@ -288,7 +288,7 @@ void ExpectUnknown(const PUBMAINTINFODRIVE& drive)
     }
 }
 
-TEST(PublisherMaintenanceInfo, NewRecordKnowsNothing)
+TEST(PublisherMaintenanceInfo, NewRecordHasOnlyUnknownValues)
 {
     const PUBLISHERMAINTENANCEINFO info;
     EXPECT_EQ(info.uiPrintCount, unknown);

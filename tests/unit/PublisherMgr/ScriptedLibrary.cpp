@@ -33,7 +33,7 @@ std::string Call(const char* name, Arguments... arguments)
     return std::string(name) + "(" + list + ")";
 }
 
-/// One record of the script, handed over unless the request fails.
+/// Returns one record of the script, unless the request fails.
 template <class Record>
 DWORD Give(const char* name, DWORD handle, const Record& record, Record* out)
 {
@@ -44,7 +44,7 @@ DWORD Give(const char* name, DWORD handle, const Record& record, Record* out)
     return code;
 }
 
-/// A submission of bytes.
+/// Records a submission of bytes.
 DWORD Submit(const std::string& call, const BYTE* data, DWORD size)
 {
     const DWORD code = Script().Take(call);

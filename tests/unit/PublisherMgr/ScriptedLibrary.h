@@ -1,7 +1,7 @@
-// The network library by script: its operations give what a test has laid down and keep what they were asked,
-// so that every result code can be had, whatever a real server would have to do for it.
+// A scripted network library. Its operations return what the test specifies and record their calls. Every
+// result code can thus be tested, also those that a real server hardly returns.
 //
-// It has every function that publisher management calls: nothing of the library itself is linked.
+// It defines every function that publisher management calls: nothing of the library itself is linked.
 #pragma once
 
 #include "NW_Com_Lib.h"
@@ -14,7 +14,7 @@ struct ScriptedLibrary
     static constexpr size_t never = static_cast<size_t>(-1);
     static constexpr DWORD handle = 7;
 
-    // What the server has.
+    // The state of the server.
     DWORD mode = NCL_MODE_NORMAL;
     DWORD kind = NCL_NPTYPE_300NII;
     std::vector<DWORD> numbers = {0, 1, 3, 1, 1, 0, 999, 0, 0}; ///< by NCL_DIT_
@@ -36,24 +36,24 @@ struct ScriptedLibrary
     std::string publishId = "PUBLISH_1";
     int serverJobId = 42;
 
-    // The request, counted from 0 over all but EndConnection and GetNPType, that gives `failCode`, and
-    // whether all behind it do too.
+    // The request that returns `failCode`, counted from 0 without EndConnection and GetNPType. With `failOn`
+    // all later requests return it too.
     size_t failAt = never;
     bool failOn = false;
     DWORD failCode = NCL_ERR_SERVER_OTHER;
 
-    // What it was asked, in order: "GetDeviceInfo(7, 5, 1024)".
+    // The calls in order, such as "GetDeviceInfo(7, 5, 1024)".
     std::vector<std::string> calls;
     std::string lastBytes; ///< of the last submission
-    int open = 0;          ///< connections
+    int open = 0;          ///< number of open connections
 
-    /// The one that the library's functions use.
+    /// The instance that the library functions use.
     static ScriptedLibrary& Instance();
-    /// Begins anew, as if just made.
+    /// Restores the initial state.
     void Reset();
-    /// Forgets what it was asked.
+    /// Clears the recorded calls.
     void Forget();
-    /// Writes down a request; its code.
+    /// Records a request and returns its code.
     DWORD Take(const std::string& call);
 
 private:

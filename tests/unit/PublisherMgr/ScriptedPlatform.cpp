@@ -75,7 +75,7 @@ DWORD GetLastError()
     return lastError;
 }
 
-void Sleep(DWORD dwMilliseconds) // house-rule: sleeps: this one only notes how long
+void Sleep(DWORD dwMilliseconds) // house-rule: sleeps: this one only records the time
 {
     g_platform.sleeps.push_back(dwMilliseconds);
 }

@@ -1,5 +1,5 @@
-// A platform layer by script: pipes, transfers and waits answer as a test asks them to, and tell what was
-// asked of them. It stands in for the layer's functions in the program that links it.
+// A scripted platform layer: pipes, transfers and waits return what the test specifies and record their
+// arguments. It replaces the functions of the layer in the program that links it.
 #pragma once
 
 #include "Win_def.h"
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// One transfer: its result, the bytes it moves, and the error it leaves.
+/// One transfer: its result, the bytes transferred, and the last error.
 struct ScriptedTransfer
 {
     BOOL result = TRUE;
@@ -18,15 +18,15 @@ struct ScriptedTransfer
 
 struct ScriptedPlatform
 {
-    // The script. An open takes the next error, 0 for a pipe; the last one holds for all that follow.
+    // The script. Each open uses the next error, 0 for success; the last one applies to all further opens.
     std::vector<DWORD> openErrors = {0};
     ScriptedTransfer write{TRUE, "", 408, 0};
-    std::vector<ScriptedTransfer> reads; ///< one after the other
+    std::vector<ScriptedTransfer> reads; ///< in order
     BOOL overlappedResult = FALSE;
     DWORD overlappedCount = 0;
     bool eventsFail = false;
 
-    // What was asked.
+    // The recorded calls.
     int opens = 0;
     std::string openedName;
     DWORD openedAccess = 0;
@@ -43,5 +43,5 @@ struct ScriptedPlatform
     int eventCloses = 0;
 };
 
-/// The script in force.
+/// The current script.
 extern ScriptedPlatform g_platform;

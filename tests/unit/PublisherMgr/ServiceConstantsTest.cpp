@@ -1,4 +1,4 @@
-// The numbers and words of the control service.
+// The numbers and texts of the control service.
 #include "ConstantRows.h"
 #include "PublisherCtrlConst.h"
 

@@ -1,4 +1,4 @@
-// The client's answers to a layer whose pipes can be busy and whose transfers can stay pending.
+// The results of the client if pipes are busy or transfers stay pending.
 #include "BasicPublisherMgr.h"
 #include "InstallPaths.h"
 #include "LogAgent.h"
@@ -42,7 +42,7 @@ protected:
         EXPECT_EQ(g_platform.misuses, 0);
     }
 
-    /// One command with control 13, and what it gave.
+    /// Runs one command with control 13 and returns its result.
     int Run()
     {
         response = this;
@@ -74,7 +74,7 @@ TEST_F(ServiceTimeouts, ThePipeIsOpenedForOverlappedTransfer)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST_F(ServiceTimeouts, NoServiceIsToldAtTheFirstAttempt)
+TEST_F(ServiceTimeouts, AMissingServiceFailsAtTheFirstAttempt)
 {
     g_platform.openErrors = {2};
     EXPECT_EQ(Run(), -1);
@@ -91,7 +91,7 @@ TEST_F(ServiceTimeouts, ABusyPipeIsTried41Times)
     EXPECT_EQ(Run(), -2);
     EXPECT_EQ(g_platform.opens, 41);
     EXPECT_EQ(g_platform.sleeps, std::vector<DWORD>(40, 50));
-    const std::vector<std::string> lines = agent.TakeAll(); // as many as the agent's queue holds
+    const std::vector<std::string> lines = agent.TakeAll(); // limited by the queue of the agent
     EXPECT_GT(lines.size(), 1u);
     for (const std::string& line : lines) {
         EXPECT_EQ(line, LogLine("CBasicPublisherMgr::OpenServicePipe, failed to connect pipe"));
@@ -100,7 +100,7 @@ TEST_F(ServiceTimeouts, ABusyPipeIsTried41Times)
     EXPECT_EQ(length, 0u);
 }
 
-TEST_F(ServiceTimeouts, APipeThatBecomesFreeIsTaken)
+TEST_F(ServiceTimeouts, APipeThatBecomesFreeIsUsed)
 {
     g_platform.openErrors = std::vector<DWORD>(40, busy);
     g_platform.openErrors.push_back(0);
@@ -147,7 +147,7 @@ TEST_F(ServiceTimeouts, TheEventLivesAsLongAsTheObject)
     EXPECT_EQ(g_platform.closes, 0); // no pipe was open
 }
 
-TEST_F(ServiceTimeouts, AFailedWriteIsNoCommunication)
+TEST_F(ServiceTimeouts, AFailedWriteReturnsNoCommunication)
 {
     g_platform.write = {FALSE, "", 0, 109};
     EXPECT_EQ(Run(), -1);
@@ -167,7 +167,7 @@ TEST_F(ServiceTimeouts, AWriteThatStaysPendingTimesOut)
     EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 2")});
 }
 
-TEST_F(ServiceTimeouts, AShortWriteIsNoCommunication)
+TEST_F(ServiceTimeouts, AShortWriteReturnsNoCommunication)
 {
     g_platform.write = {TRUE, "", 407, 0};
     EXPECT_EQ(Run(), -1);
@@ -175,7 +175,7 @@ TEST_F(ServiceTimeouts, AShortWriteIsNoCommunication)
     EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 3")});
 }
 
-TEST_F(ServiceTimeouts, APendingWriteThatEndsShortIsNoCommunication)
+TEST_F(ServiceTimeouts, APendingWriteThatEndsShortReturnsNoCommunication)
 {
     g_platform.write = {FALSE, "", 0, pending};
     g_platform.overlappedResult = TRUE;
@@ -184,10 +184,10 @@ TEST_F(ServiceTimeouts, APendingWriteThatEndsShortIsNoCommunication)
     EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 3")});
 }
 
-TEST_F(ServiceTimeouts, APendingWriteThatEndsGoesOn)
+TEST_F(ServiceTimeouts, APendingWriteThatCompletesContinues)
 {
     g_platform.write = {FALSE, "", 0, pending};
-    g_platform.overlappedResult = TRUE; // whatever the wait said
+    g_platform.overlappedResult = TRUE; // whatever the wait returned
     g_platform.overlappedCount = 408;
     g_platform.reads = {{TRUE, Header(13, 0, 0), 0, 0}};
     EXPECT_EQ(Run(), 0);
@@ -203,14 +203,14 @@ TEST_F(ServiceTimeouts, AHeaderThatStaysPendingTimesOut)
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
-TEST_F(ServiceTimeouts, AFailedHeaderIsNoCommunication)
+TEST_F(ServiceTimeouts, AFailedHeaderReturnsNoCommunication)
 {
     g_platform.reads = {{FALSE, "", 0, 109}};
     EXPECT_EQ(Run(), -1);
     EXPECT_TRUE(g_platform.waits.empty());
 }
 
-TEST_F(ServiceTimeouts, APendingHeaderThatEndsShortIsNoCommunication)
+TEST_F(ServiceTimeouts, APendingHeaderThatEndsShortReturnsNoCommunication)
 {
     g_platform.reads = {{FALSE, Header(13, 0, 0), 0, pending}};
     g_platform.overlappedResult = TRUE;
@@ -221,7 +221,7 @@ TEST_F(ServiceTimeouts, APendingHeaderThatEndsShortIsNoCommunication)
     EXPECT_EQ(Run(), 0);
 }
 
-TEST_F(ServiceTimeouts, APayloadThatStaysPendingIsNoCommunication)
+TEST_F(ServiceTimeouts, APayloadThatStaysPendingReturnsNoCommunication)
 {
     g_platform.reads = {{TRUE, Header(13, 0, 4), 0, 0}, {FALSE, "", 0, pending}};
     EXPECT_EQ(Run(), -1);
@@ -232,7 +232,7 @@ TEST_F(ServiceTimeouts, APayloadThatStaysPendingIsNoCommunication)
     EXPECT_EQ(g_platform.closes, 1);
 }
 
-TEST_F(ServiceTimeouts, ATimeoutOfOneCommandThrowsAwayTheAnswersBefore)
+TEST_F(ServiceTimeouts, ATimeoutOfOneCommandDiscardsTheEarlierReplies)
 {
     g_platform.reads = {{TRUE, Header(10, 0, 4), 0, 0},
                         {TRUE, "aaaa", 0, 0},
@@ -252,7 +252,7 @@ TEST_F(ServiceTimeouts, ATimeoutOfOneCommandThrowsAwayTheAnswersBefore)
     EXPECT_EQ(g_platform.closes, 3);
 }
 
-TEST_F(ServiceTimeouts, TheStepsTakeTheirArgumentsAsTheyAre)
+TEST_F(ServiceTimeouts, TheStepsPassTheirArgumentsUnchanged)
 {
     int code = 77;
     const HANDLE pipe = mgr.OpenServicePipe(&code);
@@ -275,7 +275,7 @@ TEST_F(ServiceTimeouts, TheStepsTakeTheirArgumentsAsTheyAre)
 
 using ServiceTimeoutsDeathTest = ServiceTimeouts;
 
-TEST_F(ServiceTimeoutsDeathTest, NoEventStopsTheProcess)
+TEST_F(ServiceTimeoutsDeathTest, AMissingEventStopsTheProcess)
 {
     g_platform.eventsFail = true;
     EXPECT_DEATH(CBasicPublisherMgr(true, PUBLISHER_SETTING_DIR), "!= FALSE");
