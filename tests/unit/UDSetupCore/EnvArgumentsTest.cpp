@@ -48,12 +48,12 @@ TEST(EnvArguments, WithoutAnEqualsSignNothingHappens)
     EXPECT_EQ(std::getenv("FOO"), nullptr);
 }
 
-TEST(EnvArguments, AnEmptyNameIsPrintedAndRefused)
+TEST(EnvArguments, AnEmptyNameIsPrintedAndNotSet)
 {
     EXPECT_EQ(apply({"-env=bar"}), ": \"(null)\"\n");
 }
 
-TEST(EnvArguments, AnyNumberMayStandAnywhere)
+TEST(EnvArguments, AnyNumberIsAcceptedAnywhere)
 {
     ::unsetenv("ONE");
     ::unsetenv("TWO");
@@ -62,7 +62,7 @@ TEST(EnvArguments, AnyNumberMayStandAnywhere)
     EXPECT_STREQ(std::getenv("TWO"), "a=b");
 }
 
-TEST(EnvArguments, TheProgramsOwnNameIsNoArgument)
+TEST(EnvArguments, TheProgramNameIsNotAnArgument)
 {
     ::unsetenv("FOO");
     std::string name = "-envFOO=bar";
@@ -71,7 +71,7 @@ TEST(EnvArguments, TheProgramsOwnNameIsNoArgument)
     EXPECT_EQ(std::getenv("FOO"), nullptr);
 }
 
-TEST(EnvArguments, ThePrefixIsFollowedAtOnceByTheName)
+TEST(EnvArguments, TheNameFollowsThePrefixImmediately)
 {
     EXPECT_FALSE(parseEnvArgument("-en"));
     EXPECT_FALSE(parseEnvArgument("-Env=x"));
@@ -81,14 +81,14 @@ TEST(EnvArguments, ThePrefixIsFollowedAtOnceByTheName)
     EXPECT_EQ(parseEnvArgument("-env A=x")->name, " A");
 }
 
-TEST(EnvArguments, ANameOf255BytesIsTheLongest)
+TEST(EnvArguments, ANameHasAtMost255Bytes)
 {
     ASSERT_TRUE(parseEnvArgument("-env" + std::string(255, 'N') + "=v"));
     EXPECT_EQ(parseEnvArgument("-env" + std::string(255, 'N') + "=v")->name, std::string(255, 'N'));
     EXPECT_FALSE(parseEnvArgument("-env" + std::string(256, 'N') + "=v"));
 }
 
-TEST(EnvArguments, AValueIsCutAt256Bytes)
+TEST(EnvArguments, AValueIsTruncatedTo256Bytes)
 {
     EXPECT_EQ(parseEnvArgument("-envA=" + std::string(256, 'v'))->value, std::string(256, 'v'));
     EXPECT_EQ(parseEnvArgument("-envA=" + std::string(5000, 'v'))->value, std::string(256, 'v'));

@@ -1,5 +1,5 @@
-// Maintenance jobs on their way: job files, and the connection of a network publisher, which a
-// scripted publisher manager gives and a scripted library takes the job from.
+// Submission of maintenance jobs: job files, and network publishers with a scripted publisher manager and a
+// scripted network library.
 #include "FerroJob.h"
 
 #include "ChildProcess.h"
@@ -31,7 +31,7 @@ struct SentJob
     int serverJobID; ///< before the call
 };
 
-std::vector<std::string> calls; // what the publisher manager and the library were asked
+std::vector<std::string> calls; // to the publisher manager and the library
 bool connects = false;
 DWORD sendResult = 0;
 std::vector<SentJob> sent;
@@ -113,7 +113,7 @@ PUBLISHERINFO publisher(const std::string& id = "pub", UINT type = 0)
     return info;
 }
 
-/// Submits both jobs with nothing seen on the standard output but the line of the nozzle check.
+/// Submits both jobs. Expects only the line of the nozzle check on standard output.
 void submitBoth(const PUBLISHERINFO& info)
 {
     StdoutCapture output;
@@ -132,7 +132,7 @@ void writePrintData(const std::string& headCleaning, const std::string& nozzleCh
     WriteText(nozzleCheckData, nozzleCheck);
 }
 
-/// Takes the lines of ID and Create out of a job text, for they tell the present time.
+/// Removes the ID and Create lines, which depend on the current time, from a job text.
 std::string withoutTime(const std::string& text)
 {
     std::istringstream lines(text);
@@ -187,7 +187,7 @@ TEST_F(FerroJob, NewFileTakesTheLowestFreeNumber)
     }
 }
 
-TEST_F(FerroJob, NewFileIsPrivateEmptyWriteOnlyAndClosedInOtherPrograms)
+TEST_F(FerroJob, NewFileIsPrivateEmptyWriteOnlyAndCloseOnExec)
 {
     umask(0);
     const int fd = CFerroJob().openNewJobFile(publisher());
@@ -201,7 +201,7 @@ TEST_F(FerroJob, NewFileIsPrivateEmptyWriteOnlyAndClosedInOtherPrograms)
     close(fd);
 }
 
-TEST_F(FerroJob, LinkInTheWayIsNotFollowed)
+TEST_F(FerroJob, ExistingLinkIsNotFollowed)
 {
     std::filesystem::create_symlink("/opt/elsewhere", jobFile("pub_0000.epj"));
     const int fd = CFerroJob().openNewJobFile(publisher());
@@ -229,7 +229,7 @@ TEST_F(FerroJob, NoFileWithoutAUsableName)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, LongestAndOddestIDsNameTheirFiles)
+TEST_F(FerroJob, UnusualIDsNameTheirFiles)
 {
     const std::string longest(255 - std::string("_0000.epj").size(), 'i');
     for (const std::string& id : {longest, std::string("%s%n"), std::string("caf\xe9"), std::string("")}) {
@@ -240,7 +240,7 @@ TEST_F(FerroJob, LongestAndOddestIDsNameTheirFiles)
     }
 }
 
-TEST_F(FerroJob, ThousandFilesAreAllThatFit)
+TEST_F(FerroJob, AtMostAThousandFilesAreCreated)
 {
     for (int number = 0; number < 998; ++number) {
         WriteText(numberedFile(number), "kept");
@@ -256,7 +256,7 @@ TEST_F(FerroJob, ThousandFilesAreAllThatFit)
     EXPECT_EQ(jobFiles().size(), 1000U);
     EXPECT_EQ(openDescriptors(), descriptors);
 
-    std::filesystem::remove(jobFile("pub_0417.epj")); // the service took it
+    std::filesystem::remove(jobFile("pub_0417.epj")); // as the service does
     submitBoth(publisher());
     EXPECT_NE(ReadText(jobFile("pub_0417.epj")), "kept");
     EXPECT_EQ(jobFiles().size(), 1000U);
@@ -286,7 +286,7 @@ TEST_F(FerroJob, LocalJobsAreWrittenAsFiles)
               "DryingTime = 0\nPrintQuality = 0\n");
 }
 
-TEST_F(FerroJob, IDsOfJobsDifferAndTellTheSecondThatCreateTells)
+TEST_F(FerroJob, JobIDsDifferAndHaveTheSecondOfCreate)
 {
     setenv("TZ", "XYZ+3", 1);
     tzset();
@@ -312,7 +312,7 @@ TEST_F(FerroJob, IDsOfJobsDifferAndTellTheSecondThatCreateTells)
     }
 }
 
-TEST_F(FerroJob, OnlyTheNozzleCheckSpeaksOnTheStandardOutput)
+TEST_F(FerroJob, OnlyTheNozzleCheckWritesToStandardOutput)
 {
     StdoutCapture first;
     CFerroJob().SubmitHeadCleaningJob(publisher(), "");
@@ -322,7 +322,7 @@ TEST_F(FerroJob, OnlyTheNozzleCheckSpeaksOnTheStandardOutput)
     EXPECT_EQ(second.Stop(), "CFerroJob::SubmitNozzleCheckJob");
 }
 
-TEST_F(FerroJob, EveryOtherTypeThanNetworkIsLocal)
+TEST_F(FerroJob, EveryTypeExceptNetworkIsLocal)
 {
     for (const UINT type : {0U, 2U, 3U, 0x10000009U, 0xFFFFFFFFU}) {
         submitBoth(publisher("type" + std::to_string(type), type));
@@ -331,7 +331,7 @@ TEST_F(FerroJob, EveryOtherTypeThanNetworkIsLocal)
     EXPECT_THAT(calls, IsEmpty());
 }
 
-TEST_F(FerroJob, NetworkPublisherWithoutConnectionGetsNothing)
+TEST_F(FerroJob, NetworkPublisherWithoutConnectionIsSentNothing)
 {
     writePrintData("c", "n");
     connects = false;
@@ -379,7 +379,7 @@ TEST_F(FerroJob, NetworkPublisherIsSentTextAndPrintData)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, TextForANetworkPublisherIsAThousandAndTwentyThreeBytesAtMost)
+TEST_F(FerroJob, TextForANetworkPublisherHasAtMost1023Bytes)
 {
     writePrintData("c", "n");
     connects = true;
@@ -395,7 +395,7 @@ TEST_F(FerroJob, TextForANetworkPublisherIsAThousandAndTwentyThreeBytesAtMost)
     EXPECT_EQ(sizeWithName(100000), 1023U);
 }
 
-TEST_F(FerroJob, WithoutPrintDataTheConnectionIsClosedAgain)
+TEST_F(FerroJob, WithoutPrintDataTheConnectionIsClosed)
 {
     connects = true;
     submitBoth(publisher("net", 1)); // no files
@@ -409,7 +409,7 @@ TEST_F(FerroJob, WithoutPrintDataTheConnectionIsClosedAgain)
     calls.clear();
     std::filesystem::remove(headCleaningData);
     std::filesystem::remove(nozzleCheckData);
-    std::filesystem::create_directories(headCleaningData); // opens, has a size, and cannot be read
+    std::filesystem::create_directories(headCleaningData); // can be opened and has a size, but cannot be read
     std::filesystem::create_directories(nozzleCheckData);
     const size_t descriptors = openDescriptors();
     submitBoth(publisher("net", 1));
@@ -419,7 +419,7 @@ TEST_F(FerroJob, WithoutPrintDataTheConnectionIsClosedAgain)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, ServerThatRefusesTheJobIsSilent)
+TEST_F(FerroJob, RefusalByTheServerIsSilent)
 {
     writePrintData("c", "n");
     connects = true;
@@ -430,7 +430,7 @@ TEST_F(FerroJob, ServerThatRefusesTheJobIsSilent)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, MissingNameIsNoTrouble)
+TEST_F(FerroJob, MissingNameIsAccepted)
 {
     CFerroJob().SubmitHeadCleaningJob(publisher(), nullptr);
     CFerroJob().SubmitNozzleCheckJob(publisher("net", 1), nullptr);
@@ -453,7 +453,7 @@ TEST_F(FerroJob, FileInPlaceOfTheFolderIsSilent)
     EXPECT_EQ(ReadText(jobFolder), "kept");
 }
 
-TEST_F(FerroJob, FolderThatTakesNoFilesIsSilent)
+TEST_F(FerroJob, UnwritableFolderIsSilent)
 {
     std::filesystem::permissions(jobFolder, std::filesystem::perms{0555});
     ASSERT_TRUE(TakeAwayPrivileges());
@@ -461,7 +461,7 @@ TEST_F(FerroJob, FolderThatTakesNoFilesIsSilent)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, DiskThatTakesNoTextIsSilent)
+TEST_F(FerroJob, FullDiskIsSilent)
 {
     signal(SIGXFSZ, SIG_IGN);
     rlimit limit{};
@@ -478,7 +478,7 @@ TEST_F(FerroJob, DiskThatTakesNoTextIsSilent)
     EXPECT_EQ(ReadText(jobFile("pub_0000.epj")), "");
 }
 
-TEST_F(FerroJob, NoDescriptorLeftIsSilent)
+TEST_F(FerroJob, LackOfDescriptorsIsSilent)
 {
     rlimit limit{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
@@ -492,7 +492,7 @@ TEST_F(FerroJob, NoDescriptorLeftIsSilent)
     EXPECT_THAT(jobFiles(), IsEmpty());
 }
 
-TEST_F(FerroJob, ProgramsOfTheSuiteNeverTakeTheSameName)
+TEST_F(FerroJob, ConcurrentProgramsNeverUseTheSameName)
 {
     const auto work = [] {
         for (int i = 0; i < 100; ++i) {

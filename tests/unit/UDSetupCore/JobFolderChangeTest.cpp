@@ -1,11 +1,11 @@
-// The place of the jobs: which folders are refused, and what becomes of JOB_DIR with those that are not.
+// Changes of the working folder: the folders that are refused, and the state of JOB_DIR after a change.
 #include "JobFolderFixture.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-TEST(JobFolderResult, HasItsNumbers)
+TEST(JobFolderResult, HasTheDocumentedNumbers)
 {
     EXPECT_EQ(changeWorkingFolder_OK, 0);
     EXPECT_EQ(changeWorkingFolder_ProcessingJob, 1);
@@ -15,7 +15,7 @@ TEST(JobFolderResult, HasItsNumbers)
 // ---------------------------------------------------------------------------------------------------------------------
 // Screening
 
-TEST(JobFolderScreening, RefusesWhatBeginsLikeTheInstallation)
+TEST(JobFolderScreening, RefusesPathsThatBeginLikeTheInstallation)
 {
     constexpr struct
     {
@@ -40,7 +40,7 @@ TEST(JobFolderScreening, RefusesWhatBeginsLikeTheInstallation)
     }
 }
 
-TEST_F(JobFolder, PlacesInTheInstallationAreRefused)
+TEST_F(JobFolder, FoldersInTheInstallationAreRefused)
 {
     fs::create_directories(base + "/conf");
     fs::create_directories(base + " Work");
@@ -50,7 +50,7 @@ TEST_F(JobFolder, PlacesInTheInstallationAreRefused)
     expectRefused(base + " Work", "");
 }
 
-TEST_F(JobFolder, RoundaboutWaysIntoTheInstallationAreRefused)
+TEST_F(JobFolder, IndirectPathsIntoTheInstallationAreRefused)
 {
     fs::create_directories(base + "/conf");
     fs::create_directory_symlink(base + "/conf", "/tmp/alias");
@@ -61,7 +61,7 @@ TEST_F(JobFolder, RoundaboutWaysIntoTheInstallationAreRefused)
     expectRefused("conf", "");
 }
 
-TEST_F(JobFolder, RoundaboutWaysToTheInstallationItselfMeanTheDefault)
+TEST_F(JobFolder, IndirectPathsToTheInstallationItselfMeanTheDefault)
 {
     fs::create_directory_symlink(base, "/tmp/alias");
     for (const char* folder :
@@ -74,7 +74,7 @@ TEST_F(JobFolder, RoundaboutWaysToTheInstallationItselfMeanTheDefault)
     }
 }
 
-TEST_F(JobFolder, AFolderThatCannotBeFollowedIsRefused)
+TEST_F(JobFolder, AFolderThatCannotBeResolvedIsRefused)
 {
     expectRefused("/tmp/gone", "realpath(\"/tmp/gone\") failed, errno: 2\nNo such file or directory\n");
     WriteText("/tmp/file", "");
@@ -88,7 +88,7 @@ TEST_F(JobFolder, AFolderThatCannotBeFollowedIsRefused)
     expectRefused(longName, "realpath(\"" + longName + "\") failed, errno: 36\nFile name too long\n");
 }
 
-TEST_F(JobFolder, AFileIsNoWorkingFolder)
+TEST_F(JobFolder, AFileIsRefused)
 {
     WriteText("/tmp/file", "");
     expectRefused("/tmp/file",
@@ -131,7 +131,7 @@ TEST_F(JobFolder, AnotherCustomFolderMovesTheLink)
     EXPECT_TRUE(isRealFolder("/tmp/a/UlmarDiscMakerWork")) << "the old one stays";
 }
 
-TEST_F(JobFolder, ACustomFolderIsTakenByItsRealPath)
+TEST_F(JobFolder, ACustomFolderIsResolvedToItsRealPath)
 {
     fs::create_directory_symlink("/tmp/a", "/tmp/alias");
     for (const char* folder : {"/tmp/alias", "/tmp/a/", "/tmp//a", "/tmp/b/../a/."}) {
@@ -145,7 +145,7 @@ TEST_F(JobFolder, ACustomFolderIsTakenByItsRealPath)
     EXPECT_EQ(changeJobFolder(".").folder, "/tmp/b");
 }
 
-TEST_F(JobFolder, NamesMayHoldAnyByte)
+TEST_F(JobFolder, NamesMayContainAnyByte)
 {
     for (const char* name :
          {"two  words", "\"quoted\" 'too'", "\xC3\xA4\xE6\xBC\xA2", "\xFF\xFE", "a\nb", "%s"}) {
@@ -171,7 +171,7 @@ TEST_F(JobFolder, EmptyAndTheInstallationMeanTheDefault)
     }
 }
 
-TEST_F(JobFolder, TheDefaultOverTheDefaultTouchesNothing)
+TEST_F(JobFolder, TheDefaultAgainChangesNothing)
 {
     ASSERT_EQ(chmod(job.c_str(), 0700), 0);
     WriteText(job + "/1.epj", "");
@@ -196,7 +196,7 @@ TEST_F(JobFolder, TheDefaultCanFail)
     EXPECT_EQ(fs::read_symlink(job), "/tmp/a/UlmarDiscMakerWork");
 }
 
-TEST_F(JobFolder, AJobHoldsTheLinkInItsPlace)
+TEST_F(JobFolder, AJobPreventsAChangeOfTheLink)
 {
     useA();
     for (const char* name : {"1.epj", "1.eps"}) {
@@ -214,7 +214,7 @@ TEST_F(JobFolder, AJobHoldsTheLinkInItsPlace)
     EXPECT_EQ(changeJobFolder("/tmp/b").result, 0);
 }
 
-TEST_F(JobFolder, AJobHoldsTheRealFolderInItsPlace)
+TEST_F(JobFolder, AJobPreventsAChangeOfTheRealFolder)
 {
     WriteText(job + "/1.epj", "");
     EXPECT_EQ(changeJobFolder("/tmp/a").result, 1);
@@ -222,7 +222,7 @@ TEST_F(JobFolder, AJobHoldsTheRealFolderInItsPlace)
     EXPECT_FALSE(fs::exists("/tmp/a/UlmarDiscMakerWork"));
 }
 
-TEST_F(JobFolder, WhatIsNoJobHoldsNothing)
+TEST_F(JobFolder, OtherFilesDoNotPreventAChange)
 {
     useA();
     WriteText("/tmp/a/UlmarDiscMakerWork/.epj", "");
@@ -242,7 +242,7 @@ TEST_F(JobFolder, TheSameFolderAgainNeedsNoJobCheck)
     EXPECT_EQ(modeOf("/tmp/a/UlmarDiscMakerWork"), mode_t{S_IFDIR | 0700}) << "left as it is";
 }
 
-TEST_F(JobFolder, TheSameFolderAgainMakesItsWorkFolderAnew)
+TEST_F(JobFolder, TheSameFolderAgainCreatesItsMissingWorkFolder)
 {
     useA();
     fs::remove("/tmp/a/UlmarDiscMakerWork");
@@ -253,7 +253,7 @@ TEST_F(JobFolder, TheSameFolderAgainMakesItsWorkFolderAnew)
     EXPECT_EQ(fs::read_symlink(job), "/tmp/a/UlmarDiscMakerWork");
 }
 
-TEST_F(JobFolder, TheSameFolderAgainNeedsAFolder)
+TEST_F(JobFolder, TheSameFolderAgainRefusesAFile)
 {
     useA();
     fs::remove("/tmp/a/UlmarDiscMakerWork");
@@ -263,7 +263,7 @@ TEST_F(JobFolder, TheSameFolderAgainNeedsAFolder)
     EXPECT_EQ(change.folder, "");
 }
 
-TEST_F(JobFolder, TheSameFolderAgainMayBeOutOfBounds)
+TEST_F(JobFolder, TheSameFolderAgainMayBeUnwritable)
 {
     useA();
     fs::remove("/tmp/a/UlmarDiscMakerWork");
@@ -282,7 +282,7 @@ TEST_F(JobFolder, ACustomFolderThatCannotBeWrittenIsRefused)
     expectRefused("/tmp/a", "mkdir(\"/tmp/a/UlmarDiscMakerWork\") failed, errno: 13\nPermission denied\n");
 }
 
-TEST_F(JobFolder, OtherFilesKeepTheRealFolderAndTheChangeCountsAllTheSame)
+TEST_F(JobFolder, OtherFilesKeepTheRealFolderAndTheChangeSucceeds)
 {
     WriteText(job + "/notes.txt", "");
     const JobFolderChange change = changeJobFolder("/tmp/a");
@@ -293,7 +293,7 @@ TEST_F(JobFolder, OtherFilesKeepTheRealFolderAndTheChangeCountsAllTheSame)
     EXPECT_TRUE(isRealFolder("/tmp/a/UlmarDiscMakerWork"));
 }
 
-TEST_F(JobFolder, ABrokenPathOrAFileGivesWayToTheLink)
+TEST_F(JobFolder, TheLinkReplacesABrokenPathOrAFile)
 {
     for (const char* text : {"JOB", "/tmp/gone"}) {
         link(text);
@@ -310,10 +310,10 @@ TEST_F(JobFolder, ABrokenPathOrAFileGivesWayToTheLink)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// A raised program and its caller. A sandbox knows one user only, itself: that one may be changed to, others
-// not.
+// A program with root privileges and its caller. A sandbox has only its own user: the program can switch to
+// that user, but not to others.
 
-TEST_F(JobFolder, AFolderThatTheCallerCannotOpenIsReportedAndTaken)
+TEST_F(JobFolder, AFolderThatTheCallerCannotOpenIsReportedAndUsed)
 {
     fs::create_directory("/tmp/a/UlmarDiscMakerWork");
     ASSERT_EQ(chmod("/tmp/a", 0311), 0);
@@ -327,7 +327,7 @@ TEST_F(JobFolder, AFolderThatTheCallerCannotOpenIsReportedAndTaken)
         {"0", nullptr, "opendir(\"/tmp/a\") failed for uid 0, errno: 13\nPermission denied for uid 0\n"},
         {nullptr, "0", "opendir(\"/tmp/a\") failed for uid 0, errno: 13\nPermission denied for uid 0\n"},
         {"0", "1000", "opendir(\"/tmp/a\") failed for uid 0, errno: 13\nPermission denied for uid 0\n"},
-        {"1000", "0", ""}, // the first one counts, and this process cannot become that user
+        {"1000", "0", ""}, // the first one applies, and this process cannot become that user
         {nullptr, nullptr, ""},
         {"", "0", ""},
         {"nobody", nullptr, ""},
@@ -350,7 +350,7 @@ TEST_F(JobFolder, AFolderThatTheCallerCannotOpenIsReportedAndTaken)
     }
 }
 
-TEST_F(JobFolder, AFolderThatTheCallerOpensIsNotReported)
+TEST_F(JobFolder, AFolderThatTheCallerCanOpenIsNotReported)
 {
     setenv("PKEXEC_UID", "0", 1);
     EXPECT_EQ(errorsOf([] { EXPECT_EQ(changeJobFolder("/tmp/a").result, 0); }), "");

@@ -1,4 +1,4 @@
-// The place of the jobs as a test finds it and looks at it.
+// The job folder for tests, and functions that examine it.
 #pragma once
 
 #include "JobFolder.h"
@@ -21,7 +21,7 @@
 inline const std::string base = "/opt/arven/Ulmar Disc Maker";
 inline const std::string job = "/opt/arven/Ulmar Disc Maker/JOB";
 
-/// The path of a folder in "/tmp" of so many bytes; nothing is made.
+/// The path of a folder in "/tmp" with `length` bytes. Does not create the folder.
 inline std::string folderOf(size_t length)
 {
     std::string path = "/tmp";
@@ -42,7 +42,7 @@ inline bool isRealFolder(const std::string& path)
     return S_ISDIR(modeOf(path));
 }
 
-/// What `work` writes to the standard error.
+/// What `work` writes to standard error.
 template <class Work>
 std::string errorsOf(Work work)
 {
@@ -51,7 +51,7 @@ std::string errorsOf(Work work)
     return testing::internal::GetCapturedStderr();
 }
 
-/// An installation whose jobs lie in a folder of their own, and two folders to choose.
+/// An installation with a real job folder, and two other folders to choose from.
 class JobFolder : public testing::Test
 {
 protected:
@@ -64,14 +64,14 @@ protected:
         std::filesystem::create_directories("/tmp/b");
     }
 
-    /// JOB as a link to that text.
+    /// Replaces JOB by a link to `text`.
     static void link(const std::string& text)
     {
         std::filesystem::remove_all(job);
         ASSERT_EQ(symlink(text.c_str(), job.c_str()), 0);
     }
 
-    /// Jobs work in "/tmp/a".
+    /// Makes "/tmp/a" the working folder.
     static void useA()
     {
         ASSERT_EQ(changeJobFolder("/tmp/a").result, 0);

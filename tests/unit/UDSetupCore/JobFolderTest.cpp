@@ -1,4 +1,4 @@
-// The place of the jobs: what JOB_DIR is, what counts as a job, how a folder is made, and every line on the
+// The job folder: the kinds of JOB_DIR, the names of jobs, the creation of a folder, and every line on
 // standard error.
 #include "JobFolderFixture.h"
 
@@ -7,14 +7,14 @@ namespace {
 namespace fs = std::filesystem;
 
 // ---------------------------------------------------------------------------------------------------------------------
-// What the path is
+// Kinds of the path
 
 TEST_F(JobFolder, ARealFolderIsItself)
 {
     EXPECT_EQ(errorsOf([] { EXPECT_EQ(currentJobFolder(), job); }), "");
 }
 
-TEST_F(JobFolder, ALinkGivesTheRealPathOfItsTarget)
+TEST_F(JobFolder, ALinkReturnsTheRealPathOfItsTarget)
 {
     fs::create_directories("/tmp/a/real");
     fs::create_directory_symlink("/tmp/a/real", "/tmp/b/alias");
@@ -22,13 +22,13 @@ TEST_F(JobFolder, ALinkGivesTheRealPathOfItsTarget)
     EXPECT_EQ(currentJobFolder(), "/tmp/a/real");
 }
 
-TEST_F(JobFolder, ALinkWhoseTargetIsMissingNamesIt)
+TEST_F(JobFolder, ALinkWithoutATargetReturnsItsText)
 {
     link("/tmp/gone/UlmarDiscMakerWork");
     EXPECT_EQ(errorsOf([] { EXPECT_EQ(currentJobFolder(), "/tmp/gone/UlmarDiscMakerWork"); }), "");
 }
 
-TEST_F(JobFolder, ALinkWhoseTargetIsOutOfReachNamesIt)
+TEST_F(JobFolder, ALinkToAnInaccessibleTargetReturnsItsText)
 {
     fs::create_directories("/tmp/a/UlmarDiscMakerWork");
     link("/tmp/a/UlmarDiscMakerWork");
@@ -37,7 +37,7 @@ TEST_F(JobFolder, ALinkWhoseTargetIsOutOfReachNamesIt)
     EXPECT_EQ(errorsOf([] { EXPECT_EQ(currentJobFolder(), "/tmp/a/UlmarDiscMakerWork"); }), "");
 }
 
-TEST_F(JobFolder, ALinksTextIsCutAt1023Bytes)
+TEST_F(JobFolder, TheTextOfALinkIsTruncatedTo1023Bytes)
 {
     for (const size_t length : {1022, 1023, 1024, 2000}) {
         const std::string text = folderOf(length);
@@ -55,7 +55,7 @@ TEST_F(JobFolder, AMissingPathIsReported)
               "2\nNo such file or directory\n");
 }
 
-TEST_F(JobFolder, APathOutOfReachIsReported)
+TEST_F(JobFolder, AnInaccessiblePathIsReported)
 {
     ASSERT_EQ(chmod(base.c_str(), 0), 0);
     ASSERT_TRUE(TakeAwayPrivileges());
@@ -88,7 +88,7 @@ TEST_F(JobFolder, AFileInItsPlaceIsNotBroken)
     EXPECT_TRUE(fs::is_regular_file(job));
 }
 
-TEST_F(JobFolder, RepairLeavesAHealthyPathAlone)
+TEST_F(JobFolder, RepairDoesNotChangeAValidPath)
 {
     WriteText(job + "/1.epj", "");
     EXPECT_EQ(errorsOf([] { EXPECT_EQ(repairedJobFolder(), job); }), "");
@@ -98,7 +98,7 @@ TEST_F(JobFolder, RepairLeavesAHealthyPathAlone)
     EXPECT_EQ(fs::read_symlink(job), "/tmp/gone");
 }
 
-TEST_F(JobFolder, RepairMakesAFolderOfABrokenPath)
+TEST_F(JobFolder, RepairReplacesABrokenPathByAFolder)
 {
     link("JOB");
     EXPECT_EQ(repairedJobFolder(), job);
@@ -156,14 +156,14 @@ const NameCase nameTable[] = {
     {"1.epk", false},       {".", false},      {"..", false},        {"", false},
 };
 
-TEST(JobNames, AreToldFromOthers)
+TEST(JobNames, AreRecognized)
 {
     for (const NameCase& row : nameTable) {
         EXPECT_EQ(isJobName(row.name), row.isJob) << row.name;
     }
 }
 
-TEST_F(JobFolder, EveryNameCountsOrNotInTheFolderToo)
+TEST_F(JobFolder, TheFolderCountsTheSameNames)
 {
     EXPECT_FALSE(jobFolderHasJobs());
     for (const NameCase& row : nameTable) {
@@ -194,7 +194,7 @@ TEST_F(JobFolder, AFolderWithTheNameOfAJobCounts)
     EXPECT_TRUE(jobFolderHasJobs());
 }
 
-TEST_F(JobFolder, JobsAreSeenThroughTheLink)
+TEST_F(JobFolder, JobsAreFoundThroughTheLink)
 {
     useA();
     EXPECT_FALSE(jobFolderHasJobs());
@@ -212,23 +212,23 @@ TEST_F(JobFolder, AFolderThatCannotBeOpenedHasNoJobs)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// The making of a folder
+// Creation of a folder
 
-TEST_F(JobFolder, AFolderIsMadeForEveryUser)
+TEST_F(JobFolder, AFolderIsCreatedForEveryUser)
 {
     umask(0077);
     EXPECT_TRUE(makeJobFolder("/tmp/new"));
     EXPECT_EQ(modeOf("/tmp/new"), mode_t{S_IFDIR | 01777});
 }
 
-TEST_F(JobFolder, AFolderThatIsThereGetsTheMode)
+TEST_F(JobFolder, AnExistingFolderGetsTheMode)
 {
     ASSERT_EQ(chmod("/tmp/a", 0700), 0);
     EXPECT_EQ(errorsOf([] { EXPECT_TRUE(makeJobFolder("/tmp/a")); }), "");
     EXPECT_EQ(modeOf("/tmp/a"), mode_t{S_IFDIR | 01777});
 }
 
-TEST_F(JobFolder, WhatIsNoFolderIsInTheWay)
+TEST_F(JobFolder, FilesAndLinksAreRefused)
 {
     WriteText("/tmp/file", "");
     fs::create_directory_symlink("/tmp/a", "/tmp/alias");
@@ -238,7 +238,7 @@ TEST_F(JobFolder, WhatIsNoFolderIsInTheWay)
               "mkdir(\"/tmp/alias\") failed, errno: 17\nFile exists\n");
 }
 
-TEST_F(JobFolder, AFolderNeedsItsParent)
+TEST_F(JobFolder, AFolderRequiresItsParent)
 {
     EXPECT_EQ(errorsOf([] { EXPECT_FALSE(makeJobFolder("/tmp/gone/new")); }),
               "mkdir(\"/tmp/gone/new\") failed, errno: 2\nNo such file or directory\n");

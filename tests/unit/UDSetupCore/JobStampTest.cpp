@@ -1,4 +1,4 @@
-// Time stamps of maintenance jobs, which rise whatever the clock does.
+// Time stamps of maintenance jobs, which increase whatever the clock does.
 #include "FerroJob.h"
 
 #include <gtest/gtest.h>
@@ -46,7 +46,7 @@ TEST(JobStamp, IsNowOrAMillisecondAfterTheLast)
     }
 }
 
-TEST(JobStamp, StartsAtThePresentTime)
+TEST(JobStamp, StartsAtTheCurrentTime)
 {
     timespec before{};
     timespec after{};
@@ -60,12 +60,12 @@ TEST(JobStamp, StartsAtThePresentTime)
     EXPECT_LE(stamp, after.tv_sec * 1000LL + after.tv_nsec / 1000000);
 }
 
-TEST(JobStamp, RisesWithEachCallOfAnyObjectAndCarriesAtTheSecond)
+TEST(JobStamp, IncreasesWithEachCallOfAnyObjectAndCarriesIntoTheSecond)
 {
     timeb last{};
     tm date{};
     CFerroJob().getCurrentTimeForFileName(last, date);
-    for (int i = 0; i < 2500; ++i) { // faster than the clock: some begin a second by the carry
+    for (int i = 0; i < 2500; ++i) { // faster than the clock: some carry into the next second
         timeb time{};
         CFerroJob().getCurrentTimeForFileName(time, date);
         ASSERT_LT(time.millitm, 1000);

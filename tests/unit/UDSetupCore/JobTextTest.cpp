@@ -33,7 +33,7 @@ PUBLISHERINFO publisher(UINT mode, UINT stacker3)
     return info;
 }
 
-/// The value behind "key = ", in the one line that has this key.
+/// The value after "key = " in the only line with this key.
 std::string valueOf(const std::string& text, const std::string& key)
 {
     std::istringstream lines(text);
@@ -149,7 +149,7 @@ TEST(JobText, NetworkTextsByteForByte)
               networkNozzleCheck);
 }
 
-TEST(JobText, NetworkPrintModesStandOneAboveTheLocalOnes)
+TEST(JobText, NetworkPrintModesAreOneAboveTheLocalOnes)
 {
     constexpr struct
     {
@@ -174,14 +174,14 @@ struct EjectCase
 constexpr EjectCase ejectTable[] = {
     {1, 32, "0"},                                     // batch
     {1, 0, "0"},  {1, 1, "0"},          {2, 32, "2"}, // external output without stacker 3
-    {2, 0, "3"},                                      // and with it, whatever it holds
+    {2, 0, "3"},                                      // with stacker 3, whatever its content
     {2, 1, "3"},  {2, 8, "3"},          {2, 16, "3"}, {2, 31, "3"},
     {2, 33, "3"}, {2, 0xFFFFFFFF, "3"}, {0, 32, "2"}, // any other mode
     {0, 0, "2"},  {3, 0, "2"},          {4, 0, "2"},  {5, 0, "2"},
     {6, 0, "2"},  {6, 32, "2"},         {7, 0, "2"},  {0xFFFFFFFF, 0, "2"},
 };
 
-TEST(JobText, NozzleCheckTakesFromStacker1AndEjectsByModeAndStacker3)
+TEST(JobText, NozzleCheckLoadsFromStacker1AndEjectsByModeAndStacker3)
 {
     for (const EjectCase& row : ejectTable) {
         SCOPED_TRACE(testing::Message() << "mode " << row.mode << ", stacker 3 " << row.stacker3);
@@ -210,7 +210,7 @@ TEST(JobText, HeadCleaningNamesNoStackerOnAnyPublisher)
     }
 }
 
-TEST(JobText, IDAndCreateTellTheStamp)
+TEST(JobText, IDAndCreateContainTheStamp)
 {
     struct StampCase
     {
@@ -242,7 +242,7 @@ TEST(JobText, IDAndCreateTellTheStamp)
     }
 }
 
-TEST(JobText, NetworkTextIsCutAt1023Bytes)
+TEST(JobText, NetworkTextIsTruncatedTo1023Bytes)
 {
     const PUBLISHERINFO info = publisher(0, 32);
     const auto textWith = [&](size_t nameLength) {
@@ -261,7 +261,7 @@ TEST(JobText, NetworkTextIsCutAt1023Bytes)
     EXPECT_TRUE(longest.ends_with("nnn"));
 }
 
-TEST(JobText, LocalTextIsNeverCut)
+TEST(JobText, LocalTextIsNeverTruncated)
 {
     PUBLISHERINFO info = publisher(0, 32);
     info.strPublisherRegistID = std::string(100000, 'i');
@@ -270,7 +270,7 @@ TEST(JobText, LocalTextIsNeverCut)
     EXPECT_TRUE(text.ends_with("PrintQuality = 0\n"));
 }
 
-TEST(JobText, PercentSignsAndForeignBytesStayAsTheyAre)
+TEST(JobText, PercentSignsAndNonAsciiBytesAreUnchanged)
 {
     PUBLISHERINFO info = publisher(0, 32);
     info.strPublisherRegistID = "%s%n \xff=[Print]";
@@ -280,7 +280,7 @@ TEST(JobText, PercentSignsAndForeignBytesStayAsTheyAre)
               "%d\xff");
 }
 
-TEST(JobText, LineEndsInValuesBeginNoKey)
+TEST(JobText, LineEndsInValuesStartNoKey)
 {
     constexpr struct
     {

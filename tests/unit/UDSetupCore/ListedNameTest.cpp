@@ -77,7 +77,7 @@ TEST(ListedName, IsWhatTheSettingFileKeeps)
         {std::string(255, 'x'), std::string(255, 'x')},
         {std::string(256, 'x'), std::string(255, 'x')},
         {std::string(254, 'x') + " y", std::string(254, 'x') + " "},
-        {std::string(1008, ' ') + "x", "x"}, // 1023 with "PublisherName="
+        {std::string(1008, ' ') + "x", "x"}, // 1023 bytes with "PublisherName="
         {std::string(1009, ' ') + "x", ""},
     };
     for (const auto& row : table) {
@@ -94,7 +94,7 @@ TEST_F(ListedNameAgrees, WithEveryByteInEveryPlace)
     }
 }
 
-TEST_F(ListedNameAgrees, WithLettersOfSeveralBytes)
+TEST_F(ListedNameAgrees, WithMultibyteCharacters)
 {
     expectAgreement({"B\xC3\xBCro", "\xC3\xBC", "\xC3\xBC = x", "= \xC3\xBC;x", "\xE6\x9D\xB1\xE4\xBA\xAC 1",
                      "Studio \xF0\x9F\x92\xBF", "\xC2\xA0x\xC2\xA0",
@@ -116,8 +116,8 @@ TEST_F(ListedNameAgrees, WithLongNames)
     expectAgreement(names);
 }
 
-/// Three signs out of those that the reader minds, in every order.
-TEST_F(ListedNameAgrees, WithEverySequenceOfSigns)
+/// Every sequence of three of the characters that the reader treats specially.
+TEST_F(ListedNameAgrees, WithEverySequenceOfSpecialCharacters)
 {
     const std::string signs(" =;\t\n[]\"\\x\xC3", 11);
     std::vector<std::string> names;

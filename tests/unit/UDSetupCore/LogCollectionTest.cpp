@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST(LogCollection, TheArchiveStandsBetweenQuotesAndTheLogsDoNot)
+TEST(LogCollection, TheArchiveIsQuotedAndTheLogsAreNot)
 {
     EXPECT_EQ(packingCommandLine("/mnt/a.tgz", {"arvenUlmarDiscControl.log", "arvenUlmarDiscControl.log.1"}),
               QString("tar czvf \"/mnt/a.tgz\" /var/log/arvenUlmarDiscControl.log "
@@ -21,7 +21,7 @@ TEST(LogCollection, WithoutALogThereIsNoOperand)
     EXPECT_EQ(packingCommandLine("/mnt/a.tgz", {}), QString("tar czvf \"/mnt/a.tgz\""));
 }
 
-TEST(LogCollection, TheArchiveIsUsedAsItStands)
+TEST(LogCollection, TheArchiveNameIsUnchanged)
 {
     EXPECT_EQ(packingCommandLine("/mnt/%s 100% \u00fc", {"b"}),
               QString("tar czvf \"/mnt/%s 100% \u00fc\" /var/log/b"));
@@ -46,7 +46,7 @@ TEST(LogCollection, ABlankInALogNameBreaksTheLine)
               (QStringList{"tar", "czvf", "/mnt/a.tgz", "/var/log/arvenUlmarDiscControl.log", "old"}));
 }
 
-TEST(LogCollection, TakesEverythingThatBeginsLikeALogOfTheService)
+TEST(LogCollection, CollectsEverythingThatBeginsLikeALogOfTheService)
 {
     EXPECT_EQ(serviceLogNames(), QStringList());
     WriteText("/var/log/arvenUlmarDiscControl.log.b", "");
@@ -62,7 +62,7 @@ TEST(LogCollection, TakesEverythingThatBeginsLikeALogOfTheService)
                                               "arvenUlmarDiscControl.log.d"}));
 }
 
-TEST(LogCollection, TheResultIsTheExitCodeOrWhyThereIsNone)
+TEST(LogCollection, TheResultIsTheExitCodeOrAnErrorCode)
 {
     EXPECT_EQ(runCommandLine("true"), 0);
     EXPECT_EQ(runCommandLine("sh -c \"exit 2\""), 2);
@@ -71,7 +71,7 @@ TEST(LogCollection, TheResultIsTheExitCodeOrWhyThereIsNone)
     EXPECT_EQ(runCommandLine(""), -2);
 }
 
-TEST(LogCollection, TheProgramIsLookedForInThePath)
+TEST(LogCollection, TheProgramIsLookedUpInPath)
 {
     const std::string path = std::getenv("PATH");
     ::setenv("PATH", "/nowhere", 1);
@@ -105,7 +105,7 @@ TEST(LogCollection, EveryResultHasItsReport)
     }
 }
 
-/// A null pointer takes the variable away.
+/// A null pointer unsets the variable.
 void setVariable(const char* name, const char* value)
 {
     if (value) {
@@ -117,7 +117,7 @@ void setVariable(const char* name, const char* value)
 
 TEST(LogCollection, TheDialogStartsInTheHomeOfTheCaller)
 {
-    // Users of every Debian: 0 root, 1 daemon, 65534 nobody.
+    // Users on every Debian system: 0 root, 1 daemon, 65534 nobody.
     const struct
     {
         const char* pkexec;
@@ -128,10 +128,10 @@ TEST(LogCollection, TheDialogStartsInTheHomeOfTheCaller)
         {"0", nullptr, "/root"},
         {"1", nullptr, "/usr/sbin"},
         {nullptr, "1", "/usr/sbin"},
-        {"1", "0", "/usr/sbin"},      // the first one wins
-        {"54321", nullptr, ""},       // nobody's number
-        {"54321", "1", ""},           // and the second one is not tried
-        {"", "1", "/root"},           // set, though empty: 0
+        {"1", "0", "/usr/sbin"},      // the first one takes precedence
+        {"54321", nullptr, ""},       // no such user
+        {"54321", "1", ""},           // the second one is not tried
+        {"", "1", "/root"},           // set but empty: 0
         {"daemon", nullptr, "/root"}, // not a number: 0
         {" 1 and more", nullptr, "/usr/sbin"},
         {"-1", nullptr, ""},

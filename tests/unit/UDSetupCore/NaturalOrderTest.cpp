@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST(NaturalOrder, OneNameStandsBeforeTheOther)
+TEST(NaturalOrder, OneNameSortsBeforeTheOther)
 {
     constexpr struct
     {
@@ -21,7 +21,7 @@ TEST(NaturalOrder, OneNameStandsBeforeTheOther)
         {"A", "A1"},
         {"A9", "A10"},
         {"A9", "A010"},
-        {"A10", "A010"}, // the longest run of digits stands last
+        {"A10", "A010"}, // the longest run of digits sorts last
         {"12", "007"},
         {"2", "10"},
         {"19", "20"},
@@ -29,7 +29,7 @@ TEST(NaturalOrder, OneNameStandsBeforeTheOther)
         {"A1B9", "A1B10"},
         {"A12x", "A123"},
         {"A1", "AB"},
-        {"B", "a"}, // case counts, by code unit
+        {"B", "a"}, // case-sensitive, by code unit
         {"Z9", "a1"},
         {"A", "a"},
         {"A 2", "A 10"},
@@ -47,7 +47,7 @@ TEST(NaturalOrder, OneNameStandsBeforeTheOther)
     }
 }
 
-TEST(NaturalOrder, OfEqualNamesNeitherStandsFirst)
+TEST(NaturalOrder, OfEqualNamesNeitherSortsFirst)
 {
     constexpr struct
     {
@@ -67,7 +67,7 @@ TEST(NaturalOrder, OfEqualNamesNeitherStandsFirst)
     }
 }
 
-TEST(NaturalOrder, NumberCharactersOfOtherScriptsCountByTheirRunLength)
+TEST(NaturalOrder, DigitsOfOtherScriptsAreComparedByTheirRunLength)
 {
     const QString two(QChar(0x0662)); // ARABIC-INDIC DIGIT TWO
     EXPECT_TRUE(naturalLess(two, two + two));

@@ -26,7 +26,7 @@ SYSTEMTIME day(WORD year, WORD month, WORD dayOfMonth)
     return date;
 }
 
-TEST(FreeDefaultName, IsTheFirstThatNobodyHas)
+TEST(FreeDefaultName, IsTheFirstUnusedName)
 {
     const struct
     {
@@ -55,13 +55,13 @@ TEST(FreeDefaultName, EndsAt999)
         names.push_back("RT-300N " + std::to_string(i));
     }
     EXPECT_EQ(freeDefaultName(textsOf(names)), "RT-300N 999");
-    names.emplace_back("RT-300N 1000"); // never offered, so in nobody's way
+    names.emplace_back("RT-300N 1000"); // never offered, so without effect
     EXPECT_EQ(freeDefaultName(textsOf(names)), "RT-300N 999");
     names.emplace_back("rt-300n 999");
     EXPECT_EQ(freeDefaultName(textsOf(names)), "");
 }
 
-TEST(IsTakenBy, NameAndHostAreComparedAsTheyStand)
+TEST(IsTakenBy, NameAndHostAreComparedExactly)
 {
     const struct
     {
@@ -110,7 +110,7 @@ TEST(NewRegistID, IsTheDayAndANumber)
     EXPECT_EQ(newRegistID(day(0xFFFF, 0xFFFF, 0xFFFF), 0x7FFFFFFF).size(), 33U);
 }
 
-/// The ids that were tried while `refusals` of them were refused.
+/// The ids that are tried if the first `refusals` attempts fail.
 std::vector<std::string> tried(const std::vector<std::string>& taken, int refusals, bool& added)
 {
     std::vector<std::string> ids;
@@ -121,7 +121,7 @@ std::vector<std::string> tried(const std::vector<std::string>& taken, int refusa
     return ids;
 }
 
-TEST(AddUnderFreeID, TakesTheFirstIdOfTheDayThatWorks)
+TEST(AddUnderFreeID, UsesTheFirstIdOfTheDayThatWorks)
 {
     const struct
     {
@@ -180,7 +180,7 @@ TEST(AddUnderFreeID, EveryTryHasANewRecord)
     EXPECT_EQ(tries, 3);
 }
 
-TEST(OneLine, LosesWhatWouldEndTheLine)
+TEST(OneLine, DropsCharactersThatWouldEndTheLine)
 {
     const struct
     {

@@ -48,7 +48,7 @@ const StatusCase statusTable[] = {
     {"network, lost on the way", {network, true, 0, false, -1}, "Ready", true, true},
 };
 
-TEST(RowTexts, EveryStateHasItsTextAndItsFurtherQuestions)
+TEST(RowTexts, EveryStateHasItsTextAndFurtherQueries)
 {
     for (const StatusCase& row : statusTable) {
         SCOPED_TRACE(row.name);
@@ -110,7 +110,7 @@ TEST(RowTexts, HostNames)
     EXPECT_EQ(hostNameText("studio-3"), "studio-3");
 }
 
-TEST(RowTexts, SpaceIsCutToWholeMebibytesBeforeTheDivision)
+TEST(RowTexts, SpaceIsTruncatedToMebibytesBeforeTheDivision)
 {
     constexpr struct
     {
@@ -119,7 +119,7 @@ TEST(RowTexts, SpaceIsCutToWholeMebibytesBeforeTheDivision)
     } spaces[] = {
         {"", "-"},
         {"0", "0.0 GB"},
-        {"1048575", "0.0 GB"},        // a byte less than 1 MiB
+        {"1048575", "0.0 GB"},        // one byte less than 1 MiB
         {"1048576", "0.0 GB"},        // 1 MiB
         {"53687091", "0.0 GB"},       // 51.2 MiB count as 51
         {"54525952", "0.1 GB"},       // 52 MiB
@@ -158,7 +158,7 @@ TEST(RegistIDKey, MapsAnyBytesBackToTheSameBytes)
     EXPECT_NE(keyFromRegistID(CString("caf\xe9")), keyFromRegistID(CString("caf\xc3\xa9")));
 }
 
-TEST(SelectionRules, PropertiesNeedOneRowAndRemoveAtLeastOne)
+TEST(SelectionRules, PropertiesRequireOneRowAndRemoveAtLeastOne)
 {
     constexpr struct
     {

@@ -87,7 +87,7 @@ bool CPublisherMgr::GetPublisherInfo(LPCTSTR id, PUBLISHERINFO* info, BOOL bConn
     Script::the().note(std::string("GetPublisherInfo ") + id + (bConnectionError ? " stored" : " live"));
     const ScriptedPublisher publisher = Script::the().find(id);
     info->strPublisherRegistID = id;
-    info->strGUID = id; // one device a publisher: its GUID serves as well
+    info->strGUID = id; // one device per publisher: the id serves as its GUID
     info->uiPublisherType = publisher.connectType;
     info->uiNetPublisherType = publisher.netType;
     info->strHostName = publisher.host;

@@ -1,5 +1,5 @@
-// A publisher manager that answers by a script instead of asking devices. It takes the place of the real one
-// in the programs that it is part of.
+// A scripted publisher manager that queries no devices. It replaces the real one in the programs that link
+// this file.
 #pragma once
 
 #include "PublisherMgr.h"
@@ -28,7 +28,7 @@ struct ScriptedPublisher
     std::string freeBytes;
 };
 
-/// One script a process. Safe for several threads.
+/// One script per process. Thread-safe.
 class Script
 {
 public:
@@ -42,7 +42,7 @@ public:
     int count(const std::string& call);
     bool waitForCalls(const std::string& call, int count);
 
-    /// IsFatalErrorInPublisher of this publisher does not return before release.
+    /// IsFatalErrorInPublisher of this publisher blocks until release.
     void stall(const std::string& id);
     void release(const std::string& id);
 

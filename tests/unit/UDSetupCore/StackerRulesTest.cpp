@@ -44,7 +44,7 @@ TEST(ModelFamily, NoOtherNumberIsAModel)
     }
 }
 
-TEST(BdXl, TheDriveClassOrTheServerTells)
+TEST(BdXl, DependsOnTheDriveClassOrTheServer)
 {
     constexpr struct
     {
@@ -105,7 +105,7 @@ TEST(StackerPicture, EveryModeHasItsPicture)
     }
 }
 
-TEST(StackerPicture, AModeThatNobodyCanChooseHasNone)
+TEST(StackerPicture, AModeThatCannotBeChosenHasNone)
 {
     for (const UINT mode : {3u, 4u, 5u, 6u, 7u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
         for (const ModelFamily family : {rt300, rt30, network, unknown}) {

@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Takes the reports of the pool's threads.
+/// Collects the reports from the threads of the pool.
 class Reports
 {
 public:
@@ -89,7 +89,7 @@ protected:
         const std::vector<StatusRow> rows = m_reports.rows();
         return rows.size() == before ? std::nullopt : std::optional(rows.back());
     }
-    /// Asks the publisher of the case, and compares what is reported and in which order it was asked for.
+    /// Queries the publisher of the row and compares the report and the order of the calls.
     void expectRow(const RowCase& row, const char* devType, const char* host)
     {
         SCOPED_TRACE(row.name);
@@ -208,7 +208,7 @@ TEST_F(StatusPollTest, EveryStateOfANetworkPublisher)
     }
 }
 
-TEST_F(StatusPollTest, AJobListThatCannotBeFetchedCountsAsNone)
+TEST_F(StatusPollTest, AJobListThatCannotBeFetchedCountsAsEmpty)
 {
     ScriptedPublisher publisher = localPublisher();
     publisher.jobsResult = -1;
@@ -224,7 +224,7 @@ TEST_F(StatusPollTest, OnlyWaitingJobsAreCounted)
     EXPECT_EQ(ask(publisher)->nJobWaiting, 0);
 }
 
-TEST_F(StatusPollTest, WithoutNetworkSupportSendingAndSpaceAreNotAsked)
+TEST_F(StatusPollTest, WithoutNetworkSupportSendingAndSpaceAreNotQueried)
 {
     const std::optional<StatusRow> row = ask(networkPublisher(), false);
     EXPECT_EQ(row->nJobWaiting, 2);
@@ -242,7 +242,7 @@ TEST_F(StatusPollTest, APublisherThatCannotBeReadIsNotReported)
     EXPECT_EQ(m_script.calls(), std::vector<std::string>{"GetPublisherInfo X live"});
 }
 
-TEST_F(StatusPollTest, ReadPublisherTellsTheConnection)
+TEST_F(StatusPollTest, ReadPublisherReportsTheConnection)
 {
     PUBLISHERINFO info;
     BOOL bConnection = 7;
@@ -264,7 +264,7 @@ TEST_F(StatusPollTest, ReadPublisherTellsTheConnection)
     EXPECT_EQ(bConnection, 1);
 }
 
-TEST_F(StatusPollTest, TheLocalQueryAsksTheLocalPublishersInOrder)
+TEST_F(StatusPollTest, TheLocalQueryReportsTheLocalPublishersInOrder)
 {
     ScriptedPublisher unknown = localPublisher();
     unknown.connectType = 5;
@@ -282,7 +282,7 @@ TEST_F(StatusPollTest, TheLocalQueryAsksTheLocalPublishersInOrder)
     EXPECT_EQ(rows[1].strPublisherRegistID, "A");
 }
 
-TEST_F(StatusPollTest, ANetworkQueryOfALocalPublisherEndsAtOnce)
+TEST_F(StatusPollTest, ANetworkQueryOfALocalPublisherEndsImmediately)
 {
     m_script.add("A", localPublisher());
     makePoll()->startNetwork("A");
@@ -291,7 +291,7 @@ TEST_F(StatusPollTest, ANetworkQueryOfALocalPublisherEndsAtOnce)
     EXPECT_TRUE(m_script.calls().empty());
 }
 
-TEST_F(StatusPollTest, WhileTheLocalQueryRunsNoSecondOneStarts)
+TEST_F(StatusPollTest, NoSecondLocalQueryStartsWhileOneRuns)
 {
     m_script.add("A", localPublisher());
     m_script.stall("A");
@@ -309,7 +309,7 @@ TEST_F(StatusPollTest, WhileTheLocalQueryRunsNoSecondOneStarts)
     EXPECT_EQ(m_reports.rows().size(), 2U);
 }
 
-TEST_F(StatusPollTest, ATickBeforeTheTaskHasBegunQueuesASecondOneThatRunsAfterIt)
+TEST_F(StatusPollTest, ATickBeforeTheTaskStartsQueuesASecondTask)
 {
     QThreadPool::globalInstance()->setMaxThreadCount(1);
     std::promise<void> busy;
@@ -325,7 +325,7 @@ TEST_F(StatusPollTest, ATickBeforeTheTaskHasBegunQueuesASecondOneThatRunsAfterIt
     EXPECT_EQ(m_reports.rows().size(), 2U);
 }
 
-TEST_F(StatusPollTest, ASlowNetworkPublisherHoldsBackOnlyItself)
+TEST_F(StatusPollTest, ASlowNetworkPublisherDelaysOnlyItself)
 {
     m_script.add("slow", networkPublisher());
     m_script.add("quick", networkPublisher());
@@ -334,7 +334,7 @@ TEST_F(StatusPollTest, ASlowNetworkPublisherHoldsBackOnlyItself)
     poll->startNetwork("slow");
     ASSERT_TRUE(m_script.waitForCalls("IsFatalErrorInPublisher slow", 1));
     const auto deadline = std::chrono::steady_clock::now() + 10s;
-    do { // a tick may come before the mark of the last query is gone
+    do { // a tick has no effect while the last query is still marked as running
         poll->startNetwork("slow");
         poll->startNetwork("quick");
     } while (!m_reports.waitFor(3, 10ms) && std::chrono::steady_clock::now() < deadline);
@@ -348,7 +348,7 @@ TEST_F(StatusPollTest, ASlowNetworkPublisherHoldsBackOnlyItself)
     EXPECT_EQ(m_script.count("IsFatalErrorInPublisher slow"), 2);
 }
 
-TEST(PollThreads, AreOneForEachPublisherAndOneForTheLocalOnesAndNinetySixAtMost)
+TEST(PollThreads, AreOnePerPublisherPlusOneForLocalPublishersAndAtMost96)
 {
     const struct
     {
@@ -362,7 +362,7 @@ TEST(PollThreads, AreOneForEachPublisherAndOneForTheLocalOnesAndNinetySixAtMost)
     }
 }
 
-TEST_F(StatusPollTest, TheRoomOfThePoolRisesWithThePublishersAndIsNotTakenBack)
+TEST_F(StatusPollTest, TheThreadLimitGrowsWithThePublishersAndNeverShrinks)
 {
     QThreadPool* pool = QThreadPool::globalInstance();
     pool->setMaxThreadCount(2);
@@ -373,7 +373,7 @@ TEST_F(StatusPollTest, TheRoomOfThePoolRisesWithThePublishersAndIsNotTakenBack)
     }
 }
 
-TEST_F(StatusPollTest, PublishersThatHangHoldBackNoOther)
+TEST_F(StatusPollTest, HungPublishersDelayNoOther)
 {
     QThreadPool::globalInstance()->setMaxThreadCount(1);
     constexpr int hanging = 20;
@@ -394,7 +394,7 @@ TEST_F(StatusPollTest, PublishersThatHangHoldBackNoOther)
     }
 }
 
-TEST_F(StatusPollTest, ASlowLocalPublisherDoesNotHoldBackANetworkOne)
+TEST_F(StatusPollTest, ASlowLocalPublisherDoesNotDelayANetworkPublisher)
 {
     m_script.add("L", localPublisher());
     m_script.add("N", networkPublisher());
@@ -408,7 +408,7 @@ TEST_F(StatusPollTest, ASlowLocalPublisherDoesNotHoldBackANetworkOne)
     m_script.release("L");
 }
 
-TEST_F(StatusPollTest, AfterCloseNothingIsReportedAndNoFurtherPublisherIsAsked)
+TEST_F(StatusPollTest, AfterCloseNothingIsReportedAndNoFurtherPublisherIsQueried)
 {
     m_script.add("A", localPublisher());
     m_script.add("B", localPublisher());
@@ -423,7 +423,7 @@ TEST_F(StatusPollTest, AfterCloseNothingIsReportedAndNoFurtherPublisherIsAsked)
     EXPECT_EQ(m_script.count("GetPublisherInfo B live"), 0);
 }
 
-TEST_F(StatusPollTest, AQueuedTaskOfAClosedPollAsksNothing)
+TEST_F(StatusPollTest, AQueuedTaskOfAClosedPollQueriesNothing)
 {
     m_script.add("N", networkPublisher());
     const auto poll = makePoll();
@@ -434,7 +434,7 @@ TEST_F(StatusPollTest, AQueuedTaskOfAClosedPollAsksNothing)
     EXPECT_TRUE(m_script.calls().empty());
 }
 
-TEST_F(StatusPollTest, ATaskKeepsThePollAliveAsLongAsItRuns)
+TEST_F(StatusPollTest, ATaskKeepsThePollAliveWhileItRuns)
 {
     m_script.add("A", localPublisher());
     m_script.stall("A");
@@ -483,7 +483,7 @@ TEST_F(StatusPollTest, WaitingForQueriesEndsWithTheQuery)
     EXPECT_EQ(waiting.wait_for(10s), std::future_status::ready);
 }
 
-TEST_F(StatusPollTest, NothingRunningIsNothingToWaitFor)
+TEST_F(StatusPollTest, WaitingForNoQueryReturnsImmediately)
 {
     const auto poll = makePoll();
     m_script.add("N", networkPublisher());

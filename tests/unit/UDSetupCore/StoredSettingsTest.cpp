@@ -10,11 +10,11 @@ namespace {
 
 using enum ModelFamily;
 
-/// Every value that has a meaning somewhere, the numbers beside them, and the ends of the range.
+/// Every value with a meaning, the adjacent numbers, and the ends of the range.
 constexpr UINT numbers[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,   9,          10,         11,        12,
                             13, 14, 15, 16, 17, 31, 32, 33, 255, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
 
-TEST(CorrectedMedia, EveryStoredValueShowsAsOneThatCanBeChosen)
+TEST(CorrectedMedia, EveryStoredValueIsShownAsAChoice)
 {
     const std::map<UINT, UINT> notCdr = {{0, 0}, {2, 6}, {3, 7}, {4, 6},   {5, 7},  {6, 6},
                                          {7, 7}, {8, 8}, {9, 9}, {10, 10}, {11, 11}};
@@ -34,7 +34,7 @@ TEST(CorrectedStacker3, EveryStoredValueIsInUseOrNot)
     }
 }
 
-TEST(CorrectedPublishMode, ModesThatAreSetElsewhereShowAsNormal)
+TEST(CorrectedPublishMode, ModesThatAreSetElsewhereAreShownAsNormal)
 {
     for (const UINT stored : numbers) {
         SCOPED_TRACE(stored);
@@ -42,7 +42,7 @@ TEST(CorrectedPublishMode, ModesThatAreSetElsewhereShowAsNormal)
     }
 }
 
-TEST(Corrections, DoNotChangeWhatIsCorrect)
+TEST(Corrections, DoNotChangeCorrectValues)
 {
     std::mt19937 random(21);
     std::uniform_int_distribution<UINT> number;
@@ -107,7 +107,7 @@ TEST(StoreChoices, TheStackersFollowFromTheMode)
     }
 }
 
-TEST(StoreChoices, OnlyTwoDrivesCanBeChosenFrom)
+TEST(StoreChoices, TheDriveIsStoredOnlyForModelsWithTwo)
 {
     for (const UINT drive : {0u, 1u, 2u, 0xFFFFFFFFu}) {
         for (const UINT mode : {0u, 1u, 2u, 3u}) {
@@ -172,7 +172,7 @@ TEST(StoreChoices, EverythingElseStays)
     }
 }
 
-TEST(StoreChoices, WhateverIsChosenTheRecordIsOneThatPublishes)
+TEST(StoreChoices, EveryChoiceGivesAValidRecord)
 {
     std::mt19937 random(22);
     std::uniform_int_distribution<UINT> number;
@@ -187,7 +187,7 @@ TEST(StoreChoices, WhateverIsChosenTheRecordIsOneThatPublishes)
         storeChoices(choices, family, info);
         ASSERT_LE(info.uiPublishMode, 2u);
         ASSERT_FALSE(family == rt30 && info.uiPublishMode == 1);
-        // Exactly one of stackers 3 and 4 takes the finished discs.
+        // Exactly one of stackers 3 and 4 receives the finished discs.
         ASSERT_EQ(info.uiStacker3DiscType + info.uiStacker4DiscType, 32u);
         ASSERT_TRUE(info.uiStacker3DiscType == 0 || info.uiStacker4DiscType == 0);
         if (info.uiPublishMode == 0) {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr UINT notKnown = 0xFFFFFFFF;
 
-TEST(ProductLife, IsTheUsedShareCutToTwoDecimals)
+TEST(ProductLife, IsTheUsedShareTruncatedToTwoDecimals)
 {
     constexpr struct
     {
@@ -62,7 +62,7 @@ TEST(ProductLife, FailsAndWritesNothingWithoutACountOrALimit)
     }
 }
 
-TEST(ProductLife, StaysBetweenNothingAndAll)
+TEST(ProductLife, IsBetween0And100)
 {
     std::mt19937 random(23);
     std::uniform_int_distribution<UINT> number;
@@ -94,7 +94,7 @@ constexpr Part parts[] = {
     {&PUBMAINTINFODRIVE::uiDriveReadTimeTotal, &PUBMAINTINFODRIVE::uiDriveReadTimeTotalLife},
 };
 
-TEST(DriveLife, NothingKnownIsNoLifeButIsWritten)
+TEST(DriveLife, UnknownCountsFailAndWriteZero)
 {
     double life = -1;
     EXPECT_FALSE(calcDriveLifeValue(PUBMAINTINFODRIVE(), &life));
@@ -131,7 +131,7 @@ TEST(DriveLife, TheMostWornPartDecides)
     }
 }
 
-TEST(DriveLife, APartWithALifeOfNothingIsNotKnown)
+TEST(DriveLife, APartWithALifeOfZeroIsUnknown)
 {
     PUBMAINTINFODRIVE drive;
     for (const Part& part : parts) {
@@ -141,7 +141,7 @@ TEST(DriveLife, APartWithALifeOfNothingIsNotKnown)
     EXPECT_EQ(driveLifeText(drive), "-");
 }
 
-TEST(DriveLife, IsCutToWholePercentAndShowsAtMost100)
+TEST(DriveLife, IsTruncatedToWholePercentAndAtMost100)
 {
     constexpr struct
     {
@@ -179,7 +179,7 @@ TEST(DriveLife, AnyCountsGiveAShortText)
     }
 }
 
-TEST(CountText, IsTheNumberUnlessNotKnown)
+TEST(CountText, IsTheNumberUnlessUnknown)
 {
     EXPECT_EQ(countText(0), "0");
     EXPECT_EQ(countText(1234567), "1234567");
@@ -204,7 +204,7 @@ TEST(MainteBoxText, IsTheFreeSpaceWithTwoDecimals)
         {9999, 10000, "0.01"},
         {100, 100, "0.00"},
         {10001, 10000, "-"},
-        {100001, 100000, "0.00"}, // the share is cut to two decimals before it is taken off
+        {100001, 100000, "0.00"}, // the share is truncated to two decimals before the subtraction
         {101, 100, "-"},
         {200, 100, "-"},
         {1, 0, "-"},
@@ -219,7 +219,7 @@ TEST(MainteBoxText, IsTheFreeSpaceWithTwoDecimals)
     }
 }
 
-TEST(MainteBoxText, NothingOfNothingIsNotANumber)
+TEST(MainteBoxText, ZeroOfZeroIsNotANumber)
 {
     EXPECT_EQ(mainteBoxText(0, 0), QString::number(std::nan(""), 'f', 2));
     EXPECT_EQ(mainteBoxText(0, 0), "nan");
@@ -234,7 +234,7 @@ TEST(WearFigures, HaveADecimalPointInEveryLocale)
     QLocale::setDefault(before);
 }
 
-TEST(WearFiguresDeathTest, NowhereToWriteStopsTheProcess)
+TEST(WearFiguresDeathTest, ANullOutputStopsTheProcess)
 {
     EXPECT_DEATH(calcProductLife(1, 2, nullptr), "Assertion");
     EXPECT_DEATH(calcDriveLifeValue(PUBMAINTINFODRIVE(), nullptr), "Assertion");

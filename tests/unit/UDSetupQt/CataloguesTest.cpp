@@ -1,4 +1,4 @@
-// Which catalogue the program finds for the locale of a desktop.
+// The catalogue that the program finds for the locale of a desktop.
 #include <QLocale>
 #include <QRegularExpression>
 #include <QString>
@@ -15,7 +15,7 @@ namespace {
 struct Row
 {
     const char* locale;
-    const char* language; ///< of the catalogue; empty when there is none
+    const char* language; ///< of the catalogue; empty if there is none
 };
 
 void PrintTo(const Row& row, std::ostream* out)
@@ -42,13 +42,13 @@ class CataloguesTestNone : public CataloguesTest
 {
 };
 
-TEST_P(CataloguesTestFound, isOfTheLanguage)
+TEST_P(CataloguesTestFound, hasTheLanguage)
 {
     ASSERT_TRUE(found);
     EXPECT_EQ(translator.language().toStdString(), GetParam().language);
 }
 
-TEST_P(CataloguesTestFound, speaksInAllItsContexts)
+TEST_P(CataloguesTestFound, translatesEveryContext)
 {
     ASSERT_TRUE(found);
     const std::pair<const char*, const char*> texts[] = {
@@ -68,19 +68,19 @@ TEST_P(CataloguesTestFound, speaksInAllItsContexts)
     for (const auto& [context, source] : texts) {
         const QString text = translator.translate(context, source);
         EXPECT_FALSE(text.isEmpty()) << context << ": " << source;
-        if (qstrcmp(source, "&File") != 0) { // which is Italian as well
+        if (qstrcmp(source, "&File") != 0) { // "&File" is also Italian
             EXPECT_NE(text.toStdString(), source) << context;
         }
     }
 }
 
-/// A menu or an entry as a sentence names it: without its mnemonic and its dots.
+/// The name of a menu or entry in a sentence: without mnemonic and dots.
 QString spoken(QString label)
 {
     return label.remove(QRegularExpression("\\(&.\\)|&|\\.\\.\\.|…"));
 }
 
-TEST_P(CataloguesTestFound, namesTheMenuEntryAsItIsLabelled)
+TEST_P(CataloguesTestFound, usesTheLabelsOfTheMenu)
 {
     ASSERT_TRUE(found);
     const QString text = translator.translate(
@@ -92,7 +92,7 @@ TEST_P(CataloguesTestFound, namesTheMenuEntryAsItIsLabelled)
     }
 }
 
-/// The names as QLocale::system().name() gives them.
+/// Names in the format of QLocale::system().name().
 INSTANTIATE_TEST_SUITE_P(Locales, CataloguesTestFound,
                          testing::Values(Row{"de_DE", "de"}, Row{"de_AT", "de"}, Row{"de_CH", "de"},
                                          Row{"es_ES", "es"}, Row{"es_MX", "es"}, Row{"es_AR", "es"},
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Locales, CataloguesTestNone,
                          testing::Values(Row{"C", ""}, Row{"en_GB", ""}, Row{"en_US", ""}, Row{"sv_SE", ""}),
                          nameOf);
 
-TEST(CataloguesLocaleTest, theToolkitNamesChineseByItsCountry)
+TEST(CataloguesLocaleTest, qtNamesChineseByItsCountry)
 {
     EXPECT_EQ(QLocale("zh_Hant_HK").name().toStdString(), "zh_HK");
     EXPECT_EQ(QLocale("zh").name().toStdString(), "zh_CN");
