@@ -1,6 +1,5 @@
-// A plugin for the installed program, which knows nothing of it: it says on standard output what the list
-// window shows as soon as there is a publisher in it, removes that publisher if it is told to, and ends the
-// program.
+// A plugin that Qt loads into the unchanged installed program: it prints the contents of the list window on
+// standard output when the list has a publisher, removes that publisher on request, and ends the program.
 //
 //     QT_PLUGIN_PATH=... QT_QPA_GENERIC_PLUGINS=WindowDriver:texts UDSetup
 //     QT_PLUGIN_PATH=... QT_QPA_GENERIC_PLUGINS=WindowDriver:remove UDSetup
@@ -25,7 +24,7 @@ void say(const char* what, const QString& text)
     std::fflush(stdout);
 }
 
-/// The list with its window on the screen, or null while there is none.
+/// The list of the visible main window, or null if there is none yet.
 QTreeWidget* shownList()
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -70,7 +69,7 @@ private:
         if (m_removes && !m_asked) {
             m_asked = true;
             list->topLevelItem(0)->setSelected(true);
-            // Queued: the question is modal, and this timer has to answer it.
+            // Queued, because the message box is modal and this timer answers it.
             auto* remove = list->window()->findChild<QAction*>("deletePublisher");
             QMetaObject::invokeMethod(remove, "trigger", Qt::QueuedConnection);
             return;

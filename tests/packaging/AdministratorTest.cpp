@@ -1,5 +1,5 @@
-// The program behind the launcher: an authorisation tool gives it an environment of its own, as the real one
-// does, and it has to find the user's screen and language all the same.
+// The program as the launcher starts it: a substitute for pkexec gives it a minimal environment, as the real
+// pkexec does, and the program must still use the user's display and language.
 #include "RunningProgram.h"
 
 #include <filesystem>
@@ -15,7 +15,7 @@ void writeProgram(const std::string& path, const std::string& text)
     std::filesystem::permissions(path, std::filesystem::perms::owner_all);
 }
 
-/// A screen that lets nobody in without its cookie.
+/// An X11 display that refuses clients without its cookie.
 class LockedScreen
 {
 public:
@@ -23,7 +23,7 @@ public:
     {
         std::filesystem::create_directories(place);
         WriteText(m_cookies.toStdString(), "");
-        addCookie(":0"); // the server reads the cookie whatever display it is for
+        addCookie(":0"); // the server accepts the cookie for any display number
         m_server.start("Xvfb", {"-displayfd", "1", "-auth", m_cookies, "-screen", "0", "1024x600x24",
                                 "-nolisten", "tcp", "-noreset"});
         if (m_server.waitForReadyRead(programPatience)) {
@@ -101,7 +101,7 @@ protected:
     LockedScreen m_locked;
 };
 
-TEST_F(AdministratorTest, FindsTheUsersScreenLanguageAndScale)
+TEST_F(AdministratorTest, UsesTheUsersDisplayLanguageAndScale)
 {
     m_environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere,guid=1");
     m_environment.insert("QT_SCALE_FACTOR", "1.25");
@@ -118,7 +118,7 @@ TEST_F(AdministratorTest, FindsTheUsersScreenLanguageAndScale)
     EXPECT_FALSE(m_program.readAllStandardError().contains("language file"));
 }
 
-TEST_F(AdministratorTest, ShowsThePropertiesOfThePublisherThatIsNamed)
+TEST_F(AdministratorTest, ShowsThePropertiesOfTheNamedPublisher)
 {
     const LocalRoom service({"a"});
     m_installation.addLocal("a", "Studio A");
@@ -131,12 +131,12 @@ TEST_F(AdministratorTest, ShowsThePropertiesOfThePublisherThatIsNamed)
     while (time.elapsed() < programPatience && m_program.state() == QProcess::Running) {
         xdotool({"windowfocus", id});
         xdotool({"key", "Escape"});
-        m_program.waitForFinished(300); // the key arrives in a while, and nothing tells when
+        m_program.waitForFinished(300); // the key arrives asynchronously, without a notification
     }
     expectEnd();
 }
 
-TEST_F(AdministratorTest, IsAbortedWithoutTheCookieAndSaysSo)
+TEST_F(AdministratorTest, ReportsAnAbortWithoutTheCookie)
 {
     m_environment.remove("XAUTHORITY");
     launch({"--administrator"});
@@ -146,7 +146,7 @@ TEST_F(AdministratorTest, IsAbortedWithoutTheCookieAndSaysSo)
     EXPECT_TRUE(m_program.readAllStandardError().contains("ulmar-disc-setup: The program was aborted."));
 }
 
-TEST_F(AdministratorTest, WindowsTellTheDesktopWhoseTheyAre)
+TEST_F(AdministratorTest, WindowsHaveTheClassOfTheProgram)
 {
     launch({});
     const QString id = window(mainTitle);

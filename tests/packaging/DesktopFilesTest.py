@@ -1,6 +1,6 @@
-"""What tells a desktop about the program, as it is installed.
+"""Tests the installed desktop integration files of the program.
 
-DesktopFilesTest.py PROJECT CMAKE INSTALL-SCRIPT, in the sandbox
+Usage, in the sandbox: DesktopFilesTest.py PROJECT CMAKE INSTALL-SCRIPT
 """
 import os
 import re
@@ -28,7 +28,7 @@ def desktop_entry() -> dict:
         elif line and not line.startswith("#"):
             key, value = line.split("=", 1)
             name, language = re.fullmatch(r"([A-Za-z]+)(?:\[(\w+)\])?", key).groups(default="")
-            assert language not in group[name], f"{key} stands twice"
+            assert language not in group[name], f"{key} is repeated"
             group[name][language] = value
     return groups
 
@@ -65,13 +65,13 @@ class DesktopFilesTest(unittest.TestCase):
             self.assertNotEqual(texts[language], texts[""], f"{what} is English in {language}")
 
     def expect_runs_of_languages(self, parent, tag: str) -> int:
-        """The texts of a tag stand one language after the other, English first; returns how many texts there are."""
+        """Checks that each text of a tag begins with English, followed by all languages; returns the number of texts."""
         runs = []
         for element in parent.findall(tag):
             language = element.get(XML_LANGUAGE, "")
             if not language:
                 runs.append({})
-            self.assertNotIn(language, runs[-1], f"{tag} stands twice")
+            self.assertNotIn(language, runs[-1], f"{tag} is repeated")
             runs[-1][language] = element.text
         for run in runs:
             self.expect_every_language(run, f"<{tag}> {run['']}")
@@ -79,7 +79,7 @@ class DesktopFilesTest(unittest.TestCase):
 
     # --- languages
 
-    def test_the_entry_speaks_every_language(self):
+    def test_the_entry_is_translated_into_every_language(self):
         groups = desktop_entry()
         for group, keys in (("Desktop Entry", ("GenericName", "Comment", "Keywords")),
                             ("Desktop Action administrator", ("Name",))):
@@ -87,15 +87,15 @@ class DesktopFilesTest(unittest.TestCase):
                 self.expect_every_language(groups[group][key], f"{group}: {key}")
         for language, words in groups["Desktop Entry"]["Keywords"].items():
             self.assertTrue(words.endswith(";"), language)
-            self.assertEqual(words.count(";"), 10, f"words to search by in {language}")
+            self.assertEqual(words.count(";"), 10, f"keywords in {language}")
         self.assertEqual(groups["Desktop Entry"]["Name"], {"": "ARVEN Ulmar Disc Setup"})
 
-    def test_the_policy_speaks_every_language(self):
+    def test_the_policy_is_translated_into_every_language(self):
         action = self.policy().find("action")
         self.assertEqual(self.expect_runs_of_languages(action, "description"), 1)
         self.assertEqual(self.expect_runs_of_languages(action, "message"), 1)
 
-    def test_the_metadata_speak_every_language(self):
+    def test_the_metadata_are_translated_into_every_language(self):
         root = self.metainfo()
         self.assertEqual([name.text for name in root.findall("name")], ["ARVEN Ulmar Disc Setup"])
         self.assertEqual(self.expect_runs_of_languages(root, "summary"), 1)
@@ -104,21 +104,21 @@ class DesktopFilesTest(unittest.TestCase):
         shots = root.findall("screenshots/screenshot")
         self.assertEqual([self.expect_runs_of_languages(shot, "caption") for shot in shots], [1, 1, 1])
 
-    def test_entry_and_metadata_say_the_same(self):
+    def test_entry_and_metadata_have_the_same_texts(self):
         summaries = {s.get(XML_LANGUAGE, ""): s.text for s in self.metainfo().findall("summary")}
         self.assertEqual(summaries, desktop_entry()["Desktop Entry"]["Comment"])
-        # The description names the action as it is labelled.
+        # The description uses the label of the action.
         labels = desktop_entry()["Desktop Action administrator"]["Name"]
         last = self.metainfo().findall("description/p")[-len(LANGUAGES) - 1:]
         for paragraph in last:
             self.assertIn(labels[paragraph.get(XML_LANGUAGE, "")], paragraph.text)
 
-    def test_the_programs_languages_are_among_them(self):
+    def test_the_languages_include_those_of_the_program(self):
         catalogues = {path.stem.removeprefix("PubSetupQt_") for path in (PROJECT / "UDSetupQt/tr").glob("*.ts")}
         self.assertTrue(catalogues)
         self.assertLessEqual(catalogues, LANGUAGES)
 
-    # --- one thing has one name
+    # --- names and paths
 
     def test_the_entry_starts_the_launcher(self):
         groups = desktop_entry()
@@ -133,7 +133,7 @@ class DesktopFilesTest(unittest.TestCase):
         main = (PROJECT / "UDSetupQt/main.cpp").read_text()
         self.assertEqual(re.findall(r'setDesktopFileName\("([^"]+)"\)', main), [APPLICATION])  # under Wayland
 
-    def test_the_icon_is_there_in_every_size(self):
+    def test_the_icon_is_installed_in_every_size(self):
         self.assertEqual(desktop_entry()["Desktop Entry"]["Icon"], {"": APPLICATION})
         self.assertEqual(self.policy().findtext("icon_name"), APPLICATION)
         sizes = {}
@@ -146,7 +146,7 @@ class DesktopFilesTest(unittest.TestCase):
         self.assertEqual(drawing.tag, "{http://www.w3.org/2000/svg}svg")
         self.assertEqual(drawing.get("viewBox"), "0 0 64 64")
 
-    def test_launcher_and_policy_mean_the_installed_program(self):
+    def test_launcher_and_policy_name_the_installed_program(self):
         program = install_dir() + "/UDSetup"
         self.assertIn(f'\nprogram="{program}"\n', launcher())
         annotations = {a.get("key"): a.text for a in self.policy().findall("action/annotate")}
@@ -157,20 +157,20 @@ class DesktopFilesTest(unittest.TestCase):
         self.assertEqual({d.tag: d.text for d in self.policy().find("action/defaults")},
                          {"allow_any": "auth_admin", "allow_inactive": "auth_admin", "allow_active": "auth_admin"})
 
-    def test_the_metadata_lead_to_the_program(self):
+    def test_the_metadata_name_the_program(self):
         root = self.metainfo()
         self.assertEqual(root.findtext("id"), APPLICATION)
         self.assertEqual(root.findtext("launchable"), f"{APPLICATION}.desktop")
         self.assertEqual(root.findtext("provides/binary"), "ulmar-disc-setup")
         self.assertEqual(root.findtext("project_license"), "MIT")
 
-    def test_the_pictures_are_there(self):
+    def test_the_screenshots_exist(self):
         pictures = [image.text.rsplit("/", 1)[1] for image in self.metainfo().findall("screenshots/screenshot/image")]
         self.assertEqual(len(pictures), 3)
         for picture in pictures:
             self.assertTrue((PROJECT / "docs" / picture).is_file(), picture)
 
-    def test_one_version(self):
+    def test_all_files_have_the_same_version(self):
         version = re.search(r"project\(UlmarDiscSetup VERSION ([\d.]+)", (PROJECT / "CMakeLists.txt").read_text()).group(1)
         changes = re.findall(r"^## ([\d.]+)", (PROJECT / "CHANGELOG.md").read_text(), re.M)
         self.assertEqual([r.get("version") for r in self.metainfo().findall("releases/release")], changes)
@@ -179,16 +179,16 @@ class DesktopFilesTest(unittest.TestCase):
 
     # --- the manual
 
-    def test_the_program_has_the_same_page(self):
+    def test_the_program_has_the_same_manual_page(self):
         self.assertEqual((INSTALLED / "share/man/man1/UDSetup.1").read_text(), ".so man1/ulmar-disc-setup.1\n")
 
-    def test_the_manual_tells_every_variable(self):
+    def test_the_manual_lists_every_variable(self):
         environment = manual().split(".SH ENVIRONMENT\n")[1].split(".SH FILES\n")[0]
         told = [name for line in re.findall(r"\.TP\n((?:.*\\\n)*.*)", environment) for name in re.findall(r"[A-Z][A-Z0-9_]+", line)
                 if name not in ("BR", "TP")]
         self.assertEqual(sorted(told), sorted(handed_over()))
 
-    def test_the_manual_tells_every_end(self):
+    def test_the_manual_lists_every_exit_status(self):
         ends = manual().split('.SH "EXIT STATUS"\n')[1].split(".SH ENVIRONMENT\n")[0]
         told = {int(number) for number in re.findall(r"^\.B (\d+)$", ends, re.M)}
         own = {int(number) for number in re.findall(r"^[a-z_]+=(\d+)(?: #.*)?$", launcher(), re.M)} - {255}

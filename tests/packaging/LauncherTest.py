@@ -1,6 +1,6 @@
-"""The launcher, with an authorisation tool, a program and a desktop that write down how they were called.
+"""Tests the launcher with substitutes for pkexec, the program and notify-send that record their arguments.
 
-LauncherTest.py LAUNCHER, in the sandbox as an ordinary user
+Usage, in the sandbox as an ordinary user: LauncherTest.py LAUNCHER
 """
 import os
 import shutil
@@ -15,7 +15,7 @@ LAUNCHER = None
 PROGRAM = Path("/opt/arven/Ulmar Disc Maker/UDSetup")
 RECORDER = '#!/bin/sh\nprintf \'%s\\0\' $# "$@" >"$RECORDS/${0##*/}"\nexit "${ENDS_WITH:-0}"\n'
 
-ALL_VARIABLES = [  # in the order in which they are handed over
+ALL_VARIABLES = [  # in the order in which the launcher passes them
     "DISPLAY", "XAUTHORITY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM",
     "DBUS_SESSION_BUS_ADDRESS", "DESKTOP_STARTUP_ID",
     "LANG", "LANGUAGE", "LC_ALL", "LC_COLLATE", "LC_CTYPE", "LC_MESSAGES", "LC_NUMERIC", "LC_TIME",
@@ -42,7 +42,7 @@ class LauncherTest(unittest.TestCase):
         self.session = self.place / "session"
         for folder in (self.tools, self.records, self.home, self.session):
             folder.mkdir()
-        # Nothing of this machine is on the path but what the launcher may use.
+        # The path contains only the tools that the launcher may use.
         for tool in ("cat", "id", "wc"):
             (self.tools / tool).symlink_to(shutil.which(tool))
         for tool in ("pkexec", "notify-send"):
@@ -57,7 +57,7 @@ class LauncherTest(unittest.TestCase):
                               timeout=20, check=False)
 
     def record(self, tool: str):
-        """The arguments with which the tool was called; None when it was not."""
+        """The arguments with which the tool was called; None if it was not called."""
         path = self.records / tool
         if not path.exists():
             return None
@@ -65,7 +65,7 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(int(count), len(arguments))
         return arguments
 
-    # --- as oneself
+    # --- as the current user
 
     def test_starts_the_program_with_its_arguments(self):
         for arguments in ([], ["Studio A"], ["two  blanks", "", "new\nline", "-envFOO=bar", '"\'$(x)`*'],
@@ -76,7 +76,7 @@ class LauncherTest(unittest.TestCase):
                 self.assertEqual(self.record("UDSetup"), arguments)
                 self.assertIsNone(self.record("pkexec"))
 
-    def test_says_that_the_program_is_not_installed(self):
+    def test_reports_that_the_program_is_not_installed(self):
         PROGRAM.unlink()
         for arguments in ([], ["--administrator"]):
             with self.subTest(arguments):
@@ -94,7 +94,7 @@ class LauncherTest(unittest.TestCase):
 
     # --- as the administrator
 
-    def test_hands_over_each_variable_that_has_a_value(self):
+    def test_passes_each_variable_that_has_a_value(self):
         values = {name: f"value of {name}" for name in ALL_VARIABLES}
         values["WAYLAND_DISPLAY"] = "/run/user/1000/wayland-0"
         ended = self.launch("--administrator", **values)
@@ -103,16 +103,16 @@ class LauncherTest(unittest.TestCase):
                          [str(PROGRAM)] + [f"-env{name}={values[name]}" for name in ALL_VARIABLES])
         self.assertIsNone(self.record("UDSetup"), "only the authorisation tool may start it")
 
-    def test_leaves_out_what_has_no_value(self):
+    def test_omits_variables_without_a_value(self):
         self.launch("--administrator", DISPLAY=":0", LANG="", LC_TIME="C")
         self.assertEqual(self.record("pkexec"), [str(PROGRAM), "-envDISPLAY=:0", "-envLC_TIME=C"])
 
-    def test_hands_over_nothing_that_names_a_place_of_code(self):
+    def test_passes_no_variable_that_names_a_location_of_code(self):
         self.launch("--administrator", DISPLAY=":0", QT_PLUGIN_PATH="/x", LD_PRELOAD="", LD_LIBRARY_PATH="/x",
                     QT_QPA_PLATFORM_PLUGIN_PATH="/x", XDG_RUNTIME_DIR=str(self.session))
         self.assertEqual(self.record("pkexec"), [str(PROGRAM), "-envDISPLAY=:0"])
 
-    def test_values_arrive_as_they_are(self):
+    def test_passes_values_unchanged(self):
         for value in ("two  blanks ", "a=b=c", "new\nline", "\n", '"double" and \'single\'', "$(touch x) `y` $HOME \\n",
                       "*", "-", "ä日本語"):
             with self.subTest(value):
@@ -125,7 +125,7 @@ class LauncherTest(unittest.TestCase):
                 self.launch("--administrator", name, DISPLAY=":0")
                 self.assertEqual(self.record("pkexec"), [str(PROGRAM), name, "-envDISPLAY=:0"])
 
-    def test_leaves_out_what_the_program_would_cut(self):
+    def test_omits_values_that_the_program_would_truncate(self):
         for value, bytes_ in (("x" * 255, 255), ("x" * 256, 256), ("ä" * 127, 254), ("ä" * 128, 256),
                               ("x" * 254 + "\n", 255), ("x" * 255 + "\n", 256)):
             for locale in ("C", "C.UTF-8"):
@@ -140,13 +140,13 @@ class LauncherTest(unittest.TestCase):
                         said = f"ulmar-disc-setup: XMODIFIERS is not handed over: it has {bytes_} bytes, and 255 are the most.\n"
                     self.assertEqual((self.record("pkexec"), ended.stderr), (expected, said))
 
-    def test_takes_one_name_at_most(self):
+    def test_accepts_at_most_one_name(self):
         ended = self.launch("--administrator", "a", "b", DISPLAY=":0")
         self.assertEqual((ended.returncode, ended.stdout), (64, ""))
         self.assertTrue(ended.stderr.startswith("usage: "))
         self.assertIsNone(self.record("pkexec"))
 
-    def test_root_is_asked_for_no_password(self):
+    def test_does_not_ask_root_for_a_password(self):
         (self.tools / "id").unlink()
         executable(self.tools / "id", "#!/bin/sh\necho 0\n")
         ended = self.launch("--administrator", "Studio A", DISPLAY=":0", ENDS_WITH="3")
@@ -154,9 +154,9 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(self.record("UDSetup"), ["Studio A"])
         self.assertIsNone(self.record("pkexec"))
 
-    # --- what root would look for in another place
+    # --- files in the user's folders
 
-    def test_names_the_users_xauthority(self):
+    def test_passes_the_users_xauthority(self):
         (self.home / ".Xauthority").write_text("")
         cookie = f"{self.home}/.Xauthority"
         for environment, expected in (
@@ -167,7 +167,7 @@ class LauncherTest(unittest.TestCase):
                 self.launch("--administrator", **environment)
                 self.assertEqual(self.record("pkexec"), [str(PROGRAM)] + expected)
 
-    def test_names_the_wayland_socket_by_its_whole_path(self):
+    def test_passes_the_absolute_path_of_the_wayland_socket(self):
         session = str(self.session)
         x11 = "-envDISPLAY=:0"
         for environment, expected in (
@@ -182,7 +182,7 @@ class LauncherTest(unittest.TestCase):
                 self.launch("--administrator", **environment)
                 self.assertEqual(self.record("pkexec"), [str(PROGRAM)] + expected)
 
-    def test_names_the_session_bus(self):
+    def test_passes_the_address_of_the_session_bus(self):
         with socket.socket(socket.AF_UNIX) as bus:
             bus.bind(str(self.session / "bus"))
             there = f"unix:path={self.session}/bus"
@@ -195,9 +195,9 @@ class LauncherTest(unittest.TestCase):
                     self.assertEqual(self.record("pkexec"), [str(PROGRAM), "-envDISPLAY=:0"] +
                                      [f"-envDBUS_SESSION_BUS_ADDRESS={address}" for address in expected])
 
-    # --- when it cannot
+    # --- failures
 
-    def test_says_how_the_authorisation_ended(self):
+    def test_reports_how_the_authorisation_ended(self):
         dismissed = "Dismissed: the password was not given, so nothing was started."
         refused = ("Refused: the password was wrong, you may not run it as administrator, or nothing in this session can "
                    "ask for the password (no authentication agent runs).")
@@ -214,21 +214,21 @@ class LauncherTest(unittest.TestCase):
                                  ["--icon=com.arven.UlmarDiscSetup", "ARVEN Ulmar Disc Setup", text]
                                  if on_the_desktop else None)
 
-    def test_passes_on_what_the_program_ended_with(self):
+    def test_passes_on_the_exit_status_of_the_program(self):
         for status in (0, 1, 3, 143):
             with self.subTest(status):
                 ended = self.launch("--administrator", DISPLAY=":0", ENDS_WITH=str(status))
                 self.assertEqual((ended.returncode, ended.stderr), (status, ""))
                 self.assertIsNone(self.record("notify-send"))
 
-    def test_says_that_there_is_no_authorisation_tool(self):
+    def test_reports_that_pkexec_is_not_installed(self):
         (self.tools / "pkexec").unlink()
         ended = self.launch("--administrator", DISPLAY=":0")
         self.assertEqual(ended.returncode, 69)
         self.assertEqual(ended.stderr, 'ulmar-disc-setup: "pkexec" is not installed.\n')
         self.assertEqual(self.record("notify-send")[-1], '"pkexec" is not installed.')
 
-    def test_tells_a_terminal_only_what_a_terminal_shows(self):
+    def test_sends_no_notification_if_standard_error_is_a_terminal(self):
         terminal, screen = os.openpty()
         self.addCleanup(os.close, terminal)
         with open(screen, "w", encoding="utf-8") as stderr:
@@ -238,14 +238,14 @@ class LauncherTest(unittest.TestCase):
             self.assertTrue(os.read(terminal, 1000).startswith(b"ulmar-disc-setup: Refused: "))
         self.assertIsNone(self.record("notify-send"))
 
-    def test_does_without_notifications(self):
+    def test_works_without_notify_send(self):
         (self.tools / "notify-send").unlink()
         ended = self.launch("--administrator", DISPLAY=":0", ENDS_WITH="127")
         self.assertEqual(ended.returncode, 127)
         self.assertEqual(ended.stderr.count("\n"), 1)
 
-    def test_says_that_it_needs_a_desktop(self):
-        for environment in ({}, {"DISPLAY": ""}, {"WAYLAND_DISPLAY": "wayland-0"},  # a socket that is nowhere
+    def test_reports_that_it_needs_a_desktop(self):
+        for environment in ({}, {"DISPLAY": ""}, {"WAYLAND_DISPLAY": "wayland-0"},  # a socket without a known folder
                             {"QT_QPA_PLATFORM": "xcb"}, {"QT_QPA_PLATFORM": "wayland;xcb"}):
             with self.subTest(environment):
                 ended = self.launch("--administrator", **environment)
@@ -254,7 +254,7 @@ class LauncherTest(unittest.TestCase):
                                                "WAYLAND_DISPLAY names one.\n")
         self.assertIsNone(self.record("pkexec"))
 
-    def test_takes_the_toolkits_word_for_a_desktop(self):
+    def test_accepts_other_qt_platforms_without_a_display(self):
         self.launch("--administrator", QT_QPA_PLATFORM="vnc")
         self.assertEqual(self.record("pkexec"), [str(PROGRAM), "-envQT_QPA_PLATFORM=vnc"])
 
