@@ -1,10 +1,10 @@
-# Flags of every target: warnings, hardening, sanitizers, and assertions that stay on in every build type.
+# Flags for all targets: warnings, hardening, sanitizers, and assertions that stay on in every build type.
 
 set(ULMAR_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize (empty: none)")
 option(ULMAR_WERROR "Treat warnings as errors" OFF)
 option(ULMAR_COVERAGE "Instrument for gcov" OFF)
 
-# NDEBUG is never defined: a condition that cannot occur stops the process in every build type.
+# NDEBUG is never defined: a failed assertion stops the process in every build type.
 set(CMAKE_CXX_FLAGS_DEBUG "-Og -g")
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2")
@@ -21,7 +21,7 @@ if(ULMAR_WERROR)
 endif()
 
 add_compile_options(-fno-plt -fstack-protector-strong -fstack-clash-protection)
-# Protection of jumps and returns: the first is for x86, the second for 64-bit ARM.
+# Control flow protection: the first flag is for x86, the second for 64-bit ARM.
 include(CheckCXXCompilerFlag)
 check_cxx_compiler_flag(-fcf-protection ULMAR_HAS_CF_PROTECTION)
 check_cxx_compiler_flag(-mbranch-protection=standard ULMAR_HAS_BRANCH_PROTECTION)
@@ -33,11 +33,11 @@ endif()
 add_link_options(-Wl,-z,relro,-z,now -Wl,-z,noexecstack -Wl,--as-needed)
 
 if(ULMAR_SANITIZE)
-    # Line tables serve the reports, and cost a third less to build than full debug information.
+    # Line tables are sufficient for the reports, and take a third less build time than full debug information.
     add_compile_options(-fsanitize=${ULMAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all -g1)
     add_link_options(-fsanitize=${ULMAR_SANITIZE})
 else()
-    # The sanitizers bring checks of their own, which do not see through the fortified calls.
+    # Not with sanitizers: their own checks do not work with fortified calls.
     add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
 endif()
 

@@ -1,4 +1,4 @@
-# Where the program is installed: the fixed location that the sources know, read from them.
+# Reads the fixed install location from the source header that defines it.
 set(paths_header ${CMAKE_CURRENT_SOURCE_DIR}/Include/InstallPaths.h)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${paths_header})
 file(STRINGS ${paths_header} install_dir_line REGEX "^constexpr char INSTALL_DIR\\[\\]")

@@ -1,5 +1,5 @@
-# Toolchain for 64-bit ARM: Debian's cross compiler, the headers and libraries that tests/arm64-root unpacks, and qemu-user,
-# which runs the programs.
+# Toolchain for 64-bit ARM: Debian's cross compiler, the headers and libraries that tests/arm64-root unpacks, and
+# qemu-user to run the programs.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
