@@ -1,4 +1,4 @@
-// Base64 as Basic authorisation needs it: one way.
+// Base64 for Basic authorisation: encoding only.
 #pragma once
 
 /// Holds its last result. A null argument is a programming error.
@@ -10,23 +10,23 @@ public:
     CBase64& operator=(const CBase64&) = delete;
     virtual ~CBase64();
 
-    /// Drops the result.
+    /// Discards the result.
     void Init();
-    /// 0, or the internet result -2 when memory ran out.
+    /// 0, or the internet result -2 if memory runs out.
     int Encode(const char* pData, int nDataSize);
     int Encode(const char* pszData);
-    /// Nobody decodes here: a programming error.
+    /// Not supported: calling it is a programming error.
     int Decode(const char* pData, int nDataSize);
     int Decode(const char* pszData);
 
-    /// The result, ended by a zero byte; null before the first.
+    /// The zero-terminated result; null before the first.
     const char* GetData() const;
     /// Its length without the zero byte.
     int GetSize() const;
 
     int Codec(const char* pData, int nDataSize, bool bEncode);
-    /// The standard alphabet of RFC 4648, padded, in one line, ended by a zero byte: `nDstBufSize` counts
-    /// that too. Returns the encoded length.
+    /// Encodes with the standard alphabet of RFC 4648, padded, on one line and zero-terminated. `nDstBufSize`
+    /// includes the zero byte. Returns the encoded length.
     static int CodecBase(const char* pSrcData, int nSrcDataSize, char* pDstBuf, int nDstBufSize,
                          bool bEncode);
 

@@ -1,4 +1,4 @@
-// Numbers as they come over the wire: high byte first.
+// Reads the big-endian numbers of the wire.
 #pragma once
 
 #include "Win_def.h"

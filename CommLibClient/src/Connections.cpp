@@ -1,4 +1,4 @@
-// The table of connections, and what keeps an object alive while an operation uses it.
+// The table of connections, and the counting that keeps an object alive while an operation uses it.
 #include "LogManager.h"
 #include "Operation.h"
 
@@ -6,10 +6,10 @@ namespace {
 
 constexpr size_t MAX_CONNECTIONS = 100;
 
-/// The table's size for those who do not hold its mutex.
+/// The size of the table, for readers that do not hold its mutex.
 std::atomic<size_t> tableSize = 0;
 
-/// How many threads are on their way from a handle to the counter of its object.
+/// Number of threads between the lookup of a handle and the increment of its object's counter.
 std::atomic<int> lookups = 0;
 
 std::vector<ST_NCL*> EmptyTable()
@@ -24,13 +24,13 @@ std::atomic_ref<ST_NCL*> Entry(size_t index)
     return std::atomic_ref(g_pvarrNCL.data()[index]);
 }
 
-/// Beyond the table for a handle that is none: 0 wraps around.
+/// The index of a handle. It is beyond the table for an invalid handle: 0 wraps around.
 size_t Index(DWORD dwHandle)
 {
     return dwHandle - DWORD{1};
 }
 
-/// How many objects have been left unclaimed.
+/// Number of objects left unclaimed so far.
 std::atomic<ULONGLONG> unclaimedCount = 0;
 
 void Destroy(CHttp* http)
@@ -115,7 +115,8 @@ NCLGuard::NCLGuard(DWORD dwHandle)
 void StopOperations(ST_NCL& ncl)
 {
     std::atomic_ref(ncl.m_bEndConnection) = TRUE;
-    // In the one order that an operation counts itself in before it looks at the flag.
+    // Sequentially consistent: an operation increments the counter before it reads the flag, so one that
+    // reads the old flag is counted here.
     while (ncl.m_refCount.load() != 0) {
     }
 }
@@ -125,8 +126,8 @@ void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL)
     Destroy(pNCL->m_pHttp);
     Destroy(pNCL->m_pHttpSecure);
     DeleteNCLObj(dwHandle);
-    // Whoever found the object before its entry was free is counted once no lookup is under way, and leaves
-    // as soon as it sees the flag.
+    // Once no lookup is in progress, every operation that found the object before its entry was freed is
+    // counted. It returns as soon as it sees the flag.
     while (lookups != 0) {
     }
     StopOperations(*pNCL);
@@ -144,7 +145,7 @@ bool DestroyOldestUnclaimedNCL()
     ST_NCL* oldest = nullptr;
     {
         const std::lock_guard lock(g_csNCLArray); // no two threads choose the same object
-        const CAutoRefCounter lookup(lookups);    // no object is deleted while it is looked at
+        const CAutoRefCounter lookup(lookups);    // no object is deleted while it is examined
         for (size_t index = 0; index < g_pvarrNCL.size(); ++index) {
             ST_NCL* const ncl = Entry(index);
             if (ncl != nullptr && ncl->m_ullUnclaimed != 0 &&

@@ -1,4 +1,4 @@
-// Settings and versions of a server's device.
+// Reads settings and versions of a server's device.
 #include "BigEndian.h"
 #include "Operation.h"
 

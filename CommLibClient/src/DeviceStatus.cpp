@@ -1,5 +1,5 @@
-// The live status of a device, one operation a part of it. What the bytes mean is told in
-// DeviceStatusUnpack.cpp.
+// Queries the current status of a device, with one operation for each part. DeviceStatusUnpack.cpp decodes
+// the bytes.
 #include "Operation.h"
 
 #include <algorithm>
@@ -10,18 +10,18 @@ namespace {
 struct StatusLines
 {
     NCLLine start;
-    NCLLine trace; ///< the status cannot be had
+    NCLLine trace; ///< of a failed request
     NCLLine end;
 };
 
-/// Asks for one item with the status. A failure is logged.
+/// Requests the status, which is one item. Logs a failure.
 DWORD AskStatus(NCLOperation& operation, DeviceStatusType eType, NCLLine trace)
 {
     const DWORD result = GetDeviceStatus(operation.Object(), operation.Response(), operation.Items(), eType);
     return result == NCL_SUCCESS ? result : LogTrace(trace, result);
 }
 
-/// The operation of a status of fixed size. `unpack` gives 0, or the number of the check that failed.
+/// Gets a status of fixed size. `unpack` returns 0, or the number of the check that failed.
 DWORD GetStatus(DWORD dwHandle, const char* pszName, DeviceStatusType eType, DWORD dwItemSize,
                 bool areArgumentsGood, const StatusLines& lines, NCLNumberedLine invalid,
                 const std::function<int(const char* pData, const ST_NCL& ncl)>& unpack)
@@ -44,7 +44,7 @@ try {
     return OutOfMemory(pszName);
 }
 
-/// The operation of a status that is handed on as it is.
+/// Gets a status that the caller receives unchanged.
 DWORD GetBlock(DWORD dwHandle, const char* pszName, DeviceStatusType eType, BYTE* pBuf, DWORD dwBufSize,
                DWORD* pdwGetSize, const StatusLines& lines)
 try {

@@ -1,4 +1,4 @@
-// What the bytes of a device's status mean: plain functions, bytes in, records out.
+// Decodes the bytes of a device status. Plain functions convert bytes to records.
 #include "BigEndian.h"
 #include "NW_Com_Lib_internal.h"
 
@@ -6,7 +6,7 @@ namespace {
 
 constexpr DWORD TOP_BIT = 0x80000000;
 
-/// The word of this number.
+/// The 32-bit word at this index.
 DWORD Word(const char* pData, int index)
 {
     return BigEndian32(pData + size_t{4} * index);
@@ -17,7 +17,7 @@ BOOL Flag(DWORD word, DWORD bits)
     return (word & bits) != 0 ? TRUE : FALSE;
 }
 
-/// A word whose first bit that is set, in the order of the table, tells the value.
+/// A row of a table. The first row whose bit is set in the word determines the value.
 struct BitMeaning
 {
     DWORD bit;
@@ -35,8 +35,8 @@ DWORD FirstMeaning(const BitMeaning (&meanings)[COUNT], DWORD word, DWORD otherw
     return otherwise;
 }
 
-/// Converts the words one after the other into the fields. 0, or the number of the check that failed, where
-/// the first conversion is number 2.
+/// Converts consecutive words to the fields. Returns 0, or the number of the check that failed; the first
+/// conversion is number 2.
 template <typename Field, size_t COUNT>
 int ConvertWords(const char* pData, int (*convert)(DWORD, Field*), Field* const (&fields)[COUNT])
 {
@@ -49,7 +49,7 @@ int ConvertWords(const char* pData, int (*convert)(DWORD, Field*), Field* const 
     return 0;
 }
 
-/// Stores the words as they are.
+/// Stores the words unchanged.
 template <typename Record, size_t COUNT>
 void StoreWords(const char* pData, Record* pRecord, int Record::* const (&fields)[COUNT])
 {
@@ -114,7 +114,7 @@ int ConvertInkCartridgeStatus(DWORD dwValue, InkStatusBase* pStatus)
 
 int ConvertDeviceFatalError(DWORD dwValue, DeviceFatalError* pStatus)
 {
-    switch (dwValue) { // the server numbers them among the factors of a job's status
+    switch (dwValue) { // the server uses the numbers of the job status factors
     case 1:
         pStatus->dwDevStatus = NCL_FATAL_ERR_DISC_PICK;
         break;
@@ -271,7 +271,7 @@ int UnpackNotifyStatus(const char* pData, DWORD dwServerMode, NotifyStatus* pSta
     factor.bRemainDisc = Flag(word, 0x20);
     factor.bTakeOut = Flag(word, 0x40);
 
-    // Which stackers take discs out depends on the mode; a batch may use two as one.
+    // The mode determines the output stackers. In batch mode, stackers 2 and 3 may act as one.
     const BOOL isStacker2Full = Flag(full, 0x2);
     switch (dwServerMode) {
     case NCL_MODE_OUTPUT:

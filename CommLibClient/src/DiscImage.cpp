@@ -1,5 +1,5 @@
-// A disc image on its way to the server, a piece a call. A thread sends the piece while the caller's own
-// thread takes it into the digest of the image.
+// Sends a disc image to the server, one piece per call. A second thread sends the piece while the calling
+// thread adds it to the digest of the image.
 #include "Operation.h"
 
 #include <system_error>
@@ -7,7 +7,8 @@
 
 namespace {
 
-/// Takes the piece into the digest of the image, which the first piece begins. 0, or the digest's failure.
+/// Adds the piece to the digest of the image, which the first piece creates. Returns 0, or the error of the
+/// digest.
 DWORD DigestPiece(ST_NCL* pNCL, const NCLUpload& piece)
 {
     if (pNCL->m_pMD == nullptr) {
@@ -17,7 +18,7 @@ DWORD DigestPiece(ST_NCL* pNCL, const NCLUpload& piece)
     return pNCL->m_pMD->Update(piece.pData, piece.dwSize);
 }
 
-/// Sends the piece and, unless the server is an old one, takes it into the digest meanwhile.
+/// Sends the piece. Unless the server is an old one, adds it to the digest at the same time.
 DWORD SendPiece(ST_NCL* pNCL, const NCLUpload& piece, ULONGLONG total)
 {
     DWORD result = NCL_SUCCESS;

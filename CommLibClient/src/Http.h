@@ -1,4 +1,4 @@
-// A small HTTP client: one request at a time over one connection, which it keeps while the server allows.
+// A small HTTP client: one request at a time over one connection, which stays open while the server allows.
 #pragma once
 
 #include "Internet.h"
@@ -8,9 +8,9 @@
 class ReplyBody;
 struct ST_HTTP_RESPONSE;
 
-/// What the servlets of a publisher server need: a request line, a few headers, a body in memory, and a reply
-/// with its length told or in chunks. All results are internet results (InternetResult.h); an HTTP status is
-/// none, whatever it says. One exchange at a time.
+/// Implements what the servlets of a publisher server require: a request line, a few headers, a body in
+/// memory, and a reply with a Content-Length or in chunks. All results are internet results
+/// (InternetResult.h); an HTTP error status is not a failure. One exchange at a time.
 class CHttp
 {
 public:
@@ -63,7 +63,7 @@ public:
         STATUS_USE_PROXY = 15,
         STATUS_BAD_REQUEST = 16,
         STATUS_UNAUTHORIZED = 17,
-        STATUS_PAYMENT_REQUIRED = 18, ///< no code is known for it, so no reply gives it
+        STATUS_PAYMENT_REQUIRED = 18, ///< has no code here, so no reply has it
         STATUS_FORBIDDEN = 19,
         STATUS_NOT_FOUND = 20,
         STATUS_METHOD_NOT_ALLOWED = 21,
@@ -97,63 +97,63 @@ public:
     CHttp& operator=(const CHttp&) = delete;
     virtual ~CHttp() = default;
 
-    /// As CInternetCon does; no network is touched before the first request.
+    /// As CInternetCon::Open. There is no network traffic before the first request.
     int Open(const char* pszServerAddress, WORD wPort, BOOL bSSL);
     int Close();
-    /// Milliseconds for a connect.
+    /// Milliseconds allowed for a connect.
     int SetTimeout(DWORD dwMilliSec);
-    /// Milliseconds of silence before each read. 0 always.
+    /// Milliseconds of silence allowed before each read. Always returns 0.
     int SetNoCommTimeout(DWORD dwMilliSec);
 
-    /// The whole exchange. One that fails is made once more from the head on, unless it timed out or the
-    /// reply exceeded MAX_REPLY_SIZE (-2). `pszHost` is the text of the Host line. Without both user and
-    /// password no authorisation is sent. `pszAddHeader`, which may be null, holds whole lines, each with its
+    /// Makes a whole exchange. A failed exchange is retried once from the start, unless it timed out or the
+    /// reply exceeded MAX_REPLY_SIZE (-2). `pszHost` is the value of the Host header. Authorisation is sent
+    /// only with both user and password. `pszAddHeader` may be null; it holds complete lines, each with its
     /// CR LF. Nothing is escaped. After a failure the response holds what was parsed before it.
     int SendRequest(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
                     const char* pszUser, const char* pszPassword, const char* pszAddHeader,
                     const char* pMsgBody, DWORD dwMsgSize, ST_HTTP_RESPONSE* pstHttpRes);
 
-    // The stages of the exchange. Each but a failed connect closes the connection when it fails.
+    // The stages of the exchange. A stage that fails closes the connection, unless the connect failed.
 
-    /// Connects if need be, and sends the head.
+    /// Connects if necessary, and sends the head.
     int SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
                    const char* pszUser, const char* pszPassword, const char* pszAddHeader);
     int SendMessage(const char* pData, DWORD dwSize);
-    /// The next final response; interim ones are skipped. -2 for a reply beyond MAX_REPLY_SIZE. Time is
-    /// limited only by the silence before each byte.
+    /// Receives the next final response and skips interim ones. -2 if the reply exceeds MAX_REPLY_SIZE. The
+    /// only time limit is the silence allowed before each byte.
     int RecvResponse(ST_HTTP_RESPONSE* pstHttpRes);
 
     static const char* GetMethodStringPtr(METHOD eMethod);
-    /// The number of a status; 0 for those without.
+    /// The status code of a status; 0 for a status without one.
     static int GetStatusCode(STATUS eStatus);
 
 protected:
     CInternetCon m_Con;
 
 private:
-    /// One line without its end, of at most `dwBufSize` bytes with it. On a line feed the byte before is
-    /// dropped, whatever it is.
+    /// Reads a line of at most `dwBufSize` bytes, including its end, and removes the end: the line feed and
+    /// the byte before it, whatever that is.
     int RecvLine(char* pBuf, DWORD dwBufSize);
     int ParseHeaderLine(char* pszData, ST_HTTP_RESPONSE* pstHttpRes);
     int RecvHeader(char* pBuf, DWORD dwBufSize, ST_HTTP_RESPONSE* pstHttpRes);
     int RecvMessage(ST_HTTP_RESPONSE* pstHttpRes);
     int RecvChunkData(ST_HTTP_RESPONSE* pstHttpRes);
-    /// Appends that many bytes of the connection to the body.
+    /// Reads `dwSize` bytes from the connection and appends them to the body.
     int RecvBytes(ReplyBody& body, DWORD dwSize);
-    /// Adds to the size of the reply; false, logged, if that exceeds MAX_REPLY_SIZE.
+    /// Adds to the size of the reply. False, and logged, if the sum exceeds MAX_REPLY_SIZE.
     bool CountReply(DWORD dwSize);
 
-    /// The text behind the prefix; null when `pszData` starts otherwise.
+    /// The text after the prefix; null if `pszData` does not start with the prefix.
     static char* StrCmp(char* pszData, const char* pszPrefix);
     static const char* GetVersionStringPtr(VERSION eVersion);
-    /// The first known code, in the order of the statuses, that stands anywhere in the text.
+    /// The first status, in the order of the enumeration, whose code occurs anywhere in the text.
     static STATUS GetStatusCode(char* pszData);
     static int ConvertBase64Error(int nValue);
     /// True for a timeout, which it logs.
     static bool IsNetworkTimeoutError(int nValue);
 
-    DWORD m_dwReplySize = 0;        ///< bytes of the present reply, its announced body included
-    bool m_isReplyTooLarge = false; ///< of the present exchange
+    DWORD m_dwReplySize = 0;        ///< bytes of the current reply, including its announced body
+    bool m_isReplyTooLarge = false; ///< in the current exchange
 };
 
 /// One response. It owns its body.
@@ -167,12 +167,12 @@ struct ST_HTTP_RESPONSE
     /// Makes it ready for the next response.
     void Init();
 
-    CHttp::VERSION m_eVersion = CHttp::VERSION_1_0; ///< says nothing before the first status line
+    CHttp::VERSION m_eVersion = CHttp::VERSION_1_0; ///< meaningless before the first status line
     CHttp::STATUS m_eStatus = CHttp::STATUS_OK;
-    char* m_pContent = nullptr; ///< the body, not ended by a zero byte; null when there is none
+    char* m_pContent = nullptr; ///< the body, not zero-terminated; null if there is none
     DWORD m_dwContentLength = 0;
     BOOL m_bConActive = TRUE; ///< the connection may stay open
-    std::string m_strCookie;  ///< what follows "Set-Cookie:" on the last such line
+    std::string m_strCookie;  ///< the text after "Set-Cookie:" on the last such line
     BOOL m_bChunked = FALSE;
     CHttp::METHOD m_eMethod = CHttp::EMPTY; ///< of the request, once the exchange has succeeded
 };

@@ -14,11 +14,11 @@ namespace {
 
 constexpr DWORD HEADER_LINE_SIZE = 1024;  ///< the longest status or header line, its end included
 constexpr DWORD CHUNK_LINE_SIZE = 12;     ///< the longest line around a chunk, its end included
-constexpr size_t VERSION_LENGTH = 8;      ///< of "HTTP/1.1", behind which the code is looked for
+constexpr size_t VERSION_LENGTH = 8;      ///< of "HTTP/1.1"; the code is searched for after it
 constexpr DWORD FIRST_BODY_PIECE = 65536; ///< allocated for an announced size before any of it has arrived
 
-/// The whole text as a number that a DWORD holds. Leading blanks and a sign pass, as strtoul has it; so does
-/// no digit at all, which is 0. errno is left to the caller: ERANGE there from before makes any text fail.
+/// Parses the whole text as a number that fits in a DWORD. Like strtoul, it accepts leading blanks and a
+/// sign, and no digits at all is 0. It does not reset errno: an earlier ERANGE makes any text fail.
 bool ParseNumber(const char* text, int base, DWORD* value)
 {
     char* end = nullptr;
@@ -37,12 +37,12 @@ bool Holds(const char* text, const char* part)
 
 } // namespace
 
-/// A body that grows as it arrives: a size that is only announced costs no memory, and many small chunks cost
+/// A body that grows as it arrives. An announced size alone costs no memory, and many small chunks take
 /// linear time.
 class ReplyBody
 {
 public:
-    /// Room for `size` more bytes behind those that have arrived; null if there is no memory.
+    /// Room for `size` more bytes after those that have arrived; null if memory runs out.
     char* Room(DWORD size)
     {
         if (m_capacity - m_size < size) {
@@ -65,7 +65,7 @@ public:
     {
         return m_size;
     }
-    /// Gives the bytes to the response; null if there are none.
+    /// Moves the bytes to the response; null if there are none.
     void MoveTo(ST_HTTP_RESPONSE* response)
     {
         response->m_pContent = m_bytes.release();

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; its head is held back until it follows
+constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; the head is held back until such a body follows
 
 /// The lines of a stage of an exchange that fails.
 struct StageLines
@@ -101,7 +101,7 @@ try {
         CLogManager().LOG_WARN("%s", stage->retry);
     }
 } catch (const std::bad_alloc&) {
-    m_Con.Shutdown(); // the next request must not read what is left of this exchange
+    m_Con.Shutdown(); // the next request must not read the rest of this exchange
     return INTERNET_ERR_MEMORY;
 }
 
@@ -142,7 +142,7 @@ int CHttp::SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, con
 int CHttp::SendMessage(const char* pData, DWORD dwSize)
 {
     DWORD sent = 0;
-    do { // the transport counts with an int
+    do { // the transport takes an int
         const int piece = static_cast<int>(std::min<DWORD>(dwSize - sent, INT_MAX));
         const int result = m_Con.WriteToCount(pData + sent, piece);
         if (result < 0) {

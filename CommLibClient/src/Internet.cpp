@@ -65,7 +65,7 @@ int CInternetCon::Connect()
     if (result < 0) {
         return result;
     }
-    // The system wants an int there and refuses one byte. A client does without the option.
+    // The option requires an int, so the system rejects one byte. A client does not need the option.
     const char on = 1;
     m_pComm->SetSockOpt(SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     result = m_pComm->Connect(m_strServerAddress.c_str(), m_wPort, m_dwConTimeoutMilliSec);

@@ -1,4 +1,4 @@
-// A connection that remembers its peer and stays open from one request to the next.
+// A connection to one server that stays open between requests.
 #pragma once
 
 #include "Socket.h"
@@ -6,7 +6,7 @@
 #include <string>
 
 /// Open once, then any number of Connect, reads, writes and Shutdown, then Close. All results are internet
-/// results; everything but Open gives -3 before it. One thread at a time.
+/// results; before Open, every other function returns -3. One thread at a time.
 class CInternetCon
 {
 public:
@@ -15,19 +15,18 @@ public:
     CInternetCon& operator=(const CInternetCon&) = delete;
     virtual ~CInternetCon();
 
-    /// Makes the transport and touches no network. `bSSL` is not looked at: there is no secured transport.
+    /// Creates the transport without network traffic. `bSSL` is ignored: there is no secure transport.
     int Open(const char* pszServerAddress, WORD wPort, BOOL bSSL);
     int Close();
-    /// Milliseconds for a connect.
+    /// Milliseconds allowed for a connect.
     int SetTimeout(DWORD dwMilliSec);
-    /// Milliseconds of silence before each read.
+    /// Milliseconds of silence allowed before each read.
     int SetNoCommTimeout(DWORD dwMilliSec);
-    /// Does nothing while the connection counts as alive: that the peer has gone shows in the next read or
-    /// write.
+    /// Does nothing while the connection counts as open: the next read or write reports a lost peer.
     int Connect();
     /// Closes the socket; the next Connect opens another.
     int Shutdown();
-    /// 0 when all is read. Of a peer that closed, the connection knows afterwards that it is no more.
+    /// 0 if all bytes were read. If the peer has closed the connection, it no longer counts as open.
     int ReadToCount(char* pBuf, int nCount);
     int WriteToCount(const char* pData, int nCount);
     /// See IInternetComm; before Open it does nothing.

@@ -1,4 +1,4 @@
-// Job control under the id that the submitter gave to a job. Nobody counts these operations, and a connection
+// Job control by the id that the submitter gave to a job. These operations are not counted, and a connection
 // that is being closed does not refuse them.
 #include "Operation.h"
 

@@ -1,4 +1,4 @@
-// What a client makes a server do with a job.
+// Operations of a client on a job of the server.
 #include "LogManager.h"
 #include "Operation.h"
 
@@ -11,7 +11,7 @@ const char* const pszJobControlQueryValueConst[7] = {"0", "1", "2", "3", "6", "4
 
 namespace {
 
-/// What a submission ends with. `logFailure` gets the text of the code.
+/// Ends a submission. `logFailure` receives the text of the code.
 DWORD EndSubmission(const char* pszOperation, DWORD dwHandle, int nServerJobID, JobControlType eType,
                     NCLNumberedLine start, NCLLine end, const std::function<void(const char*)>& logFailure)
 try {
@@ -39,7 +39,6 @@ struct MonitorLines
     NCLLine end;
 };
 
-/// One of the operations of a monitor.
 DWORD ControlForMonitor(const char* pszOperation, DWORD dwHandle, int nServerJobID, JobControlType eType,
                         const char* pszUserName, const char* pszPassword, const MonitorLines& lines)
 try {

@@ -1,4 +1,4 @@
-// The numbers that a server gives its jobs, in the client's own.
+// Converts the numbers in a server's job records to the client's constants.
 #include "NW_Com_Lib_internal.h"
 
 #include <iterator>
@@ -19,7 +19,7 @@ namespace {
 constexpr WORD STACKER_NOT_SET = 0xFFFF;
 constexpr DWORD FIRST_SPECIAL_PRINT_MODE = 4;
 
-/// What a job status, factor or type beyond its table reads as. It passes on to the caller as a value.
+/// The result for a job status, factor or type beyond its table. The caller receives it as a value.
 constexpr int BEYOND_TABLE = 13;
 
 } // namespace
@@ -29,7 +29,7 @@ int ConvertJobStatus(DWORD dwValue)
     if (dwValue <= NCL_JOB_STATUS_FINISHED) {
         return static_cast<int>(dwValue);
     }
-    // The server knows no end with a warning, and so has one number less.
+    // The server has no status for an end with a warning, so its number for a cancelled job is one lower.
     return dwValue == 9 ? static_cast<int>(NCL_JOB_STATUS_CANCELLED) : BEYOND_TABLE;
 }
 

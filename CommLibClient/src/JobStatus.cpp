@@ -1,4 +1,4 @@
-// How many jobs a server holds, and how they stand.
+// The number of jobs on a server, and their status.
 #include "BigEndian.h"
 #include "Operation.h"
 
@@ -9,8 +9,8 @@ namespace {
 const char* const jobNumberQueryValues[] = {"0", "1", "2"};      ///< by NCL_JNT_
 const char* const jobStatusQueryValues[] = {"1", "2", "0", "3"}; ///< by NCL_JST_
 
-/// Asks for a list and fills the records with it, `*pdwCount` of them. Before that it clears `clearSize`
-/// bytes of each, side by side from the array's begin on. `unpack` fills one record from an item.
+/// Requests a list and fills `*pdwCount` records from it. Before that, clears `clearSize` * `dwLength` bytes
+/// from the start of the array. `unpack` fills one record from an item.
 template <class Record, class Unpack>
 DWORD ListJobs(NCLOperation& operation, DWORD dwType, Record* pJobs, DWORD dwLength, size_t clearSize,
                DWORD* pdwCount, const NCLExchangeLines& lines, NCLNumberedLine invalid, Unpack unpack)
@@ -122,7 +122,7 @@ try {
     DWORD result = operation.Enter(dwType <= NCL_JST_PROCESS_JOB_EX && pJobStatusArrayOut != nullptr &&
                                    pdwGetLengthOut != nullptr);
     if (result == NCL_SUCCESS) {
-        // Callers rely on it: what lies behind the smaller records is theirs.
+        // Callers rely on this: the bytes after an array of the smaller records are not cleared.
         const size_t clearSize = dwType == NCL_JST_PROCESS_JOB_EX ? sizeof(JobStatusEx) : sizeof(JobStatus);
         result = ListJobs(operation, dwType, pJobStatusArrayOut, dwLength, clearSize, pdwGetLengthOut,
                           {.request = "\t## trace ## GetJobStatusEx SendRequest() %s",

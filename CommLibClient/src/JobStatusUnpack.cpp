@@ -1,4 +1,4 @@
-// A job as the server sends it: numbers high byte first, texts in UTF-16 with the low byte first.
+// Decodes a job as the server sends it: numbers are big-endian, texts are little-endian UTF-16.
 #include "BigEndian.h"
 #include "NW_Com_Lib_internal.h"
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// Where the fields lie.
+// Offsets of the fields in bytes.
 constexpr size_t STATUS_AT = 0;
 constexpr size_t FACTOR_AT = 1;
 constexpr size_t PUBLICATION_NUMBER_AT = 2;
@@ -39,7 +39,7 @@ constexpr DWORD HISTORY_WRITE_ERROR = 0x1;
 constexpr DWORD HISTORY_COVER_OPEN = 0x2;
 constexpr DWORD HISTORY_STACKER4_OPEN = 0x4;
 
-/// Factors that turn a cancelled job into one that failed: nobody cancelled it, the device gave up.
+/// Factors that turn a cancelled job into a failed one: the device aborted it, not a user.
 constexpr DWORD fatalFactors[] = {
     NCL_JOB_STATUS_FACTOR_ERR_OFFLINE,          NCL_JOB_STATUS_FACTOR_ERR_DISC_PICK,
     NCL_JOB_STATUS_FACTOR_ERR_DISC_DROP,        NCL_JOB_STATUS_FACTOR_ERR_DISC_SUPPLY,
@@ -50,8 +50,8 @@ constexpr DWORD fatalFactors[] = {
     NCL_JOB_STATUS_FACTOR_ERR_ALD_FATAL,        NCL_JOB_STATUS_FACTOR_ERR_CONDITION_FAILURE,
 };
 
-/// Copies a text of `size` bytes, in UTF-8 and without a closing zero byte; an odd byte at its end is no
-/// text.
+/// Converts a text of `size` bytes to UTF-8 and copies it without a terminating zero byte. An odd last byte
+/// is ignored.
 template <size_t N>
 void CopyText(const BYTE* wire, size_t size, char (&text)[N])
 {
@@ -64,7 +64,7 @@ void CopyText(const BYTE* wire, size_t size, char (&text)[N])
     std::memcpy(text, utf8.data(), std::min(utf8.size(), N - 1));
 }
 
-/// The status in the light of what else is known of the job.
+/// The status, corrected by the other fields of the job.
 DWORD RefinedStatus(DWORD status, DWORD factor, bool isComplete, DWORD history)
 {
     if (status == NCL_JOB_STATUS_FINISHED && isComplete && history != 0) {
@@ -77,7 +77,7 @@ DWORD RefinedStatus(DWORD status, DWORD factor, bool isComplete, DWORD history)
     return status;
 }
 
-/// Of a record whose size is known to be good.
+/// Unpacks a record whose size has been checked.
 template <class Record>
 JobRecordCheck Unpack(const char* data, Record& job)
 {

@@ -1,4 +1,4 @@
-// A job on its way to the server, file by file. The disc image has a file of its own.
+// Submits a job to the server, file by file. DiscImage.cpp sends the disc image.
 #include "BigEndian.h"
 #include "LogManager.h"
 #include "Operation.h"
@@ -17,7 +17,7 @@ struct RegisterLines
     NCLLine uploadDir;
 };
 
-/// Registers a job and makes its folder.
+/// Registers a job and creates its folder.
 DWORD RegisterJob(NCLOperation& operation, const NCLRequest& request, int* pnServerJobID,
                   std::string& rstrUserName, std::string& rstrPassword, const RegisterLines& lines)
 {
@@ -52,7 +52,7 @@ struct PrnDataLines
     NCLNumberedLine end;
 };
 
-/// One more file of print data. The end line tells the result, also a failure.
+/// Sends one file of print data. The end line contains the result, even of a failure.
 DWORD SendOnePrnData(const char* pszOperation, DWORD dwHandle, int nServerJobID, const BYTE* pPrnData,
                      DWORD dwSendSize, std::optional<DWORD> index, const PrnDataLines& lines)
 try {
@@ -188,7 +188,7 @@ DWORD SendPrnDataBase(ST_NCL* pNCL, int nServerJobID, const BYTE* pPrnData, DWOR
     if (result != NCL_SUCCESS) {
         return result;
     }
-    char name[32]; // ten digits at the most
+    char name[32]; // an index has at most ten digits
     snprintf(name, sizeof name, "PrnData_%03u.prn", dwIndex);
     upload.pszFileName = name;
     ++pNCL->m_unPrnIndex;
@@ -232,7 +232,7 @@ try {
         }
     } else {
         MessageDigest md(BCH_HASH_TYPE_SHA1);
-        // A failed digest is logged under the name of SendDiscInfo: those who read the log look for that.
+        // A failed digest is logged under the name of SendDiscInfo, which readers of the log expect.
         result = SendHashOfUpload(pNCL, upload, md, result,
                                   {.digest = "\t## trace ## SendDiscInfo md.Update %s(%d)",
                                    .hash = "\t## trace ## SendSpecialJobData SendHash() %s"});

@@ -4,7 +4,7 @@
 
 namespace {
 
-// The priorities of syslog, whose own names are those of the operations here.
+// The priorities of syslog. The macros of syslog have the names of the operations here.
 constexpr int PRIORITY_ERR = 3;
 constexpr int PRIORITY_WARNING = 4;
 constexpr int PRIORITY_INFO = 6;

@@ -1,14 +1,14 @@
 // The log of the network client: each message goes to syslog, under the program's own name.
 #pragma once
 
-// Its priorities are macros with the names of the operations below. They are taken in first, so that no later
-// include brings them back, and then given up.
+// The priorities of syslog are macros with the names of the operations below. The header is included first,
+// so that no later include defines them again, and then they are undefined.
 #include <syslog.h>
 #undef LOG_ERR
 #undef LOG_INFO
 #undef LOG_DEBUG
 
-/// For whoever wants to hear of messages.
+/// Receives messages.
 class INotifyLog
 {
 public:
@@ -16,7 +16,7 @@ public:
     virtual void Notify(const char* pszMsg) = 0;
 };
 
-/// Has no state: a caller makes one for a message, or for the length of an operation. Any thread may.
+/// Stateless: a caller creates one per message or per operation. Any thread may use one.
 class CLogManager : public INotifyLog
 {
 public:
@@ -25,8 +25,8 @@ public:
     /// Does nothing.
     void Notify(const char* pszMsg) override;
 
-    // Each passes its printf format and arguments on; nobody calls openlog, so ident and facility are the
-    // system's. A null text goes to the system's formatting as it is.
+    // Each passes its printf format and arguments to syslog. openlog is never called, so ident and facility
+    // are the defaults of the system. A null text is passed to the formatting of the system unchanged.
     void LOG_ERR(const char* msg, ...) __attribute__((format(printf, 2, 3)));
     void LOG_WARN(const char* msg, ...) __attribute__((format(printf, 2, 3)));
     void LOG_INFO(const char* msg, ...) __attribute__((format(printf, 2, 3)));

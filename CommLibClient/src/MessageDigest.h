@@ -1,4 +1,4 @@
-// The digests that go with uploaded files. The hash functions are those of libmd.
+// The digests of uploaded files. libmd provides the hash functions.
 #pragma once
 
 #include "NW_Com_LibConst.h"
@@ -19,17 +19,17 @@ public:
     MessageDigestIF(const MessageDigestIF&) = delete;
     MessageDigestIF& operator=(const MessageDigestIF&) = delete;
 
-    /// 0 always.
+    /// Always returns 0.
     virtual DWORD Update(const uint8_t* input, size_t len) = 0;
-    /// 0 always.
+    /// Always returns 0.
     virtual DWORD Final(std::vector<unsigned char>& vHash) = 0;
-    /// Final, as Encode writes it.
+    /// Calls Final and returns the digest as Encode writes it.
     virtual std::string End();
-    /// The name under which the server knows the hash.
+    /// The server's name for the hash.
     virtual std::string GetTypeName() = 0;
     virtual ~MessageDigestIF() = default;
 
-    /// Two lower-case hexadecimal digits a byte.
+    /// Two lower-case hexadecimal digits per byte.
     std::string Encode(const std::vector<unsigned char>& vHash);
 };
 
@@ -78,12 +78,12 @@ public:
     std::string GetTypeName() override;
 };
 
-/// The digest of a BCH_HASH_TYPE_ value: SHA-1 and SHA-256 by theirs, MD5 by any other.
+/// The digest selected by a BCH_HASH_TYPE_ value: SHA-1, SHA-256, or MD5 for any other value.
 class MessageDigest : public MessageDigestIF
 {
 public:
     explicit MessageDigest(DWORD nHashType);
-    /// Starts anew, with this kind.
+    /// Starts a new digest of this type.
     void Init(DWORD nHashType);
     DWORD Update(const uint8_t* input, size_t len) override;
     DWORD Final(std::vector<unsigned char>& vHash) override;

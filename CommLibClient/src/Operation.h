@@ -1,4 +1,4 @@
-// What all operations on a handle share, from the start line in the log to the end line.
+// The steps common to all operations on a handle, from the start line in the log to the end line.
 //
 //     NCLOperation operation(dwHandle, NCLOperation::QUERY, "%s , GetSomething , Start");
 //     DWORD result = operation.Enter(pOut != nullptr);
@@ -22,13 +22,13 @@
 #include <new>
 #include <optional>
 
-/// Finds the object behind a handle, and keeps EndConnection from destroying it meanwhile.
+/// Finds the object of a handle, and prevents EndConnection from destroying it while the guard exists.
 class NCLGuard
 {
 public:
     explicit NCLGuard(DWORD dwHandle);
 
-    /// Null when the handle names nothing.
+    /// Null if the handle is invalid.
     ST_NCL* Object() const
     {
         return m_pNCL;
@@ -39,14 +39,14 @@ private:
     std::optional<CAutoRefCounter<std::atomic<int>>> m_counter;
 };
 
-/// Lets no new operation start on the object, and waits until none is in progress. It does not sleep: the
-/// wait is meant to be short.
+/// Refuses new operations on the object, and waits until none is in progress. The wait spins, because it is
+/// expected to be short.
 void StopOperations(ST_NCL& ncl);
-/// Closes and destroys an object on which no operation starts any more, and frees its entry.
+/// Closes and destroys an object that refuses new operations, and frees its entry.
 void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL);
 
-/// Leaves an object whose handle no caller was given in the table, with its connection open, until its entry
-/// is needed.
+/// Leaves an object whose handle was not returned to a caller in the table, with its connection open, until
+/// its entry is needed.
 void LeaveUnclaimed(ST_NCL& ncl);
 /// Destroys the oldest unclaimed object and frees its entry. False if there is none.
 bool DestroyOldestUnclaimedNCL();
@@ -54,10 +54,10 @@ bool DestroyOldestUnclaimedNCL();
 /// A server of unknown kind that answers counts as NCL_NPTYPE_300NII from then on.
 void NoteAnswer(ST_NCL& ncl);
 
-/// What every request calls its server, whatever its address.
+/// The Host header of every request, whatever the address of the server.
 inline constexpr char HOST_OF_REQUESTS[] = "localhost";
 
-/// A request to the server. The body belongs to the caller.
+/// A request to the server. The caller owns the body.
 struct NCLRequest
 {
     std::string path;
@@ -68,7 +68,7 @@ struct NCLRequest
     DWORD option = 0; ///< a set of SEND_OPTION_ values
 };
 
-/// Sends the request in the one form that the servlets know, without credentials or further headers.
+/// Sends the request in the form that the servlets expect, without credentials or further headers.
 DWORD SendRequest(ST_NCL* pNCL, const NCLRequest& request, ST_HTTP_RESPONSE* pstHttpRes);
 
 /// Logs that a callee failed, with the text of the code, which is the result.
@@ -78,7 +78,8 @@ DWORD LogInvalid(NCLLine line);
 /// The same, with the number of the check, counted from 1.
 DWORD LogInvalid(NCLNumberedLine line, int nCheck);
 
-/// Logs that an allocation failed in a public operation. NCL_ERR_GET_MEMORY. No exception leaves the library.
+/// Logs that an allocation failed in a public operation. Returns NCL_ERR_GET_MEMORY. No exception leaves the
+/// library.
 DWORD OutOfMemory(const char* pszOperation);
 
 /// The lines of an exchange that fails.
@@ -104,9 +105,9 @@ public:
     NCLOperation(const NCLOperation&) = delete;
     NCLOperation& operator=(const NCLOperation&) = delete;
 
-    /// NCL_SUCCESS when there is an object that is not being closed and the operation's own arguments are
-    /// good; otherwise the result for bad parameters, logged. Nothing below may be called without it.
-    /// (Here, so that the static analysis sees what it promises of the arguments.)
+    /// NCL_SUCCESS if there is an object that is not being closed and the arguments of the operation are
+    /// good; otherwise logs bad parameters and returns NCL_ERR_PARAMETER. The functions below require
+    /// success. (Defined here, so that the static analysis sees what it guarantees about the arguments.)
     DWORD Enter(bool areArgumentsGood)
     {
         if (!areArgumentsGood || !MayStart()) {
@@ -116,7 +117,7 @@ public:
         return NCL_SUCCESS;
     }
 
-    /// Null when the handle names nothing.
+    /// Null if the handle is invalid.
     ST_NCL* Object() const
     {
         return m_guard.Object();
@@ -126,12 +127,12 @@ public:
     /// logged.
     DWORD Exchange(const NCLRequest& request, DWORD dwItemCount, const NCLExchangeLines& lines);
 
-    /// The reply, good as long as the operation.
+    /// The items of the reply, valid as long as the operation exists.
     std::list<ST_COMM_REPLY>& Items()
     {
         return m_items;
     }
-    /// The first item, which there must be.
+    /// The first item, which must exist.
     const ST_COMM_REPLY& Item() const
     {
         return m_items.front();

@@ -1,4 +1,5 @@
-// The id of a new job. The server hands out each once, so one that did not fit waits for the next call.
+// The id of a new job. The server returns each id only once, so an id that did not fit is kept for the next
+// call.
 #include "LogManager.h"
 #include "Operation.h"
 
@@ -6,7 +7,7 @@
 
 namespace {
 
-/// False, with the size needed, when the id and a zero byte do not fit.
+/// False, with the size needed, if the id and a zero byte do not fit.
 bool CopyID(const std::string& id, char* pszOut, DWORD dwSize, DWORD* pdwNeedSize)
 {
     if (dwSize < id.size() + 1) {

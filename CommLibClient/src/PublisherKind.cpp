@@ -1,4 +1,4 @@
-// What this computer knows of a server before it is asked: its kind, in its setting file, and a switch in the
+// Facts about a server that are stored on this computer: its kind in its setting file, and a switch in the
 // registry.
 #include "NW_Com_Lib_internal.h"
 #include "PubMgrConst.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Readers find this section and "Common" alike; writers keep them apart by their case.
+/// Reading ignores the case of section names and also finds "Common"; writing distinguishes the two.
 constexpr char NPTYPE_SECTION[] = "COMMON";
 
 } // namespace

@@ -28,7 +28,7 @@ const char* const NCL_SERVER_ERROR_STRING[13] = {
     "Spool Job Limit",
 };
 
-// The numbers of the servlets and the codes part ways at 9.
+// The numbers of the servlets and the codes differ from 9 on.
 const DWORD SERVLET_ERR[14] = {
     NCL_SUCCESS,
     NCL_ERR_APP_VERSION,
@@ -65,8 +65,8 @@ const char* const SERVLET_ERR_STRING[14] = {
 
 namespace {
 
-/// By the absolute value of an internet result. The numbers that no result of this client has are those of a
-/// secured transport.
+/// By the absolute value of an internet result. The numbers that no result of this client has belong to a
+/// secure transport.
 const DWORD internetErrors[] = {
     NCL_SUCCESS,
     NCL_ERR_UNNAMED,             // 1

@@ -1,4 +1,4 @@
-// The one way of all requests, and the request that comes before all jobs.
+// Sends all requests of the library, and checks the interface version before all jobs.
 #include "LogManager.h"
 #include "Operation.h"
 
@@ -6,7 +6,7 @@ namespace {
 
 constexpr char FORM_HEADER[] = "Content-Type:application/x-www-form-urlencoded\r\n";
 
-/// What the loss of an open connection looks like from below.
+/// Whether a code of the HTTP client means the loss of an open connection.
 bool IsConnectionLost(DWORD code)
 {
     return code == NCL_ERR_COMMUNICATION || code == NCL_ERR_NETWORK_TIMEOUT ||
@@ -33,7 +33,7 @@ DWORD SendRequest(ST_NCL* pNCL, CHttp::METHOD eMethod, const char* pszPath, CHtt
     }
     CHttp* const http = eCommType == COMM_TYPE_HTTPS ? pNCL->m_pHttpSecure : pNCL->m_pHttp;
     if (http == nullptr) {
-        return ReturnErrParam(); // nobody asks for a connection that there is not
+        return ReturnErrParam(); // no caller requests a connection that does not exist
     }
 
     pstHttpRes->Init();

@@ -1,18 +1,18 @@
-// Every connection searches the setting files for the address of its server. What was read of them is kept,
-// so that the search does not depend on their number.
+// Every connection searches the setting files for the address of its server. Their contents are cached, so
+// that the cost of a search does not depend on their number.
 //
-// What is kept is used only while it is current, so that every change is seen by the next search. Identity,
-// size and times of the folder and of the files found are compared each time. But any other file may have
-// been rewritten in place, so that it names the server now and comes first. Comparing the times of 1000 files
-// takes 1 ms, and a poll searches six times; so the changes of the other files are taken from the kernel's
-// reports.
+// A cache entry is used only while it is current, so that the next search sees every change. Each search
+// compares the identity, size and times of the folder and of the files found. However, any other file may
+// have been rewritten in place, so that it now names the server and comes first. Comparing the times of 1000
+// files takes 1 ms, and a poll searches six times, so the changes of the other files are taken from the
+// reports of the kernel.
 //
-// Reports are trusted only where they are complete: on file systems of this computer, for files that are no
-// links and have one name. All other files are compared each time, and so is every file where the kernel
-// reports nothing. A file that was changed so recently that its times do not tell a further change is read
-// each time, unless its changes are reported. Changes that FolderWatch does not report are seen when
-// something else changes. Setting files are not written in these ways. The outcome would be a kind remembered
-// for a later file that names the same server.
+// Reports are trusted only where they are complete: on local file systems, for files that are not links and
+// have one name. All other files are compared each time, and so is every file where the kernel reports
+// nothing. A file that changed so recently that its times may not show a further change is read each time,
+// unless its changes are reported. Changes that FolderWatch does not report are seen when something else
+// changes. Setting files are not written in these ways. The consequence would be a kind stored in a later
+// file that names the same server.
 #include "ServerFiles.h"
 
 #include "FileStamp.h"
@@ -35,11 +35,11 @@
 
 namespace {
 
-/// Identity, size and times of what lies at a path now.
+/// The current identity, size and times of the file or folder at a path.
 struct State
 {
     FileStamp stamp;
-    bool isSettled = false; ///< a later change leaves another stamp
+    bool isSettled = false; ///< a later change results in a different stamp
     bool hasOneName = false;
 };
 
@@ -63,14 +63,14 @@ bool IsTransient(int error)
 struct KnownFile
 {
     std::string path;
-    unsigned char type = DT_UNKNOWN; ///< as the folder lists it
-    std::optional<State> state;      ///< when the file was read; none: it is to be read
+    unsigned char type = DT_UNKNOWN; ///< from the list of the folder
+    std::optional<State> state;      ///< when the file was read; none: it must be read
     bool isReported = false;         ///< every change is reported
     std::string address;             ///< empty: it names no server
     unsigned int kind = 0;
 };
 
-/// The setting files with what was read of them. Under a lock of the caller's.
+/// The setting files and their cached contents. The caller holds a lock.
 class SettingFolder
 {
 public:
@@ -97,7 +97,8 @@ public:
     }
 
 private:
-    /// Brings everything up to date but the files whose changes are reported. False without a folder.
+    /// Updates the list, the files with reported changes, and the files whose changes are not reported.
+    /// False if there is no folder.
     bool Update()
     {
         const std::optional<State> folder = StateOf(PUBLISHER_SETTING_DIR);
@@ -118,7 +119,7 @@ private:
         for (const size_t place : std::exchange(m_changed, {})) {
             KnownFile& file = m_files[place];
             isAddressChanged = UpdateFile(file) || isAddressChanged;
-            if (file.isReported && !AreChangesReported(file)) { // it has another name now
+            if (file.isReported && !AreChangesReported(file)) { // it has a second name now
                 file.isReported = false;
                 m_unreported.push_back(place);
             }
@@ -132,7 +133,7 @@ private:
         return true;
     }
 
-    /// Takes the list of files anew, and keeps what is known of those whose stamps are the same.
+    /// Lists the files again, and keeps the cached contents of those whose stamps are unchanged.
     bool List(const State& folder)
     {
         m_folder.reset();
@@ -151,7 +152,7 @@ private:
         m_changed.clear();
         while (const dirent* entry = readdir(directory.get())) {
             std::string path = std::string(PUBLISHER_SETTING_DIR) + "/" + entry->d_name;
-            // A path beyond the limit of the suite's programs names no publisher.
+            // The programs of the suite do not support a longer path, so it names no publisher.
             if (entry->d_name[0] == '.' || path.size() >= size_t{MAX_PATH}) {
                 continue;
             }
@@ -193,16 +194,16 @@ private:
         }
     }
 
-    /// Reads the file unless what is known of it is current. True when its address changed.
+    /// Reads the file unless its cached contents are current. True if its address changed.
     bool UpdateFile(KnownFile& file)
     {
-        const std::optional<State> now = StateOf(file.path.c_str()); // before it is read: a change between
+        const std::optional<State> now = StateOf(file.path.c_str()); // before reading, to miss no change
         const bool isCurrent = now && file.state && file.state->stamp == now->stamp &&
                                (file.state->isSettled || file.isReported);
         if (isCurrent) {
             return false;
         }
-        const ErrnoKeeper keeper; // an ERANGE of a kind must not fail the next Content-Length
+        const ErrnoKeeper keeper; // an ERANGE of a kind would make the next Content-Length fail
         const std::string before = std::exchange(file.address, "");
         file.kind = NCL_NPTYPE_UNKNOWN;
         file.state.reset();
@@ -213,9 +214,9 @@ private:
         file.state = now;
         if (text != nullptr) {
             file.address = text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_HOST, 259);
-            // The reader finds the section in any case of its name.
+            // Reading ignores the case of section names.
             const std::string kind = text->Value(REG_PUB_SETUP_SECTION_COMMON, REG_PUB_SETUP_VAL_NPTYPE, 31);
-            const auto number = static_cast<unsigned int>(std::atoi(kind.c_str())); // a negative one is none
+            const auto number = static_cast<unsigned int>(std::atoi(kind.c_str())); // negative: unknown
             file.kind = number <= NCL_NPTYPE_300NII_BDXL ? number : NCL_NPTYPE_UNKNOWN;
         }
         return file.address != before;
@@ -232,7 +233,7 @@ private:
     }
 
     FolderWatch m_watch;
-    std::optional<State> m_folder;  // when it was listed; none: it is to be listed
+    std::optional<State> m_folder;  // when it was listed; none: it must be listed
     std::vector<KnownFile> m_files; // in the order of the list
     std::vector<size_t> m_unreported;
     std::vector<size_t> m_changed; // to be read again
@@ -244,7 +245,7 @@ private:
 
 std::vector<ServerFile> FilesOfServer(const std::string& address)
 {
-    // Never destroyed: a thread that is still at work when the process ends may use them.
+    // Never destroyed: a thread that still runs at process exit may use them.
     static auto& guard = *new std::mutex;
     static auto& folder = *new std::optional<SettingFolder>;
     const std::lock_guard lock(guard);

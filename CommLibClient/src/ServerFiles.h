@@ -1,4 +1,4 @@
-// Which setting files name a server.
+// Finds the setting files that name a server.
 #pragma once
 
 #include <string>
@@ -10,6 +10,6 @@ struct ServerFile
     unsigned int kind = 0; ///< NCL_NPTYPE_*, as stored in the file
 };
 
-/// The setting files that name the server, in the order in which the folder lists them. The addresses are
-/// compared byte by byte. Any thread.
+/// The setting files that name the server, in the order in which the folder lists them. Addresses are
+/// compared byte by byte. Any thread may call it.
 std::vector<ServerFile> FilesOfServer(const std::string& address);

@@ -22,13 +22,14 @@ namespace {
 constexpr int SEND_BUFFER_SIZE = 32768;
 constexpr int LARGEST_PIECE = SEND_BUFFER_SIZE - 1;
 
-// What puts a descriptor into the three sets of select.
+// The events that put a descriptor in the three sets of select.
 constexpr short IN_READ_SET = POLLIN | POLLRDNORM | POLLRDBAND | POLLHUP | POLLERR;
 constexpr short IN_WRITE_SET = POLLOUT | POLLWRNORM | POLLWRBAND | POLLERR;
 constexpr short IN_EXCEPT_SET = POLLPRI;
 
-/// select on one descriptor, in the sets of `sets`: its result, and in `found` what is in which. It is ppoll
-/// that waits: select takes no descriptor above 1023, and a program with many open files has them.
+/// select on one descriptor for the events in `sets`: returns the result of select, and in `found` the events
+/// that occurred. Uses ppoll, because select accepts no descriptor above 1023, which a program with many open
+/// files has.
 int Select(SOCKET descriptor, short sets, DWORD milliseconds, short* found)
 {
     pollfd entry{descriptor, sets, 0};
@@ -40,13 +41,14 @@ int Select(SOCKET descriptor, short sets, DWORD milliseconds, short* found)
         return -1;
     }
     if (ready > 0 && *found == 0) {
-        // A lost connection, which ppoll reports unasked and the exception set does not know.
+        // A lost connection: ppoll always reports it, but the exception set does not include it, so select
+        // would wait for the timeout.
         return ppoll(nullptr, 0, &limit, nullptr);
     }
     return ready;
 }
 
-/// The first IPv4 address of a name; false, with the system's error, when there is none.
+/// Finds the first IPv4 address of a name. False, with errno set by the system, if there is none.
 bool FindHost(const char* name, in_addr* address)
 {
     const int before = errno;
@@ -54,7 +56,7 @@ bool FindHost(const char* name, in_addr* address)
     hostent entry{};
     hostent* found = nullptr;
     int reason = 0;
-    // Several connections look up names at the same time.
+    // The reentrant call, because several connections look up names at the same time.
     while (gethostbyname_r(name, &entry, buffer.data(), buffer.size(), &found, &reason) == ERANGE) {
         buffer.resize(buffer.size() * 2);
     }
@@ -62,11 +64,11 @@ bool FindHost(const char* name, in_addr* address)
         return false;
     }
     memcpy(address, found->h_addr_list[0], sizeof *address);
-    errno = before; // a buffer that was too small at first left its mark
+    errno = before; // a first buffer that was too small has changed it
     return true;
 }
 
-/// A failure means no more than that a small write waits for its turn.
+/// A failure only delays small writes.
 void SendAtOnce(SOCKET descriptor)
 {
     const ErrnoKeeper keeper;
@@ -153,7 +155,7 @@ int CSocket::Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec)
     if (ready == 0) {
         return INTERNET_ERR_NO_COMM;
     }
-    // A failed wait leaves the sets as they were filled: whether there is a connection, the socket knows.
+    // A failed select leaves its sets unchanged, so SO_ERROR decides whether there is a connection.
     if (ready > 0 && (found & (IN_READ_SET | IN_WRITE_SET)) == 0) {
         return INTERNET_ERR_CONNECT;
     }
@@ -203,7 +205,7 @@ int CSocket::Read(char* pBuf, int nSize)
     return count;
 }
 
-/// One recv: its count, or the result of its failure.
+/// Calls recv once. Returns its count, or the result for its failure.
 int CSocket::Receive(char* pBuf, int nSize)
 {
     const ssize_t count = recv(m_Sock, pBuf, static_cast<size_t>(nSize), 0);
@@ -216,7 +218,7 @@ int CSocket::Receive(char* pBuf, int nSize)
         return INTERNET_ERR_CLOSED;
     }
     if (errno == EAGAIN) {
-        // The words and the result of a failed connect: that is how this line is known.
+        // The line and the result are those of a failed connect. Readers of the log expect this line.
         log.LOG_WARN("CSocket::Connect connect() error = %d", errno);
         return INTERNET_ERR_CONNECT;
     }
@@ -265,8 +267,8 @@ int CSocket::Write(const char* pData, int nSize)
     return INTERNET_ERR_SEND;
 }
 
-/// Whether the connection is open and nothing waits to be received. A write to a peer that has closed it must
-/// leave at once: the peer answers with a reset, and it is the write that follows which reports it.
+/// Whether the connection is open and no data is pending. A write to a peer that has closed the connection
+/// must be sent at once: the peer answers with a reset, which the next write reports.
 bool CSocket::IsPeerSilent() const
 {
     pollfd entry{m_Sock, POLLIN, 0};

@@ -1,7 +1,7 @@
-// The stream socket under the network client, and the interface behind which it stands.
+// The stream socket of the network client, and its interface.
 //
-// Every operation reports by an internet result (InternetResult.h). A null buffer, address or text is a
-// programming error and stops the process. No object here may be used by two threads at once.
+// Every operation returns an internet result (InternetResult.h). A null buffer, address or text is a
+// programming error and stops the process. Two threads must not use an object at the same time.
 #pragma once
 
 #include "Win_def.h"
@@ -10,7 +10,7 @@
 
 using SOCKET = int;
 
-/// A transport: something that is opened, connected, read and written.
+/// A transport that can be opened, connected, read and written.
 class IInternetComm
 {
 public:
@@ -20,11 +20,11 @@ public:
     /// Waits at most `dwMilliSec` for the peer.
     virtual int Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec) = 0;
     virtual int Shutdown(int nHow) = 0;
-    /// One read: the count, which may be less than `nSize`.
+    /// Reads once. Returns the count, which may be less than `nSize`.
     virtual int Read(char* pBuf, int nSize) = 0;
-    /// Reads until `nCount` bytes are there. The silence limit holds for each wait, not for the whole.
+    /// Reads `nCount` bytes. The silence limit applies to each wait, not to the whole.
     virtual int ReadToCount(char* pBuf, int nCount) = 0;
-    /// One write: the count, which may be less than `nSize`.
+    /// Writes once. Returns the count, which may be less than `nSize`.
     virtual int Write(const char* pData, int nSize) = 0;
     virtual int WriteToCount(const char* pData, int nCount) = 0;
     /// 0 as soon as there is something to read.
@@ -33,8 +33,8 @@ public:
     /// The longest silence allowed before each read.
     virtual int SetNoCommTimeout(DWORD dwMilliSec) = 0;
 
-    /// A promise of the caller: while set, each write is followed by another one at once. The transport may
-    /// hold back the first, so that both share a packet.
+    /// While set, the caller follows each write immediately with another. The transport may hold back the
+    /// first, so that both share a packet.
     void SetMoreFollows(bool bMore)
     {
         m_bMoreFollows = bMore;
@@ -44,10 +44,9 @@ protected:
     bool m_bMoreFollows = false;
 };
 
-/// A socket of the system, IPv4 only. Small reads are served from a buffer that takes in whatever has
-/// arrived, so that a reply head costs few system calls although it is read byte by byte. What goes wrong
-/// goes to the log as a warning, with the number of the system's error; a wait for a connection that was in
-/// vain does not.
+/// A socket of the system, IPv4 only. Small reads are served from a buffer of the bytes that have arrived, so
+/// that a reply head costs few system calls although it is read byte by byte. Failures are logged as
+/// warnings with errno, except a connect that fails while waiting for the connection.
 class CSocket : public IInternetComm
 {
 public:
@@ -63,27 +62,27 @@ public:
     CSocket& operator=(const CSocket&) = delete;
     ~CSocket() override;
 
-    /// The descriptor is closed on exec, and is none of the standard streams.
+    /// The descriptor is closed on exec, and is not one of the standard streams.
     int Open(int nSocketFamily, int nSocketType) override;
     int Close() override;
-    /// By name or dotted address. The socket blocks again afterwards, and sends each write at once unless
-    /// more follows: a body never waits for the peer's acknowledgement of its head.
+    /// Connects by name or dotted address. Afterwards the socket is blocking again, and sends each write at
+    /// once unless more follows: a body never waits for the acknowledgement of its head.
     int Connect(const char* pszServerAddress, WORD wPort, DWORD dwMilliSec) override;
     int Shutdown(int nHow) override;
     int Read(char* pBuf, int nSize) override;
     int ReadToCount(char* pBuf, int nCount) override;
-    /// A write to a peer that is gone is an error like another: WinFunc sets SIGPIPE aside.
+    /// Writing to a lost peer is an ordinary error: WinFunc ignores SIGPIPE.
     int Write(const char* pData, int nSize) override;
-    /// In pieces below the size of the send buffer; the total, or the first failure.
+    /// Writes in pieces below the size of the send buffer. Returns the total, or the first failure.
     int WriteToCount(const char* pData, int nCount) override;
     int PollRead(DWORD dwTimeoutMilliSec) override;
     int SetSockOpt(int nLevel, int nOptName, const char* pOptVal, int nOptLen) override;
     int SetNoCommTimeout(DWORD dwMilliSec) override;
 
-    /// The outcomes of select for this one descriptor, of any number.
+    /// Waits like select. The number of the descriptor has no limit.
     int Poll(SelectType eType, DWORD dwTimeoutMilliSec);
     int GetFD() const;
-    /// Writes until all of `nCount` bytes are gone.
+    /// Writes all `nCount` bytes.
     int WriteToCountBase(const char* pData, int nCount);
 
 protected:

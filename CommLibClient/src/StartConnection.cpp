@@ -1,4 +1,4 @@
-// The opening of a connection, with its checks of the server's mode, kind and version.
+// Opens a connection, and checks the mode, kind and version of the server.
 #include "LogManager.h"
 #include "Operation.h"
 #include "PubMgrConst.h"
@@ -27,14 +27,15 @@ std::string WithoutFolders(const std::string& address)
     return address.substr(address.rfind('\\') + 1);
 }
 
-/// The old kind as this computer knows it, and 0 for a server that it does not know.
+/// The kind that this computer has stored; 0 for an unknown server.
 DWORD RememberedKind(const std::string& address)
 {
     unsigned int kind = NCL_NPTYPE_UNKNOWN;
     return ReadNPType(&kind, address.c_str()) ? kind : NCL_NPTYPE_UNKNOWN;
 }
 
-/// Whether the server writes discs of three and more layers. An older one does not know the question.
+/// Determines the kind by whether the server writes discs with three or more layers. An older server does not
+/// know this query.
 DWORD LearnKind(DWORD dwHandle, ST_NCL& ncl)
 {
     if (ncl.m_dwNPType == NCL_NPTYPE_300N) {
@@ -55,10 +56,10 @@ DWORD LearnKind(DWORD dwHandle, ST_NCL& ncl)
     return NCL_SUCCESS;
 }
 
-/// An old server is served only where the user has allowed the compatibility mode.
+/// An old server is supported only if the user has allowed the compatibility mode.
 DWORD CheckServerVersion(DWORD dwHandle, ST_NCL& ncl)
 {
-    std::array<char, 256> version = {}; // stays empty when the server does not tell: then it counts as new
+    std::array<char, 256> version = {}; // stays empty if the query fails: the server then counts as new
     GetDeviceInfo(dwHandle, NCL_DIT_VERSION_OF_SERVER_APP, version.data(), DWORD{version.size()});
     if (!IsOldServer(ServerVersionNumber(version.data()))) {
         return NCL_SUCCESS;
@@ -74,7 +75,7 @@ DWORD CheckServerVersion(DWORD dwHandle, ST_NCL& ncl)
     return NCL_SUCCESS;
 }
 
-/// Everything that is asked of the server, in this order.
+/// All queries of the server, in this order.
 DWORD MeetServer(DWORD dwHandle, ST_NCL& ncl, DWORD oldKind)
 {
     DWORD result = GetServerMode(dwHandle, &ncl.m_dwServerMode);
@@ -95,7 +96,7 @@ DWORD MeetServer(DWORD dwHandle, ST_NCL& ncl, DWORD oldKind)
     return CheckServerVersion(dwHandle, ncl);
 }
 
-/// Creates the HTTP client, which touches no network yet.
+/// Creates the HTTP client, without network traffic.
 DWORD OpenHttp(ST_NCL& ncl)
 {
     std::unique_ptr<CHttp> http(new (std::nothrow) CHttp);
@@ -113,7 +114,7 @@ DWORD OpenHttp(ST_NCL& ncl)
     return NCL_SUCCESS;
 }
 
-/// All that can fail between the entry in the table and the check of the server's mode.
+/// All steps that can fail between the entry in the table and the check of the server's mode.
 DWORD Open(DWORD dwHandle, ST_NCL& ncl)
 try {
     const DWORD oldKind = RememberedKind(ncl.m_strServerAddress);
@@ -169,7 +170,7 @@ DWORD ServerVersionNumber(const char* pszVersion)
 {
     const std::string text = pszVersion;
     const size_t point = text.find('.');
-    const ErrnoKeeper keeper; // an ERANGE of this text must not fail the next Content-Length
+    const ErrnoKeeper keeper; // an ERANGE of this text would make the next Content-Length fail
     const auto number = [](const std::string& part) { return static_cast<WORD>(std::atoi(part.c_str())); };
     const DWORD high = number(text.substr(0, point));
     const DWORD low = point == std::string::npos ? WORD{0} : number(text.substr(point + 1));

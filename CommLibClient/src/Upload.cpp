@@ -1,4 +1,4 @@
-// Files of a job on their way to its folder on the server, each followed by its digest.
+// Uploads the files of a job to its folder on the server, each followed by its digest.
 #include "LogManager.h"
 #include "Operation.h"
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr DWORD LARGEST_PIECE = 0xA00000; ///< bytes of a file in one request: a cancel waits for one piece
+constexpr DWORD LARGEST_PIECE = 0xA00000; ///< bytes of a file in one request; a cancel waits for one piece
 
 constexpr char HASH_PATH[] = "/webapp2/FileHashSetter";
 constexpr char HASH_PATH_300N[] = "/webapp/FileHashSetter";
@@ -52,7 +52,7 @@ DWORD MakeUploadDir(ST_NCL* pNCL, int nServerJobID, const char* pszUserName, con
                     CommType eCommType)
 {
     std::string path;
-    GetFileUploadPath(nServerJobID, "", path); // the folder's own name ends with the slash
+    GetFileUploadPath(nServerJobID, "", path); // the path of the folder ends with the slash
     ST_HTTP_RESPONSE response;
     return SendRequest(pNCL, CHttp::METHOD_MKCOL, path.c_str(), CHttp::VERSION_1_1, HOST_OF_REQUESTS,
                        pszUserName, pszPassword, nullptr, nullptr, 0, &response, eCommType, 0);
@@ -79,7 +79,7 @@ DWORD UploadFile(ST_NCL* pNCL, CommType eCommType, int nServerJobID, const char*
     std::string path;
     GetFileUploadPath(nServerJobID, szFileName, path);
     for (DWORD offset = 0; offset < dwDataSize;) {
-        // Nothing but the flag itself is handed over, so no order is needed.
+        // The flag publishes no other data, so relaxed order suffices.
         if (pbCancelFlag != nullptr && std::atomic_ref(*pbCancelFlag).load(std::memory_order_relaxed) == 1) {
             return NCL_ERR_CANCEL_SENDING;
         }

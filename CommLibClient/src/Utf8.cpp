@@ -16,7 +16,7 @@ bool IsLowSurrogate(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// Surrogates that belong together are joined; one that is alone stands for itself.
+/// Joins surrogate pairs; passes a lone surrogate unchanged.
 template <class Visit>
 void ForEachCharacter(const char16_t* utf16buf, size_t utf16len, Visit visit)
 {
@@ -30,7 +30,7 @@ void ForEachCharacter(const char16_t* utf16buf, size_t utf16len, Visit visit)
     }
 }
 
-/// In the locale that the process has now, which may not know every character.
+/// Converts to the current locale of the process, which may lack some characters.
 std::string ToMultiByte(const char16_t* utf16buf, size_t utf16len)
 {
     std::string text;
@@ -38,7 +38,7 @@ std::string ToMultiByte(const char16_t* utf16buf, size_t utf16len)
     ForEachCharacter(utf16buf, utf16len, [&](char32_t character) {
         char bytes[MB_LEN_MAX];
         const size_t count = std::c32rtomb(bytes, character, &state);
-        if (count <= sizeof bytes) { // the error values are beyond
+        if (count <= sizeof bytes) { // the error values are larger
             text.append(bytes, count);
         }
     });
@@ -57,7 +57,7 @@ std::string toUTF8(const char16_t* utf16buf, size_t utf16len)
     if (!SetTextLocale()) {
         return ToMultiByte(utf16buf, utf16len);
     }
-    std::string text(utf16len * 3, '\0'); // a pair gives four bytes
+    std::string text(utf16len * 3, '\0'); // a surrogate pair results in four bytes
     char* end = text.data();
     const auto put = [&end](char32_t value) { *end++ = static_cast<char>(value); };
     ForEachCharacter(utf16buf, utf16len, [&](char32_t character) {
@@ -71,7 +71,7 @@ std::string toUTF8(const char16_t* utf16buf, size_t utf16len)
             put(0x80 | (character >> 12 & 0x3F));
             put(0x80 | (character >> 6 & 0x3F));
             put(0x80 | (character & 0x3F));
-        } else if (character < 0xD800 || character > 0xDFFF) { // a surrogate alone is no character
+        } else if (character < 0xD800 || character > 0xDFFF) { // a lone surrogate is not a character
             put(0xE0 | character >> 12);
             put(0x80 | (character >> 6 & 0x3F));
             put(0x80 | (character & 0x3F));
