@@ -1,5 +1,5 @@
-// Every operation of the library with each of its allocations failing in turn: a result code, no exception,
-// and a connection that serves the next operation.
+// Fails each allocation of every operation of the library in turn. The operation returns a result code,
+// throws no exception, and leaves a connection that serves the next operation.
 #include "FailingMemory.h"
 #include "FakePublisher.h"
 #include "SyslogLines.h"
@@ -124,7 +124,8 @@ std::vector<Operation> Operations()
     };
 }
 
-/// The call, and whether one of its allocations has failed.
+/// Makes the call while all its allocations after the first `allocation` fail. `hasFailed` tells whether one
+/// failed.
 DWORD CallWithout(size_t allocation, const std::function<DWORD()>& call, bool& hasFailed)
 {
     const FailingMemory memory(1, allocation, FailingMemory::ALL);
@@ -138,7 +139,7 @@ DWORD CallWithout(size_t allocation, const std::function<DWORD()>& call, bool& h
     return result;
 }
 
-/// A transport whose memory runs out in whatever thread writes.
+/// A transport that runs out of memory in the thread that writes.
 class ThrowingComm : public FakeComm
 {
 public:
@@ -151,7 +152,7 @@ public:
 
 } // namespace
 
-TEST(AllocationFailure, IsAResultOfEveryOperation)
+TEST(AllocationFailure, EveryOperationReturnsAResultCode)
 {
     SyslogLines lines;
     for (const Operation& operation : Operations()) {
@@ -162,7 +163,7 @@ TEST(AllocationFailure, IsAResultOfEveryOperation)
             FakePublisher server(operation.replies);
             const DWORD result =
                 CallWithout(allocation, [&] { return operation.call(server.Handle()); }, hasFailed);
-            // A retry finds no server (9). A folder that cannot be made may be there already (0).
+            // A retry finds no server (9). A failure to create the folder is ignored (0).
             EXPECT_THAT(result, hasFailed ? AnyOf(0U, 2U, 9U) : AnyOf(0U, 0U, 0U));
             EXPECT_EQ(server->m_refCount.load(), 0);
         }
@@ -172,14 +173,14 @@ TEST(AllocationFailure, IsAResultOfEveryOperation)
     }
 }
 
-TEST(AllocationFailure, EndsAnUploadThread)
+TEST(AllocationFailure, FailsInAnUploadThread)
 {
     auto* const comm = new ThrowingComm({FakeConnection()}); // owned by the server
     FakeServer server(*comm);
     EXPECT_EQ(SendDiscImage(server.Handle(), 0, DATA, sizeof DATA, 100, 0, "image"), 2U);
 }
 
-TEST(AllocationFailure, EndsAConnectionInMidExchange)
+TEST(AllocationFailure, ClosesAConnectionDuringAnExchange)
 {
     bool hasFailed = true;
     for (size_t allocation = 0; hasFailed; ++allocation) {
@@ -190,14 +191,14 @@ TEST(AllocationFailure, EndsAConnectionInMidExchange)
         CallWithout(allocation, [&] { return GetServerMode(server.Handle(), &mode); }, hasFailed);
         if (hasFailed) {
             EXPECT_EQ(GetServerMode(server.Handle(), &mode), 0U);
-            // The first reply belongs to the first request: a second one never reads it.
+            // The first reply belongs to the first request: the second request must not read it.
             const std::vector<std::string>& requests = server.Comm().writes;
             EXPECT_EQ(mode, requests.size() == 1 && server.Comm().Unread().empty() ? mode : 4U);
         }
     }
 }
 
-TEST(AllocationFailure, EndsAStart)
+TEST(AllocationFailure, StartConnectionReturnsAResultCode)
 {
     bool hasFailed = true;
     for (size_t allocation = 0; hasFailed; ++allocation) {
@@ -208,7 +209,7 @@ TEST(AllocationFailure, EndsAStart)
         DWORD handle = 99;
         const DWORD result =
             CallWithout(allocation, [&] { return StartConnection(0, "127.0.0.1", &handle); }, hasFailed);
-        EXPECT_THAT(result, hasFailed ? AnyOf(0U, 2U) : AnyOf(0U, 0U)); // the version is not needed
+        EXPECT_THAT(result, hasFailed ? AnyOf(0U, 2U) : AnyOf(0U, 0U)); // the version is optional
         EXPECT_EQ(handle, result == 0 ? 1U : 0U);
         if (result == 0) {
             EndConnection(handle);

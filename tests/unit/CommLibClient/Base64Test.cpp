@@ -17,7 +17,7 @@ struct Example
 
 } // namespace
 
-TEST(Base64, EncodesAsTheStandardSays)
+TEST(Base64, FollowsTheStandard)
 {
     const Example examples[] = {
         {"", ""},
@@ -41,7 +41,7 @@ TEST(Base64, EncodesAsTheStandardSays)
     }
 }
 
-TEST(Base64, EncodesAllLettersOfItsAlphabet)
+TEST(Base64, EncodesWithTheWholeAlphabet)
 {
     const unsigned char bytes[] = {0x00, 0x10, 0x83, 0x10, 0x51, 0x87, 0x20, 0x92, 0x8b, 0x30, 0xd3, 0x8f,
                                    0x41, 0x14, 0x93, 0x51, 0x55, 0x97, 0x61, 0x96, 0x9b, 0x71, 0xd7, 0x9f,
@@ -60,14 +60,14 @@ TEST(Base64, WritesNoLineBreaks)
     EXPECT_EQ(std::string(base64.GetData()).find_first_of("\r\n"), std::string::npos);
 }
 
-TEST(Base64, TakesATextUpToItsEnd)
+TEST(Base64, EncodesATextUpToItsZeroByte)
 {
     CBase64 base64;
     ASSERT_EQ(base64.Encode("foo\0bar"), 0);
     EXPECT_STREQ(base64.GetData(), "Zm9v");
 }
 
-TEST(Base64, HoldsTheLastResultOnly)
+TEST(Base64, KeepsOnlyTheLastResult)
 {
     CBase64 base64;
     EXPECT_EQ(base64.GetData(), nullptr);
@@ -80,7 +80,7 @@ TEST(Base64, HoldsTheLastResultOnly)
     EXPECT_EQ(base64.GetSize(), 0);
 }
 
-TEST(Base64, ReportsThatMemoryRanOut)
+TEST(Base64, ReportsOutOfMemory)
 {
     CBase64 base64;
     ASSERT_EQ(base64.Encode("foobar"), 0);
@@ -91,7 +91,7 @@ TEST(Base64, ReportsThatMemoryRanOut)
     EXPECT_EQ(base64.GetData(), nullptr);
 }
 
-TEST(Base64, DoesNotWrapForAnyLength)
+TEST(Base64, DoesNotOverflowForAnyLength)
 {
     CBase64 base64;
     EXPECT_EQ(base64.Encode("", INT_MAX), -2);
@@ -104,7 +104,7 @@ TEST(Base64, WritesIntoABufferOfExactlyItsLength)
     EXPECT_EQ(std::string(buffer, 6), std::string("Zm8=\0x", 6));
 }
 
-TEST(Base64DeathTest, StopsWhereACallCannotBeMeant)
+TEST(Base64DeathTest, InvalidCallsStopTheProcess)
 {
     CBase64 base64;
     EXPECT_DEATH(base64.Encode(nullptr), "pszData != nullptr");

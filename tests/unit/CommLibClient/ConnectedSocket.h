@@ -17,7 +17,7 @@ struct ConnectedSocket
         EXPECT_TRUE(peer.IsOpen());
     }
 
-    /// Until so many bytes of the peer can be received.
+    /// Waits until `count` bytes from the peer can be received.
     void WaitForBytes(size_t count) const
     {
         int arrived = 0;

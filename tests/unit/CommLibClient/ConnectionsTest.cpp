@@ -50,7 +50,7 @@ TEST(ConnectionObject, StartsEmpty)
     EXPECT_EQ(ncl.m_dwCompatiMode, 0U);
 }
 
-TEST(ConnectionTable, GivesTheFirstFreeHandle)
+TEST(ConnectionTable, ReturnsTheFirstFreeHandle)
 {
     ST_NCL one;
     ST_NCL two;
@@ -71,7 +71,7 @@ TEST(ConnectionTable, GivesTheFirstFreeHandle)
     DeleteNCLObj(2);
 }
 
-TEST(ConnectionTable, HoldsAHundred)
+TEST(ConnectionTable, HoldsAHundredEntries)
 {
     std::vector<ST_NCL> objects(101);
     for (DWORD index = 0; index < 100; ++index) {
@@ -88,7 +88,7 @@ TEST(ConnectionTable, HoldsAHundred)
     }
 }
 
-TEST(ConnectionTable, KnowsNoHandleBeyondIt)
+TEST(ConnectionTable, FindsNoObjectForAnInvalidHandle)
 {
     for (const DWORD handle : {0U, 1U, 100U, 101U, 0x80000000U, 0xFFFFFFFFU}) {
         EXPECT_EQ(GetNCLObj(handle), nullptr);
@@ -101,7 +101,7 @@ TEST(ConnectionTable, KnowsNoHandleBeyondIt)
     DeleteNCLObj(1);
 }
 
-TEST(ConnectionTableDeathTest, FreeingBeyondItStopsTheProcess)
+TEST(ConnectionTableDeathTest, FreeingAnInvalidHandleStopsTheProcess)
 {
     EXPECT_DEATH(DeleteNCLObj(0), "!= FALSE");
     EXPECT_DEATH(DeleteNCLObj(1), "!= FALSE");
@@ -190,7 +190,7 @@ TEST(NPType, IsUnknownForAnUnknownHandle)
     EXPECT_THAT(lines.Take(), ElementsAre("<7>(null) , GetNPType , 0", "<7>(null) , GetNPType , 0"));
 }
 
-TEST(EndConnection, RefusesAHandleThatNamesNothing)
+TEST(EndConnection, RefusesAnInvalidHandle)
 {
     SyslogLines lines;
     EndConnection(0);
@@ -217,7 +217,7 @@ TEST(EndConnection, ClosesAndFreesTheHandle)
         EXPECT_EQ(GetNCLObj(handle), nullptr);
         EXPECT_EQ(GetServerMode(handle, &mode), 1U);
         FakeServer next;
-        EXPECT_EQ(next.Handle(), handle); // the stale handle names a later connection
+        EXPECT_EQ(next.Handle(), handle); // the stale handle refers to a later connection
     }
     EXPECT_TRUE(isClosed);
 }
@@ -250,7 +250,7 @@ TEST(EndConnection, SendsTheDigestOfAnUnfinishedImage)
     }
 }
 
-TEST(EndConnection, SendsNoDigestToAnOldServerOrWithoutOne)
+TEST(EndConnection, SendsNoDigestToAnOldServerOrWithoutADigest)
 {
     for (const DWORD compatible : {1U, 0U}) {
         TcpServer server({TcpServer::Answers({HttpResponse("")})});
@@ -265,7 +265,7 @@ TEST(EndConnection, SendsNoDigestToAnOldServerOrWithoutOne)
     }
 }
 
-TEST(EndConnection, WaitsForTheOperationInProgressAndLetsNoOtherStart)
+TEST(EndConnection, WaitsForTheOperationInProgressAndRefusesOthers)
 {
     std::promise<void> arrived;
     std::promise<void> mayAnswer;
@@ -296,7 +296,7 @@ TEST(EndConnection, WaitsForTheOperationInProgressAndLetsNoOtherStart)
     EXPECT_EQ(GetNCLObj(handle), nullptr);
 }
 
-TEST(EndConnection, OperationsMayStartAtAnyMoment)
+TEST(EndConnection, ToleratesOperationsThatStartAtAnyTime)
 {
     for (int round = 0; round < 200; ++round) {
         std::atomic<bool> isEnding = false;

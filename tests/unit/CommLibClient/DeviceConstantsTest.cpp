@@ -1,4 +1,4 @@
-// The numbers that others see of a device, and the order of its records.
+// The public constants of a device, and the order of the fields of its records.
 #include "NW_Com_Lib_internal.h"
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Every field is of four bytes and follows the one before.
+/// Every field has four bytes and directly follows the previous one.
 template <typename Record>
 void ExpectOrder(const std::vector<size_t>& offsets)
 {
@@ -19,7 +19,7 @@ void ExpectOrder(const std::vector<size_t>& offsets)
 
 } // namespace
 
-TEST(DeviceConstants, AreThoseOfTheServer)
+TEST(DeviceConstants, MatchTheServer)
 {
     EXPECT_EQ(NCL_DIT_SERIAL_NO_OF_ALD, 0U);
     EXPECT_EQ(NCL_DIT_VERSION_OF_ALD, 1U);

@@ -8,11 +8,11 @@
 
 using testing::ElementsAre;
 
-TEST(DeviceInfo, GivesTheTextOfEachType)
+TEST(DeviceInfo, ReturnsTheTextOfEachType)
 {
     for (DWORD type = 0; type < 15; ++type) {
         FakeServer server({GoodReply("text")});
-        server.Object().m_dwServerMode = NCL_MODE_SECURITY; // in which all types are known
+        server.Object().m_dwServerMode = NCL_MODE_SECURITY; // supports all types
         SyslogLines lines;
         std::array<char, 16> text;
         text.fill('?');
@@ -25,7 +25,7 @@ TEST(DeviceInfo, GivesTheTextOfEachType)
     }
 }
 
-TEST(DeviceInfo, NeedsRoomForTheZeroByteToo)
+TEST(DeviceInfo, RequiresRoomForTheZeroByte)
 {
     const std::string line = "<3>[CommLib] GetDeviceInfo \"Buffer Size\" Parameter";
     for (const DWORD size : {0U, 1U, 3U, 4U}) {
@@ -47,7 +47,7 @@ TEST(DeviceInfo, NeedsRoomForTheZeroByteToo)
     EXPECT_EQ(std::string(text.data(), 8), std::string("\0ext\0???", 8));
 }
 
-TEST(DeviceInfo, KnowsTheSecurityVersionInSecurityModeAlone)
+TEST(DeviceInfo, ReturnsTheSecurityVersionOnlyInSecurityMode)
 {
     for (const DWORD mode : {1U, 2U, 3U, 4U, 5U}) {
         FakeServer server({GoodReply("text")});
@@ -90,7 +90,7 @@ TEST(DeviceInfo, LogsABadHandleWithANullHost)
                 ElementsAre("<7>(null) , GetDeviceInfo , Start", "<3>[CommLib] ***Common Parameta Error***"));
 }
 
-TEST(DeviceInfo, TellsWhatTheServerRefuses)
+TEST(DeviceInfo, ReportsErrorsOfTheServer)
 {
     FakeServer server({HttpResponse(ReplyItem("", 2)), HttpResponse("", "404 Not Found")});
     SyslogLines lines;
@@ -106,7 +106,7 @@ TEST(DeviceInfo, TellsWhatTheServerRefuses)
     EXPECT_STREQ(text, "as before");
 }
 
-TEST(DeviceInfoInt, TakesValuesUpToTheLargestOfEachType)
+TEST(DeviceInfoInt, AcceptsValuesUpToTheMaximumOfEachType)
 {
     const DWORD largest[] = {2, 3, 0xFFFFFFFF, 1, 11, 11, 999, 1, 1};
     for (DWORD type = 0; type < 9; ++type) {
@@ -137,7 +137,7 @@ TEST(DeviceInfoInt, TakesValuesUpToTheLargestOfEachType)
     }
 }
 
-TEST(DeviceInfoInt, KnowsAnUnusedStackerInTheThirdPlaceAlone)
+TEST(DeviceInfoInt, AcceptsAnUnusedStackerOnlyForStacker3)
 {
     FakeServer server({GoodReply(WireWord(999)), GoodReply(WireWord(999)), GoodReply(WireWord(999))});
     DWORD value = 77;
@@ -201,7 +201,7 @@ TEST(ServerMode, RefusesAReplyOfAnotherSize)
     }
 }
 
-TEST(ServerMode, TellsWhatTheServerRefuses)
+TEST(ServerMode, ReportsErrorsOfTheServer)
 {
     FakeServer server({HttpResponse(""), HttpResponse(ReplyItem("\2") + ReplyItem("\2")),
                        HttpResponse("", "500 Internal Server Error")});
@@ -227,7 +227,7 @@ TEST(ServerMode, TellsWhatTheServerRefuses)
     EXPECT_EQ(value, 77U);
 }
 
-TEST(DeviceInfo, AServerOfUnknownKindThatAnswersIsOfTheSecondKind)
+TEST(DeviceInfo, TreatsAnAnsweringServerOfUnknownKindAsTheSecondKind)
 {
     FakeServer server({GoodReply(std::string(1, '\2')), HttpResponse(""), GoodReply("text"),
                        GoodReply(WireWord(0)), HttpResponse("", "404 Not Found")});

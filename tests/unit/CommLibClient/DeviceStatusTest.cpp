@@ -14,7 +14,7 @@ namespace {
 
 constexpr size_t LARGEST_RECORD = 88;
 
-/// An operation of the family, over a caller's memory of any record.
+/// An operation that fills a record of any type in the memory of the caller.
 struct Operation
 {
     const char* name;
@@ -47,7 +47,7 @@ std::vector<Operation> AllOperations()
     };
 }
 
-/// Memory of a caller, full of what was there before.
+/// Memory of the caller, filled with old data.
 struct Memory
 {
     alignas(8) unsigned char bytes[LARGEST_RECORD + 8];
@@ -55,7 +55,7 @@ struct Memory
     {
         std::memset(bytes, 0xAA, sizeof bytes);
     }
-    /// From `start` on nothing has been written.
+    /// True if nothing has been written from `start` on.
     bool IsUntouched(size_t start = 0) const
     {
         return std::string(reinterpret_cast<const char*>(bytes) + start, sizeof bytes - start) ==
@@ -76,7 +76,7 @@ std::string Line(const char* format, const char* name)
 
 } // namespace
 
-TEST(DeviceStatus, EachOperationAsksForItsTypeAndFillsItsRecord)
+TEST(DeviceStatus, EachOperationRequestsItsTypeAndFillsItsRecord)
 {
     for (const Operation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
@@ -88,13 +88,13 @@ TEST(DeviceStatus, EachOperationAsksForItsTypeAndFillsItsRecord)
         EXPECT_THAT(lines.Take(), ElementsAre(Line("<7>server , * , Start", operation.name),
                                               Line("<7>server , * , End", operation.name)));
         const std::string record(reinterpret_cast<const char*>(memory.bytes), operation.recordSize);
-        EXPECT_EQ(record, std::string(operation.recordSize, '\0')); // all of it, from words of 0
+        EXPECT_EQ(record, std::string(operation.recordSize, '\0')); // the whole record, from words of 0
         EXPECT_TRUE(memory.IsUntouched(operation.recordSize));
         EXPECT_EQ(server.Object().m_refCount.load(), 0);
     }
 }
 
-TEST(DeviceStatus, EachOperationTakesOneSizeAlone)
+TEST(DeviceStatus, EachOperationAcceptsOnlyOneSize)
 {
     for (const Operation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
@@ -134,7 +134,7 @@ TEST(DeviceStatus, EachOperationRefusesBadParameters)
     }
 }
 
-TEST(DeviceStatus, EachOperationTellsWhatTheServerRefuses)
+TEST(DeviceStatus, EachOperationReportsErrorsOfTheServer)
 {
     for (const Operation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
@@ -164,7 +164,7 @@ TEST(DeviceStatus, EachOperationTellsWhatTheServerRefuses)
     }
 }
 
-TEST(DeviceStatus, NamesTheStackerWhoseWordMeansNothing)
+TEST(DeviceStatus, LogsTheStackerWithAnInvalidWord)
 {
     for (int bad = 0; bad < 4; ++bad) {
         std::vector<DWORD> words = {1, 2, 3, 4};
@@ -181,7 +181,7 @@ TEST(DeviceStatus, NamesTheStackerWhoseWordMeansNothing)
     }
 }
 
-TEST(DeviceStatus, HandsTheModeOfTheServerOn)
+TEST(DeviceStatus, UsesTheModeOfTheServer)
 {
     const std::string item = WireWords({0, 0, 0, 0, 0, 0, 0, 0x4});
     FakeServer server({GoodReply(item), GoodReply(item)});
@@ -194,7 +194,7 @@ TEST(DeviceStatus, HandsTheModeOfTheServerOn)
     EXPECT_EQ(status.JobFactor.bStacker2Full, 0);
 }
 
-TEST(DeviceBlock, IsHandedOnAsItIs)
+TEST(DeviceBlock, IsReturnedUnchanged)
 {
     const std::pair<const char*, DWORD (*)(DWORD, BYTE*, DWORD, DWORD*)> rows[] = {
         {"GetASBStatus", GetASBStatus}, {"GetPrnStStatus", GetPrnStStatus}};
@@ -268,7 +268,7 @@ TEST(GetDeviceStatus, SendsTheValueOfEachType)
         std::list<ST_COMM_REPLY> items;
         EXPECT_EQ(GetDeviceStatus(&server.Object(), &response, items, type), 0U);
         EXPECT_EQ(items.size(), 1U);
-        EXPECT_THAT(lines.Take(), IsEmpty()); // whoever calls it tells of it
+        EXPECT_THAT(lines.Take(), IsEmpty()); // its caller logs
         if (type == DEV_STATUS_TYPE_RETIRED01) {
             EXPECT_EQ(server.Sent(), GetRequest("/webapp2/DevStatusGetter?ifversion=02000000&type="));
             EXPECT_EQ(GetDeviceStatus(&server.Object(), &response, items, type), 0U); // any number of items

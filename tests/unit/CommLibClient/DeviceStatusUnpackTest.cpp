@@ -12,7 +12,7 @@ struct Meaning
     DWORD value;
 };
 
-/// The fields of a record of numbers of 32 bits, in order.
+/// The fields of a record of 32-bit numbers, in order.
 template <typename Record>
 std::vector<DWORD> Fields(const Record& record)
 {
@@ -22,7 +22,7 @@ std::vector<DWORD> Fields(const Record& record)
     return fields;
 }
 
-/// A record that is full of what is not cleared.
+/// A record filled with old data.
 template <typename Record>
 Record Dirty()
 {
@@ -31,7 +31,7 @@ Record Dirty()
     return record;
 }
 
-/// A field of flags, and the bit of the wire that sets it.
+/// A flag field, and the bit on the wire that sets it.
 template <typename Record>
 struct FlagRow
 {
@@ -42,7 +42,7 @@ struct FlagRow
 
 } // namespace
 
-TEST(StackerWord, IsAQuantityAndTheSupplyBit)
+TEST(StackerWord, HoldsAQuantityAndTheSupplyBit)
 {
     for (DWORD quantity = 0; quantity <= 103; ++quantity) {
         for (const DWORD top : {0U, 0x80000000U}) {
@@ -58,7 +58,7 @@ TEST(StackerWord, IsAQuantityAndTheSupplyBit)
     EXPECT_EQ(full.bSupply, 1);
 }
 
-TEST(StackerWord, BeyondTheKnownValuesIsRefusedAndStoresNothing)
+TEST(StackerWord, IsRefusedBeyondTheKnownValuesAndStoresNothing)
 {
     for (const DWORD word : {104U, 105U, 255U, 0x100U, 0x40000000U, 0x7FFFFFFFU, 0x80000068U, 0xFFFFFFFFU}) {
         auto status = Dirty<StackerStatusBase>();
@@ -67,7 +67,7 @@ TEST(StackerWord, BeyondTheKnownValuesIsRefusedAndStoresNothing)
     }
 }
 
-TEST(DriveWord, TakesTheFirstBitInItsOrder)
+TEST(DriveWord, UsesTheFirstSetBitOfTheTable)
 {
     const Meaning rows[] = {{0x20, 4}, {0x10, 3}, {0x80, 6}, {0x40, 5}, {0x8, 2}, {0x4, 1}};
     DWORD later = 0xFFFFFFFF;
@@ -91,7 +91,7 @@ TEST(DriveWord, TakesTheFirstBitInItsOrder)
     EXPECT_EQ(status, NCL_DRV_STATUS_ERROR);
 }
 
-TEST(PrinterWord, TakesTheFirstBitInItsOrder)
+TEST(PrinterWord, UsesTheFirstSetBitOfTheTable)
 {
     const Meaning rows[] = {{0x1, 0}, {0x2, 1}, {0x4, 2}, {0x10, 3}, {0x20, 4}, {0x8, 5}};
     DWORD later = 0xFFFFFFFF;
@@ -127,7 +127,7 @@ TEST(InkWord, IsAnAmountUpToAHundred)
     }
 }
 
-TEST(InkWord, BeyondAHundredIsAFaultOfTheCartridge)
+TEST(InkWord, IsACartridgeFaultBeyondAHundred)
 {
     const Meaning rows[] = {
         {0x100, 101}, {0x200, 102},    {0x400, 103},      {0x800, 103},      {0x40000800, 104}, {0xF00, 101},
@@ -144,7 +144,7 @@ TEST(InkWord, BeyondAHundredIsAFaultOfTheCartridge)
     }
 }
 
-TEST(FatalErrorWord, IsAFactorOfAJob)
+TEST(FatalErrorWord, IsAJobStatusFactor)
 {
     const Meaning known[] = {{1, 1},  {2, 2},  {3, 3},   {4, 4},   {5, 5},   {6, 6},  {25, 7},
                              {26, 8}, {28, 9}, {29, 10}, {39, 11}, {42, 12}, {43, 13}};
@@ -189,7 +189,7 @@ TEST(ALDItem, SetsOneFlagForEachBit)
         {3, 0x800, &ALDStatus::bStacker2DiscLeftAtPowerOn},
         {3, 0x1000, &ALDStatus::bUnexpectedPowerOff},
     };
-    for (int word = 0; word < 4; ++word) { // every bit, also those without a meaning
+    for (int word = 0; word < 4; ++word) { // every bit, including those without a meaning
         for (int shift = 0; shift < 32; ++shift) {
             std::vector<DWORD> words(4);
             words[word] = DWORD{1} << shift;
@@ -209,14 +209,14 @@ TEST(ALDItem, SetsOneFlagForEachBit)
     EXPECT_EQ(Fields(status), std::vector<DWORD>(22, 1));
 }
 
-TEST(StackerItem, IsOneWordAStacker)
+TEST(StackerItem, HasOneWordPerStacker)
 {
     auto status = Dirty<StackerStatus>();
     EXPECT_EQ(UnpackStackerStatus(WireWords({0x80000064, 0, 103, 0x80000065}).data(), &status), 0);
     EXPECT_EQ(Fields(status), (std::vector<DWORD>{100, 1, 0, 0, 103, 0, 101, 1}));
 }
 
-TEST(StackerItem, NamesTheStackerThatFailsAndKeepsThoseBefore)
+TEST(StackerItem, ReportsTheStackerThatFailsAndKeepsThePreviousOnes)
 {
     for (int bad = 0; bad < 4; ++bad) {
         std::vector<DWORD> words = {0x80000001, 0x80000002, 0x80000003, 0x80000004};
@@ -232,14 +232,14 @@ TEST(StackerItem, NamesTheStackerThatFailsAndKeepsThoseBefore)
     }
 }
 
-TEST(DriveItem, IsOneWordADrive)
+TEST(DriveItem, HasOneWordPerDrive)
 {
     auto status = Dirty<DrvStatus>();
     EXPECT_EQ(UnpackDrvStatus(WireWords({0x4, 0x40}).data(), &status), 0);
     EXPECT_EQ(Fields(status), (std::vector<DWORD>{1, 5}));
 }
 
-TEST(DriveItem, WithProgressHasTheStatusWordsFirst)
+TEST(DriveItem, StatusWordsPrecedeTheProgress)
 {
     auto status = Dirty<DrvStatusEx>();
     EXPECT_EQ(UnpackDrvStatusEx(WireWords({0x8, 0x20, 57, 0xFFFFFFFF}).data(), &status), 0);
@@ -253,7 +253,7 @@ TEST(PrinterItem, IsOneWord)
     EXPECT_EQ(Fields(status), (std::vector<DWORD>{2, 1}));
 }
 
-TEST(InkItem, IsOneWordACartridge)
+TEST(InkItem, HasOneWordPerCartridge)
 {
     auto status = Dirty<InkStatus>();
     const std::string item = WireWords({1, 0x80000002, 0x100, 0x200, 0x400, 0xC0000800});
@@ -349,7 +349,7 @@ TEST(NotifyItem, FullStackersDependOnTheMode)
     }
 }
 
-TEST(MaintenanceItem, IsStoredAsItArrives)
+TEST(MaintenanceItem, IsStoredUnchanged)
 {
     std::vector<DWORD> words = {0, 1, 0xFFFFFFFF, 0x80000000, 0x7FFFFFFF, 0x01020304, 0x10203040,
                                 7, 8, 9,          10,         11,         12};

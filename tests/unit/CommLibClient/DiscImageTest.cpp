@@ -58,7 +58,7 @@ std::vector<std::string> Ranges(FakePublisher& publisher)
     return ranges;
 }
 
-/// A transport of which another thread cancels the image while the first piece is on its way.
+/// A transport on which another thread cancels the image while the first piece is being sent.
 class CancellingComm : public FakeComm
 {
 public:
@@ -75,7 +75,7 @@ public:
     DWORD cancelResult = 7;
 };
 
-/// A digest that takes nothing.
+/// A digest that fails for all data.
 class FailingDigest : public MessageDigestIF
 {
 public:
@@ -94,7 +94,7 @@ public:
     }
 };
 
-/// While it lives the system gives no thread: none has room for such a stack.
+/// While it exists, no thread can be created: there is no room for a stack of the default size.
 class NoThreads
 {
 public:
@@ -121,7 +121,7 @@ private:
 
 } // namespace
 
-TEST(DiscImage, InOnePiece)
+TEST(DiscImage, IsSentInOnePiece)
 {
     SyslogLines log;
     FakePublisher publisher({OK, OK});
@@ -158,7 +158,7 @@ TEST(DiscImage, PiecesContinueTheRangeAndTheDigest)
     EXPECT_EQ(publisher->m_pMD, nullptr);
 }
 
-TEST(DiscImage, AJobMayHoldSeveral)
+TEST(DiscImage, AJobMayHaveSeveral)
 {
     FakePublisher publisher({OK, OK, OK, OK, OK});
     BeginJob(publisher);
@@ -176,7 +176,7 @@ TEST(DiscImage, AJobMayHoldSeveral)
               "serverjobid=000004d2&filename=DiscImage_two&hashtype=SHA-1&hash=" + AB_HASH);
 }
 
-TEST(DiscImage, LargePiecesGoOutInRequestsOf10MiB)
+TEST(DiscImage, LargePiecesAreSentInRequestsOf10MiB)
 {
     FakePublisher publisher({OK, OK, OK});
     BeginJob(publisher);
@@ -195,7 +195,7 @@ TEST(DiscImage, TotalsHave64Bits)
     EXPECT_EQ(publisher->m_ullDiscImageOfs, 0x100000003ULL);
 }
 
-TEST(DiscImage, AnUnknownTotalIsThatOfThePiece)
+TEST(DiscImage, AnUnknownTotalIsTheSizeOfThePiece)
 {
     FakePublisher publisher({OK});
     BeginJob(publisher);
@@ -219,7 +219,7 @@ TEST(DiscImage, RefusesBadParameters)
                                         "<3>[CommLib] ***Common Parameta Error***"));
 }
 
-TEST(DiscImage, BelongsToTheJobThatIsBeingSubmitted)
+TEST(DiscImage, RequiresTheJobBeingSubmitted)
 {
     SyslogLines log;
     FakePublisher publisher;
@@ -244,7 +244,7 @@ TEST(DiscImage, ACancelSetsTheFlagAndTheNextPieceClearsIt)
     EXPECT_EQ(publisher->m_bDiscImageCancelSending, FALSE);
 }
 
-TEST(DiscImage, ACancelOfAnotherThreadStopsItBetweenTwoRequests)
+TEST(DiscImage, ACancelFromAnotherThreadStopsItBetweenTwoRequests)
 {
     SyslogLines log;
     auto* comm = new CancellingComm;
@@ -254,12 +254,12 @@ TEST(DiscImage, ACancelOfAnotherThreadStopsItBetweenTwoRequests)
     EXPECT_EQ(SendPiece(publisher, std::string(2 * MIB10, 'x'), 2 * MIB10), NCL_ERR_CANCEL_SENDING);
     EXPECT_EQ(comm->cancelResult, NCL_SUCCESS);
     EXPECT_THAT(Ranges(publisher), ElementsAre("bytes 0-10485759/20971520"));
-    EXPECT_EQ(publisher.Lines().back(), "POST /webapp2/FileHashSetter"); // of what there is
+    EXPECT_EQ(publisher.Lines().back(), "POST /webapp2/FileHashSetter"); // of the data sent so far
     EXPECT_EQ(publisher->m_pMD, nullptr);
     EXPECT_EQ(log.Take().back(), "<3>\t## trace ## SendDiscImage UploadFile() Cancel Sending");
 }
 
-TEST(DiscImage, ACancelInTheLastRequestComesTooLate)
+TEST(DiscImage, ACancelDuringTheLastRequestIsTooLate)
 {
     auto* comm = new CancellingComm;
     FakePublisher publisher(*comm);
@@ -275,7 +275,7 @@ TEST(DiscImage, TheHashFollowsAFailedUpload)
     FakePublisher publisher({OK, FULL, BAD});
     BeginJob(publisher);
     EXPECT_EQ(SendPiece(publisher, "ab", 4), NCL_SUCCESS);
-    EXPECT_EQ(SendPiece(publisher, "c", 4), NCL_ERR_HARD_DISC_CAPACITY); // not what became of the hash
+    EXPECT_EQ(SendPiece(publisher, "c", 4), NCL_ERR_HARD_DISC_CAPACITY); // not the error of the hash
     EXPECT_EQ(publisher.Requests().at(2).body, HASH_BODY + ABC_HASH);
     EXPECT_EQ(publisher->m_pMD, nullptr);
     EXPECT_EQ(publisher->m_strImageFileName, "");
@@ -297,14 +297,14 @@ TEST(DiscImage, ALostConnectionIsClosed)
     BeginJob(publisher);
     EXPECT_EQ(SendPiece(publisher, "ab", 3), NCL_SUCCESS);
     EXPECT_EQ(SendPiece(publisher, "c", 3), NCL_ERR_CONNECTION_CLOSE);
-    EXPECT_EQ(publisher->m_pMD, nullptr); // the hash did not get through either
+    EXPECT_EQ(publisher->m_pMD, nullptr); // the hash was not sent either
     EXPECT_EQ(publisher->m_ullDiscImageOfs, 2U);
     const std::vector<std::string> lines = log.Take();
     EXPECT_THAT(lines, Contains("<3>\t## trace ## SendDiscImage UploadFile() Conection Close"));
     EXPECT_EQ(lines.back(), "<3>server , [CommLib] SendRequest Connection Close"); // of the hash
 }
 
-TEST(DiscImage, AHashThatIsRefusedIsAFailure)
+TEST(DiscImage, ARefusedHashIsAFailure)
 {
     SyslogLines log;
     FakePublisher publisher({OK, BAD});
@@ -316,7 +316,7 @@ TEST(DiscImage, AHashThatIsRefusedIsAFailure)
     EXPECT_EQ(log.Take().back(), "<3>\t## trace ## SendDiscImage SendHash() Server Other");
 }
 
-TEST(DiscImage, ADigestThatFailsCountsAsACancel)
+TEST(DiscImage, AFailedDigestCountsAsACancel)
 {
     SyslogLines log;
     FakePublisher publisher({OK, OK});
@@ -330,7 +330,7 @@ TEST(DiscImage, ADigestThatFailsCountsAsACancel)
                                         "<3>\t## trace ## SendDiscImage UploadFile() Cancel Sending"));
 }
 
-TEST(DiscImage, TheErrorOfTheUploadCountsMoreThanThatOfTheDigest)
+TEST(DiscImage, TheErrorOfTheUploadTakesPrecedenceOverTheDigest)
 {
     FakePublisher publisher({FULL, OK});
     BeginJob(publisher);
@@ -338,7 +338,7 @@ TEST(DiscImage, TheErrorOfTheUploadCountsMoreThanThatOfTheDigest)
     EXPECT_EQ(SendPiece(publisher, "abc", 3), NCL_ERR_HARD_DISC_CAPACITY);
 }
 
-TEST(DiscImage, WithoutAThreadNoPieceGoesOut)
+TEST(DiscImage, WithoutAThreadNoPieceIsSent)
 {
     SyslogLines log;
     FakePublisher publisher({OK});
@@ -352,7 +352,7 @@ TEST(DiscImage, WithoutAThreadNoPieceGoesOut)
     EXPECT_EQ(log.Take().back(), "<3>\t## trace ## SendDiscImage UploadFile() Process Creation");
 }
 
-TEST(DiscImage, AnOldServerTakesNoHash)
+TEST(DiscImage, AnOldServerGetsNoHash)
 {
     SyslogLines log;
     FakePublisher publisher({OK, OK, FULL});
@@ -368,7 +368,7 @@ TEST(DiscImage, AnOldServerTakesNoHash)
     EXPECT_THAT(publisher.Lines(), ElementsAre(line, line, line));
 }
 
-TEST(DiscImage, TheOldestPublisherHasAPathOfItsOwnForTheHash)
+TEST(DiscImage, TheOldestPublisherHasItsOwnHashPath)
 {
     FakePublisher publisher({OK, OK});
     BeginJob(publisher);

@@ -1,4 +1,4 @@
-// An open connection to a publisher server that exists in memory alone, and the requests that it got.
+// An open connection to a publisher server in memory, and the requests that it received.
 #pragma once
 
 #include "Servlets.h"
@@ -12,7 +12,7 @@ inline std::string Done()
 /// A request as the server saw it.
 struct FakeRequest
 {
-    std::string head; ///< with its closing empty line
+    std::string head; ///< including the empty line at its end
     std::string body;
 
     /// "GET /path"
@@ -20,7 +20,7 @@ struct FakeRequest
     {
         return head.substr(0, head.find(" HTTP/1.1\r\n"));
     }
-    /// Behind "Name:", an optional blank left out; "(none)" when there is no such line.
+    /// The text after "Name:", without an optional blank; "(none)" if there is no such line.
     std::string Header(const std::string& name) const
     {
         const size_t place = head.find("\r\n" + name + ":");
@@ -33,7 +33,7 @@ struct FakeRequest
     }
 };
 
-/// It tells the requests apart. What a test left unfinished of a disc image does not go out at its end.
+/// Separates the requests. The destructor discards an unfinished disc image, so that its digest is not sent.
 class FakePublisher : public FakeServer
 {
 public:
@@ -72,7 +72,7 @@ public:
         }
         return lines;
     }
-    /// What is left of the prepared replies.
+    /// The rest of the prepared replies.
     std::string Unread()
     {
         return Comm().Unread();

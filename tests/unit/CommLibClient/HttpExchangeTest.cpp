@@ -1,4 +1,4 @@
-// The client against scripted servers: real sockets, real time.
+// Tests the client against scripted servers, with real sockets and in real time.
 #include "Http.h"
 
 #include "SyslogLines.h"
@@ -61,7 +61,7 @@ TcpServer::Script Half(const std::string& reply, size_t size)
 
 } // namespace
 
-TEST(HttpExchange, SendsARequestAndTakesItsReply)
+TEST(HttpExchange, SendsARequestAndReceivesItsReply)
 {
     TcpServer server({TcpServer::Answers({GOOD})});
     Client client(server);
@@ -70,14 +70,14 @@ TEST(HttpExchange, SendsARequestAndTakesItsReply)
     EXPECT_THAT(server.Requests(), ElementsAre(HEAD));
 }
 
-TEST(HttpExchange, TalksToPort80OfAnyHost)
+TEST(HttpExchange, ConnectsToPort80OfAnyHost)
 {
     TcpServer server({TcpServer::Answers({GOOD})}, "127.0.0.5", 80);
     Client client(server);
     EXPECT_EQ(client.Get(), 0);
 }
 
-TEST(HttpExchange, TakesAReplyByteByByte)
+TEST(HttpExchange, ReceivesAReplyByteByByte)
 {
     for (const std::string& reply : {GOOD, CHUNKED}) {
         TcpServer server({[&](TcpServer& self, TcpPeer& peer) {
@@ -90,7 +90,7 @@ TEST(HttpExchange, TakesAReplyByteByByte)
     }
 }
 
-TEST(HttpExchange, FailsTwiceWithHalfAReplyOfAnySize)
+TEST(HttpExchange, FailsAfterTwoPartialRepliesOfAnySize)
 {
     for (const std::string& reply : {GOOD, CHUNKED}) {
         for (size_t size = 0; size < reply.size(); ++size) {
@@ -103,7 +103,7 @@ TEST(HttpExchange, FailsTwiceWithHalfAReplyOfAnySize)
     }
 }
 
-TEST(HttpExchange, SucceedsInTheSecondTryAfterHalfAReplyOfAnySize)
+TEST(HttpExchange, SucceedsOnRetryAfterAPartialReplyOfAnySize)
 {
     for (size_t size = 0; size < GOOD.size(); ++size) {
         TcpServer server({Half(GOOD, size), TcpServer::Answers({GOOD})});
@@ -128,7 +128,7 @@ TEST(HttpExchange, ReusesItsConnection)
         ElementsAre(HEAD, "POST / HTTP/1.1\r\nHost:localhost\r\nContent-Length: 4\r\n\r\nbody", HEAD));
 }
 
-TEST(HttpExchange, ClosesWhenTheServerSaysSo)
+TEST(HttpExchange, ClosesWhenTheServerRequestsIt)
 {
     const std::string last = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n";
     std::atomic<bool> isClosed = false;
@@ -145,7 +145,7 @@ TEST(HttpExchange, ClosesWhenTheServerSaysSo)
     EXPECT_EQ(server.Connections(), 2);
 }
 
-TEST(HttpExchange, ConnectsAgainWhenTheServerHasGoneInBetween)
+TEST(HttpExchange, ReconnectsAfterTheServerClosedTheConnection)
 {
     SyslogLines lines;
     TcpServer server({TcpServer::Answers({GOOD}), TcpServer::Answers({GOOD})});
@@ -156,7 +156,7 @@ TEST(HttpExchange, ConnectsAgainWhenTheServerHasGoneInBetween)
     EXPECT_EQ(lines.Take().back().substr(0, 23), "<4>CHttp::SendRequest R");
 }
 
-TEST(HttpExchange, SendsTheWholeBodyAgain)
+TEST(HttpExchange, ResendsTheWholeBodyOnRetry)
 {
     const std::string body(300000, 'b');
     TcpServer server({[](TcpServer&, TcpPeer& peer) {
@@ -171,7 +171,7 @@ TEST(HttpExchange, SendsTheWholeBodyAgain)
                 ElementsAre("POST / HTTP/1.1\r\nHost:localhost\r\nContent-Length: 300000\r\n\r\n" + body));
 }
 
-TEST(HttpExchange, IsMadeOnceWithAServerThatSaysNothing)
+TEST(HttpExchange, IsNotRetriedWithASilentServer)
 {
     TcpListener listener;
     Client client(listener);
@@ -190,13 +190,13 @@ TEST(HttpExchange, IsMadeOnceWithAServerThatSaysNothing)
     EXPECT_FALSE(listener.Accept(0).IsOpen());
 }
 
-TEST(HttpExchange, WaitsItsSilenceForEachByteAnew)
+TEST(HttpExchange, TheSilenceTimeoutRestartsWithEachByte)
 {
     const std::string reply = "HTTP/1.1 200 OK\r\nContent-Length: 1\r\n\r\nx";
     TcpServer server({[&](TcpServer& self, TcpPeer& peer) {
         self.TakeRequest(peer);
         for (const char byte : reply) {
-            peer.WaitForClose(30); // a pause: all of them together exceed the silence allowed
+            peer.WaitForClose(30); // a pause: together they exceed the allowed silence
             peer.Write(std::string(1, byte));
         }
     }});
@@ -208,7 +208,7 @@ TEST(HttpExchange, WaitsItsSilenceForEachByteAnew)
     EXPECT_EQ(server.Connections(), 1);
 }
 
-TEST(HttpExchange, EndsAReplyThatStallsInItsBody)
+TEST(HttpExchange, FailsWhenTheBodyStalls)
 {
     TcpServer server({[&](TcpServer& self, TcpPeer& peer) {
         self.TakeRequest(peer);
@@ -221,7 +221,7 @@ TEST(HttpExchange, EndsAReplyThatStallsInItsBody)
     EXPECT_EQ(server.Connections(), 1);
 }
 
-TEST(HttpExchange, IsRefusedTwiceWhereNobodyListens)
+TEST(HttpExchange, RetriesARefusedConnectOnce)
 {
     SyslogLines lines;
     TcpListener listener;
@@ -231,7 +231,7 @@ TEST(HttpExchange, IsRefusedTwiceWhereNobodyListens)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CHttp::SendRequest SendHeader() retry"));
 }
 
-TEST(HttpExchange, TakesAReplyThatComesBeforeTheUploadEnds)
+TEST(HttpExchange, AcceptsAReplyBeforeTheUploadEnds)
 {
     const std::string body(20000000, 'b');
     TcpServer server({[](TcpServer&, TcpPeer& peer) {
@@ -244,7 +244,7 @@ TEST(HttpExchange, TakesAReplyThatComesBeforeTheUploadEnds)
     EXPECT_EQ(client.response.m_eStatus, CHttp::STATUS_FORBIDDEN);
 }
 
-TEST(HttpExchange, HealsAnOlderErrorOfRangeWithItsSecondTry)
+TEST(HttpExchange, RecoversFromAnEarlierErangeOnRetry)
 {
     SyslogLines lines;
     TcpServer server({TcpServer::Answers({GOOD, GOOD}), TcpServer::Answers({GOOD})});
@@ -257,18 +257,18 @@ TEST(HttpExchange, HealsAnOlderErrorOfRangeWithItsSecondTry)
                                           "<4>CHttp::SendRequest RecvResponse() retry"));
 }
 
-TEST(HttpExchange, DoesNotLiveOnAfterACloseAndAnOpen)
+TEST(HttpExchange, DoesNotReuseTheConnectionAfterCloseAndOpen)
 {
     TcpServer server({TcpServer::Answers({GOOD}), TcpServer::Answers({GOOD})});
     Client client(server);
     ASSERT_EQ(client.Get(), 0);
     EXPECT_EQ(client.http.Close(), 0);
     EXPECT_EQ(client.http.Open(server.Address(), server.Port(), FALSE), 0);
-    EXPECT_EQ(client.Get(), 0); // taken for connected at first, which the first write disproves
+    EXPECT_EQ(client.Get(), 0); // it counts as connected until the first write fails
     EXPECT_EQ(server.Connections(), 2);
 }
 
-TEST(HttpExchange, SendsASmallPostWithoutAPause)
+TEST(HttpExchange, SendsASmallPostWithoutDelay)
 {
     constexpr int COUNT = 50;
     TcpServer server({TcpServer::Answers(std::vector<std::string>(COUNT, GOOD))});
@@ -277,6 +277,6 @@ TEST(HttpExchange, SendsASmallPostWithoutAPause)
     for (int count = 0; count < COUNT; ++count) {
         ASSERT_EQ(client.Post("ifversion=02000000"), 0);
     }
-    // Each would wait 40 ms for the acknowledgement of its head otherwise.
+    // Otherwise each would wait 40 ms for the acknowledgement of its head.
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(COUNT * 40 / 2));
 }

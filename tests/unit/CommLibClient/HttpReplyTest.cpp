@@ -1,4 +1,4 @@
-// What the client makes of each reply.
+// Tests how the client parses replies.
 #include "Http.h"
 
 #include "FailingMemory.h"
@@ -18,7 +18,7 @@ static_assert(!std::is_copy_constructible_v<ST_HTTP_RESPONSE>); // it owns its b
 
 namespace {
 
-/// One reply to a client that is connected.
+/// One reply to a connected client.
 struct Reply
 {
     explicit Reply(const std::string& bytes, int readEnd = -11)
@@ -47,7 +47,7 @@ std::string Chunked(const std::string& body)
     return "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + body;
 }
 
-/// A header line of `size` bytes with its end.
+/// A header line of `size` bytes, including its end.
 std::string Line(size_t size)
 {
     return "X:" + std::string(size - 4, 'x') + "\r\n";
@@ -55,7 +55,7 @@ std::string Line(size_t size)
 
 } // namespace
 
-TEST(HttpReply, IsReadByItsLength)
+TEST(HttpReply, IsReadByItsContentLength)
 {
     const Reply cut("HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nabc");
     EXPECT_EQ(cut.result, -11);
@@ -72,7 +72,7 @@ TEST(HttpReply, IsReadByItsLength)
     EXPECT_TRUE(whole.http.IsConnected());
 }
 
-TEST(HttpReply, StartsFromAFreshRecord)
+TEST(HttpReply, StartsWithAnEmptyRecord)
 {
     ST_HTTP_RESPONSE response;
     EXPECT_EQ(response.m_eStatus, CHttp::STATUS_OK);
@@ -101,7 +101,7 @@ TEST(HttpReply, StartsFromAFreshRecord)
     EXPECT_EQ(response.m_eMethod, CHttp::EMPTY);
 }
 
-TEST(HttpReply, StartsWithAStatusLineThatIsKnown)
+TEST(HttpReply, RequiresAKnownStatusLine)
 {
     const struct
     {
@@ -127,7 +127,7 @@ TEST(HttpReply, StartsWithAStatusLineThatIsKnown)
         {"http/1.1 200 OK", -25, CHttp::STATUS_EMPTY},
         {" HTTP/1.1 200 OK", -25, CHttp::STATUS_EMPTY},
         {"", -25, CHttp::STATUS_EMPTY},
-        // The first code of the list that stands anywhere in the line.
+        // The first code of the list that occurs anywhere in the line counts.
         {"HTTP/1.1 500 at 404", 0, CHttp::STATUS_NOT_FOUND},
         {"HTTP/1.1 404 of 1200 files", 0, CHttp::STATUS_OK},
         {"HTTP/1.1 507 Insufficient Storage", 0, CHttp::STATUS_INSUFFICIENT_STORAGE},
@@ -142,7 +142,7 @@ TEST(HttpReply, StartsWithAStatusLineThatIsKnown)
     EXPECT_EQ(Reply("HTTP/1.0 200 OK\r\n\r\n").response.m_eVersion, CHttp::VERSION_1_0);
 }
 
-TEST(HttpReply, MayBeginWithInterimOnes)
+TEST(HttpReply, MayFollowInterimReplies)
 {
     const Reply reply("HTTP/1.1 100 Continue\r\nSet-Cookie:early\r\nContent-Length: 3\r\n\r\n"
                       "HTTP/1.1 100\r\n\r\n"
@@ -150,19 +150,19 @@ TEST(HttpReply, MayBeginWithInterimOnes)
     EXPECT_EQ(reply.result, 0);
     EXPECT_EQ(reply.response.m_eStatus, CHttp::STATUS_OK);
     EXPECT_EQ(reply.response.m_eVersion, CHttp::VERSION_1_0);
-    EXPECT_EQ(reply.response.m_strCookie, "early"); // the headers of all of them count
+    EXPECT_EQ(reply.response.m_strCookie, "early"); // the headers of all replies count
     EXPECT_EQ(reply.Content(), "abc");
     EXPECT_FALSE(reply.http.IsConnected());
 }
 
-TEST(HttpReply, IsInterimWhereverA100StandsInItsReason)
+TEST(HttpReply, IsInterimIf100OccursInItsReason)
 {
     const Reply reply("HTTP/1.1 404 Error 100\r\n\r\nHTTP/1.1 200 OK\r\n\r\n");
     EXPECT_EQ(reply.result, 0);
     EXPECT_EQ(reply.response.m_eStatus, CHttp::STATUS_OK);
 }
 
-TEST(HttpReply, OutlivesThousandsOfInterimOnes)
+TEST(HttpReply, ToleratesThousandsOfInterimReplies)
 {
     std::string bytes;
     for (int count = 0; count < 10000; ++count) {
@@ -173,7 +173,7 @@ TEST(HttpReply, OutlivesThousandsOfInterimOnes)
     EXPECT_EQ(reply.response.m_eStatus, CHttp::STATUS_CONTINUE);
 }
 
-TEST(HttpReply, HasLinesOf1024BytesAtMost)
+TEST(HttpReply, HasLinesOfAtMost1024Bytes)
 {
     for (const size_t size : {1023U, 1024U, 1025U, 1026U, 5000U}) {
         const int expected = size <= 1024 ? 0 : -5;
@@ -186,19 +186,19 @@ TEST(HttpReply, HasLinesOf1024BytesAtMost)
     }
 }
 
-TEST(HttpReply, DropsTheByteBeforeALineFeedWhateverItIs)
+TEST(HttpReply, DropsAnyByteBeforeALineFeed)
 {
     const Reply reply("HTTP/1.1 200 OKx\nContent-Length: 23\nX\n\n");
-    EXPECT_EQ(reply.result, -11); // one of 2 bytes is due
+    EXPECT_EQ(reply.result, -11); // 2 bytes are expected
     EXPECT_EQ(reply.response.m_dwContentLength, 2U);
     const Reply bare("HTTP/1.1 200 OK\r\nContent-Length: 1\r\n\nx");
-    EXPECT_EQ(bare.result, 0); // a line feed alone ends the head as well
+    EXPECT_EQ(bare.result, 0); // a line feed alone also ends the head
     EXPECT_EQ(bare.Content(), "x");
     const Reply oneByte("HTTP/1.1 200 OK\r\nContent-Length: 1\r\nx\nx");
     EXPECT_EQ(oneByte.result, 0);
 }
 
-TEST(HttpReply, KnowsItsLengthFromANumber)
+TEST(HttpReply, ParsesItsContentLength)
 {
     const struct
     {
@@ -218,9 +218,9 @@ TEST(HttpReply, KnowsItsLengthFromANumber)
         {" 3x", -25, 0},
         {" 0x3", -25, 0},
         {" x", -25, 0},
-        {" ", -25, 0}, // the blank stands behind no number
+        {" ", -25, 0}, // strtoul skips the blank only before a number
         {" -1", -25, 0},
-        {" -18446744073709551613", 0, 3}, // a sign counts round the 64 bits
+        {" -18446744073709551613", 0, 3}, // a negative number wraps around 64 bits
         {" 4294967296", -25, 0},
         {" 4294967299", -25, 0},
         {" 18446744073709551615", -25, 0},
@@ -235,7 +235,7 @@ TEST(HttpReply, KnowsItsLengthFromANumber)
     }
 }
 
-TEST(HttpReply, TakesAnOlderErrorOfRangeForItsOwn)
+TEST(HttpReply, FailsOnAnEarlierErange)
 {
     auto* comm = new FakeComm({{.reply = "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nabc"}});
     FakeHttp http(comm);
@@ -245,7 +245,7 @@ TEST(HttpReply, TakesAnOlderErrorOfRangeForItsOwn)
     EXPECT_EQ(http.RecvResponse(&response), -25);
     EXPECT_EQ(response.m_dwContentLength, 0U);
     EXPECT_FALSE(http.IsConnected());
-    // Only a length is read so: a reply without one, or in chunks, is as good as ever.
+    // This applies only to a Content-Length: a reply without one, or in chunks, is read.
     for (const std::string& good : {std::string("HTTP/1.1 200 OK\r\n\r\n"), Chunked("1\r\na\r\n0\r\n\r\n")}) {
         FakeHttp other(new FakeComm({{.reply = good}}));
         ASSERT_EQ(
@@ -256,14 +256,14 @@ TEST(HttpReply, TakesAnOlderErrorOfRangeForItsOwn)
     errno = 0;
 }
 
-TEST(HttpReply, TakesTheLaterOfTwoLengths)
+TEST(HttpReply, UsesTheLaterOfTwoLengths)
 {
     EXPECT_EQ(Reply("HTTP/1.1 200 OK\r\nContent-Length: 9\r\nContent-Length: 2\r\n\r\nabc").Content(), "ab");
     EXPECT_EQ(Reply("HTTP/1.1 200 OK\r\nContent-Length: 1\r\nContent-Length: 3\r\n\r\nabc").Content(), "abc");
     EXPECT_EQ(Reply("HTTP/1.1 200 OK\r\nContent-Length: x\r\nContent-Length: 3\r\n\r\nabc").result, -25);
 }
 
-TEST(HttpReply, KnowsItsHeadersByTheirExactNames)
+TEST(HttpReply, MatchesHeaderNamesExactly)
 {
     const Reply reply("HTTP/1.1 200 OK\r\n"
                       "content-length: 3\r\n"
@@ -282,10 +282,10 @@ TEST(HttpReply, KnowsItsHeadersByTheirExactNames)
     EXPECT_FALSE(reply.response.m_bChunked);
     EXPECT_TRUE(reply.response.m_bConActive);
     EXPECT_EQ(reply.response.m_strCookie, "");
-    EXPECT_EQ(reply.comm->Unread(), "abc"); // never up to the close
+    EXPECT_EQ(reply.comm->Unread(), "abc"); // the body is never read up to the close
 }
 
-TEST(HttpReply, SaysWhetherTheConnectionStays)
+TEST(HttpReply, DeterminesWhetherTheConnectionStaysOpen)
 {
     const struct
     {
@@ -321,7 +321,7 @@ TEST(HttpReply, KeepsTheLastCookie)
         "b=2; HttpOnly");
 }
 
-TEST(HttpReply, MayComeInChunks)
+TEST(HttpReply, MayBeChunked)
 {
     const struct
     {
@@ -348,17 +348,17 @@ TEST(HttpReply, MayComeInChunks)
         {"3\r\nabc\r\n0;x=y\r\n\r\n", -25, ""},
         {"xyz\r\n", -25, ""},
         {"g\r\n", -25, ""},
-        {"\r\n\r\n", 0, ""}, // no number is nothing behind a number
+        {"\r\n\r\n", 0, ""}, // an empty line counts as 0
         {"100000000\r\n", -25, ""},
         {"FFFFFFFFFF\r\n", -25, ""},
-        {"3\r\nabc\r\nFFFFFFFD\r\n", -2, ""}, // more than is accepted
-        {"3\r\nabcd\r\n0\r\n\r\n", 0, "abc"}, // what stands in the line behind a chunk is not looked at
+        {"3\r\nabc\r\nFFFFFFFD\r\n", -2, ""}, // exceeds the limit
+        {"3\r\nabcd\r\n0\r\n\r\n", 0, "abc"}, // the rest of the line after a chunk is ignored
         {"3\r\nabc0123456789\r\n0\r\n\r\n", 0, "abc"},
         {"3\r\nabc01234567890\r\n0\r\n\r\n", -5, ""},
         {"3\r\nab", -11, ""},
         {"3\r\nabc\r\n", -11, ""},
         {"3\r\nabc\r\n0\r\n", -11, ""},
-        {"3\r\nabc\r\n0\r\nX: trailer\r\n\r\n", 0, "abc"}, // its first line counts as the end
+        {"3\r\nabc\r\n0\r\nX: trailer\r\n\r\n", 0, "abc"}, // the first line of the trailer counts as the end
         {"3\r\nabc\r\n0\r\nX-Long: trailer\r\n\r\n", -5, ""},
     };
     for (const auto& row : rows) {
@@ -375,7 +375,7 @@ TEST(HttpReply, MayComeInChunks)
     }
 }
 
-TEST(HttpReply, MayComeInThousandsOfChunks)
+TEST(HttpReply, MayHaveThousandsOfChunks)
 {
     std::string body;
     std::string content;
@@ -386,7 +386,7 @@ TEST(HttpReply, MayComeInThousandsOfChunks)
     EXPECT_EQ(Reply(Chunked(body + "0\r\n\r\n")).Content(), content);
 }
 
-TEST(HttpReply, GoesByItsChunksWhenItHasALengthToo)
+TEST(HttpReply, PrefersChunksToAContentLength)
 {
     const Reply reply("HTTP/1.1 200 OK\r\nContent-Length: 100\r\nTransfer-Encoding: gzip, chunked\r\n\r\n"
                       "3\r\nabc\r\n0\r\n\r\n");
@@ -404,7 +404,7 @@ TEST(HttpReply, KeepsWhatWasParsedBeforeAFailure)
     EXPECT_EQ(reply.response.m_pContent, nullptr);
 }
 
-TEST(HttpReply, ReportsThatMemoryRanOut)
+TEST(HttpReply, ReportsOutOfMemory)
 {
     const FailingMemory memory(1000);
     const Reply plain("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nabc");
@@ -414,7 +414,7 @@ TEST(HttpReply, ReportsThatMemoryRanOut)
     EXPECT_EQ(Reply(Chunked("3e8\r\n")).result, -2);
 }
 
-TEST(HttpReply, CostsNoMemoryForALengthThatIsOnlyAnnounced)
+TEST(HttpReply, DoesNotAllocateAnAnnouncedLengthInAdvance)
 {
     const FailingMemory memory(131073);
     for (const std::string& bytes : {std::string("HTTP/1.1 200 OK\r\nContent-Length: 4000000\r\n\r\nabc"),
@@ -424,9 +424,9 @@ TEST(HttpReply, CostsNoMemoryForALengthThatIsOnlyAnnounced)
     EXPECT_FALSE(memory.HasFailed());
 }
 
-TEST(HttpReply, GrowsInFewSteps)
+TEST(HttpReply, GrowsInFewAllocations)
 {
-    const FailingMemory memory(1, 40); // of all its chunks
+    const FailingMemory memory(1, 40); // for all chunks
     std::string body;
     for (int count = 0; count < 100000; ++count) {
         body += "2\r\nab\r\n";
@@ -458,12 +458,12 @@ TEST(HttpReply, IsLimitedInSize)
     {
         std::string bytes;
         int result;
-        size_t unread; ///< bytes of it at least
+        size_t unread; ///< at least so many bytes
     } rows[] = {
         {head + std::string(limit - 44, 'x'), 0, 0},
         {"HTTP/1.1 200 OK\r\nContent-Length: 4194261\r\n\r\n" + std::string(limit, 'x'), -2, limit},
         {"HTTP/1.1 200 OK\r\nContent-Length: 4294967295\r\n\r\nabc", -2, 3},
-        // The lines around the chunk and behind it have 15 bytes.
+        // The lines before and after the chunk have 15 bytes.
         {chunkedHead + "3FFFC2\r\n" + std::string(0x3FFFC2, 'x') + "\r\n0\r\n\r\n", 0, 0},
         {chunkedHead + "3FFFC3\r\n" + std::string(0x3FFFC3, 'x') + "\r\n0\r\n\r\n", -2, 0},
         {chunkedHead + "FFFFFFFF\r\nabc", -2, 3},
@@ -485,7 +485,7 @@ TEST(HttpReply, IsLimitedInSize)
     }
 }
 
-TEST(HttpReply, ClaimsMoreThanItSends)
+TEST(HttpReply, FailsIfItIsShorterThanAnnounced)
 {
     const Reply reply("HTTP/1.1 200 OK\r\nContent-Length: 4000000\r\n\r\nabc");
     EXPECT_EQ(reply.result, -11);

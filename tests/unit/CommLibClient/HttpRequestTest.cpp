@@ -1,4 +1,4 @@
-// What the client sends, and when it sends it again.
+// Tests what the client sends, and when it retries.
 #include "Http.h"
 
 #include "FailingMemory.h"
@@ -17,7 +17,7 @@ const char GOOD[] = "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok";
 const char PATH[] = "/webapp2/ServerModeGetter";
 const char HEAD[] = "GET /webapp2/ServerModeGetter HTTP/1.1\r\nHost:localhost\r\n\r\n";
 
-/// A client over prepared connections, and the plain request that it makes.
+/// A client with prepared connections that sends plain requests.
 struct Client
 {
     explicit Client(std::vector<FakeConnection> connections)
@@ -42,7 +42,7 @@ struct Client
     ST_HTTP_RESPONSE response;
 };
 
-/// What a failure of one stage looks like.
+/// A stage of the exchange, and a connection on which it fails.
 struct Stage
 {
     const char* name;
@@ -74,7 +74,7 @@ bool Holds(const std::vector<std::string>& lines, const std::string& line)
 
 } // namespace
 
-TEST(HttpRequest, IsTheSimplestOne)
+TEST(HttpRequest, SendsTheSimplestRequest)
 {
     Client client({{.reply = GOOD}});
     EXPECT_EQ(client.Get(), 0);
@@ -100,7 +100,7 @@ TEST(HttpRequest, PostsAForm)
     EXPECT_EQ(client.response.m_eMethod, CHttp::METHOD_POST);
 }
 
-TEST(HttpRequest, PutsItsLinesInOrder)
+TEST(HttpRequest, WritesItsHeadersInOrder)
 {
     Client client({{.reply = GOOD}});
     EXPECT_EQ(client.http.SendRequest(CHttp::METHOD_PUT, "/uploads/0000002a/DiscInfo.xml", CHttp::VERSION_1_0,
@@ -116,7 +116,7 @@ TEST(HttpRequest, PutsItsLinesInOrder)
                                                  "abc"));
 }
 
-TEST(HttpRequest, NeedsUserAndPasswordToAuthorise)
+TEST(HttpRequest, RequiresUserAndPasswordForAuthorisation)
 {
     const struct
     {
@@ -140,7 +140,7 @@ TEST(HttpRequest, NeedsUserAndPasswordToAuthorise)
     }
 }
 
-TEST(HttpRequest, SendsNothingWhenItCannotEncodeTheCredentials)
+TEST(HttpRequest, SendsNothingIfEncodingTheCredentialsFails)
 {
     Client client({FakeConnection()});
     const FailingMemory memory(1);
@@ -149,7 +149,7 @@ TEST(HttpRequest, SendsNothingWhenItCannotEncodeTheCredentials)
     EXPECT_THAT(client.comm->writes, IsEmpty());
 }
 
-TEST(HttpRequest, SendsTheHeaderTextAsItStands)
+TEST(HttpRequest, SendsTheHeaderTextUnchanged)
 {
     Client client({FakeConnection()});
     EXPECT_EQ(client.http.SendHeader(CHttp::METHOD_GET, "/a b?c=%ff", CHttp::VERSION_1_1, "h", nullptr,
@@ -158,7 +158,7 @@ TEST(HttpRequest, SendsTheHeaderTextAsItStands)
     EXPECT_THAT(client.comm->writes, ElementsAre("GET /a b?c=%ff HTTP/1.1\r\nHost:h\r\nX: 1\r\nno end\r\n"));
 }
 
-TEST(HttpRequest, HasALengthOnlyWithABody)
+TEST(HttpRequest, HasAContentLengthOnlyWithABody)
 {
     const struct
     {
@@ -166,7 +166,7 @@ TEST(HttpRequest, HasALengthOnlyWithABody)
         DWORD size;
         std::vector<std::string> writes;
     } rows[] = {
-        {nullptr, 0, {HEAD}}, {nullptr, 5, {HEAD}}, {"body", 0, {HEAD, ""}}, // a message of no bytes
+        {nullptr, 0, {HEAD}}, {nullptr, 5, {HEAD}}, {"body", 0, {HEAD, ""}}, // an empty message
     };
     for (const auto& row : rows) {
         Client client({{.reply = GOOD}});
@@ -188,7 +188,7 @@ TEST(HttpRequest, SendsABodyWithAnyBytes)
     EXPECT_EQ(client.comm->writes.back(), body);
 }
 
-TEST(HttpRequest, IsSentTwiceWhenItFails)
+TEST(HttpRequest, IsRetriedAfterAFailure)
 {
     for (const Stage& stage : stages) {
         for (const int result : {-9, -10, -11, -14, -26}) {
@@ -199,7 +199,7 @@ TEST(HttpRequest, IsSentTwiceWhenItFails)
                         ElementsAre("Close", "Open", "Connect", "Close", "Close", "Open", "Connect"));
             const std::vector<std::string> taken = lines.Take();
             EXPECT_EQ(taken.back(), std::string("<4>CHttp::SendRequest ") + stage.name + "() retry");
-            // From the head on.
+            // The retry starts with the head.
             const auto& writes = client.comm->writes;
             ASSERT_GE(writes.size(), 2U);
             EXPECT_EQ(writes[writes.size() - 2].substr(0, 6), "POST /");
@@ -210,7 +210,7 @@ TEST(HttpRequest, IsSentTwiceWhenItFails)
     }
 }
 
-TEST(HttpRequest, IsSentTwiceWhenItsReplyIsNoneThatIsKnown)
+TEST(HttpRequest, IsRetriedAfterAnInvalidReply)
 {
     const struct
     {
@@ -228,7 +228,7 @@ TEST(HttpRequest, IsSentTwiceWhenItsReplyIsNoneThatIsKnown)
     }
 }
 
-TEST(HttpRequest, IsSentOnceWhenItsReplyIsTooLarge)
+TEST(HttpRequest, IsNotRetriedAfterATooLargeReply)
 {
     const std::string tooLarge = "HTTP/1.1 200 OK\r\nContent-Length: 67108864\r\n\r\nabc";
     SyslogLines lines;
@@ -238,11 +238,11 @@ TEST(HttpRequest, IsSentOnceWhenItsReplyIsTooLarge)
     EXPECT_FALSE(client.http.IsConnected());
     EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib(HTTP)] Reply of more than 4194304 bytes",
                                           "<4>CHttp::RecvResponse RecvMessage() error"));
-    EXPECT_EQ(client.Get(), 0); // the next request has its retry again
+    EXPECT_EQ(client.Get(), 0); // the next request may be retried again
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CHttp::SendRequest SendHeader() retry"));
 }
 
-TEST(HttpRequest, IsNeverSentThreeTimes)
+TEST(HttpRequest, IsRetriedOnlyOnce)
 {
     for (const Stage& first : stages) {
         for (const Stage& second : stages) {
@@ -285,7 +285,7 @@ TEST(HttpRequest, HoldsBackTheHeadOfASmallBody)
     }
 }
 
-TEST(HttpRequest, HoldsNothingBackAfterAHeadThatFailed)
+TEST(HttpRequest, HoldsNothingBackAfterAFailedHead)
 {
     Client client({FailingHeader(-8), {.reply = GOOD}});
     EXPECT_EQ(client.Post(), -8);
@@ -295,7 +295,7 @@ TEST(HttpRequest, HoldsNothingBackAfterAHeadThatFailed)
     EXPECT_EQ(client.comm->moreFollows, std::vector<bool>{false});
 }
 
-TEST(HttpRequest, IsSentOnceWhenItTimesOut)
+TEST(HttpRequest, IsNotRetriedAfterATimeout)
 {
     const struct
     {
@@ -321,7 +321,7 @@ TEST(HttpRequest, IsSentOnceWhenItTimesOut)
     }
 }
 
-TEST(HttpRequest, IsNotSentAThirdTimeAfterATimeout)
+TEST(HttpRequest, IsNotRetriedAgainAfterATimeout)
 {
     SyslogLines lines;
     Client client({FailingHeader(-10), FailingMessage(-8), {.reply = GOOD}});
@@ -332,25 +332,25 @@ TEST(HttpRequest, IsNotSentAThirdTimeAfterATimeout)
                                           "/webapp2/ServerModeGetter, Add Header = null"));
 }
 
-TEST(HttpRequest, ConnectsAnewAfterAFailedConnect)
+TEST(HttpRequest, RetriesAFailedConnect)
 {
     SyslogLines lines;
     Client client({{.connectResult = -14}, {.reply = GOOD}});
     EXPECT_EQ(client.Get(), 0);
-    // Each connect closes what was before; the failed one is not closed for itself.
+    // Each connect closes the previous socket; a failed connect does not close its own.
     EXPECT_THAT(client.comm->calls, ElementsAre("Close", "Open", "Connect", "Close", "Open", "Connect"));
     EXPECT_THAT(client.comm->writes, ElementsAre(HEAD));
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CHttp::SendRequest SendHeader() retry"));
 }
 
-TEST(HttpRequest, FailsWithTheSecondConnect)
+TEST(HttpRequest, ReturnsTheErrorOfTheSecondConnect)
 {
     Client client({{.connectResult = -14}, {.openResult = -13}});
     EXPECT_EQ(client.Get(), -13);
     EXPECT_THAT(client.comm->calls, ElementsAre("Close", "Open", "Connect", "Close", "Open"));
 }
 
-TEST(HttpRequest, DoesNotConnectAgainAfterAConnectThatTimedOut)
+TEST(HttpRequest, DoesNotRetryAConnectThatTimedOut)
 {
     SyslogLines lines;
     Client client({{.connectResult = -6}, {.reply = GOOD}});
@@ -377,7 +377,7 @@ TEST(HttpRequest, SucceedsWithAnyHttpStatus)
     EXPECT_EQ(client.response.m_eStatus, CHttp::STATUS_INTERNAL_SERVER_ERROR);
 }
 
-TEST(HttpRequest, CannotBeMadeBeforeOpen)
+TEST(HttpRequest, FailsBeforeOpen)
 {
     CHttp http;
     ST_HTTP_RESPONSE response;
@@ -394,7 +394,7 @@ TEST(HttpRequest, CannotBeMadeBeforeOpen)
     EXPECT_EQ(http.Close(), 0);
 }
 
-TEST(HttpRequestDeathTest, StopsWhereACallCannotBeMeant)
+TEST(HttpRequestDeathTest, InvalidCallsStopTheProcess)
 {
     Client client({FakeConnection()});
     const auto send = [&](const char* path, const char* host, ST_HTTP_RESPONSE* response) {

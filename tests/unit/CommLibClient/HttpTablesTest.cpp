@@ -92,7 +92,7 @@ const Status statuses[] = {
     {static_cast<CHttp::STATUS>(63), 63, 0},
 };
 
-// How a test reaches what is private to the class: an explicit instantiation may name it.
+// Gives the test access to a private member: an explicit instantiation may name it.
 template <auto member>
 struct Base64ErrorTable
 {
@@ -128,7 +128,7 @@ TEST(HttpTables, NumberTheVersions)
     EXPECT_EQ(CHttp::VERSION_1_1, 1);
 }
 
-TEST(HttpTables, TurnWhatBase64ReportsIntoInternetResults)
+TEST(HttpTables, ConvertBase64ResultsToInternetResults)
 {
     const int expected[] = {0, -26, -2, -26, -26, -26, -21, -22, -23, -24, -26};
     for (int value = 0; value <= 10; ++value) {

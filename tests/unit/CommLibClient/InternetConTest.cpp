@@ -15,7 +15,7 @@ using testing::IsEmpty;
 
 static_assert(std::has_virtual_destructor_v<CInternetCon>);
 
-TEST(InternetCon, IsNotOpenBeforeOpen)
+TEST(InternetCon, FailsBeforeOpen)
 {
     CInternetCon con;
     char byte = 0;
@@ -29,7 +29,7 @@ TEST(InternetCon, IsNotOpenBeforeOpen)
     EXPECT_EQ(con.PollRead(1), -3);
 }
 
-TEST(InternetCon, OpensOnceAndTouchesNoNetwork)
+TEST(InternetCon, OpensOnceWithoutNetworkTraffic)
 {
     TcpListener listener;
     CInternetCon con;
@@ -42,7 +42,7 @@ TEST(InternetCon, OpensOnceAndTouchesNoNetwork)
     EXPECT_EQ(con.Connect(), -3);
 }
 
-TEST(InternetCon, ReportsThatMemoryRanOut)
+TEST(InternetCon, ReportsOutOfMemory)
 {
     CInternetCon con;
     {
@@ -65,7 +65,7 @@ TEST(InternetCon, ConnectsAStreamSocketWithinFiveSeconds)
     EXPECT_EQ(comm->connectTimeout, 5000U);
 }
 
-TEST(InternetCon, StoresATimeoutOnlyWhenItIsOpen)
+TEST(InternetCon, StoresATimeoutOnlyWhenOpen)
 {
     TcpListener listener;
     FakeCon con(nullptr);
@@ -76,7 +76,7 @@ TEST(InternetCon, StoresATimeoutOnlyWhenItIsOpen)
     EXPECT_EQ(con.m_dwConTimeoutMilliSec, 1234U);
 }
 
-TEST(InternetCon, PassesItsTimeoutsOn)
+TEST(InternetCon, PassesItsTimeoutsToTheTransport)
 {
     auto* comm = new FakeComm({FakeConnection()});
     FakeCon con(comm);
@@ -88,7 +88,7 @@ TEST(InternetCon, PassesItsTimeoutsOn)
     EXPECT_EQ(con.PollRead(1), -6);
 }
 
-TEST(InternetCon, DoesNothingToConnectWhileItIsConnected)
+TEST(InternetCon, ConnectDoesNothingWhileConnected)
 {
     auto* comm = new FakeComm({{}, {}});
     FakeCon con(comm);
@@ -103,7 +103,7 @@ TEST(InternetCon, DoesNothingToConnectWhileItIsConnected)
     EXPECT_THAT(comm->calls, ElementsAre("Close", "Close", "Open", "Connect"));
 }
 
-TEST(InternetCon, ReturnsWhyItCouldNotConnect)
+TEST(InternetCon, ReturnsTheErrorOfAFailedConnect)
 {
     auto* comm = new FakeComm({{.openResult = -13}, {.connectResult = -6}, {.connectResult = -14}, {}});
     FakeCon con(comm);
@@ -112,11 +112,11 @@ TEST(InternetCon, ReturnsWhyItCouldNotConnect)
     EXPECT_EQ(con.Connect(), -6);
     EXPECT_FALSE(con.m_bConActive);
     EXPECT_EQ(con.Connect(), -14);
-    EXPECT_EQ(comm->calls.back(), "Connect"); // the socket stays as it is until the next one
+    EXPECT_EQ(comm->calls.back(), "Connect"); // the socket is kept until the next connect
     EXPECT_EQ(con.Connect(), 0);
 }
 
-TEST(InternetCon, KnowsAfterAReadThatItsPeerClosed)
+TEST(InternetCon, IsDisconnectedAfterAReadFromAClosedPeer)
 {
     const struct
     {
@@ -128,13 +128,13 @@ TEST(InternetCon, KnowsAfterAReadThatItsPeerClosed)
         FakeCon con(comm);
         ASSERT_EQ(con.Connect(), 0);
         char buffer[2];
-        EXPECT_EQ(con.ReadToCount(buffer, 2), 0); // no count
+        EXPECT_EQ(con.ReadToCount(buffer, 2), 0); // not the count
         EXPECT_EQ(con.ReadToCount(buffer, 1), row.readEnd);
         EXPECT_EQ(con.m_bConActive != FALSE, row.isConnected) << row.readEnd;
     }
 }
 
-TEST(InternetCon, KeepsItsStateOverAFailedWrite)
+TEST(InternetCon, KeepsItsStateAfterAFailedWrite)
 {
     auto* comm = new FakeComm({{.goodWrites = 1, .writeEnd = -10}});
     FakeCon con(comm);
@@ -144,7 +144,7 @@ TEST(InternetCon, KeepsItsStateOverAFailedWrite)
     EXPECT_TRUE(con.m_bConActive);
 }
 
-TEST(InternetCon, LeavesItsStateBehindWhenItCloses)
+TEST(InternetCon, KeepsItsStateAfterClose)
 {
     FakeCon con(new FakeComm({FakeConnection()}));
     ASSERT_EQ(con.Connect(), 0);
@@ -161,7 +161,7 @@ TEST(InternetCon, OpensANewSocketAfterItsPeerClosed)
     ASSERT_EQ(con.Open(listener.Address(), listener.Port(), FALSE), 0);
     ASSERT_EQ(con.Connect(), 0);
     listener.Accept().Close();
-    EXPECT_EQ(con.Connect(), 0); // it does not look
+    EXPECT_EQ(con.Connect(), 0); // it does not check the peer
     EXPECT_FALSE(listener.Accept(0).IsOpen());
     char byte = 0;
     EXPECT_EQ(con.ReadToCount(&byte, 1), -11);
@@ -174,7 +174,7 @@ TEST(InternetCon, OpensANewSocketAfterItsPeerClosed)
     EXPECT_TRUE(peer.WaitForClose());
 }
 
-TEST(InternetCon, ClosesItsSocketWithItsObject)
+TEST(InternetCon, TheDestructorClosesTheSocket)
 {
     TcpListener listener;
     TcpPeer peer;
@@ -187,7 +187,7 @@ TEST(InternetCon, ClosesItsSocketWithItsObject)
     EXPECT_TRUE(peer.WaitForClose());
 }
 
-TEST(InternetConDeathTest, StopsWithoutAnAddress)
+TEST(InternetConDeathTest, ANullAddressStopsTheProcess)
 {
     CInternetCon con;
     EXPECT_DEATH(con.Open(nullptr, 80, FALSE), "pszServerAddress != nullptr");

@@ -1,4 +1,4 @@
-// The numbers and the sizes that others see of jobs.
+// The public constants of jobs, and the layout of their records.
 #include "NW_Com_Lib_internal.h"
 
 #include <cstddef>
@@ -137,7 +137,7 @@ TEST(JobConstants, RecordsHaveTheSizesOfTheirFields)
     EXPECT_EQ(sizeof(JobStatusEx::wszJobIdentificationID), 766U);
 }
 
-TEST(JobConstants, FieldsLieInOrder)
+TEST(JobConstants, FieldsAreInOrder)
 {
     EXPECT_EQ(offsetof(JobStatus, wszPublicationPerson), 16U);
     EXPECT_EQ(offsetof(JobStatus, dwJobType), 212U);

@@ -27,7 +27,7 @@ struct Operation
     const char* name;
     Control run;
     const char* action;
-    const char* trace; ///< of a bad reply, the last line of the log
+    const char* trace; ///< the last line of the log after a bad reply
 };
 
 const Operation submitting[] = {
@@ -105,7 +105,7 @@ TEST(JobControl, OnlySpecialJobsAreControlledInASecureMode)
     EXPECT_EQ(publisher.Requests().at(0).Header("Cookie"), "(none)");
 }
 
-TEST(JobControl, OtherJobsTakeTheSessionsCookieAlong)
+TEST(JobControl, OtherJobsSendTheSessionCookie)
 {
     FakePublisher publisher({Done()});
     publisher->m_strJSessionID = "s";
@@ -141,7 +141,7 @@ TEST(JobControl, CommitAndCancelEndTheSubmission)
     }
 }
 
-TEST(JobControl, AFailureLeavesTheSubmissionAsItIs)
+TEST(JobControl, AFailureDoesNotEndTheSubmission)
 {
     for (const Operation& operation : submitting) {
         SyslogLines log;
@@ -154,7 +154,7 @@ TEST(JobControl, AFailureLeavesTheSubmissionAsItIs)
     }
 }
 
-TEST(JobControl, AMonitorLeavesTheSubmissionAsItIs)
+TEST(JobControl, AMonitorDoesNotEndTheSubmission)
 {
     for (const Operation& operation : monitor) {
         SyslogLines log;
@@ -184,7 +184,7 @@ TEST(JobControl, AMonitorLogsAFailureTwice)
     }
 }
 
-TEST(JobControl, AMonitorHasAName)
+TEST(JobControl, AMonitorRequiresUserAndPassword)
 {
     SyslogLines log;
     FakePublisher publisher;
@@ -197,7 +197,7 @@ TEST(JobControl, AMonitorHasAName)
     EXPECT_EQ(log.Take().size(), 8U);
 }
 
-TEST(JobControl, AHandleThatIsNoneHasNoHost)
+TEST(JobControl, AnInvalidHandleHasNoHost)
 {
     for (const auto& operations :
          {std::span<const Operation>(submitting), std::span<const Operation>(monitor)}) {
@@ -211,7 +211,7 @@ TEST(JobControl, AHandleThatIsNoneHasNoHost)
     }
 }
 
-TEST(JobControl, AFailedExchangeIsTracedByTheCallerAlone)
+TEST(JobControl, OnlyTheCallerTracesAFailedExchange)
 {
     for (const Operation& operation : submitting) {
         SyslogLines log;
@@ -224,7 +224,7 @@ TEST(JobControl, AFailedExchangeIsTracedByTheCallerAlone)
     }
 }
 
-TEST(JobControl, AnEndingConnectionRefuses)
+TEST(JobControl, AClosingConnectionRefusesOperations)
 {
     FakePublisher publisher;
     publisher->m_bEndConnection = TRUE;
@@ -253,9 +253,9 @@ TEST(JobControlDeathTest, NullPointersAreProgrammingErrors)
     EXPECT_DEATH(ControlJobForMonitor(ncl, &response, items, 1, stop, "u", nullptr), "");
 }
 
-// --- Under the submitter's own id
+// --- Operations by the submitter's id
 
-TEST(JobBridge, SendsTheIdAsItIs)
+TEST(JobBridge, SendsTheIdUnchanged)
 {
     SyslogLines log;
     FakePublisher publisher({Done(), Done()});
@@ -275,7 +275,7 @@ TEST(JobBridge, SendsTheIdAsItIs)
                             "<6>server , ChangeJobPriorityForBridge , End"));
 }
 
-TEST(JobBridge, BothTraceUnderOneName)
+TEST(JobBridge, BothOperationsTraceUnderOneName)
 {
     SyslogLines log;
     FakePublisher publisher({HttpResponse("", "500 Oh"), HttpResponse(ReplyItem("", 10)),
@@ -290,7 +290,7 @@ TEST(JobBridge, BothTraceUnderOneName)
     EXPECT_EQ(log.Take().back(), "<3>\t## trace ## CancelJobForBridge ParseCommReply() Permission Denied");
 }
 
-TEST(JobBridge, RefusesBadParametersButNotAnEndingConnection)
+TEST(JobBridge, RefusesBadParametersButNotAClosingConnection)
 {
     SyslogLines log;
     FakePublisher publisher({Done()});

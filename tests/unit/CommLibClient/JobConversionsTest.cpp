@@ -12,7 +12,7 @@ struct Row
 
 } // namespace
 
-TEST(JobConversions, StatesUpToFinishedAreTheSame)
+TEST(JobConversions, StatesUpToFinishedAreUnchanged)
 {
     for (DWORD state = 0; state <= 8; ++state) {
         EXPECT_EQ(ConvertJobStatus(state), static_cast<int>(state));
@@ -23,18 +23,18 @@ TEST(JobConversions, StatesUpToFinishedAreTheSame)
     }
 }
 
-TEST(JobConversions, FactorsUpTo51AreTheSame)
+TEST(JobConversions, FactorsUpTo51AreUnchanged)
 {
     for (DWORD factor = 0; factor < 52; ++factor) {
         EXPECT_EQ(ConvertJobStatusFactor(factor), static_cast<int>(factor));
     }
-    // Factors from 52 on have names, and are still taken for the stacker setting.
+    // Factors from 52 on have names, but still become 13, the stacker setting.
     for (const DWORD beyond : {52U, 53U, 54U, 55U, 56U, 57U, 204U, 205U, 255U, 0xFFFFFFFFU}) {
         EXPECT_EQ(ConvertJobStatusFactor(beyond), 13) << beyond;
     }
 }
 
-TEST(JobConversions, PrintModesBelowFourGiveTheJobType)
+TEST(JobConversions, PrintModesBelowFourKeepTheJobType)
 {
     for (DWORD mode = 0; mode < 4; ++mode) {
         for (DWORD type = 0; type <= 2; ++type) {
@@ -57,12 +57,12 @@ TEST(JobConversions, OtherPrintModesAreMaintenance)
     }
 }
 
-TEST(JobConversions, JobTypesBeyondTheTableReadAs13)
+TEST(JobConversions, JobTypesBeyondTheTableBecome13)
 {
     for (const DWORD type : {3U, 4U, 13U, 255U, 0xFFFFFFFFU}) {
         EXPECT_EQ(ConvertJobType(type, 0), 13) << type;
         EXPECT_EQ(ConvertJobType(type, 4), 13) << type;
-        EXPECT_EQ(ConvertJobType(type, 10), 13) << type; // the type is looked at first
+        EXPECT_EQ(ConvertJobType(type, 10), 13) << type; // the type is checked first
     }
 }
 
@@ -93,7 +93,7 @@ TEST(JobConversions, PublishModes)
     }
 }
 
-TEST(JobConversions, AListHasAMostOfJobs)
+TEST(JobConversions, AListHasAMaximumLength)
 {
     EXPECT_EQ(dwJobCountMaxCost[NCL_JST_PROCESS_JOB], 1000U);
     EXPECT_EQ(dwJobCountMaxCost[NCL_JST_FINISH_JOB], 50U);

@@ -32,7 +32,7 @@ std::vector<JobRecord> Jobs(size_t count, size_t size = JobRecord::SIZE)
     return records;
 }
 
-/// Memory for a list, filled with what was not put there by the library.
+/// Memory for a list, filled with old data.
 template <class Record>
 std::vector<Record> Dirty(size_t count)
 {
@@ -68,7 +68,7 @@ std::vector<BadJob> BadJobs(size_t size)
 
 // --- Counts
 
-TEST(JobNumber, AsksForEachKind)
+TEST(JobNumber, RequestsEachKind)
 {
     for (const DWORD type : {NCL_JNT_PROCESS_JOB, NCL_JNT_SENDING_JOB, NCL_JNT_FINISH_JOB}) {
         SyslogLines log;
@@ -113,7 +113,7 @@ TEST(JobNumber, RefusesOtherSizes)
     }
 }
 
-TEST(PrnPossibilityNumber, AsksTheServer)
+TEST(PrnPossibilityNumber, QueriesTheServer)
 {
     SyslogLines log;
     FakePublisher publisher({GoodReply(WireWord(0x00010203))});
@@ -139,7 +139,7 @@ TEST(PrnPossibilityNumber, RefusesOtherSizesAndParameters)
 
 // --- The list
 
-TEST(JobList, AsksForEachKind)
+TEST(JobList, RequestsEachKind)
 {
     const char* const values[] = {"1", "2", "0", "3"}; // processing, finished, all, processing with times
     for (DWORD type = 0; type < 4; ++type) {
@@ -213,7 +213,7 @@ TEST(JobList, OneEmptyItemMeansNoJobs)
     EXPECT_TRUE(IsDirty(jobsEx[0]));
 }
 
-TEST(JobList, FillsNoMoreRecordsThanThereAre)
+TEST(JobList, FillsOnlyTheAvailableRecords)
 {
     FakePublisher publisher({ListOf(Jobs(2)), ListOf(Jobs(2)), ListOf(Jobs(2))});
     std::vector<JobStatus> jobs = Dirty<JobStatus>(4);
@@ -234,7 +234,7 @@ TEST(JobList, FillsNoMoreRecordsThanThereAre)
     EXPECT_EQ(count, 0U);
 }
 
-TEST(JobList, HasAMostOfJobs)
+TEST(JobList, HasAMaximumLength)
 {
     const size_t limits[] = {1000, 50, 1000};
     for (DWORD type = 0; type < 3; ++type) {
@@ -270,7 +270,7 @@ TEST(JobList, ABadJobEndsTheOperation)
         DWORD count = 7;
         EXPECT_EQ(GetJobStatus(publisher.Handle(), 0, jobs.data(), 2, &count), NCL_ERR_INVALID_COMM_SPEC);
         EXPECT_EQ(count, 0U);
-        EXPECT_EQ(jobs[0].nServerJobID, 1U); // the one before it is filled
+        EXPECT_EQ(jobs[0].nServerJobID, 1U); // the record before it is filled
         EXPECT_EQ(log.Take().back(),
                   std::string("<3>[CommLib] GetJobStatus Invalid Comm Spec ") + bad.number);
     }
@@ -287,7 +287,7 @@ TEST(JobList, ABadJobEndsTheOperation)
     }
 }
 
-TEST(JobList, ABadJobBehindTheLastRecordIsNotLookedAt)
+TEST(JobList, ABadJobAfterTheLastRecordIsIgnored)
 {
     FakePublisher publisher({ListOf({Jobs(1).front(), JobRecord(3).Number(0, 1, 99)})});
     JobStatus job{};
@@ -349,7 +349,7 @@ TEST(JobList, TheLargerRecordsAreClearedAsIfTheyWereSmaller)
     }
 }
 
-TEST(JobList, TheLargerRecordsStandSideBySide)
+TEST(JobList, TheLargerRecordsAreContiguous)
 {
     const JobRecord first = JobRecord().ServerJobID(1).Name(u"one");
     const JobRecord second = JobRecord().ServerJobID(2).Name(u"two");

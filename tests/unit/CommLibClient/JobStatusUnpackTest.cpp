@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A record with a guard behind it, filled with what no text ends on.
+/// A record with a guard after it. The guard has no zero byte, which would end a text.
 template <class Record>
 struct Guarded
 {
@@ -103,7 +103,7 @@ void ExpectFullRecord(const Record& job)
 
 } // namespace
 
-TEST(JobStatusUnpack, FindsEachFieldAtItsOffset)
+TEST(JobStatusUnpack, ReadsEachFieldAtItsOffset)
 {
     ExpectFullRecord(Unpacked(FullRecord(1178)));
 }
@@ -123,7 +123,7 @@ TEST(JobStatusUnpack, OtherListsHaveNoRemainingTime)
 {
     for (const DWORD type : {NCL_JST_PROCESS_JOB, NCL_JST_FINISH_JOB, NCL_JST_ALL_JOB}) {
         Guarded<JobStatusEx> filled;
-        filled.job.dwRemainingTime = 5; // left from before
+        filled.job.dwRemainingTime = 5; // an old value
         EXPECT_EQ(UnpackJobStatusEx(FullRecord(1178).Bytes().data(), 1178, type, &filled.job),
                   JOB_RECORD_GOOD);
         ExpectFullRecord(filled.job);
@@ -160,7 +160,7 @@ TEST(JobStatusUnpack, ChecksHaveTheirNumbers)
     EXPECT_EQ(JOB_RECORD_BAD_NAME_SIZE, 8);
 }
 
-TEST(JobStatusUnpack, EachBadFieldIsFound)
+TEST(JobStatusUnpack, EachBadFieldIsDetected)
 {
     EXPECT_EQ(Check(JobRecord().PersonSize(128)), JOB_RECORD_GOOD);
     EXPECT_EQ(Check(JobRecord().PersonSize(129)), JOB_RECORD_BAD_PERSON_SIZE);
@@ -216,15 +216,15 @@ TEST(JobStatusUnpack, LoneSurrogatesAreDropped)
 {
     EXPECT_STREQ(Unpacked(JobRecord().Name(u"a\xD83Dz")).wszJobName, "az");       // high alone
     EXPECT_STREQ(Unpacked(JobRecord().Name(u"a\xDE00z")).wszJobName, "az");       // low alone
-    EXPECT_STREQ(Unpacked(JobRecord().Name(u"a\xDE00\xD83Dz")).wszJobName, "az"); // the wrong way round
+    EXPECT_STREQ(Unpacked(JobRecord().Name(u"a\xDE00\xD83Dz")).wszJobName, "az"); // in reverse order
     EXPECT_STREQ(Unpacked(JobRecord().Name(u"az\xD83D")).wszJobName, "az");       // cut at the end
-    JobRecord cut = JobRecord().Name(u"az\xD83D").Text(154, u"\xDE00"); // its other half lies behind the size
+    JobRecord cut = JobRecord().Name(u"az\xD83D").Text(154, u"\xDE00"); // its other half lies after the size
     EXPECT_STREQ(Unpacked(cut).wszJobName, "az");
 }
 
 TEST(JobStatusUnpack, TextsOfFullLengthFit)
 {
-    const std::string three = "\xE3\x81\x82"; // three bytes a unit: the most there is
+    const std::string three = "\xE3\x81\x82"; // three bytes per unit, the maximum
     const JobStatus job = Unpacked(JobRecord()
                                        .Person(Repeated(u'あ', 64))
                                        .Name(Repeated(u'あ', 255))
@@ -234,13 +234,13 @@ TEST(JobStatusUnpack, TextsOfFullLengthFit)
     EXPECT_EQ(std::string(job.wszPublicationPerson), Repeated(three, 64));
     EXPECT_EQ(std::string(job.wszJobName), Repeated(three, 255));
     EXPECT_EQ(std::string(job.wszJobIdentificationID), Repeated(three, 255));
-    EXPECT_EQ(job.dwJobType, 0U); // what lies behind the texts is not written over
+    EXPECT_EQ(job.dwJobType, 0U); // the fields after the texts are not overwritten
     EXPECT_EQ(job.dwPubMode, 0U);
     EXPECT_FALSE(job.ErrorHistory.bWriteError);
     EXPECT_EQ(job.nServerJobID, 77U);
 }
 
-TEST(JobStatusUnpack, PairsOfFullLengthFit)
+TEST(JobStatusUnpack, SurrogatePairsOfFullLengthFit)
 {
     std::u16string pairs;
     for (int count = 0; count < 127; ++count) {
@@ -251,14 +251,14 @@ TEST(JobStatusUnpack, PairsOfFullLengthFit)
     EXPECT_EQ(std::string(job.wszJobIdentificationID), Repeated("\xF0\x9F\x98\x80", 127));
 }
 
-TEST(JobStatusUnpack, OnlySoMuchOfATextAsItsSizeSays)
+TEST(JobStatusUnpack, TextsEndAtTheirSize)
 {
     EXPECT_STREQ(Unpacked(JobRecord().Name(u"Holiday").NameSize(6)).wszJobName, "Hol");
     EXPECT_STREQ(Unpacked(JobRecord().Person(u"Ada").PersonSize(2)).wszPublicationPerson, "A");
     EXPECT_STREQ(Unpacked(JobRecord().Person(u"Ada").PersonSize(0)).wszPublicationPerson, "");
 }
 
-TEST(JobStatusUnpack, AnOddByteAtTheEndIsNoText)
+TEST(JobStatusUnpack, AnOddByteAtTheEndIsIgnored)
 {
     EXPECT_STREQ(Unpacked(JobRecord().Name(u"Holiday").NameSize(7)).wszJobName, "Hol");
     EXPECT_STREQ(Unpacked(JobRecord().Name(Repeated(u'x', 255)).NameSize(509)).wszJobName,
@@ -268,7 +268,7 @@ TEST(JobStatusUnpack, AnOddByteAtTheEndIsNoText)
                  Repeated("x", 63).c_str());
 }
 
-TEST(JobStatusUnpack, ZeroUnitsOfTheIdentificationStayInPlace)
+TEST(JobStatusUnpack, ZeroUnitsOfTheIdentificationAreKept)
 {
     JobRecord record = JobRecord().Identification(u"AB").Text(664 + 6, u"CD").Text(664 + 508, u"Z");
     const JobStatus job = Unpacked(record);
@@ -291,11 +291,11 @@ TEST(JobStatusUnpack, AFinishedJobWithAHistoryIsAWarning)
 {
     EXPECT_EQ(StatusOf(8, 0, 5, 5, 0), NCL_JOB_STATUS_FINISHED);
     EXPECT_EQ(StatusOf(8, 0, 5, 5, 1), NCL_JOB_STATUS_FINISHED_WARNING);
-    EXPECT_EQ(StatusOf(8, 0, 5, 5, 0x80000000), NCL_JOB_STATUS_FINISHED_WARNING); // bits without a name count
+    EXPECT_EQ(StatusOf(8, 0, 5, 5, 0x80000000), NCL_JOB_STATUS_FINISHED_WARNING); // unnamed bits count
     EXPECT_EQ(StatusOf(8, 0, 5, 4, 1), NCL_JOB_STATUS_FINISHED);
     EXPECT_EQ(StatusOf(8, 0, 5, 4, 0), NCL_JOB_STATUS_FINISHED);
     EXPECT_EQ(StatusOf(7, 0, 5, 5, 1), NCL_JOB_STATUS_ERROR);
-    EXPECT_EQ(StatusOf(8, 1, 5, 5, 0), NCL_JOB_STATUS_FINISHED); // the factor is no matter here
+    EXPECT_EQ(StatusOf(8, 1, 5, 5, 0), NCL_JOB_STATUS_FINISHED); // the factor is irrelevant here
 }
 
 TEST(JobStatusUnpack, ACancelledJobMayHaveFailed)
@@ -310,7 +310,7 @@ TEST(JobStatusUnpack, ACancelledJobMayHaveFailed)
     EXPECT_EQ(StatusOf(1, 1, 1, 0, 0), NCL_JOB_STATUS_RUNNING);
 }
 
-TEST(JobStatusUnpack, ValuesBeyondTheTablesPass)
+TEST(JobStatusUnpack, ValuesBeyondTheTablesBecome13)
 {
     EXPECT_EQ(StatusOf(10, 0, 1, 0, 0), 13U);
     EXPECT_EQ(StatusOf(255, 0, 1, 0, 0), 13U);

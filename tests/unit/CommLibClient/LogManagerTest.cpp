@@ -10,7 +10,7 @@ static_assert(std::is_base_of_v<INotifyLog, CLogManager>);
 static_assert(std::has_virtual_destructor_v<INotifyLog>);
 static_assert(sizeof(CLogManager) == sizeof(INotifyLog)); // no fields of its own
 
-TEST(LogManager, PassesEachLineOnWithItsPriority)
+TEST(LogManager, LogsEachLineWithItsPriority)
 {
     SyslogLines lines;
     CLogManager log;
@@ -22,7 +22,7 @@ TEST(LogManager, PassesEachLineOnWithItsPriority)
                                                       "<7>debug 100%"}));
 }
 
-TEST(LogManager, PassesALongLineOnWhole)
+TEST(LogManager, LogsALongLineCompletely)
 {
     SyslogLines lines;
     CLogManager log;
@@ -31,7 +31,7 @@ TEST(LogManager, PassesALongLineOnWhole)
     EXPECT_EQ(lines.Take(), std::vector<std::string>{"<3>\t## trace ## " + text});
 }
 
-TEST(LogManager, GivesANullTextToTheSystemAsItIs)
+TEST(LogManager, PassesANullTextToTheSystem)
 {
     SyslogLines lines;
     CLogManager log;
@@ -40,7 +40,7 @@ TEST(LogManager, GivesANullTextToTheSystemAsItIs)
     EXPECT_EQ(lines.Take(), std::vector<std::string>{"<6>(null) , GetInkStatus , Start"});
 }
 
-TEST(LogManager, NotifiesNobody)
+TEST(LogManager, NotifyDoesNothing)
 {
     SyslogLines lines;
     CLogManager log;

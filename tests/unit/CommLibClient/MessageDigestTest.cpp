@@ -42,7 +42,7 @@ const uint8_t* Bytes(const char* text)
 
 } // namespace
 
-TEST(MessageDigest, IsOfTheKindAskedFor)
+TEST(MessageDigest, HasTheRequestedType)
 {
     for (const Kind& kind : kinds) {
         MessageDigest nothing(kind.type);
@@ -57,7 +57,7 @@ TEST(MessageDigest, IsOfTheKindAskedFor)
     }
 }
 
-TEST(MessageDigest, GivesTheBytesOfItsKind)
+TEST(MessageDigest, ReturnsTheBytesOfItsType)
 {
     for (const Kind& kind : kinds) {
         MessageDigest digest(kind.type);
@@ -69,7 +69,7 @@ TEST(MessageDigest, GivesTheBytesOfItsKind)
     }
 }
 
-TEST(MessageDigest, StartsAnew)
+TEST(MessageDigest, InitStartsANewDigest)
 {
     MessageDigest digest(BCH_HASH_TYPE_SHA1);
     digest.Update(Bytes("abc"), 3);
@@ -78,7 +78,7 @@ TEST(MessageDigest, StartsAnew)
     EXPECT_EQ(digest.End(), kinds[5].ofNothing);
 }
 
-TEST(MessageDigest, IsTheSameInAnyPieces)
+TEST(MessageDigest, DoesNotDependOnThePieces)
 {
     std::string data(100000, '\0');
     for (size_t index = 0; index < data.size(); ++index) {
@@ -98,14 +98,14 @@ TEST(MessageDigest, IsTheSameInAnyPieces)
     }
 }
 
-TEST(MessageDigest, WritesTwoSmallDigitsAByte)
+TEST(MessageDigest, WritesTwoLowerCaseDigitsPerByte)
 {
     MessageDigest_MD5 digest;
     EXPECT_EQ(digest.Encode({}), "");
     EXPECT_EQ(digest.Encode({0x00, 0x0a, 0xa0, 0x12, 0xff, 0x7f}), "000aa012ff7f");
 }
 
-TEST(MessageDigest, NumbersItsKindsAndResults)
+TEST(MessageDigest, NumbersItsTypesAndResults)
 {
     EXPECT_EQ(BCH_HASH_TYPE_AUTO, 0U);
     EXPECT_EQ(BCH_HASH_TYPE_MD2, 1U);

@@ -22,7 +22,7 @@ TEST(PublishID, IsTheTextOfTheServer)
                 ElementsAre("<6>server , GetPublishID , Start", "<6>server , GetPublishID , End"));
 }
 
-TEST(PublishID, OneThatDidNotFitComesAtTheNextCall)
+TEST(PublishID, AnIdThatDidNotFitIsReturnedByTheNextCall)
 {
     SyslogLines log;
     FakePublisher publisher({GoodReply("ID-0017"), GoodReply("ID-0018")});
@@ -33,13 +33,13 @@ TEST(PublishID, OneThatDidNotFitComesAtTheNextCall)
     EXPECT_STREQ(id, "");
     EXPECT_THAT(log.Take(),
                 ElementsAre("<6>server , GetPublishID , Start", "<3>server , GetPublishID , ErrBuffer"));
-    EXPECT_EQ(GetPublishID(publisher.Handle(), id, 0, &need), NCL_ERR_BUF_SIZE); // it waits on
+    EXPECT_EQ(GetPublishID(publisher.Handle(), id, 0, &need), NCL_ERR_BUF_SIZE); // it is kept
     EXPECT_EQ(need, 8U);
     EXPECT_THAT(log.Take(), ElementsAre("<6>server , GetPublishID , Start"));
     EXPECT_EQ(GetPublishID(publisher.Handle(), id, 8, &need), NCL_SUCCESS);
     EXPECT_EQ(need, 0U);
     EXPECT_STREQ(id, "ID-0017");
-    EXPECT_THAT(log.Take(), ElementsAre("<6>server , GetPublishID , Start")); // without an end
+    EXPECT_THAT(log.Take(), ElementsAre("<6>server , GetPublishID , Start")); // without an end line
     EXPECT_EQ(publisher.Requests().size(), 1U);
 
     EXPECT_EQ(GetPublishID(publisher.Handle(), id, 8, &need), NCL_SUCCESS);

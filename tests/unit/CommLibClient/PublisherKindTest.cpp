@@ -72,7 +72,7 @@ TEST(PublisherKind, IsReadFromTheFileOfTheServer)
     }
 }
 
-TEST(PublisherKind, TakesBothSpellingsOfTheSection)
+TEST(PublisherKind, AcceptsBothSpellingsOfTheSection)
 {
     WritePublisher("A", "[COMMON]\nPublisherURL=server\nNPType=2\n");
     ExpectKind("server", true, 2);
@@ -87,18 +87,18 @@ TEST(PublisherKind, ComparesTheWholeAddress)
         ExpectKind(other, false, 0);
         EXPECT_FALSE(WriteNPType(3, other));
     }
-    WritePublisher("A", Settings("", "NPType=2\n")); // a file of no server
+    WritePublisher("A", Settings("", "NPType=2\n")); // a file without a server
     ExpectKind("", false, 0);
 }
 
-TEST(PublisherKind, CutsAnAddressThatIsTooLong)
+TEST(PublisherKind, TruncatesALongAddress)
 {
     WritePublisher("A", Settings(std::string(300, 'a'), "NPType=2\n"));
     ExpectKind(std::string(259, 'a').c_str(), true, 2);
     ExpectKind(std::string(300, 'a').c_str(), false, 0);
 }
 
-TEST(PublisherKind, PassesOverWhatIsNoSettingFile)
+TEST(PublisherKind, IgnoresFilesThatAreNotSettingFiles)
 {
     WritePublisher("A", Settings("other", "NPType=1\n"));
     WriteText(std::string(PUBLISHER_SETTING_DIR) + "/.hidden", Settings("server", "NPType=1\n"));
@@ -114,7 +114,7 @@ TEST(PublisherKind, PassesOverWhatIsNoSettingFile)
     ExpectKind("server", true, 2);
 }
 
-TEST(PublisherKind, IsWrittenToASectionOfItsOwnInTheFileOfTheServer)
+TEST(PublisherKind, IsWrittenToItsOwnSectionInTheFileOfTheServer)
 {
     WritePublisher("A", Settings("other", "NPType=1\n"));
     WritePublisher("B", Settings("server", "PublisherName=Lab\n"));
@@ -127,7 +127,7 @@ TEST(PublisherKind, IsWrittenToASectionOfItsOwnInTheFileOfTheServer)
     ExpectKind("server", true, 2);
 }
 
-TEST(PublisherKind, ThatTheRegistrationWroteComesFirst)
+TEST(PublisherKind, TheKindFromTheRegistrationTakesPrecedence)
 {
     WritePublisher("A", Settings("server", "NPType=1\n"));
     EXPECT_TRUE(WriteNPType(3, "server"));
@@ -135,7 +135,7 @@ TEST(PublisherKind, ThatTheRegistrationWroteComesFirst)
     ExpectKind("server", true, 1);
 }
 
-TEST(PublisherKind, IsNotWrittenToAFileThatIsReadOnly)
+TEST(PublisherKind, IsNotWrittenToAReadOnlyFile)
 {
     ASSERT_TRUE(TakeAwayPrivileges());
     WritePublisher("A", Settings("server", "NPType=1\n"));
@@ -147,7 +147,7 @@ TEST(PublisherKind, IsNotWrittenToAFileThatIsReadOnly)
     EXPECT_EQ(ReadPublisher("A"), Settings("server", "NPType=1\n"));
 }
 
-TEST(RegistryNumber, IsTrueForANumberAlone)
+TEST(RegistryNumber, SucceedsOnlyForANumber)
 {
     WriteRegistry("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n"
                   "\"Big\"=dword:ffffffff\n\"Text\"=\"abc\"\n\"Long\"=\"abcdefgh\"\n\"Empty\"=\"\"\n");
@@ -166,7 +166,7 @@ TEST(RegistryNumber, IsTrueForANumberAlone)
     EXPECT_EQ(value, 0U);
 }
 
-TEST(RegistryNumber, IsFalseWithoutARegistry)
+TEST(RegistryNumber, FailsWithoutARegistry)
 {
     MakeConfFolder();
     DWORD value = 99;
@@ -174,7 +174,7 @@ TEST(RegistryNumber, IsFalseWithoutARegistry)
     EXPECT_EQ(value, 0U);
 }
 
-TEST(RegistryNumber, LeavesTheStoreFree)
+TEST(RegistryNumber, ReleasesTheRegistryLock)
 {
     WriteRegistry("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n");
     DWORD value = 0;
@@ -189,7 +189,7 @@ TEST(RegistryNumber, LeavesTheStoreFree)
     }).join();
 }
 
-TEST(RegistryNumber, ReadersDoNotMeet)
+TEST(RegistryNumber, SupportsConcurrentReaders)
 {
     WriteRegistry("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n");
     const auto read = [] {

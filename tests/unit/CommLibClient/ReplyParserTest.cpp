@@ -25,7 +25,7 @@ DWORD Parse(const std::string& body, std::list<ST_COMM_REPLY>& items, DWORD coun
     return ParseCommReply(body.data(), static_cast<DWORD>(body.size()), items, count);
 }
 
-/// A list that is not empty, for each failure has to clear it.
+/// A list that is not empty, because each failure must clear it.
 std::list<ST_COMM_REPLY> OldItems()
 {
     return {ST_COMM_REPLY(), ST_COMM_REPLY()};
@@ -41,7 +41,7 @@ struct BadReply
 
 } // namespace
 
-TEST(ReplyParser, FindsTheServerModeOfAServerInNormalMode)
+TEST(ReplyParser, ParsesTheReplyOfAServerInNormalMode)
 {
     std::list<ST_COMM_REPLY> items;
     const std::string body("\x00\x00\x01\x02", 4);
@@ -53,7 +53,7 @@ TEST(ReplyParser, FindsTheServerModeOfAServerInNormalMode)
     EXPECT_EQ(items.front().m_pData[0], 2);
 }
 
-TEST(ReplyParser, TakesAnItemWithoutData)
+TEST(ReplyParser, AcceptsAnItemWithoutData)
 {
     std::list<ST_COMM_REPLY> items = OldItems();
     ASSERT_EQ(Parse(std::string(3, '\0'), items), 0U);
@@ -62,7 +62,7 @@ TEST(ReplyParser, TakesAnItemWithoutData)
     EXPECT_EQ(items.front().m_dwDataSize, 0U);
 }
 
-TEST(ReplyParser, ReadsTheLengthHighByteFirst)
+TEST(ReplyParser, ReadsABigEndianLength)
 {
     for (const size_t size : {1U, 255U, 256U, 258U, 65535U}) {
         std::list<ST_COMM_REPLY> items;
@@ -73,7 +73,7 @@ TEST(ReplyParser, ReadsTheLengthHighByteFirst)
     }
 }
 
-TEST(ReplyParser, TakesAnyNumberOfItemsWhenNoneIsAskedFor)
+TEST(ReplyParser, AcceptsAnyNumberOfItemsIfTheExpectedNumberIsZero)
 {
     std::list<ST_COMM_REPLY> items = OldItems();
     EXPECT_EQ(ParseCommReply("", 0, items, 0), 0U);
@@ -86,7 +86,7 @@ TEST(ReplyParser, TakesAnyNumberOfItemsWhenNoneIsAskedFor)
     EXPECT_EQ(items.size(), 1000U);
 }
 
-TEST(ReplyParser, RefusesWhatIsNotAsAgreed)
+TEST(ReplyParser, RefusesInvalidReplies)
 {
     const BadReply replies[] = {
         {Item(0, "").substr(0, 1), 0, 13, "<3>[CommLib] ParseCommReply Invalid Comm Spec 2"},
@@ -124,7 +124,7 @@ TEST(ReplyParser, RefusesAResponseWithoutBody)
                                           "<3>[CommLib] ParseCommReply Invalid Comm Spec 1"));
 }
 
-TEST(ReplyParser, LogsNothingForAStatusThatItDoesNotKnow)
+TEST(ReplyParser, LogsNothingForAnUnknownStatus)
 {
     SyslogLines lines;
     std::list<ST_COMM_REPLY> items = OldItems();
@@ -133,7 +133,7 @@ TEST(ReplyParser, LogsNothingForAStatusThatItDoesNotKnow)
     EXPECT_THAT(lines.Take(), IsEmpty());
 }
 
-TEST(ReplyParser, RefusesHalfAReplyAtEveryByte)
+TEST(ReplyParser, RefusesAReplyCutAtAnyByte)
 {
     const std::string body = Item(0, "abc") + Item(0, "") + Item(0, "defgh");
     for (size_t size = 0; size < body.size(); ++size) {
@@ -172,7 +172,7 @@ TEST(ReplyParser, FindsABadStatusBeyondTheExpectedItems)
     EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Invalid Comm Spec 3"));
 }
 
-TEST(ReplyParser, LimitsListsOfAnyLength)
+TEST(ReplyParser, LimitsTheLengthOfLists)
 {
     SyslogLines lines;
     std::list<ST_COMM_REPLY> items = OldItems();
@@ -184,11 +184,11 @@ TEST(ReplyParser, LimitsListsOfAnyLength)
     EXPECT_THAT(items, IsEmpty());
     EXPECT_THAT(lines.Take(), ElementsAre("<3>[CommLib] ParseCommReply Get Memory 5"));
 
-    EXPECT_EQ(Parse(std::string(3 * 10001, '\0') + Item(2, ""), items), 8002U); // it still decides
+    EXPECT_EQ(Parse(std::string(3 * 10001, '\0') + Item(2, ""), items), 8002U); // takes precedence
     EXPECT_THAT(lines.Take(), ElementsAre("<3>[Servlet] Device Offline"));
 }
 
-TEST(ReplyParser, ReportsThatMemoryRanOut)
+TEST(ReplyParser, ReportsOutOfMemory)
 {
     SyslogLines lines;
     for (size_t granted = 0; granted < 3; ++granted) {
@@ -204,7 +204,7 @@ TEST(ReplyParser, ReportsThatMemoryRanOut)
     }
 }
 
-TEST(ReplyParser, HasAPlaceToDumpReplies)
+TEST(ReplyParser, TheDumpHookDoesNothing)
 {
     SyslogLines lines;
     DEBUG_HTTP_REPLY("reply", 5);

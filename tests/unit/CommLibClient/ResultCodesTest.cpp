@@ -48,7 +48,7 @@ const Code codes[] = {
     {NCL_ERR_USER_NOT_REGISTERED, 8010, "User Not Registered"},
     {NCL_ERR_SERVER_BUSY, 8011, "Server Busy (Backup or Restore)"},
     {NCL_ERR_SPOOL_JOB_LIMIT, 8012, "Spool Job Limit"},
-    // Without a text of their own.
+    // Codes without a text of their own.
     {15, 15, "Success"},
     {7999, 7999, "Success"},
     {8013, 8013, "Server Other"},
@@ -60,7 +60,7 @@ struct ServletStatus
 {
     DWORD status;
     DWORD code;
-    const char* line; ///< null when nothing is logged
+    const char* line; ///< null if nothing is logged
 };
 
 const ServletStatus servletStatuses[] = {
@@ -147,7 +147,7 @@ TEST(ResultCodes, ComeFromTheHttpStatus)
     }
 }
 
-TEST(ResultCodes, NameTheRequestThatTheServerRefused)
+TEST(ResultCodes, LogTheRefusedRequest)
 {
     SyslogLines lines;
     ST_HTTP_RESPONSE response;

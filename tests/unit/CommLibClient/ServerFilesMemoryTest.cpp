@@ -1,4 +1,4 @@
-// The search for the setting files of a server while memory runs out: what it keeps stays right.
+// Searches for the setting files of a server while memory runs out: the cache stays correct.
 #include "FailingMemory.h"
 #include "PublisherFiles.h"
 #include "ServerFiles.h"
@@ -17,7 +17,7 @@ std::string Text(const std::string& server, unsigned int kind)
 
 } // namespace
 
-TEST(ServerFilesMemory, ASearchThatRanOutLeavesNothingBehind)
+TEST(ServerFilesMemory, ASearchThatRunsOutOfMemoryLeavesACorrectCache)
 {
     WritePublisher("A", Text("server", 1));
     ASSERT_EQ(FilesOfServer("server").size(), 1U);

@@ -1,4 +1,4 @@
-// The search for the setting files of a server: what it keeps must never show, but in the number of calls.
+// Searches for the setting files of a server: the cache must change nothing but the number of calls.
 #include "ServerFiles.h"
 #include "ChildProcess.h"
 #include "CountedLocks.h"
@@ -60,7 +60,7 @@ std::vector<std::string> Listed()
 
 using Result = std::vector<std::pair<std::string, unsigned int>>;
 
-/// What a search finds that reads every file.
+/// The result of a search that reads every file.
 Result Searched(const std::string& server)
 {
     Result result;
@@ -90,7 +90,7 @@ unsigned int Kind(const char* server)
     return ReadNPType(&kind, server) ? kind : 99;
 }
 
-/// Waits until the last change so far is so long ago that its time tells it from any later one.
+/// Waits until any later change has a time that differs from the last change so far.
 void WaitUntilSettled()
 {
     const char probe[] = "/opt/probe";
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(, ServerFilesTest, testing::Values("Watch", "NoWatch", 
 
 } // namespace
 
-// In the place of the C library's, for this program.
+// Replace the functions of the C library in this program.
 
 int inotify_init1(int flags) noexcept
 {
@@ -150,7 +150,7 @@ int stat(const char* path, struct stat* info) noexcept
     return fstatat(AT_FDCWD, path, info, 0);
 }
 
-TEST_P(ServerFilesTest, WhatDoesNotChangeIsReadOnce)
+TEST_P(ServerFilesTest, UnchangedFilesAreReadOnce)
 {
     WritePublisher("A", Text("one", 1));
     WritePublisher("B", Text("two", 2));
@@ -180,7 +180,7 @@ TEST_P(ServerFilesTest, AFileThatCouldNotBeOpenedIsReadByTheNextSearch)
     WritePublisher("A", Text("server", 3));
     rlimit limit = {};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
-    Found("other"); // takes the folder's watch and its list
+    Found("other"); // starts the watch of the folder and lists it
     WritePublisher("A", Text("server", 2));
     WaitUntilSettled();
     const rlimit none{0, limit.rlim_max};
@@ -190,7 +190,7 @@ TEST_P(ServerFilesTest, AFileThatCouldNotBeOpenedIsReadByTheNextSearch)
     EXPECT_EQ(Kind("server"), 2U);
 }
 
-TEST_P(ServerFilesTest, AKindOutOfRangeSetsNoErrorOfRange)
+TEST_P(ServerFilesTest, AKindOutOfRangeDoesNotSetErange)
 {
     WritePublisher("A", "[Common]\nPublisherURL=server\nNPType=99999999999999999999\n");
     errno = 0;
@@ -233,7 +233,7 @@ TEST_P(ServerFilesTest, AnEarlierFileThatNamesTheServerNowComesFirst)
     EXPECT_EQ(ReadText(FOLDER + "/" + names[0]), Text("servers", 2) + "[COMMON]\nNPType=1\n");
 }
 
-TEST_P(ServerFilesTest, WhatAnotherProcessChangesIsSeen)
+TEST_P(ServerFilesTest, ChangesByAnotherProcessAreSeen)
 {
     WritePublisher("A", Text("server", 1));
     WaitUntilSettled();
@@ -250,7 +250,7 @@ TEST_P(ServerFilesTest, WhatAnotherProcessChangesIsSeen)
     EXPECT_EQ(Kind("server"), 99U);
 }
 
-TEST_P(ServerFilesTest, FilesThatAreLinksAreFollowed)
+TEST_P(ServerFilesTest, SymbolicLinksAreFollowed)
 {
     WriteText("/opt/target.ini", Text("server", 1));
     WriteText("/opt/other.ini", Text("server", 3));
@@ -283,7 +283,7 @@ TEST_P(ServerFilesTest, AChangeThroughAnotherNameIsSeen)
     EXPECT_EQ(Kind("server"), 99U);
 }
 
-TEST_P(ServerFilesTest, RightsThatChangeAreSeen)
+TEST_P(ServerFilesTest, ChangedPermissionsAreSeen)
 {
     ASSERT_TRUE(TakeAwayPrivileges());
     WritePublisher("A", Text("server", 1));
@@ -298,7 +298,7 @@ TEST_P(ServerFilesTest, RightsThatChangeAreSeen)
     EXPECT_EQ(Kind("server"), 1U);
 }
 
-TEST_P(ServerFilesTest, AnotherFolderInItsPlaceIsSeen)
+TEST_P(ServerFilesTest, AReplacedFolderIsSeen)
 {
     WritePublisher("A", Text("server", 1));
     EXPECT_EQ(Kind("server"), 1U);
@@ -321,7 +321,7 @@ TEST_P(ServerFilesTest, MoreChangesThanTheKernelReportsAreSeen)
     WritePublisher("B", Text("another", 1));
     WritePublisher("C", Text("servers", 3));
     EXPECT_EQ(Kind("servers"), 3U);
-    for (int round = 0; round < 10000; ++round) { // 16,384 reports are kept
+    for (int round = 0; round < 10000; ++round) { // the kernel keeps 16,384 reports
         WritePublisher("A", Text("another", round % 4));
         WritePublisher("B", Text("another", round % 4));
     }
@@ -332,8 +332,8 @@ TEST_P(ServerFilesTest, MoreChangesThanTheKernelReportsAreSeen)
     EXPECT_EQ(Kind("servers"), 1U);
 }
 
-// A random history, searched after each step as if nothing were kept.
-TEST_P(ServerFilesTest, NoHistoryMakesADifference)
+// After a random history, a search gives the same result as a search without a cache.
+TEST_P(ServerFilesTest, ARandomHistoryGivesTheSameResults)
 {
     std::mt19937 random(4711);
     const auto pick = [&](size_t count) { return random() % count; };
@@ -427,7 +427,7 @@ TEST(ServerFilesCost, DoesNotDependOnTheNumberOfFiles)
     EXPECT_EQ(statsOfASearch(), 2);
 }
 
-TEST(ServerFilesCost, AChangedFileAloneIsReadAgain)
+TEST(ServerFilesCost, OnlyAChangedFileIsReadAgain)
 {
     for (int number = 0; number < 100; ++number) {
         WritePublisher("P" + std::to_string(number), Text("server" + std::to_string(number), 1));

@@ -17,7 +17,7 @@ SocketCalls& Calls()
 
 namespace {
 
-/// Counts the call; true, with errno, when it has to fail.
+/// Counts the call. True, with errno set, if it must fail.
 bool Fails(const char* name)
 {
     SocketCalls& calls = Calls();
@@ -44,7 +44,7 @@ int close(int fd)
     const bool fails = Fails("close");
     const int error = errno;
     const int result = static_cast<int>(syscall(SYS_close, fd));
-    if (fails) { // a descriptor is gone even so
+    if (fails) { // the descriptor is closed in any case
         errno = error;
         return -1;
     }

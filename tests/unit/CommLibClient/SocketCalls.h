@@ -1,5 +1,5 @@
-// The socket calls of the system, counted, and made to fail where a test says so. They take the place of the
-// C library's in the program that links this.
+// Socket calls that are counted and that fail on request. They replace those of the C library in a program
+// that links this file.
 #pragma once
 
 #include <map>
@@ -9,9 +9,9 @@ struct SocketCalls
 {
     std::map<std::string, int> count;  ///< by name, of all calls
     std::map<std::string, int> failed; ///< by name: the errno with which each call fails
-    int pendingError = 0;              ///< what getsockopt tells of SO_ERROR instead of the truth
-    short foundEvents = 0;             ///< what ppoll finds instead of the truth
+    int pendingError = 0;              ///< the SO_ERROR that getsockopt returns, unless 0
+    short foundEvents = 0;             ///< the events that ppoll returns, unless 0
 };
 
-/// Of this thread.
+/// The calls of this thread.
 SocketCalls& Calls();

@@ -1,4 +1,4 @@
-// What a socket makes of each call of the system that fails.
+// Tests how a socket handles failures of each system call.
 #include "SocketCalls.h"
 #include "ConnectedSocket.h"
 #include "SyslogLines.h"
@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 namespace {
 
-/// Connected, with nothing counted so far.
+/// A connection whose calls so far are not counted.
 struct Connection : ConnectedSocket
 {
     Connection()
@@ -43,7 +43,7 @@ bool IsBlocking(const CSocket& socket)
 
 } // namespace
 
-TEST(SocketCalls, ThatFailInAConnect)
+TEST(SocketCalls, FailuresInAConnect)
 {
     const Refusal refusals[] = {
         {SEND_BUFFER.c_str(), EACCES, -14, {"<4>CSocket::Connect setsockopt() error = 13"}},
@@ -54,7 +54,7 @@ TEST(SocketCalls, ThatFailInAConnect)
         {"connect", EINTR, -14, {"<4>CSocket::Connect connect() error = 4"}},
         {"getsockopt", EACCES, -14, {}},
         {NO_DELAY.c_str(), ENOPROTOOPT, 0, {}},
-        {"ppoll", EINTR, 0, {}}, // the socket itself knows better
+        {"ppoll", EINTR, 0, {}}, // SO_ERROR decides
     };
     for (const Refusal& refusal : refusals) {
         SyslogLines lines;
@@ -69,7 +69,7 @@ TEST(SocketCalls, ThatFailInAConnect)
     }
 }
 
-TEST(SocketCalls, AConnectThatIsUnderWayGoesOn)
+TEST(SocketCalls, AConnectInProgressContinues)
 {
     for (const int error : {EINPROGRESS, EAGAIN}) {
         SyslogLines lines;
@@ -77,7 +77,7 @@ TEST(SocketCalls, AConnectThatIsUnderWayGoesOn)
         ASSERT_EQ(socket.Open(AF_INET, SOCK_STREAM), 0);
         Calls().failed["connect"] = error;
         errno = 0;
-        // Nothing is under way in truth: an unconnected socket is one that was hung up.
+        // No connect is in progress: ppoll reports an unconnected socket as hung up.
         EXPECT_EQ(socket.Connect("127.0.0.1", 1, 1000), 0);
         EXPECT_EQ(errno, error == EINPROGRESS ? 0 : EAGAIN);
         EXPECT_EQ(Calls().count["ppoll"], 1);
@@ -109,7 +109,7 @@ TEST(SocketCalls, APendingErrorIsAFailedConnect)
     EXPECT_THAT(lines.Take(), IsEmpty());
 }
 
-TEST(SocketCalls, AnUrgentByteAloneIsNoConnection)
+TEST(SocketCalls, AnUrgentByteAloneIsNotAConnection)
 {
     SyslogLines lines;
     const TcpListener listener;
@@ -122,7 +122,7 @@ TEST(SocketCalls, AnUrgentByteAloneIsNoConnection)
     EXPECT_THAT(lines.Take(), IsEmpty());
 }
 
-TEST(SocketCalls, ThatFailInAWait)
+TEST(SocketCalls, FailuresInAWait)
 {
     Connection connection;
     SyslogLines lines;
@@ -138,7 +138,7 @@ TEST(SocketCalls, ThatFailInAWait)
     }
 }
 
-TEST(SocketCalls, ThatFailInAReadOrWrite)
+TEST(SocketCalls, FailuresInAReadOrWrite)
 {
     const Refusal reads[] = {
         {"recv", EAGAIN, -14, {"<4>CSocket::Connect connect() error = 11"}},
@@ -170,7 +170,7 @@ TEST(SocketCalls, ThatFailInAReadOrWrite)
     }
 }
 
-TEST(SocketCalls, ThatFailInACloseOrShutdown)
+TEST(SocketCalls, FailuresInACloseOrShutdown)
 {
     Connection connection;
     SyslogLines lines;
@@ -184,7 +184,7 @@ TEST(SocketCalls, ThatFailInACloseOrShutdown)
                                           "<4>CSocket::Close closesocket() error = 5"));
 }
 
-TEST(SocketCalls, NoneIsMadeForNothing)
+TEST(SocketCalls, NoneIsMadeForZeroBytes)
 {
     Connection connection;
     char byte = 0;
@@ -209,7 +209,7 @@ TEST(SocketCalls, AreFewForManySmallReads)
     EXPECT_EQ(Calls().count, (std::map<std::string, int>{{"ppoll", 1}, {"recv", 1}}));
 }
 
-TEST(SocketCalls, NoneIsMadeToWaitForWhatHasBeenReceived)
+TEST(SocketCalls, NoneIsMadeToWaitForReceivedData)
 {
     Connection connection;
     SyslogLines lines;
@@ -224,11 +224,11 @@ TEST(SocketCalls, NoneIsMadeToWaitForWhatHasBeenReceived)
     EXPECT_EQ(connection.socket.Poll(CSocket::SELECT_WRITE, 10), 0);
     EXPECT_EQ(Calls().count["ppoll"], 1);
     ASSERT_EQ(connection.socket.Read(&byte, 1), 1);
-    EXPECT_EQ(connection.socket.PollRead(10), -6); // it has all been read
+    EXPECT_EQ(connection.socket.PollRead(10), -6); // all data has been read
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Poll select() timeout"));
 }
 
-TEST(SocketCalls, FailOnlyAfterWhatHasBeenReceived)
+TEST(SocketCalls, FailOnlyAfterReceivedDataIsRead)
 {
     Connection connection;
     SyslogLines lines;
@@ -246,12 +246,12 @@ TEST(SocketCalls, FailOnlyAfterWhatHasBeenReceived)
     lines.Take();
 }
 
-TEST(SocketCalls, OneOptionIsRefusedQuietly)
+TEST(SocketCalls, ARefusedOptionIsNotLogged)
 {
     Connection connection;
     SyslogLines lines;
     const char on = 1;
-    EXPECT_EQ(connection.socket.SetSockOpt(SOL_SOCKET, SO_REUSEADDR, &on, 1), -15); // too short for it
+    EXPECT_EQ(connection.socket.SetSockOpt(SOL_SOCKET, SO_REUSEADDR, &on, 1), -15); // too short for an int
     const int value = 1;
     EXPECT_EQ(connection.socket.SetSockOpt(SOL_SOCKET, SO_REUSEADDR, reinterpret_cast<const char*>(&value),
                                            sizeof value),

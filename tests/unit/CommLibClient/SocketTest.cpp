@@ -24,7 +24,7 @@ static_assert(CSocket::SELECT_READ == 0 && CSocket::SELECT_WRITE == 1 && CSocket
 
 namespace {
 
-/// Bytes that have been written and have not yet left. qemu-user does not know the question.
+/// Bytes that have been written and not yet sent. qemu-user does not support this request.
 int BytesHeldBack(const CSocket& socket)
 {
     int count = -1;
@@ -40,13 +40,13 @@ int IntOption(const CSocket& socket, int level, int name)
     return value;
 }
 
-/// Records the sizes of its writes, and writes nothing.
+/// Records the sizes of its reads and writes, and transfers nothing.
 class CountingSocket : public CSocket
 {
 public:
     CountingSocket()
     {
-        m_Sock = 0; // open, as far as the checks go
+        m_Sock = 0; // counts as open
     }
     ~CountingSocket() override
     {
@@ -68,7 +68,7 @@ public:
         return std::min(nSize, most);
     }
 
-    int most = 1000000; ///< bytes that one call moves
+    int most = 1000000; ///< bytes that one call transfers
     int pollResult = 0;
     std::vector<int> sizes;
     std::vector<DWORD> waits;
@@ -90,7 +90,7 @@ private:
 
 } // namespace
 
-TEST(Socket, IsNotOpenBeforeOpen)
+TEST(Socket, FailsBeforeOpen)
 {
     SyslogLines lines;
     CSocket socket;
@@ -125,7 +125,7 @@ TEST(Socket, OpensOnce)
     EXPECT_EQ(socket.Open(AF_INET, SOCK_STREAM), 0);
 }
 
-TEST(Socket, CannotBeOfAFamilyThatDoesNotExist)
+TEST(Socket, FailsForAnUnknownFamily)
 {
     SyslogLines lines;
     CSocket socket;
@@ -134,7 +134,7 @@ TEST(Socket, CannotBeOfAFamilyThatDoesNotExist)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Open socket() error = 97"));
 }
 
-TEST(Socket, ClosesWithItsObjectAndOnExec)
+TEST(Socket, IsClosedByTheDestructorAndOnExec)
 {
     int descriptor = -1;
     {
@@ -146,7 +146,7 @@ TEST(Socket, ClosesWithItsObjectAndOnExec)
     EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
 }
 
-TEST(Socket, IsNoneOfTheStandardStreams)
+TEST(Socket, IsNotAStandardStream)
 {
     EXPECT_TRUE(WaitFor(StartChild([] {
         close(0);
@@ -177,7 +177,7 @@ TEST(Socket, BlocksAndSendsAtOnceOnceConnected)
     EXPECT_EQ(IntOption(connection.socket, SOL_SOCKET, SO_SNDBUF), 2 * 32768); // the system doubles it
 }
 
-TEST(Socket, FindsItsPeerByName)
+TEST(Socket, ConnectsByName)
 {
     const TcpListener listener;
     CSocket socket;
@@ -185,7 +185,7 @@ TEST(Socket, FindsItsPeerByName)
     EXPECT_EQ(socket.Connect("localhost", listener.Port(), 5000), 0);
 }
 
-TEST(Socket, CannotFindANameThatNobodyHas)
+TEST(Socket, FailsForAnUnknownName)
 {
     for (const char* name : {"no-such-publisher.invalid", "", "256.256.256.256"}) {
         SyslogLines lines;
@@ -196,7 +196,7 @@ TEST(Socket, CannotFindANameThatNobodyHas)
     }
 }
 
-TEST(Socket, IsRefusedWhereNobodyListens)
+TEST(Socket, FailsIfTheConnectionIsRefused)
 {
     SyslogLines lines;
     TcpListener listener;
@@ -208,10 +208,10 @@ TEST(Socket, IsRefusedWhereNobodyListens)
     EXPECT_NE(socket.GetFD(), -1);
 }
 
-TEST(Socket, GivesUpAPeerThatDoesNotAnswer)
+TEST(Socket, TimesOutIfThePeerDoesNotAnswer)
 {
     const TcpListener listener("127.0.0.1", 0, 0);
-    std::vector<CSocket> waiting(8); // more than may wait: the kernel answers no further ones
+    std::vector<CSocket> waiting(8); // more than the backlog: the kernel answers no more
     for (CSocket& socket : waiting) {
         ASSERT_EQ(socket.Open(AF_INET, SOCK_STREAM), 0);
         socket.Connect(listener.Address(), listener.Port(), 0);
@@ -226,7 +226,7 @@ TEST(Socket, GivesUpAPeerThatDoesNotAnswer)
     EXPECT_EQ(fcntl(socket.GetFD(), F_GETFL) & O_NONBLOCK, 0);
 }
 
-TEST(Socket, WaitsForWhatIsAskedOfIt)
+TEST(Socket, WaitsForTheRequestedEvent)
 {
     ConnectedSocket connection;
     SyslogLines lines;
@@ -249,7 +249,7 @@ TEST(Socket, WaitsForUrgentBytes)
     EXPECT_EQ(connection.socket.Poll(CSocket::SELECT_EXCEPT, 10000), 0);
 }
 
-TEST(Socket, IsNotUrgentWhenItsPeerIsLost)
+TEST(Socket, ReportsNoExceptionForALostPeer)
 {
     ConnectedSocket connection;
     connection.peer.Reset();
@@ -284,11 +284,11 @@ TEST(Socket, MayHaveAnyDescriptor)
     }
 }
 
-TEST(Socket, TellsThatItsDescriptorIsNone)
+TEST(Socket, ReportsAnInvalidDescriptor)
 {
     ConnectedSocket connection;
     SyslogLines lines;
-    lines.Take(); // opens the socket of syslog, which would get the number otherwise
+    lines.Take(); // opens the socket of syslog, which would otherwise get the descriptor
     close(connection.socket.GetFD());
     EXPECT_EQ(connection.socket.Poll(CSocket::SELECT_READ, 10000), -26);
     EXPECT_EQ(connection.socket.Close(), 0);
@@ -297,7 +297,7 @@ TEST(Socket, TellsThatItsDescriptorIsNone)
                                           "<4>CSocket::Close closesocket() error = 9"));
 }
 
-TEST(Socket, NoticesThatItsPeerClosed)
+TEST(Socket, DetectsThatItsPeerClosed)
 {
     ConnectedSocket connection;
     connection.peer.Write("ab");
@@ -309,7 +309,7 @@ TEST(Socket, NoticesThatItsPeerClosed)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Read recv() shutdown"));
 }
 
-TEST(Socket, ReadsAllBeforeItNoticesThatItsPeerClosed)
+TEST(Socket, ReadsAllDataBeforeItDetectsTheClose)
 {
     for (const int size : {1, 2, 4095, 4096, 5000}) {
         ConnectedSocket connection;
@@ -330,7 +330,7 @@ TEST(Socket, ReadsAllBeforeItNoticesThatItsPeerClosed)
     }
 }
 
-TEST(Socket, ForgetsWhatItHasReceivedWhenItCloses)
+TEST(Socket, DiscardsReceivedDataOnClose)
 {
     ConnectedSocket connection;
     connection.peer.Write("abc");
@@ -349,7 +349,7 @@ TEST(Socket, ForgetsWhatItHasReceivedWhenItCloses)
     EXPECT_EQ(byte, 'x');
 }
 
-TEST(Socket, NoticesThatItsPeerBroke)
+TEST(Socket, DetectsAReset)
 {
     ConnectedSocket connection;
     connection.peer.Reset();
@@ -360,7 +360,7 @@ TEST(Socket, NoticesThatItsPeerBroke)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Read recv() error = 104"));
 }
 
-TEST(Socket, OutlivesAWriteToAPeerThatIsGone)
+TEST(Socket, SurvivesAWriteToALostPeer)
 {
     ConnectedSocket connection;
     connection.peer.Reset();
@@ -372,7 +372,7 @@ TEST(Socket, OutlivesAWriteToAPeerThatIsGone)
                 ElementsAre("<4>CSocket::Write send() error = 104", "<4>CSocket::Write send() error = 32"));
 }
 
-TEST(Socket, HoldsBackAWriteThatAnotherOneFollows)
+TEST(Socket, HoldsBackAWriteIfMoreFollows)
 {
     ConnectedSocket connection;
     connection.socket.SetMoreFollows(true);
@@ -384,7 +384,7 @@ TEST(Socket, HoldsBackAWriteThatAnotherOneFollows)
     EXPECT_EQ(connection.peer.ReadExactly(8), "headbody");
 }
 
-TEST(Socket, HoldsNothingBackFromAPeerThatHasClosed)
+TEST(Socket, HoldsNothingBackFromAClosedPeer)
 {
     ConnectedSocket connection;
     connection.peer.Close();
@@ -394,7 +394,7 @@ TEST(Socket, HoldsNothingBackFromAPeerThatHasClosed)
     EXPECT_EQ(BytesHeldBack(connection.socket), 0);
 }
 
-TEST(Socket, ReportsTheResetOfAPeerToAWriteThatAnotherOneFollows)
+TEST(Socket, ReportsAResetAtOnceEvenIfMoreFollows)
 {
     ConnectedSocket connection;
     connection.peer.Reset();
@@ -405,7 +405,7 @@ TEST(Socket, ReportsTheResetOfAPeerToAWriteThatAnotherOneFollows)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Write send() error = 104"));
 }
 
-TEST(Socket, KnowsThatItWouldBlock)
+TEST(Socket, ReportsThatItWouldBlock)
 {
     ConnectedSocket connection;
     SyslogLines lines;
@@ -458,7 +458,7 @@ TEST(Socket, WritesInPiecesBelowItsSendBuffer)
     }
 }
 
-TEST(Socket, WritesAPieceUntilItIsGone)
+TEST(Socket, WritesAPieceCompletely)
 {
     CountingSocket socket;
     socket.most = 20000;
@@ -470,7 +470,7 @@ TEST(Socket, WritesAPieceUntilItIsGone)
     EXPECT_THAT(socket.sizes, ElementsAre(32768, 12768));
 }
 
-TEST(Socket, WaitsItsWholeSilenceBeforeEachRead)
+TEST(Socket, WaitsTheWholeSilenceBeforeEachRead)
 {
     CountingSocket socket;
     socket.most = 2;
@@ -484,7 +484,7 @@ TEST(Socket, WaitsItsWholeSilenceBeforeEachRead)
     EXPECT_THAT(socket.waits, ElementsAre(30000U, 30000U, 30000U, 120000U));
 }
 
-TEST(Socket, EndsAReadAfterTheSilenceAllowed)
+TEST(Socket, EndsAReadAfterTheAllowedSilence)
 {
     ConnectedSocket connection;
     connection.socket.SetNoCommTimeout(100);
@@ -498,7 +498,7 @@ TEST(Socket, EndsAReadAfterTheSilenceAllowed)
     EXPECT_THAT(lines.Take(), ElementsAre("<4>CSocket::Poll select() timeout"));
 }
 
-TEST(Socket, CarriesManyBytesBothWays)
+TEST(Socket, TransfersManyBytesBothWays)
 {
     ConnectedSocket connection;
     std::string data(3000000, '\0');
@@ -514,7 +514,7 @@ TEST(Socket, CarriesManyBytesBothWays)
     EXPECT_TRUE(back == data);
 }
 
-TEST(SocketDeathTest, StopsWhereACallCannotBeMeant)
+TEST(SocketDeathTest, InvalidCallsStopTheProcess)
 {
     CSocket socket;
     EXPECT_DEATH(socket.Connect(nullptr, 80, 1000), "pszServerAddress != nullptr");

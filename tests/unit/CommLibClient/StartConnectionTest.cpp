@@ -30,7 +30,7 @@ std::string ModeReply(char mode)
     return GoodReply(std::string(1, mode));
 }
 
-/// What a server answers while a connection starts.
+/// The answers of a server while a connection starts.
 struct Answers
 {
     std::string mode = ModeReply(2);
@@ -44,7 +44,7 @@ struct Answers
     }
 };
 
-/// One start of a connection to a server on port 80 that gives these answers, as far as they are asked for.
+/// Starts a connection to a server on port 80 that gives these answers, one per request.
 class Start
 {
 public:
@@ -73,7 +73,7 @@ public:
         }
     }
 
-    /// What arrived, without the empty request that the end of a connection is.
+    /// The requests, without the empty one that marks the end of a connection.
     std::vector<std::string> Requests()
     {
         std::vector<std::string> all = m_server.Requests();
@@ -108,7 +108,7 @@ void AllowCompatibility(const std::string& value)
     WriteRegistry("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=" + value + "\n");
 }
 
-// The limits of a client, which it shows to nobody.
+// Give access to the protected limits of a client.
 struct HttpLimits : CHttp
 {
     static CInternetCon& Con(CHttp& http)
@@ -152,7 +152,7 @@ TEST(StartConnection, RefusesNullArguments)
                                           "<3>[CommLib] ***Common Parameta Error***"));
 }
 
-TEST(StartConnection, AsksInItsOrder)
+TEST(StartConnection, SendsItsQueriesInOrder)
 {
     Start start(Answers{});
     EXPECT_EQ(start.result, 0U);
@@ -179,7 +179,7 @@ TEST(StartConnection, AsksInItsOrder)
     EXPECT_EQ(SocketLimits::Silence(dynamic_cast<CSocket&>(*ConLimits::Comm(con))), 120000U);
 }
 
-TEST(StartConnection, TakesWhatFollowsTheLastBackslash)
+TEST(StartConnection, UsesTheAddressAfterTheLastBackslash)
 {
     for (const char* address : {"\\\\127.0.0.1", "\\127.0.0.1", "a\\b\\127.0.0.1"}) {
         Start start(Answers{}, address);
@@ -196,7 +196,7 @@ TEST(StartConnection, EachStepMayFail)
         size_t step; ///< of the four requests
         std::string answer;
         DWORD result;
-        std::vector<std::string> endings; ///< of the log
+        std::vector<std::string> endings; ///< the last lines of the log
     };
     const Row rows[] = {
         {0, NOT_FOUND, 8000, {"<3>\t## trace ## StartConnection GetServerMode() Server Other"}},
@@ -240,7 +240,7 @@ TEST(StartConnection, EachStepMayFail)
     }
 }
 
-TEST(StartConnection, TellsTheCauseWhenThereIsNoServer)
+TEST(StartConnection, ReturnsTheCauseIfThereIsNoServer)
 {
     SyslogLines lines;
     DWORD handle = 99;
@@ -251,7 +251,7 @@ TEST(StartConnection, TellsTheCauseWhenThereIsNoServer)
     EXPECT_THAT(g_pvarrNCL, ElementsAre(nullptr));
 }
 
-TEST(StartConnection, LosesTheServerAtEachStep)
+TEST(StartConnection, HandlesLossOfTheServerAtEachStep)
 {
     for (size_t step = 0; step < 4; ++step) {
         std::vector<std::string> answers = Answers().All();
@@ -260,17 +260,17 @@ TEST(StartConnection, LosesTheServerAtEachStep)
         DWORD handle = 99;
         const DWORD result = StartConnection(0, HOST, &handle);
         if (step < 3) {
-            EXPECT_EQ(result, 4U); // the retry finds nobody; in progress, the cause itself is told
+            EXPECT_EQ(result, 4U); // the retry finds no server; the cause itself is returned
             EXPECT_EQ(handle, 0U);
             EXPECT_THAT(g_pvarrNCL, ElementsAre(nullptr));
         } else {
-            EXPECT_EQ(result, 0U); // the version is not needed
+            EXPECT_EQ(result, 0U); // the version is optional
             EndConnection(handle);
         }
     }
 }
 
-TEST(StartConnection, RunsOutOfMemory)
+TEST(StartConnection, ReportsOutOfMemory)
 {
     const char* const lastLines[] = {
         "<3>[CommLib] StartConnection Get Memory error 1",
@@ -294,9 +294,9 @@ TEST(StartConnection, RunsOutOfMemory)
     }
 }
 
-TEST(StartConnection, TheHundredAndFirstFails)
+TEST(StartConnection, TheHundredAndFirstConnectionFails)
 {
-    std::vector<ST_NCL> others(100); // the object that finds no entry is freed
+    std::vector<ST_NCL> others(100); // the object without an entry is freed
     for (ST_NCL& other : others) {
         SetNCLObj(&other);
     }
@@ -311,7 +311,7 @@ TEST(StartConnection, TheHundredAndFirstFails)
     }
 }
 
-TEST(StartConnection, OpensAHundred)
+TEST(StartConnection, OpensAHundredConnections)
 {
     std::vector<TcpServer::Script> scripts(100, [](TcpServer& self, TcpPeer& peer) {
         for (const std::string& answer : Answers().All()) {
@@ -333,7 +333,7 @@ TEST(StartConnection, OpensAHundred)
     EXPECT_THAT(g_pvarrNCL, testing::Each(nullptr));
 }
 
-TEST(StartConnection, LeavesAServerInASecureModeConnected)
+TEST(StartConnection, KeepsTheConnectionToAServerInASecureMode)
 {
     for (const char mode : {'\0', '\1'}) {
         Answers answers;
@@ -346,12 +346,12 @@ TEST(StartConnection, LeavesAServerInASecureModeConnected)
         ST_NCL* const ncl = g_pvarrNCL.back();
         ASSERT_NE(ncl, nullptr);
         EXPECT_EQ(ncl->m_bFinishStartConnection, 0);
-        ncl->m_pHttp->Close(); // else the server would wait
+        ncl->m_pHttp->Close(); // otherwise the server would wait
     }
     EXPECT_EQ(g_pvarrNCL.size(), 2U);
 }
 
-TEST(StartConnection, TakesTheEntriesOfServersInASecureModeOldestFirst)
+TEST(StartConnection, ReusesTheEntriesOfServersInASecureModeOldestFirst)
 {
     Answers secure;
     secure.mode = ModeReply(0);
@@ -389,13 +389,13 @@ TEST(StartConnection, TakesTheEntriesOfServersInASecureModeOldestFirst)
     ASSERT_NE(GetNCLObj(claimed), nullptr);
     EXPECT_EQ(GetNCLObj(claimed)->m_bFinishStartConnection, 1);
 
-    Start other(Answers{}, HOST); // and a server that can be used
+    Start other(Answers{}, HOST); // a server that can be used
     EXPECT_EQ(other.result, 0U);
     EXPECT_EQ(other.handle, 4U);
     EndConnection(claimed);
 }
 
-TEST(StartConnection, ReadsTheNextLengthAfterAnEndlessVersion)
+TEST(StartConnection, ReadsTheNextLengthAfterAVersionOutOfRange)
 {
     for (const char* version :
          {"3.99999999999999999999", "99999999999999999999.30", "99999999999999999999"}) {
@@ -411,7 +411,7 @@ TEST(StartConnection, ReadsTheNextLengthAfterAnEndlessVersion)
     }
 }
 
-TEST(StartConnection, TakesEveryOtherMode)
+TEST(StartConnection, AcceptsEveryOtherMode)
 {
     for (const char mode : {'\2', '\3', '\4', '\5', '\x7F'}) {
         Answers answers;
@@ -422,14 +422,14 @@ TEST(StartConnection, TakesEveryOtherMode)
     }
 }
 
-TEST(StartConnection, LearnsTheKindAndRemembersIt)
+TEST(StartConnection, DeterminesAndStoresTheKind)
 {
     struct Row
     {
         std::string remembered;
         std::string answer;
         DWORD kind;
-        std::string file; ///< its lines afterwards
+        std::string file; ///< its lines after the start
     };
     const std::string yes = GoodReply(WireWord(1));
     const std::string no = GoodReply(WireWord(0));
@@ -459,12 +459,12 @@ TEST(StartConnection, LearnsTheKindAndRemembersIt)
         EXPECT_EQ(kind, row.kind);
         EXPECT_THAT(ReadPublisher("A"), testing::HasSubstr(row.file));
         if (row.file == row.remembered) {
-            EXPECT_EQ(ReadPublisher("A"), before); // nothing new is not written
+            EXPECT_EQ(ReadPublisher("A"), before); // an unchanged kind is not written
         }
     }
 }
 
-TEST(StartConnection, AsksTheFirstKindForNothing)
+TEST(StartConnection, SendsNoKindQueryToTheFirstKind)
 {
     WriteServer("NPType=1\n");
     const std::string before = ReadPublisher("A");
@@ -476,7 +476,7 @@ TEST(StartConnection, AsksTheFirstKindForNothing)
     EXPECT_EQ(ReadPublisher("A"), before);
 }
 
-TEST(StartConnection, StartsWithAServerThatHasNoFile)
+TEST(StartConnection, WorksWithoutASettingFile)
 {
     Answers answers;
     answers.bdxl = GoodReply(WireWord(1));
@@ -486,7 +486,7 @@ TEST(StartConnection, StartsWithAServerThatHasNoFile)
     EXPECT_FALSE(std::filesystem::exists(PUBLISHER_SETTING_DIR));
 }
 
-TEST(StartConnection, ServesAnOldServerWhereThatIsAllowed)
+TEST(StartConnection, AcceptsAnOldServerOnlyIfAllowed)
 {
     for (const char* version : {"2.0", "2.29", "3.0", "3.29", "3", "2", "2.29.1"}) {
         SCOPED_TRACE(version);
@@ -506,7 +506,7 @@ TEST(StartConnection, ServesAnOldServerWhereThatIsAllowed)
     }
 }
 
-TEST(StartConnection, RefusesNoServerForAVersionThatWasNotRead)
+TEST(StartConnection, AcceptsAServerWhoseVersionCannotBeRead)
 {
     MakeConfFolder();
     for (const std::string& answer :
@@ -546,7 +546,7 @@ TEST(ServerVersion, IsOldInTwoRanges)
     }
 }
 
-TEST(StartedConnection, ReadsATimeoutAsALoss)
+TEST(StartedConnection, TreatsATimeoutAsALoss)
 {
     TcpServer server({[](TcpServer& self, TcpPeer& peer) {
                           for (const std::string& answer : Answers().All()) {
@@ -568,7 +568,7 @@ TEST(StartedConnection, ReadsATimeoutAsALoss)
     DWORD mode = 0;
     EXPECT_EQ(GetServerMode(handle, &mode), 9U);
     GetNCLObj(handle)->m_pHttp->SetNoCommTimeout(10000);
-    EXPECT_EQ(GetServerMode(handle, &mode), 0U); // the next request connects anew
+    EXPECT_EQ(GetServerMode(handle, &mode), 0U); // the next request connects again
     EXPECT_EQ(mode, 3U);
     EXPECT_EQ(server.Connections(), 2);
     EndConnection(handle);

@@ -1,4 +1,4 @@
-// The one limit of time that shows while a connection starts and can be waited for.
+// The only timeout at the start of a connection that is short enough for a test.
 #include "NW_Com_Lib_internal.h"
 #include "SyslogLines.h"
 #include "TcpPeer.h"
@@ -8,10 +8,10 @@
 
 using testing::ElementsAre;
 
-TEST(StartConnectionTime, GivesUpAServerThatDoesNotAnswerAfterFiveSeconds)
+TEST(StartConnectionTime, TimesOutAfterFiveSecondsIfTheServerDoesNotAnswer)
 {
     const TcpListener listener("127.0.0.1", 80, 0);
-    std::vector<CSocket> waiting(8); // more than may wait: the kernel answers no further ones
+    std::vector<CSocket> waiting(8); // more than the backlog: the kernel answers no more
     for (CSocket& socket : waiting) {
         ASSERT_EQ(socket.Open(AF_INET, SOCK_STREAM), 0);
         socket.Connect(listener.Address(), listener.Port(), 0);

@@ -17,7 +17,7 @@ const BYTE* Bytes(const std::string& text)
     return reinterpret_cast<const BYTE*>(text.data());
 }
 
-/// Bytes of which each piece is told from its neighbours.
+/// Bytes in which each piece differs from its neighbours.
 std::string Content(size_t size)
 {
     std::string content(size, '\0');
@@ -40,7 +40,7 @@ struct Ranges
     std::vector<std::string> ranges;
 };
 
-/// A digest without surprises.
+/// A digest with a fixed value.
 class FixedDigest : public MessageDigestIF
 {
 public:
@@ -79,7 +79,7 @@ TEST(UploadPath, NamesTheJobsFolder)
     EXPECT_EQ(path, "/uploads/000004d2/DiscInfo.xml");
 }
 
-TEST(UploadAccount, IsTheJobIdAndAPasswordOfTheServer)
+TEST(UploadAccount, IsTheJobIdAndThePasswordFromTheServer)
 {
     FakePublisher publisher({GoodReply("secret")});
     publisher->m_strJSessionID = "s";
@@ -102,7 +102,7 @@ TEST(UploadAccount, APasswordMayBeEmpty)
     EXPECT_EQ(password, "");
 }
 
-TEST(UploadAccount, FailuresKeepWhatWasThere)
+TEST(UploadAccount, AFailureKeepsTheOldAccount)
 {
     FakePublisher publisher({HttpResponse("", "500 Oh"), HttpResponse(ReplyItem("", 7)),
                              HttpResponse(ReplyItem("a") + ReplyItem("b"))});
@@ -117,7 +117,7 @@ TEST(UploadAccount, FailuresKeepWhatWasThere)
     EXPECT_EQ(password, "old");
 }
 
-TEST(UploadDir, IsMadeWithTheAccount)
+TEST(UploadDir, IsCreatedWithTheAccount)
 {
     FakePublisher publisher({HttpResponse("", "201 Created"), HttpResponse("", "405 Not Allowed")});
     EXPECT_EQ(MakeUploadDir(&publisher.Object(), 1234, "000004d2", "secret", COMM_TYPE_SELECT), NCL_SUCCESS);
@@ -126,7 +126,7 @@ TEST(UploadDir, IsMadeWithTheAccount)
     EXPECT_EQ(MakeUploadDir(&publisher.Object(), 1234, "u", "p", COMM_TYPE_HTTP), NCL_ERR_SERVER_OTHER);
 }
 
-TEST(UploadFile, OneRequestTellsItsRange)
+TEST(UploadFile, ARequestContainsItsRange)
 {
     FakePublisher publisher({HttpResponse("", "201 Created")});
     const std::string data = Content(100);
@@ -138,7 +138,7 @@ TEST(UploadFile, OneRequestTellsItsRange)
     EXPECT_EQ(publisher.Requests()[0].body, data);
 }
 
-TEST(UploadFile, GoesOutInPiecesOf10MiB)
+TEST(UploadFile, IsSentInPiecesOf10MiB)
 {
     const Ranges rows[] = {
         {0, {}},
@@ -221,7 +221,7 @@ TEST(UploadFile, ASetFlagStopsItBeforeTheFirstPiece)
     EXPECT_EQ(Upload(publisher, "x", 0, 0, &cancel), NCL_SUCCESS);
 }
 
-TEST(UploadFile, TheConnectionIsThatOfTheType)
+TEST(UploadFile, TheTypeSelectsTheConnection)
 {
     FakePublisher publisher({HttpResponse("")});
     publisher->m_dwServerMode = NCL_MODE_OUTPUT_CONTROL;
@@ -232,7 +232,7 @@ TEST(UploadFile, TheConnectionIsThatOfTheType)
 
 // --- Digests
 
-TEST(SendHash, TellsTheDigestOfAFile)
+TEST(SendHash, SendsTheDigestOfAFile)
 {
     FakePublisher publisher({HttpResponse("")});
     FixedDigest md;
@@ -245,7 +245,7 @@ TEST(SendHash, TellsTheDigestOfAFile)
     EXPECT_EQ(request.body, FIXED_BODY); // nothing is escaped
 }
 
-TEST(SendHash, KnowsTheRealDigest)
+TEST(SendHash, SendsTheRealDigest)
 {
     FakePublisher publisher({HttpResponse("")});
     MessageDigest md(BCH_HASH_TYPE_SHA1);
@@ -255,7 +255,7 @@ TEST(SendHash, KnowsTheRealDigest)
                                                "&hash=a9993e364706816aba3e25717850c26c9cd0d89d");
 }
 
-TEST(SendHash, ThePathGoesByTheKindOfThePublisher)
+TEST(SendHash, ThePathDependsOnTheKindOfThePublisher)
 {
     const std::pair<DWORD, const char*> rows[] = {
         {NCL_NPTYPE_UNKNOWN, "POST /webapp2/FileHashSetter"},
@@ -281,9 +281,9 @@ TEST(SendHash, TheReplyIsNotParsed)
     EXPECT_EQ(SendHash(&publisher.Object(), COMM_TYPE_HTTP, 1, "F", md), NCL_SUCCESS);
 }
 
-TEST(SendHash, AFailureGoesToTheStandardOutput)
+TEST(SendHash, AFailureIsPrintedOnStandardOutput)
 {
-    for (const DWORD kind : {NCL_NPTYPE_300NII, NCL_NPTYPE_300N}) { // one text, whichever path was used
+    for (const DWORD kind : {NCL_NPTYPE_300NII, NCL_NPTYPE_300N}) { // the same text for both paths
         FakePublisher publisher({HttpResponse("", "500 Oh")});
         publisher->m_dwNPType = kind;
         FixedDigest md;
@@ -294,7 +294,7 @@ TEST(SendHash, AFailureGoesToTheStandardOutput)
     }
 }
 
-TEST(HashOfUpload, ADigestThatFailsCountsAsACancel)
+TEST(HashOfUpload, AFailedDigestCountsAsACancel)
 {
     SyslogLines log;
     FakePublisher publisher({HttpResponse("")});
@@ -303,7 +303,7 @@ TEST(HashOfUpload, ADigestThatFailsCountsAsACancel)
     FixedDigest md(17);
     EXPECT_EQ(SendHashOfUpload(&publisher.Object(), upload, md, NCL_SUCCESS, LINES), NCL_ERR_CANCEL_SENDING);
     EXPECT_THAT(log.Take(), ElementsAre("<3>\t## trace ## DigestOp md.Update Hash calculation error(17)"));
-    EXPECT_EQ(publisher.Requests().at(0).body, FIXED_BODY); // it goes out all the same
+    EXPECT_EQ(publisher.Requests().at(0).body, FIXED_BODY); // it is sent anyway
 }
 
 TEST(HashOfUpload, AnEarlierFailureIsTheResult)
@@ -325,7 +325,7 @@ TEST(HashOfUpload, AnEarlierFailureIsTheResult)
     EXPECT_EQ(publisher.Requests().size(), 2U);
 }
 
-TEST(HashOfUpload, AFailureOfItsOwnIsTraced)
+TEST(HashOfUpload, ItsOwnFailureIsTraced)
 {
     SyslogLines log;
     FakePublisher publisher({HttpResponse("", "507 Full")});

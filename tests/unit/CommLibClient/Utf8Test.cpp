@@ -40,14 +40,14 @@ std::string Utf8(const std::u16string& text)
 
 } // namespace
 
-TEST(Utf8, NeedsItsLocale)
+TEST(Utf8, RequiresItsLocale)
 {
     ASSERT_NE(setlocale(LC_ALL, "en_US.utf8"), nullptr)
         << "This system has no locale en_US.utf8: \"./check --install\" makes it, or \"localedef -i en_US -f "
            "UTF-8 en_US.UTF-8\" as root. Without it every text that comes from a server loses all but ASCII.";
 }
 
-TEST(Utf8, IsTheSameText)
+TEST(Utf8, KeepsTheText)
 {
     EXPECT_EQ(Utf8(u""), "");
     EXPECT_EQ(Utf8(u"Disc 1"), "Disc 1");
@@ -66,7 +66,7 @@ TEST(Utf8, JoinsSurrogatePairs)
                                                 "c");
 }
 
-TEST(Utf8, DropsSurrogatesThatAreAlone)
+TEST(Utf8, DropsLoneSurrogates)
 {
     const char16_t high = 0xD83D;
     const char16_t low = 0xDCBF;
@@ -98,7 +98,7 @@ TEST(Utf8, EveryPairOfSurrogatesIsAsSpecified)
     }
 }
 
-/// Neighbours of every kind: of one, two, three bytes, the bounds between them, and both surrogates.
+/// Neighbours of every kind: characters of one, two and three bytes, their bounds, and both surrogates.
 const char16_t neighbours[] = {0,      u'a',   0x7F,   0x80,   0x7FF,  0x800,  0xD7FF,
                                0xD800, 0xDBFF, 0xDC00, 0xDFFF, 0xE000, 0xFFFE, 0xFFFF};
 
@@ -132,9 +132,9 @@ TEST(Utf8, LongSequencesAreAsSpecified)
     }
 }
 
-TEST(Utf8, WithoutItsLocaleIsAsSpecifiedToo)
+TEST(Utf8, WorksAsSpecifiedWithoutItsLocale)
 {
-    ASSERT_EQ(setenv("LOCPATH", "/tmp", 1), 0); // no locale lies there
+    ASSERT_EQ(setenv("LOCPATH", "/tmp", 1), 0); // it contains no locale
     ASSERT_EQ(setlocale(LC_ALL, "en_US.utf8"), nullptr);
     ASSERT_STREQ(setlocale(LC_ALL, "C"), "C");
     for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
@@ -144,12 +144,12 @@ TEST(Utf8, WithoutItsLocaleIsAsSpecifiedToo)
     EXPECT_EQ(Utf8(u"a\u00E9b"), "ab");
 }
 
-TEST(Utf8, KeepsZerosForTheCallerToSee)
+TEST(Utf8, KeepsZeroUnits)
 {
     EXPECT_EQ(Utf8(std::u16string(u"a\0b", 3)), std::string("a\0b", 3));
 }
 
-TEST(Utf8, SetsTheLocaleOfTheProcessForGood)
+TEST(Utf8, SetsTheLocaleOfTheProcessPermanently)
 {
     setlocale(LC_ALL, "C");
     EXPECT_EQ(Utf8(u"\u65E5"), "\xE6\x97\xA5");
