@@ -1,5 +1,5 @@
-// Any bytes as a body in chunks. What is accepted is made of the bytes sent, in their order, and reads the
-// same when it is sent as one chunk.
+// Feeds any bytes to the client as a chunked body. An accepted body consists of bytes that were sent, in
+// their order, and is the same when it is sent as one chunk.
 #include "FailingMemory.h"
 #include "FakeComm.h"
 
@@ -46,7 +46,7 @@ bool IsMadeOf(const std::string& content, const std::string& bytes)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    const FailingMemory memory(16U << 20); // a size is easily claimed
+    const FailingMemory memory(16U << 20); // an input may announce any size
     const std::string chunks(reinterpret_cast<const char*>(data), size);
     const Body body = Receive(chunks);
     if (body.result != 0) {

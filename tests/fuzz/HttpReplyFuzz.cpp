@@ -1,4 +1,4 @@
-// Any bytes as a publisher server's reply, which the server ends by closing.
+// Feeds any bytes to the client as the reply of a publisher server, which then closes the connection.
 #include "FailingMemory.h"
 #include "FakeComm.h"
 
@@ -6,7 +6,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    const FailingMemory memory(16U << 20); // a length is easily claimed
+    const FailingMemory memory(16U << 20); // an input may announce any length
     const std::string reply(reinterpret_cast<const char*>(data), size);
     auto* comm = new FakeComm({{.reply = reply}});
     FakeHttp http(comm);

@@ -1,5 +1,5 @@
-// Any bytes as a server's list of jobs: the first byte is the kind of the list, the rest the reply. Whatever
-// comes, no record is written beyond its fields.
+// Feeds any bytes to the parser as a server's list of jobs: the first byte is the kind of the list, the rest
+// is the reply. No input causes a write beyond the fields of a record.
 #include "NW_Com_Lib_internal.h"
 
 #include <cassert>
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A record between two stretches of bytes that nobody may touch.
+/// A record between two guard areas, which must not change.
 template <class Record>
 class Guarded
 {
@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         return 0;
     }
     const DWORD type = data[0] % 4;
-    // A copy of its own size, so that a read beyond it is found.
+    // A copy of the exact size, so that a sanitizer detects a read beyond it.
     const std::vector<char> reply(data + 1, data + size);
     std::list<ST_COMM_REPLY> items;
     ParseCommReply(reply.data(), static_cast<DWORD>(reply.size()), items, 0);

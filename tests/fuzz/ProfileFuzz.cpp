@@ -1,5 +1,5 @@
-// Any bytes as a private profile file: read with buffers of all sizes, and written without touching another
-// line.
+// Uses any bytes as a private profile file: reads it with buffers of several sizes, and writes to it without
+// changing other lines.
 #include "ProfileText.h"
 #include "TextFiles.h"
 #include "Win_def.h"
@@ -11,7 +11,7 @@
 namespace {
 
 const char FILE_NAME[] = "/tmp/fuzz.ini";
-const char VALUE[] = "\x01value\x01"; // found again in the file, because no input holds it
+const char VALUE[] = "\x01value\x01"; // unique in the file, because no input contains it
 const char LINE_START[] = "\nKey=";
 const char PAIRS[] = "Key=1\0Other=2\0";
 const char PAIR_LINES[] = "Key=1\nOther=2\n";
@@ -37,13 +37,13 @@ void ReadWithAnyBuffer()
     GetPrivateProfileIntA("Common", "Key", 0, FILE_NAME);
 }
 
-/// What a file holds after `text` was written over `before` from the start.
+/// The contents of a file after `text` was written over `before` from the start.
 std::string Over(const std::string& before, const std::string& text)
 {
     return before.size() > text.size() ? text + before.substr(text.size()) : text;
 }
 
-/// One line replaced or one line added, at the place where the value now stands.
+/// True if one line was replaced or added, at the place of the value.
 bool IsOneLineWritten(const std::string& before, const std::string& after)
 {
     const size_t place = after.find(VALUE);
@@ -56,20 +56,20 @@ bool IsOneLineWritten(const std::string& before, const std::string& after)
     if (after == before + newSection || after == before + "\n" + newSection) {
         return true;
     }
-    if (before.compare(0, place, after, 0, place) == 0) { // the line's value
+    if (before.compare(0, place, after, 0, place) == 0) { // a replaced line
         const size_t lineFeed = before.find('\n', place);
         if (lineFeed != std::string::npos && after == Over(before, added + before.substr(lineFeed + 1))) {
             return true;
         }
     }
-    const size_t start = place - std::strlen(LINE_START); // the first line of the section
+    const size_t start = place - std::strlen(LINE_START); // a new first line of the section
     return place >= std::strlen(LINE_START) &&
            after.compare(start, std::strlen(LINE_START), LINE_START) == 0 && start < before.size() &&
            before.compare(0, start, after, 0, start) == 0 &&
            after == Over(before, added + before.substr(start + 1));
 }
 
-/// The section's lines replaced, all others as they were.
+/// True if the lines of the section were replaced and all others are unchanged.
 bool IsSectionWritten(const std::string& before, const std::string& after)
 {
     const std::string section = "[Common]";

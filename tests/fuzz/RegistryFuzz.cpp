@@ -1,4 +1,4 @@
-// Any bytes as the registry's file: loaded, asked for, written back, edited.
+// Uses any bytes as the registry file: loads, queries, writes back and edits it.
 #include "TextFiles.h"
 #include "WinFunc.h"
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The values that the store's calls give out are those of the map.
+/// Checks that the registry calls return the values of the map.
 void AskForEveryValue(const std::string& path)
 {
     CRegistryKey key{path};
@@ -53,7 +53,7 @@ void EnumerateBelow(HKEY key)
     assert(children <= count);
 }
 
-/// True when `after` is `before` without one run of bytes.
+/// True if `after` is `before` without one run of bytes.
 bool IsOneRunRemoved(const std::string& before, const std::string& after)
 {
     if (after.size() > before.size()) {
@@ -64,7 +64,7 @@ bool IsOneRunRemoved(const std::string& before, const std::string& after)
     return static_cast<size_t>(front + back) >= after.size();
 }
 
-/// A number is written with eight digits, which a name may push beyond what one line holds.
+/// A number is written with eight digits. After a long name they may exceed the maximum length of a line.
 bool HasLongNumberNames()
 {
     return std::any_of(g_Registry.begin(), g_Registry.end(), [](const auto& entry) {

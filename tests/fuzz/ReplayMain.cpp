@@ -1,4 +1,4 @@
-// Runs a fuzz harness over the files of a folder, where libFuzzer is not at hand.
+// Runs a fuzz harness on the files of a folder, without libFuzzer.
 #include "TextFiles.h"
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// Any bytes as the body of a servlet's reply: first byte the number of items expected, the rest the items.
+// Feeds any bytes to the parser as the body of a servlet's reply: the first byte is the number of items
+// expected, the rest are the items.
 #include "NW_Com_Lib_internal.h"
 
 #include <cstring>

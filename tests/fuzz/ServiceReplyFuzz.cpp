@@ -1,5 +1,6 @@
-// Any bytes as the control service's answer: first byte the operation, the rest what the service says before
-// it closes. Left out are the controls whose answer of another size stops the process by contract.
+// Feeds any bytes to the client as the answer of the control service: the first byte selects the operation,
+// the rest is what the service sends before it closes the connection. Controls for which an answer of another
+// size stops the process by contract are excluded.
 #include "BasicPublisherMgr.h"
 #include "TextFiles.h"
 #include "UnixListener.h"
@@ -32,7 +33,7 @@ bool AskDrives(Mgr& mgr)
     return mgr.GetServiceDriveStatus("R", &drives[0], &drives[1], nullptr);
 }
 
-/// Each with the control id that a good answer repeats.
+/// An operation, and the control id that a good answer repeats.
 struct Operation
 {
     ULONG control;
@@ -78,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const std::string answer(reinterpret_cast<const char*>(data) + 1, size - 1);
 
     std::future<bool> call = std::async(std::launch::async, [&] { return operation.run(mgr); });
-    // A service that says this to each command, until the client has what it wants.
+    // A service that sends this answer to each command until the call has returned.
     while (call.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
         UnixPeer peer = listener.Accept(1);
         if (peer.IsOpen() && peer.ReadExactly(408).size() == 408) {
@@ -86,11 +87,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         }
     }
     const bool isYes = call.get();
-    // The client knows a result by its low half.
+    // The client evaluates only the lower half of a result.
     const bool isGoodHeader = answer.size() >= 24 && NumberAt(answer, 0) == operation.control &&
                               static_cast<int>(NumberAt(answer, 8)) == 0;
     if (operation.control == 22) {
-        return 0; // fatal is what a failed query is taken for
+        return 0; // a failed query counts as a fatal error
     }
     assert(!isYes || isGoodHeader || operation.control == 26);
     assert(!mgr.IsRunningCommunicateService());
