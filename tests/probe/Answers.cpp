@@ -17,7 +17,7 @@ void printLine(const std::string& name, const std::string& value)
     std::printf("%s = %s\n", name.c_str(), value.c_str());
 }
 
-/// The fields of a record of nothing but numbers, in their order.
+/// The fields of a record that contains only numbers, in their order.
 template <class Record>
 std::string numbersOf(const Record& record)
 {
@@ -97,7 +97,7 @@ void askMaintenance(DWORD handle, int& failed)
     if (second == NCL_SUCCESS) {
         printLine("GetMaintenanceInfoEx", numbersOf(extended));
     }
-    if ((first == NCL_SUCCESS) == (second == NCL_SUCCESS)) { // each server has one of the two
+    if ((first == NCL_SUCCESS) == (second == NCL_SUCCESS)) { // each server supports one of the two
         report("GetMaintenanceInfo", first);
         report("GetMaintenanceInfoEx", second);
         ++failed;
@@ -138,7 +138,7 @@ void askJobs(DWORD handle, int& failed)
     }
 }
 
-/// With a buffer that is too small first, as a caller learns the size.
+/// First passes a buffer that is too small, to get the size needed.
 void askPublishId(DWORD handle, int& failed)
 {
     DWORD size = 0;

@@ -1,4 +1,4 @@
-// What a publisher server answers to every question that the library can ask, printed line by line.
+// Sends every query of the library to a publisher server and prints the replies line by line.
 #pragma once
 
 #include <string>
@@ -7,12 +7,12 @@
 
 namespace probe {
 
-/// Prints "NAME: OUTCOME" of one operation, with the result code's number when it failed. True when it did
-/// not.
+/// Prints "NAME: OUTCOME" for one operation, with the number of the result code after a failure. True on
+/// success.
 bool report(const std::string& name, DWORD result);
 
-/// Asks for everything: kind, mode, information, statuses, numbers and lists of jobs. `failed` counts the
-/// operations that did not succeed though they had to.
+/// Queries everything: kind, mode, information, statuses, numbers and lists of jobs. Adds the number of
+/// required operations that failed to `failed`.
 void printEverything(DWORD handle, int& failed);
 
 } // namespace probe

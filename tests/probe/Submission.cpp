@@ -60,7 +60,7 @@ bool sendImage(DWORD handle, int id, const std::string& path, size_t piece)
     return true;
 }
 
-/// The first file takes the running index; the others name theirs.
+/// The first file uses the running index; the others pass their own.
 bool sendPrints(DWORD handle, int id, const std::vector<std::string>& paths)
 {
     DWORD index = 0;

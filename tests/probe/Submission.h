@@ -1,4 +1,4 @@
-// Sends jobs to a publisher server, and commands about them.
+// Sends jobs and job commands to a publisher server.
 #pragma once
 
 #include <string>
@@ -8,23 +8,24 @@
 
 namespace probe {
 
-/// A job and its files. The disc information and the disc write information are made up.
+/// A job and its files. The disc information and the disc write information are generated.
 struct NewJob
 {
     std::string name;
     unsigned copies = 1;
     std::vector<std::string> images; ///< paths
     std::vector<std::string> prints; ///< paths
-    size_t piece = 4U << 20;         ///< bytes of an image that go at a time
-    bool commit = true;              ///< or else the job is cancelled at the end
+    size_t piece = 4U << 20;         ///< bytes of an image per call
+    bool commit = true;              ///< otherwise the job is cancelled at the end
 };
 
-/// Sends it stage by stage and prints how each ended; false at the first failure, when the job is cancelled.
+/// Sends a job stage by stage and prints the result of each. False at the first failure; if a file fails, the
+/// job is cancelled.
 bool submit(DWORD handle, const NewJob& job);
-/// A maintenance job, "cleaning" or "nozzle-check", with this file of print data.
+/// Sends a maintenance job, "cleaning" or "nozzle-check", with this file of print data.
 bool submitSpecial(DWORD handle, const std::string& which, const std::string& print);
-/// "cancel", "stop", "restart", "front" of a job's number in hexadecimal digits, or "bridge-cancel",
-/// "bridge-front" of its submitter's id. False when it failed or is none of these.
+/// Sends "cancel", "stop", "restart" or "front" for a job number in hexadecimal digits, or "bridge-cancel" or
+/// "bridge-front" for a submitter's id. False if the command fails or is unknown.
 bool command(DWORD handle, const std::string& what, const std::string& job);
 
 } // namespace probe

@@ -1,4 +1,4 @@
-// network_probe HOST [...]: the network library at work on a server of one's choice.
+// network_probe HOST [...]: calls the network library with a publisher server.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -11,16 +11,16 @@
 namespace {
 
 constexpr char USAGE[] =
-    R"(usage: network_probe HOST                         prints everything that the server tells
+    R"(usage: network_probe HOST                         prints all information from the server
        network_probe HOST --job NAME [--copies N] [--image FILE]... [--print FILE]... [--piece BYTES] [--drop]
                                                   sends a job and commits it, or cancels it (--drop)
        network_probe HOST --special cleaning|nozzle-check FILE
                                                   sends a maintenance job with this print data
        network_probe HOST --do cancel|stop|restart|front JOB
        network_probe HOST --do bridge-cancel|bridge-front ID
-                                                  commands a job, by its number or its submitter's id
+                                                  sends a job command, by job number or submitter's id
 
-Exits with 1 when an operation failed that had to succeed.
+Exits with 1 if a required operation fails.
 )";
 constexpr int EXIT_USAGE = 64;
 
@@ -34,7 +34,7 @@ struct Options
     std::string target;
 };
 
-/// Takes one option with its arguments, which begin at `rest`; how many it took, 0 when it is none.
+/// Parses one option and its arguments, which begin at `rest`. Returns their number, 0 for an unknown option.
 int takeOption(int count, char** rest, Options& options)
 {
     const std::string name = rest[0];
