@@ -1,5 +1,5 @@
-// A disc image of 400 MiB to Apache with mod_dav, which writes it to a file, against curl that sends the same
-// ranges.
+// Uploads a disc image of 400 MiB to Apache with mod_dav, which writes it to a file, compared with curl
+// sending the same ranges.
 #include "ImageUpload.h"
 #include "Stopwatch.h"
 
@@ -10,7 +10,7 @@ namespace {
 constexpr uint16_t PORT = 8090;
 constexpr char FOLDER[] = "/tmp/apache/";
 
-/// Apache as an ordinary user of a namespace of its own: it refuses to serve as root.
+/// Apache, running as an ordinary user in its own namespace, because it refuses to run as root.
 class Apache
 {
 public:

@@ -1,5 +1,5 @@
-// The other end of the network benchmarks: an HTTP server in a process of its own that takes any request and
-// gives always the same answer, and a connection of the client library to it.
+// The server of the network benchmarks: an HTTP server in its own process that gives the same answer to every
+// request, and a connection of the client library to it.
 #pragma once
 
 #include "NW_Com_Lib_internal.h"
@@ -27,7 +27,7 @@ inline void Check(bool condition, const char* what)
     }
 }
 
-/// A connection of the client library to this port, which stays open to the end of the process.
+/// A connection of the client library to this port, which stays open until the process ends.
 inline DWORD OpenHandle(uint16_t port)
 {
     auto* ncl = new ST_NCL;
@@ -39,8 +39,8 @@ inline DWORD OpenHandle(uint16_t port)
     return SetNCLObj(ncl);
 }
 
-/// It keeps connections open, and serves each in a thread. It ends with the object, which is made before the
-/// process has threads.
+/// Keeps connections open, and serves each in a thread. The destructor ends the server. The object must be
+/// created before the process has threads.
 class HttpBenchServer
 {
 public:
@@ -80,7 +80,7 @@ public:
         return "http://127.0.0.1:" + std::to_string(m_port) + path;
     }
 
-    /// A handle of the client library, which stays open to the end of the process.
+    /// A handle of the client library, which stays open until the process ends.
     DWORD OpenHandle() const
     {
         return ::OpenHandle(m_port);

@@ -1,5 +1,5 @@
-// A disc image that goes up to a server, by the client library and by curl: the same ranges, with the same
-// digest computed beside them.
+// Uploads a disc image to a server with the client library and with curl: the same ranges, with the same
+// digest computed in parallel.
 #pragma once
 
 #include "HttpBenchServer.h"
@@ -35,7 +35,7 @@ inline pid_t Start(std::vector<std::string> command)
 class ImageUpload
 {
 public:
-    /// An image of `size` bytes, which the caller has in pieces of `pieceSize`. `url` is its place for curl.
+    /// An image of `size` bytes, sent in pieces of `pieceSize` bytes. curl sends it to `url`.
     ImageUpload(const std::string& url, ULONGLONG size, DWORD pieceSize)
         : m_size(size), m_piece(pieceSize, 0x5A)
     {

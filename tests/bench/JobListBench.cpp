@@ -1,4 +1,4 @@
-// A list of 1000 jobs taken out of its reply, against a copy of the same bytes.
+// Parses the reply with a list of 1000 jobs, compared with a copy of the same bytes.
 #include "JobRecord.h"
 #include "NW_Com_Lib_internal.h"
 #include "Stopwatch.h"
@@ -22,7 +22,7 @@ std::string Reply(const JobRecord& record)
     return body;
 }
 
-/// The median time of the unpacking, in milliseconds.
+/// Returns the median time of the parsing, in milliseconds.
 double Measure(const std::string& what, const std::string& reply)
 {
     std::vector<JobStatusEx> jobs(JOBS);
@@ -42,7 +42,7 @@ double Measure(const std::string& what, const std::string& reply)
     };
     const auto plainCopy = [&] {
         std::memcpy(copy.data(), reply.data(), reply.size());
-        asm volatile("" : : "r"(copy.data()) : "memory"); // the copy is wanted
+        asm volatile("" : : "r"(copy.data()) : "memory"); // do not optimize the copy away
     };
     return Compare(what, {{"ParseCommReply and UnpackJobStatusEx", parse, {}}, {"memcpy", plainCopy, {}}},
                    REPETITIONS)[0] /

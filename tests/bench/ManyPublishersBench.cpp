@@ -1,7 +1,7 @@
-// Many network publishers. First fifty whose packets go nowhere, and one that lives: how often is that one
-// refreshed, and how long does the window keep a person waiting. Then a hundred that live, polled by the
-// program for a minute: its processor time, its memory and its descriptors, which must not grow. The servers
-// are a process of their own. Takes about two minutes.
+// Measures many network publishers. First, fifty that do not answer and one that does: how often that one is
+// refreshed, and how long the window keeps a user waiting. Then a hundred that answer, polled by the program
+// for a minute: its processor time, and its memory and descriptors, which must not grow. The servers run in
+// their own process. Takes about two minutes.
 #include "Installation.h"
 #include "PubSetup.h"
 
@@ -37,7 +37,7 @@ constexpr double refreshLimit = 10; // seconds
 constexpr double answerLimit = 100; // milliseconds
 
 constexpr int livingPublishers = 100;
-constexpr int warmUp = 32; // seconds: each thread of the pool has met the largest replies
+constexpr int warmUp = 32; // seconds, until each thread of the pool has parsed the largest replies
 constexpr int minute = 60;
 constexpr int sampleInterval = 10; // seconds
 
@@ -46,14 +46,14 @@ double secondsSince(Clock::time_point start)
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-/// Lets events be served for so long.
+/// Runs the event loop for this time.
 void serveEvents(std::chrono::milliseconds time)
 {
     QTimer::singleShot(time, QApplication::instance(), &QCoreApplication::quit);
     QApplication::exec();
 }
 
-/// The publisher servers of a scenario, whose setting files they make. Each request is a line of
+/// The publisher servers of a scenario. They create their setting files, and write each request as a line to
 /// `requestFile`.
 class Servers
 {
@@ -84,7 +84,7 @@ public:
         }
         return true;
     }
-    /// How many lines of what they print hold the text.
+    /// The number of lines of their output that contain the text.
     static int lines(const std::string& text)
     {
         std::ifstream file(requestFile);
@@ -99,7 +99,7 @@ private:
     QProcess m_process;
 };
 
-/// A listening socket whose queue is full: the system drops whoever asks for a connection, without a word.
+/// A listening socket whose queue is full: the kernel silently drops further connection requests.
 class LostAddress
 {
 public:
@@ -124,7 +124,7 @@ public:
         }
     }
 
-    /// Whether the last one that asked got no answer at all.
+    /// Whether the last connection request got no answer.
     bool isLost() const
     {
         int error = 0;
@@ -147,7 +147,7 @@ private:
     bool m_good = false;
 };
 
-/// Asks the event loop again and again, as a person would with the mouse, and notes how long it takes.
+/// Posts calls to the event loop repeatedly, like the mouse events of a user, and records their delays.
 class Prober
 {
 public:
@@ -180,7 +180,7 @@ public:
 
 private:
     std::atomic<bool> m_end = false;
-    std::vector<double> m_milliseconds; // of the user-interface thread
+    std::vector<double> m_milliseconds; // used by the user-interface thread
     std::thread m_thread;
 };
 
@@ -208,7 +208,7 @@ bool measureLost()
         Installation::addNetwork("lost" + std::to_string(i), "Lost " + std::to_string(i), address);
     }
 
-    std::vector<double> refreshes; // seconds between two of the living one; from the start to the first
+    std::vector<double> refreshes; // of the living publisher: seconds since the previous one, or the start
     int ready = 0;
     int lostAnswers = 0;
     auto last = Clock::now();
@@ -228,7 +228,7 @@ bool measureLost()
         Qt::QueuedConnection);
     window.show();
     serveEvents(lostTime);
-    refreshes.push_back(secondsSince(last)); // one that does not come any more counts too
+    refreshes.push_back(secondsSince(last)); // the time without a refresh at the end counts too
 
     const std::vector<double> answers = prober.milliseconds();
     const double longestRefresh = *std::max_element(refreshes.begin(), refreshes.end());
@@ -245,7 +245,7 @@ bool measureLost()
     return true;
 }
 
-/// What the system tells of a process.
+/// Figures of a process from /proc.
 struct Figures
 {
     double processorSeconds = 0;
@@ -269,7 +269,7 @@ Figures look(qint64 pid)
     }
     std::string stat;
     std::getline(std::ifstream(folder + "/stat"), stat);
-    std::istringstream fields(stat.substr(stat.rfind(')') + 1)); // behind the name: state is the third
+    std::istringstream fields(stat.substr(stat.rfind(')') + 1)); // after the name; the state is field 3
     std::string skipped;
     for (int field = 3; field < 14; ++field) {
         fields >> skipped;
@@ -278,7 +278,7 @@ Figures look(qint64 pid)
     double system = 0;
     fields >> user >> system;
     figures.processorSeconds = (user + system) / static_cast<double>(sysconf(_SC_CLK_TCK));
-    std::error_code gone; // a descriptor may be closed while it is looked at
+    std::error_code gone; // a descriptor may be closed meanwhile
     for (const auto& entry : std::filesystem::directory_iterator(folder + "/fd")) {
         ++figures.descriptors;
         const std::string target = std::filesystem::read_symlink(entry, gone);
@@ -287,7 +287,7 @@ Figures look(qint64 pid)
     return figures;
 }
 
-/// What is left between two polls: waits for a moment without a connection, but not for ever.
+/// The figures between two polls: waits up to 8 seconds for a moment without a connection.
 Figures lookWhenQuiet(qint64 pid)
 {
     const auto start = Clock::now();
@@ -299,7 +299,7 @@ Figures lookWhenQuiet(qint64 pid)
     return figures;
 }
 
-/// Polls that went through to their last question.
+/// The number of polls that reached their last query.
 int polls()
 {
     return Servers::lines("/webapp2/DevInfoGetter?ifversion=02000000&type=8");

@@ -1,4 +1,4 @@
-// The least that a main window with a list can be: what the start of the program is measured against.
+// A minimal main window with a list: the reference for the start of the program.
 #include <QApplication>
 #include <QMainWindow>
 #include <QScreen>

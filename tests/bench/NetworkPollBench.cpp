@@ -1,6 +1,6 @@
-// The processor time that one poll of a network publisher takes of the thread that asks, with other
-// publishers registered beside it; and that of bare system calls for the same connections, requests and
-// replies. The server, and the reader of the system log, run in threads of their own.
+// Measures the processor time of the polling thread for one poll of a network publisher while other
+// publishers are registered, and that of bare system calls for the same connections, requests and replies.
+// The server and the reader of the system log run in their own threads.
 #include "Installation.h"
 #include "Room.h"
 #include "StatusPoll.h"
@@ -22,7 +22,7 @@ constexpr std::array<int, 4> registered = {1, 10, 100, 1000};
 constexpr int rounds = 5;
 constexpr int polls = 21; // in each round
 
-/// As many setting files as that, with the one of the publisher that is polled.
+/// Creates `count` setting files, including that of the polled publisher.
 void registerOthers(int count)
 {
     for (int i = 1; i < registered.back(); ++i) {
@@ -36,7 +36,7 @@ void registerOthers(int count)
     }
 }
 
-/// What one poll asks the server, with bare system calls.
+/// Sends the requests of one poll with bare system calls.
 class BarePoll
 {
 public:
@@ -60,7 +60,7 @@ public:
         int fd = -1;
         bool answered = true;
         for (const auto& [isFirst, text] : m_requests) {
-            if (isFirst) { // of an operation, each of which has a connection of its own
+            if (isFirst) { // of an operation; each operation has its own connection
                 close(fd);
                 fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
                 const int on = 1;
@@ -146,7 +146,7 @@ int main()
     const auto poll = std::make_shared<StatusPoll>(
         publisherMgr, true, [&](const StatusRow& row) { ready += row.strStatus == "Ready" ? 1 : 0; });
 
-    poll->fetchStatusOneDevice("living"); // the first one learns the kind of the server
+    poll->fetchStatusOneDevice("living"); // the first poll determines the kind of the server
     const size_t before = room.httpRequests().size();
     poll->fetchStatusOneDevice("living");
     std::vector<udsim::HttpRequest> asked = room.httpRequests();
@@ -159,7 +159,7 @@ int main()
     for (int round = 0; round < rounds; ++round) {
         for (size_t i = 0; i < registered.size(); ++i) {
             registerOthers(registered[i]);
-            poll->fetchStatusOneDevice("living");                        // reads what changed
+            poll->fetchStatusOneDevice("living");                        // reads the changes
             std::this_thread::sleep_for(std::chrono::milliseconds(200)); // until the times of files settle
             poll->fetchStatusOneDevice("living");
             for (int count = 0; count < polls; ++count) {

@@ -1,5 +1,5 @@
-// Opening the properties of a local publisher, from the double click to the first paint, against the bare
-// exchanges with the control service that it needs. The difference is our own.
+// Opens the properties of a local publisher, from the double click to the first paint, compared with only the
+// exchanges with the control service that this needs. The difference is the time of the program itself.
 #include "PubSetup.h"
 #include "Room.h"
 #include "Stopwatch.h"

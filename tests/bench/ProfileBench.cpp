@@ -1,4 +1,4 @@
-// Reading the keys of 100 publisher setting files, against GLib loading the file for each key it reads.
+// Reads the keys of 100 publisher setting files, compared with GLib loading the file for each key.
 #include "InstallPaths.h"
 #include "Stopwatch.h"
 #include "TextFiles.h"

@@ -1,4 +1,5 @@
-// Small requests on one kept connection, against libcurl on one connection to the same server.
+// Sends small requests on one persistent connection, compared with libcurl on one connection to the same
+// server.
 #include "HttpBenchServer.h"
 #include "Stopwatch.h"
 #include "SystemLog.h"
@@ -56,7 +57,7 @@ void Post(DWORD handle)
 
 int main()
 {
-    const HttpBenchServer server(ANSWER); // a process, which begins before there are threads
+    const HttpBenchServer server(ANSWER); // forks, so it comes before any thread
     const SystemLog log;
     const DWORD handle = server.OpenHandle();
     std::string answer;

@@ -1,4 +1,4 @@
-// Opening a key of a registry file with 1000 device keys, against GLib loading the equivalent file.
+// Opens a key of a registry file with 1000 device keys, compared with GLib loading the equivalent file.
 #include "Stopwatch.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -26,7 +26,7 @@ std::string RegistryText(int keys)
     return text;
 }
 
-/// The same groups and values as GLib reads them: no quotes around the names.
+/// The same groups and values in the syntax of GLib: no quotes around the names.
 std::string EquivalentText(const std::string& registry)
 {
     std::string text;
@@ -50,7 +50,7 @@ void OpenAndClose()
     RegCloseKey(key);
 }
 
-/// A new change time, so that the next opening has to read the file.
+/// Sets a new change time, so that the next open reads the file.
 void Touch()
 {
     const int result = utimensat(AT_FDCWD, REGISTRY_FILE, nullptr, 0);
@@ -65,7 +65,7 @@ void LoadWithGLib()
     g_key_file_free(file);
 }
 
-/// GLib takes in the whole file: its last value is the one that the registry holds.
+/// Checks that GLib loads the whole file: its last value is equal to that of the registry.
 void CheckThatBothReadTheSame()
 {
     GKeyFile* file = g_key_file_new();
@@ -88,7 +88,7 @@ int main()
     WriteText(EQUIVALENT_FILE, EquivalentText(text));
     CheckThatBothReadTheSame();
 
-    // The file must have rested for a moment before an opening may trust its times.
+    // An open trusts the times of the file only some time after its last change.
     const timespec rest = {0, 300'000'000};
     nanosleep(&rest, nullptr);
     Compare(

@@ -1,4 +1,4 @@
-// One exchange with the control service, against the bare system calls on the same socket.
+// Measures one exchange with the control service, compared with bare system calls on the same socket.
 #include "BasicPublisherMgr.h"
 #include "Stopwatch.h"
 #include "TextFiles.h"
@@ -33,7 +33,7 @@ sockaddr_un ServiceAddress()
     return address;
 }
 
-/// Answers every request with the same header and payload; lives as long as the process.
+/// Answers every request with the same header and payload; runs until the process ends.
 void Serve(int listener)
 {
     const unsigned long header[] = {ARV_PC_GET_INK_STATUS, 0, PAYLOAD_SIZE};

@@ -1,5 +1,5 @@
-// The start of the program with an empty list, against a minimal window of the toolkit: the time until the
-// list is on the screen, and the memory resident then. Both are watched from outside, on a virtual screen.
+// Measures the start of the program with an empty list, compared with a minimal Qt window: the time until the
+// list is on the screen, and the resident memory then. Both are observed from outside, on a virtual screen.
 #include "Installation.h"
 #include "Stopwatch.h"
 
@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int repetitions = 21;
-constexpr int settling = 300; // milliseconds until the memory is looked at
+constexpr int settling = 300; // milliseconds until the memory is read
 
 struct Candidate
 {
@@ -34,7 +34,7 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-/// The empty list is the only light thing in the middle of the screen.
+/// The empty list is the only light area in the middle of the screen.
 bool listIsVisible()
 {
     QScreen* screen = QGuiApplication::primaryScreen();

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// One way of doing the work that is compared.
+/// One of the implementations that are compared.
 struct Contender
 {
     std::string name;
@@ -23,8 +23,9 @@ struct Contender
     }
 };
 
-/// Runs all contenders in turn, `repetitions` times, so that a slow moment of the machine meets all of them;
-/// then prints the medians, and their ratios to the last contender. The medians in microseconds, in order.
+/// Runs all contenders in turn, `repetitions` times, so that a slow phase of the machine affects all of them.
+/// Then prints the medians, and their ratios to the last contender. Returns the medians in microseconds, in
+/// order.
 inline std::vector<double> Compare(const std::string& what, std::vector<Contender> contenders,
                                    int repetitions)
 {
@@ -49,14 +50,14 @@ inline std::vector<double> Compare(const std::string& what, std::vector<Contende
     return medians;
 }
 
-/// A line of the table of goals: what was measured, and what it may be at most.
+/// Prints a line of the table of goals: the measured value and its maximum.
 inline void PrintGoal(const std::string& work, double measured, double goal, const char* unit)
 {
     std::printf("  goal: %-52s %8.2f %-2s of at most %6.2f %-2s %s\n", work.c_str(), measured, unit, goal,
                 unit, measured <= goal ? "reached" : "MISSED");
 }
 
-/// The same for what Compare yielded: the first contender against the last.
+/// As PrintGoal, for the result of Compare: the ratio of the first contender to the last.
 inline void PrintRatioGoal(const std::string& work, const std::vector<double>& medians, double goal)
 {
     PrintGoal(work, medians.front() / medians.back(), goal, "x");

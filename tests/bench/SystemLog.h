@@ -1,11 +1,11 @@
-// The system log of a benchmark, in the sandbox, whose "/dev/log" is free.
+// The system log of a benchmark in the sandbox, where "/dev/log" is free.
 #pragma once
 
 #include "LogAgent.h"
 
 #include <thread>
 
-/// Empties the system log, which every Debian machine has: without one, each line costs three calls in vain.
+/// Reads the system log, as on every Debian machine: without a reader, each line costs three failing calls.
 class SystemLog
 {
 public:

@@ -1,5 +1,5 @@
-// One tick of the publisher list over publishers that did not change, and the reading of all their records,
-// against GLib loading the same setting files and reading the same keys.
+// Measures one tick of the publisher list with unchanged publishers, and the reading of all their records,
+// compared with GLib loading the same setting files and reading the same keys.
 #include "Installation.h"
 #include "PubSetup.h"
 #include "ReadPass.h"
@@ -11,7 +11,8 @@
 
 namespace {
 
-/// What is read of each setting file, in its order: a publisher's kind and device are looked up three times.
+/// The keys that are read from each setting file, in order. The kind of a publisher and its device are read
+/// three times.
 constexpr const char* keysOfARecord[] = {"PublisherConnectionType",
                                          "PublisherConnectionType",
                                          "GUID",

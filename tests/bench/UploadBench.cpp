@@ -1,5 +1,5 @@
-// A disc image of 1 GiB with its digest, against curl that sends the same ranges to the same server while the
-// same digest is made beside it; and the memory that the client needs for it.
+// Uploads a disc image of 1 GiB with its digest, compared with curl sending the same ranges to the same
+// server while the same digest is computed in parallel. Also measures the memory that the client needs.
 #include "ImageUpload.h"
 #include "Stopwatch.h"
 
@@ -29,7 +29,7 @@ int main()
     const DWORD handle = server.OpenHandle();
     GetNCLObj(handle)->m_nServerJobID = JOB_ID;
 
-    std::ofstream("/proc/self/clear_refs") << "5"; // the peak begins anew
+    std::ofstream("/proc/self/clear_refs") << "5"; // resets the peak
     const long before = Memory("VmRSS");
     upload.SendWithLibrary(handle);
     PrintGoal("memory beyond the caller's buffer in an upload",
