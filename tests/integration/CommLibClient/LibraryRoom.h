@@ -29,7 +29,7 @@ private:
     }
 };
 
-/// Open for the length of its life, unless `result` says why not.
+/// Open while the object exists, unless `result` is an error.
 class LibraryConnection
 {
 public:

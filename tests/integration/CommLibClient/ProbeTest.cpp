@@ -1,4 +1,4 @@
-// The probe program against the publisher servers of the example scenario.
+// Runs the probe program with the publisher servers of the example scenario.
 #include <array>
 #include <cstdio>
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Runs the probe; its exit code, and in `output` what it printed.
+/// Runs the probe. Returns its exit code, and what it printed in `output`.
 int probe(std::vector<std::string> arguments, std::string& output)
 {
     arguments.insert(arguments.begin(), PROBE);

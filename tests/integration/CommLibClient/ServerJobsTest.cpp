@@ -1,4 +1,4 @@
-// Jobs that the network library sends to a publisher server which checks every step.
+// Sends jobs with the network library to a publisher server that checks every step.
 #include <string>
 
 #include "LibraryRoom.h"
@@ -77,7 +77,7 @@ TEST_F(ServerJobs, EveryStage)
     EXPECT_EQ(m_open.room.jobs("A").at(0).completed, 2U);
 }
 
-TEST_F(ServerJobs, NothingIsRefusedOnTheWay)
+TEST_F(ServerJobs, NoStepIsRefused)
 {
     const DWORD handle = m_connection.handle;
     const int id = registerJob(handle);
@@ -96,7 +96,7 @@ TEST_F(ServerJobs, NothingIsRefusedOnTheWay)
     }
 }
 
-TEST_F(ServerJobs, AnImageThatIsCutShort)
+TEST_F(ServerJobs, AnUnfinishedImage)
 {
     const std::string image(1000, 'i');
     {

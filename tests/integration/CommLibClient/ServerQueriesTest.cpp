@@ -1,4 +1,4 @@
-// What the network library reads of publisher servers that were written without it.
+// What the network library reads from publisher servers that were written independently of it.
 #include <array>
 #include <cstring>
 #include <fstream>
@@ -55,7 +55,7 @@ TEST(ServerQueries, ModeOfEachServer)
     }
 }
 
-TEST(ServerQueries, SecureServersAreOutOfReach)
+TEST(ServerQueries, SecureServersAreNotSupported)
 {
     for (const DWORD mode : {NCL_MODE_SECURITY, NCL_MODE_OUTPUT_CONTROL}) {
         const LibraryRoom open("[network A]\nmodel = RT-300NII\nserver-mode = " + std::to_string(mode));
@@ -63,7 +63,7 @@ TEST(ServerQueries, SecureServersAreOutOfReach)
     }
 }
 
-TEST(ServerQueries, WhyConnectionsFail)
+TEST(ServerQueries, FailedConnectionsReturnTheCause)
 {
     LibraryRoom open(
         "[network A]\nmodel = RT-300NII\n[network Old]\nmodel = RT-300NII\nserver-version = 3.29\n"
@@ -94,7 +94,7 @@ TEST(ServerQueries, WhyConnectionsFail)
     }
 }
 
-TEST(ServerQueries, StatusAtWork)
+TEST(ServerQueries, StatusDuringAJob)
 {
     LibraryRoom open("[network A]\nmodel = RT-300NII\ndisc-time = 10s\nink.black = 9\nstacker1 = 60\n"
                      "job = \xC3\x9C"

@@ -1,18 +1,18 @@
-// What an operation on a network publisher gives when a request of its connection fails, and when none does.
+// The expected results of an operation on a network publisher if one of its requests fails, and if none does.
 #pragma once
 
 #include "NetworkOperations.h"
 
 #include <gtest/gtest.h>
 
-/// What a connection asks before any operation can: the mode, whether BD-R TL and QL are taken, the
-/// interface's version, and the server's.
+/// The number of requests that start a connection: the mode, the support of BD-R TL and QL, the interface
+/// version and the server version.
 inline constexpr size_t OF_CONNECTION = 4;
 inline constexpr size_t OF_LARGE_DISCS = 1;
-inline constexpr size_t OF_VERSION = 3; ///< whatever becomes of it
+inline constexpr size_t OF_VERSION = 3; ///< its failure is ignored
 
-/// What an operation gives that fails with `code` at its request of this number, counted from the first of
-/// the connection's.
+/// Expects the result of an operation that fails with `code` at this request, counted from the first request
+/// of the connection.
 inline void ExpectFailure(const NetworkOperation& operation, size_t request, DWORD code,
                           const NetworkAnswer& answer)
 {
@@ -25,7 +25,7 @@ inline void ExpectFailure(const NetworkOperation& operation, size_t request, DWO
     }
 }
 
-/// One that none of its requests failed to.
+/// Expects the result of an operation without a failed request.
 inline void ExpectSuccess(const NetworkOperation& operation, const NetworkAnswer& answer)
 {
     const std::string name = operation.name;

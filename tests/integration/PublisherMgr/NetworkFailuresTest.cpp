@@ -1,16 +1,16 @@
-// Every operation against a server that fails at each of its requests in turn: what the caller learns, that
-// his outputs are as they were, and that the connection is ended whatever happened.
+// Tests every operation against a server that fails at each of its requests in turn: the operation returns
+// the expected result, leaves its outputs unchanged, and closes the connection in every case.
 #include "NetworkExpectations.h"
 #include "NetworkRoom.h"
 
 namespace {
 
-/// What goes wrong.
+/// A fault and its effect.
 struct Failure
 {
     const char* fault;
     DWORD code;       ///< of the library
-    size_t exchanges; ///< of the request that fails: a connection that is lost is tried once more
+    size_t exchanges; ///< for the request that fails; a lost connection is retried once
 };
 
 const Failure FAILURES[] = {
@@ -28,7 +28,7 @@ bool IsTolerated(size_t request, DWORD code)
 class NetworkFailures : public testing::Test
 {
 protected:
-    /// There is one unfinished job of the name "J".
+    /// Ensures that there is one unfinished job with the id "J".
     void PrepareJob()
     {
         for (const udsim::Job& job : m_open.room.jobs("A")) {
@@ -50,12 +50,12 @@ protected:
     }
 
     NetworkRoom m_open{"[network A]\nid = R\nmodel = RT-300NII\n"};
-    size_t m_exchanges = 0; ///< of the last question
+    size_t m_exchanges = 0; ///< of the last operation
 };
 
 } // namespace
 
-TEST_F(NetworkFailures, WithoutAFailureEachSucceeds)
+TEST_F(NetworkFailures, EachOperationSucceedsWithoutAFault)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         PrepareJob();
@@ -66,12 +66,12 @@ TEST_F(NetworkFailures, WithoutAFailureEachSucceeds)
 
 namespace {
 
-/// One kind of failure, in a room of its own.
+/// One kind of failure, in its own room.
 class NetworkFailureOf : public NetworkFailures, public testing::WithParamInterface<Failure>
 {
 };
 
-/// "status 2" as a part of a test's name.
+/// The fault as a part of the test's name: "status2" for "status 2".
 std::string NameOf(const testing::TestParamInfo<Failure>& info)
 {
     std::string name = info.param.fault;
@@ -107,7 +107,7 @@ TEST_P(NetworkFailureOf, EachRequestOfEachOperationInTurn)
     }
 }
 
-TEST_F(NetworkFailures, NobodyNeedsTheResultCode)
+TEST_F(NetworkFailures, TheResultCodeIsOptional)
 {
     for (const NetworkOperation& operation : NetworkOperations()) {
         for (size_t request = 0; request < OF_CONNECTION + operation.requests; ++request) {
@@ -122,7 +122,7 @@ TEST_F(NetworkFailures, NobodyNeedsTheResultCode)
     }
 }
 
-TEST_F(NetworkFailures, AListOfAllJobsIsGoodWhenOneOfItsTwoHalvesIs)
+TEST_F(NetworkFailures, AListOfAllJobsSucceedsIfOneHalfSucceeds)
 {
     const NetworkOperation& operation = NetworkOperationOf("GetServiceJobStatus");
     PrepareJob();
@@ -145,7 +145,7 @@ TEST_F(NetworkFailures, AListOfAllJobsIsGoodWhenOneOfItsTwoHalvesIs)
     }
 }
 
-TEST_F(NetworkFailures, ACancelWhoseListOrCommandFails)
+TEST_F(NetworkFailures, ACancelFailsIfItsListOrCommandFails)
 {
     const NetworkOperation& operation = NetworkOperationOf("SetServiceJobCancel");
     for (const Failure& failure : FAILURES) {
@@ -164,7 +164,7 @@ TEST_F(NetworkFailures, ACancelWhoseListOrCommandFails)
     }
 }
 
-TEST_F(NetworkFailures, TheTestOfAConnectionTellsTheCauseAndEndsIt)
+TEST_F(NetworkFailures, TheConnectionTestReturnsTheCauseAndCloses)
 {
     for (const Failure& failure : FAILURES) {
         for (size_t request = 0; request < OF_CONNECTION; ++request) {
@@ -178,7 +178,7 @@ TEST_F(NetworkFailures, TheTestOfAConnectionTellsTheCauseAndEndsIt)
     }
 }
 
-TEST_F(NetworkFailures, AConnectionOfTheCallersOwnTellsTheCause)
+TEST_F(NetworkFailures, TheCallersOwnConnectionReturnsTheCause)
 {
     for (const Failure& failure : FAILURES) {
         m_open.Befall(failure.fault, 0, failure.exchanges);
@@ -192,7 +192,7 @@ TEST_F(NetworkFailures, AConnectionOfTheCallersOwnTellsTheCause)
     }
 }
 
-TEST_F(NetworkFailures, NoConnectionStaysInTheTableOfAHundred)
+TEST_F(NetworkFailures, NoConnectionRemainsInTheTable)
 {
     for (int round = 0; round < 120; ++round) {
         m_open.Befall("status 2", static_cast<size_t>(round % 5));
@@ -232,7 +232,7 @@ TEST_F(NetworkFailures, RepliesOfTheWrongSize)
     EXPECT_EQ(Ask(NetworkOperationOf("GetServiceJobStatusFinish")).result, 1) << "an empty job, all zero";
 }
 
-TEST_F(NetworkFailures, TextsThatAreTooLongForTheirBuffers)
+TEST_F(NetworkFailures, TextsTooLongForTheirBuffers)
 {
     const std::tuple<const char*, size_t, bool> rows[] = {
         {"GetSupportWriteSpeedString", 1023, true},
@@ -253,7 +253,7 @@ TEST_F(NetworkFailures, TextsThatAreTooLongForTheirBuffers)
     }
 }
 
-TEST_F(NetworkFailures, AnswersThatComeInOddWaysAreGoodOnes)
+TEST_F(NetworkFailures, UnusualTransfersAreAccepted)
 {
     for (const char* const harmless : {"chunked", "interim 3", "drip 0", "delay 5"}) {
         for (const NetworkOperation& operation : NetworkOperations()) {

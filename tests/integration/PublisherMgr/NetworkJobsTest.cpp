@@ -1,4 +1,4 @@
-// Jobs on publisher servers: listed, cancelled, and sent step by step.
+// Jobs on publisher servers: lists them, cancels them, and sends them step by step.
 #include "NetworkRoom.h"
 #include "PublisherFiles.h"
 #include "StdoutCapture.h"
@@ -10,7 +10,7 @@ namespace {
 class NetworkJobs : public testing::Test
 {
 protected:
-    /// The state of the job with this number, as the service numbers it.
+    /// The state of the job with this number, in the numbering of the service.
     uint64_t StateOf(uint32_t number)
     {
         for (const udsim::Job& job : m_open.room.jobs("A")) {
@@ -51,7 +51,7 @@ DWORD SizeOf(const std::string& text)
     return static_cast<DWORD>(text.size());
 }
 
-/// A connection of the caller's own.
+/// A connection that the caller starts and ends.
 class OwnConnection
 {
 public:
@@ -82,7 +82,7 @@ const std::string TEXT = "some text";
 // ---------------------------------------------------------------------------------------------------------------------
 // Lists
 
-TEST_F(NetworkJobs, AListValueByValue)
+TEST_F(NetworkJobs, AListContainsEachValue)
 {
     Add("J-1",
         "Abend\xC3\xBC"
@@ -110,7 +110,7 @@ TEST_F(NetworkJobs, AListValueByValue)
     EXPECT_EQ(job.ulHistory, 0U);
 }
 
-TEST_F(NetworkJobs, AListHoldsNothingOfALongerOneBeforeIt)
+TEST_F(NetworkJobs, AListContainsNothingOfALongerPreviousList)
 {
     for (int number = 0; number < 3; ++number) {
         Add("a-long-identification-" + std::to_string(number), std::string(60, 'x'));
@@ -125,7 +125,7 @@ TEST_F(NetworkJobs, AListHoldsNothingOfALongerOneBeforeIt)
     EXPECT_EQ(List(&CNetworkPublisherMgr::GetServiceJobStatusFinish).GetSize(), 3);
 }
 
-TEST_F(NetworkJobs, AJobWithoutAnIdGetsOneOfThePublisherAndItsNumber)
+TEST_F(NetworkJobs, AJobWithoutAnIdGetsOneFromThePublisherAndItsNumber)
 {
     for (int number = 1; number < 0x2A; ++number) {
         Add("K");
@@ -202,7 +202,7 @@ TEST_F(NetworkJobs, AThousandJobs)
 // ---------------------------------------------------------------------------------------------------------------------
 // Cancelling
 
-TEST_F(NetworkJobs, ACancelReachesTheJobOfThatName)
+TEST_F(NetworkJobs, ACancelAffectsTheJobWithThatId)
 {
     Add("A");
     Add("B");
@@ -221,7 +221,7 @@ TEST_F(NetworkJobs, ACancelReachesTheJobOfThatName)
     EXPECT_TRUE(m_open.AllClosed());
 }
 
-TEST_F(NetworkJobs, ACancelOfANameThatSeveralHaveTakesTheFirst)
+TEST_F(NetworkJobs, ACancelOfASharedIdCancelsTheFirstJob)
 {
     Add("D");
     Add("D");
@@ -237,7 +237,7 @@ TEST_F(NetworkJobs, ACancelOfANameThatSeveralHaveTakesTheFirst)
     EXPECT_EQ(StateOf(3), 8U);
 }
 
-TEST_F(NetworkJobs, NumbersOnTheServerAreHexadecimalOnTheWire)
+TEST_F(NetworkJobs, JobNumbersAreHexadecimalOnTheWire)
 {
     for (int number = 0; number < 0x1F; ++number) {
         Add("J" + std::to_string(number));
@@ -302,7 +302,7 @@ TEST_F(NetworkJobs, EveryStepOfASubmission)
     EXPECT_TRUE(m_open.AllClosed());
 }
 
-TEST_F(NetworkJobs, ASubmissionThatIsGivenUp)
+TEST_F(NetworkJobs, ACancelledSubmission)
 {
     const OwnConnection connection(m_mgr);
     DWORD code = 77;
@@ -318,7 +318,7 @@ TEST_F(NetworkJobs, ASubmissionThatIsGivenUp)
     EXPECT_EQ(code, 8007U);
 }
 
-TEST_F(NetworkJobs, StepsThatAreRefusedTellTheCode)
+TEST_F(NetworkJobs, RefusedStepsReturnTheCode)
 {
     const OwnConnection connection(m_mgr);
     const DWORD handle = connection.handle;
@@ -358,7 +358,7 @@ TEST_F(NetworkJobs, StepsThatAreRefusedTellTheCode)
     EXPECT_EQ(code, 8007U);
 }
 
-TEST_F(NetworkJobs, AHandleThatIsNotOpen)
+TEST_F(NetworkJobs, AnInvalidHandle)
 {
     DWORD code = 77;
     int job = 4711;

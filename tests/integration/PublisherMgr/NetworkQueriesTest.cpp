@@ -1,5 +1,5 @@
-// What publisher management tells of network publishers, value by value, from servers that were written
-// without it.
+// The values that publisher management returns for network publishers, from servers that were written
+// independently of it.
 #include "NetworkOperations.h"
 #include "NetworkRoom.h"
 #include "PublisherFiles.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// One publisher "R" of a model that knows Blu-ray, and these keys.
+/// One publisher "R" with these keys, by default of a model that supports Blu-ray.
 std::string Scenario(const std::string& keys, const std::string& model = "RT-300NII")
 {
     return "[network A]\nid = R\nmodel = " + model + "\n" + keys + "\n";
@@ -83,7 +83,7 @@ TEST(NetworkQueries, MediaOfEachKind)
     }
 }
 
-TEST(NetworkQueries, AConnectionThatIsKnownToFailIsNotTried)
+TEST(NetworkQueries, AConnectionKnownToFailIsNotTried)
 {
     NetworkRoom open(Scenario("known-kind = 3"));
     PUBLISHERINFO info;
@@ -93,7 +93,7 @@ TEST(NetworkQueries, AConnectionThatIsKnownToFailIsNotTried)
     EXPECT_TRUE(open.room.httpRequests().empty());
 }
 
-TEST(NetworkQueries, TheKindIsRememberedAgainAfterTheFileWasWritten)
+TEST(NetworkQueries, TheKindIsStoredAgainAfterTheFileIsWritten)
 {
     NetworkRoom open(Scenario(""));
     const std::string oldFile = "[Common]\nNPType=1\nPublisherURL=127.0.0.11\n";
@@ -112,7 +112,7 @@ TEST(NetworkQueries, TheKindIsRememberedAgainAfterTheFileWasWritten)
     EXPECT_EQ(info.strPublisherName, "Lab");
 }
 
-TEST(NetworkQueries, HostsBehindBackslashes)
+TEST(NetworkQueries, HostsAfterBackslashes)
 {
     NetworkRoom open(Scenario(""));
     for (const char* const address : {"127.0.0.11", "\\\\127.0.0.11", "\\127.0.0.11", "a\\b\\127.0.0.11"}) {
@@ -150,7 +150,7 @@ TEST(NetworkQueries, WriteSpeedsByTheModel)
     }
 }
 
-TEST(NetworkQueries, ModesAsTheWindowsKnowThem)
+TEST(NetworkQueries, ModesInTheNumberingOfTheWindows)
 {
     const std::pair<const char*, ULONG> rows[] = {{"2", 0}, {"3", 2}, {"4", 1}};
     for (const auto& [number, mode] : rows) {
@@ -198,7 +198,7 @@ TEST(NetworkQueries, FiguresOfEachModel)
     for (const char* const model : MODELS) {
         const bool isOld = model == MODELS[0];
         std::filesystem::remove(PublisherFile("R"));
-        // The oldest model has the short record, which is known by its kind alone.
+        // The oldest model has the short record, which only its kind identifies.
         NetworkRoom open(Scenario(std::string("serial = S-1\nprint-count = 4200\ndisc-time = 20s") +
                                       (isOld ? "\nknown-kind = 1" : ""),
                                   model));
@@ -224,7 +224,7 @@ TEST(NetworkQueries, FiguresOfEachModel)
     }
 }
 
-TEST(NetworkQueries, TheOldestModelByAnotherKindHasNoFigures)
+TEST(NetworkQueries, TheOldestModelWithAnotherKindHasNoFigures)
 {
     NetworkRoom open(Scenario("", "RT-300N"));
     PUBLISHERMAINTENANCEINFO info;
@@ -256,7 +256,7 @@ TEST(NetworkQueries, TextsOfEveryType)
 // ---------------------------------------------------------------------------------------------------------------------
 // Status
 
-TEST(NetworkQueries, StatusAtRest)
+TEST(NetworkQueries, StatusWithoutAJob)
 {
     NetworkRoom open(Scenario("ink.cyan = 11\nink.magenta = 22\nink.yellow = 9\nink.light-cyan = 44\n"
                               "ink.light-magenta = 0\nink.black = 66\nstacker1 = 60\nstacker2 = 3\n"
@@ -300,7 +300,7 @@ TEST(NetworkQueries, StatusAtRest)
     EXPECT_TRUE(open.AllClosed());
 }
 
-TEST(NetworkQueries, StatusAtWork)
+TEST(NetworkQueries, StatusDuringAJob)
 {
     NetworkRoom open(Scenario("disc-time = 10s\njob = Photos, copies=3"));
     std::set<unsigned long> drives;
@@ -335,7 +335,7 @@ TEST(NetworkQueries, ACleaning)
     EXPECT_EQ(printer, 0x10U);
 }
 
-TEST(NetworkQueries, TheLoaderTellsWhatStandsInItsWay)
+TEST(NetworkQueries, TheLoaderReportsItsErrors)
 {
     NetworkRoom open(Scenario(""));
     const std::pair<const char*, ULONG> rows[] = {
@@ -373,7 +373,7 @@ TEST(NetworkQueries, FatalErrors)
     EXPECT_EQ(code, -1);
 }
 
-TEST(NetworkQueries, PrintsThatTheInkIsGoodFor)
+TEST(NetworkQueries, TheNumberOfPrintsThatTheInkAllows)
 {
     NetworkRoom open(Scenario("ink.yellow = 10"));
     const auto expected = static_cast<int>(open.room.lookAtServer("A")->machine().printableDiscs());
@@ -387,7 +387,7 @@ TEST(NetworkQueries, PrintsThatTheInkIsGoodFor)
     EXPECT_EQ(code, 0);
 }
 
-TEST(NetworkQueries, AMachineThatIsSwitchedOff)
+TEST(NetworkQueries, AnOfflineMachine)
 {
     NetworkRoom open(Scenario("job = Photos, copies=3"));
     open.room.tell("A", "offline");
@@ -414,9 +414,9 @@ TEST(NetworkQueries, AMachineThatIsSwitchedOff)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Servers that cannot be used
+// Unsupported servers
 
-TEST(NetworkQueries, ServersThatAreOff)
+TEST(NetworkQueries, StoppedServers)
 {
     NetworkRoom open(Scenario(""));
     open.room.tell("A", "server off");
@@ -432,7 +432,7 @@ TEST(NetworkQueries, ServersThatAreOff)
     EXPECT_EQ(open.mgr.GetJobCount("R", nullptr), 0);
 }
 
-TEST(NetworkQueries, SecureModesAreOutOfReach)
+TEST(NetworkQueries, SecureModesAreNotSupported)
 {
     for (const char* const mode : {"0", "1"}) {
         NetworkRoom open(Scenario(std::string("name = Lab\nserver-mode = ") + mode));
@@ -489,7 +489,7 @@ TEST(NetworkQueries, OldServersNeedTheCompatibilityMode)
         EXPECT_EQ(open.mgr.GetJobCount("R", nullptr), 0) << version;
         EXPECT_EQ(open.mgr.ConnectionTest("127.0.0.11"), 0U);
         EXPECT_TRUE(open.AllClosed());
-        SetCompatibility("\"CompatiMode\"=dword:00000000\n"); // what was read once stays until it is replaced
+        SetCompatibility("\"CompatiMode\"=dword:00000000\n"); // a value once read stays until it is replaced
         ExpectRefused(open);
     }
 }
@@ -502,7 +502,7 @@ TEST(NetworkQueries, TheCompatibilityModeIsANumber)
     EXPECT_TRUE(open.AllClosed());
 }
 
-TEST(NetworkQueries, ServersOfAnotherInterface)
+TEST(NetworkQueries, ServersWithAnotherInterfaceVersion)
 {
     NetworkRoom open(Scenario("interface-version = 03000000"));
     long code = 77;
@@ -511,7 +511,7 @@ TEST(NetworkQueries, ServersOfAnotherInterface)
     EXPECT_TRUE(open.AllClosed());
 }
 
-TEST(NetworkQueries, OperationsThatThereAreNotAskNothing)
+TEST(NetworkQueries, UnsupportedOperationsSendNoRequest)
 {
     NetworkRoom open(Scenario(""));
     ULONG values[4] = {};

@@ -1,4 +1,4 @@
-// A room of simulated publisher servers, and the publisher management that asks them.
+// A room of simulated publisher servers, and the publisher management that queries them.
 #pragma once
 
 #include "InstallPaths.h"
@@ -12,7 +12,7 @@ class NetworkRoom : public LibraryRoom
 public:
     explicit NetworkRoom(const std::string& text) : LibraryRoom(text) {}
 
-    /// From here on no other fault befalls the requests behind the next `after`.
+    /// Replaces all faults. The fault affects `times` requests (0: all) after the next `after`.
     void Befall(const std::string& fault, size_t after = 0, size_t times = 0, const std::string& path = "")
     {
         std::string error;

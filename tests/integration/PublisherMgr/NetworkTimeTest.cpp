@@ -1,4 +1,4 @@
-// The limit of time that a server which takes no connection runs into.
+// Tests the timeout for a server that accepts no connection.
 #include "NetworkOperations.h"
 #include "PublisherFiles.h"
 #include "Socket.h"
@@ -31,26 +31,26 @@ protected:
     }
 
     TcpListener m_listener{"127.0.0.1", 80, 0};
-    std::vector<CSocket> m_waiting{8}; ///< more than may wait: the kernel answers no further ones
+    std::vector<CSocket> m_waiting{8}; ///< more than the backlog: the kernel answers no more
     std::chrono::steady_clock::time_point m_start;
     CNetworkPublisherMgr m_mgr{true, PUBLISHER_SETTING_DIR};
 };
 
 } // namespace
 
-TEST_F(NetworkTime, TheTestOfAConnectionTellsThatTheTimeIsOver)
+TEST_F(NetworkTime, TheConnectionTestReportsATimeout)
 {
     EXPECT_EQ(m_mgr.ConnectionTest("127.0.0.1"), 8U);
 }
 
-TEST_F(NetworkTime, AQuestionWhetherAPublisherCanBeReachedTellsTheSame)
+TEST_F(NetworkTime, TheReachabilityQueryReportsATimeout)
 {
     long code = 77;
     EXPECT_FALSE(m_mgr.IsPossibleCommunicate("R", &code));
     EXPECT_EQ(code, 8);
 }
 
-TEST_F(NetworkTime, AQueryDoesNotTellWhyThereIsNoConnection)
+TEST_F(NetworkTime, AQueryDoesNotReportTheCause)
 {
     const NetworkOperation& operation = NetworkOperationOf("GetServiceInkStatus");
     const NetworkAnswer answer = operation.call(m_mgr, "R", true);
@@ -59,7 +59,7 @@ TEST_F(NetworkTime, AQueryDoesNotTellWhyThereIsNoConnection)
     EXPECT_TRUE(answer.isKept);
 }
 
-TEST_F(NetworkTime, ARecordHasItsLocalPart)
+TEST_F(NetworkTime, ARecordContainsItsLocalPart)
 {
     PUBLISHERINFO info;
     EXPECT_FALSE(m_mgr.GetPublisherInfo("R", &info, FALSE));

@@ -1,4 +1,4 @@
-// Servers that are gone from one request to the next.
+// Tests servers that disappear between two requests.
 #include "JobRecord.h"
 #include "NetworkExpectations.h"
 #include "PublisherFiles.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// What a server answers that has nothing to do but one job.
+/// The answers of a server that has one job.
 std::string AnswerOf(const std::string& request)
 {
     const auto asks = [&](const char* what) { return request.find(what) != std::string::npos; };
@@ -32,7 +32,7 @@ std::string AnswerOf(const std::string& request)
     return GoodReply("");
 }
 
-/// It answers so many requests, takes another, and is gone.
+/// Answers `requests` requests, reads another, and closes the connection.
 TcpServer::Script Answering(size_t requests)
 {
     return [requests](TcpServer& server, TcpPeer& peer) {
@@ -49,7 +49,7 @@ TcpServer::Script Answering(size_t requests)
 
 } // namespace
 
-TEST(NetworkVanishing, BehindEachRequestOfEachOperation)
+TEST(NetworkVanishing, AfterEachRequestOfEachOperation)
 {
     WritePublisher("R", "[Common]\nPublisherURL=127.0.0.1\n");
     for (const NetworkOperation& operation : NetworkOperations()) {
@@ -66,7 +66,7 @@ TEST(NetworkVanishing, BehindEachRequestOfEachOperation)
             } else if (operation.name == std::string("SetServiceJobCancel") && lost == OF_CONNECTION) {
                 EXPECT_EQ(answer.result, 0);
             } else {
-                // While a connection is made the cause is told; later on every loss is the same.
+                // The start of a connection returns the cause; after that every loss returns the same code.
                 ExpectFailure(operation, lost,
                               lost < OF_CONNECTION ? NCL_ERR_SOCK_CONNECTION : NCL_ERR_CONNECTION_CLOSE,
                               answer);
@@ -76,7 +76,7 @@ TEST(NetworkVanishing, BehindEachRequestOfEachOperation)
     }
 }
 
-TEST(NetworkVanishing, ASubmissionLosesItsServer)
+TEST(NetworkVanishing, DuringASubmission)
 {
     WritePublisher("R", "[Common]\nPublisherURL=127.0.0.1\n");
     CNetworkPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);

@@ -1,4 +1,4 @@
-// The exchange with the control service, byte for byte, and what becomes of it when the service misbehaves.
+// Tests the exchange with the control service byte by byte, and its results if the service misbehaves.
 #include "BasicPublisherMgr.h"
 #include "ServiceWire.h"
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// What one exchange gave.
+/// The result of one exchange.
 struct Outcome
 {
     int result = 77;
@@ -78,7 +78,7 @@ TEST_F(ServiceExchange, RequestBytes)
     }
 }
 
-TEST_F(ServiceExchange, LongNamesAreCut)
+TEST_F(ServiceExchange, LongNamesAreTruncated)
 {
     const std::string id(200, 'i');
     const std::string job(300, 'j');
@@ -87,7 +87,7 @@ TEST_F(ServiceExchange, LongNamesAreCut)
     EXPECT_EQ(call.Get().result, 0);
 }
 
-TEST_F(ServiceExchange, NamesThatFillTheirFieldsGoOutWhole)
+TEST_F(ServiceExchange, NamesThatFillTheirFieldsAreSentWhole)
 {
     const std::string id(128, 'i');
     const std::string job(255, 'j');
@@ -96,7 +96,7 @@ TEST_F(ServiceExchange, NamesThatFillTheirFieldsGoOutWhole)
     EXPECT_EQ(call.Get().result, 0);
 }
 
-TEST(ServiceExchangeMode, WithoutIdModeNoIdGoesOut)
+TEST(ServiceExchangeMode, WithoutIdModeNoIdIsSent)
 {
     CBasicPublisherMgr mgr(false, PUBLISHER_SETTING_DIR);
     ServiceCall<Outcome> call([&] { return Exchange(mgr, 3, "R", "job", 0); });
@@ -107,7 +107,7 @@ TEST(ServiceExchangeMode, WithoutIdModeNoIdGoesOut)
 // ---------------------------------------------------------------------------------------------------------------------
 // Good answers
 
-TEST_F(ServiceExchange, APayloadIsHandedOver)
+TEST_F(ServiceExchange, APayloadIsReturned)
 {
     auto call = Call();
     call.AnswerNext(Answer(13, "payload"));
@@ -117,7 +117,7 @@ TEST_F(ServiceExchange, APayloadIsHandedOver)
     EXPECT_EQ(outcome.length, 7u);
 }
 
-TEST_F(ServiceExchange, HeaderAndPayloadMayComeApart)
+TEST_F(ServiceExchange, HeaderAndPayloadMayArriveSeparately)
 {
     auto call = Call();
     std::string request;
@@ -140,13 +140,13 @@ TEST_F(ServiceExchange, AnEmptyPayloadIsANullBuffer)
 // ---------------------------------------------------------------------------------------------------------------------
 // Bad answers
 
-TEST_F(ServiceExchange, AnotherIdIsNoCommunicationAndThePayloadIsNotRead)
+TEST_F(ServiceExchange, AnotherIdIsACommunicationErrorAndThePayloadIsNotRead)
 {
     for (const unsigned long long id : {0ull, 14ull, 0x10000000Dull}) {
         auto call = Call();
         std::string request;
         UnixPeer peer = call.Accept(request);
-        EXPECT_TRUE(peer.Write(Header(id, 0, 7))); // a payload that never comes
+        EXPECT_TRUE(peer.Write(Header(id, 0, 7))); // the payload never follows
         EXPECT_TRUE(peer.WaitForClose());
         ExpectFailure(call.Get(), -1);
     }
@@ -169,14 +169,14 @@ TEST_F(ServiceExchange, AnErrorCodeEndsTheExchangeWhateverItsLength)
     }
 }
 
-TEST_F(ServiceExchange, AnErrorCodeWithItsPayloadIsTheErrorAlone)
+TEST_F(ServiceExchange, AnErrorCodeWithAPayloadReturnsOnlyTheError)
 {
     auto call = Call();
     call.AnswerNext(Header(13, 1004, 7) + "payload");
     ExpectFailure(call.Get(), 1004);
 }
 
-TEST_F(ServiceExchange, AShortHeaderIsNoCommunication)
+TEST_F(ServiceExchange, AShortHeaderIsACommunicationError)
 {
     for (const size_t size : {1u, 8u, 23u}) {
         auto call = Call();
@@ -188,7 +188,7 @@ TEST_F(ServiceExchange, AShortHeaderIsNoCommunication)
     }
 }
 
-TEST_F(ServiceExchange, AShortPayloadIsNoCommunication)
+TEST_F(ServiceExchange, AShortPayloadIsACommunicationError)
 {
     auto call = Call();
     std::string request;
@@ -199,7 +199,7 @@ TEST_F(ServiceExchange, AShortPayloadIsNoCommunication)
     ExpectFailure(call.Get(), -1);
 }
 
-TEST_F(ServiceExchange, APeerThatClosesIsNoCommunication)
+TEST_F(ServiceExchange, APeerThatClosesIsACommunicationError)
 {
     for (const std::string& answer :
          {std::string(), Header(13, 0, 0).substr(0, 10), Header(13, 0, 4), Header(13, 0, 4) + "123"}) {
@@ -212,17 +212,17 @@ TEST_F(ServiceExchange, APeerThatClosesIsNoCommunication)
     }
 }
 
-TEST_F(ServiceExchange, APeerThatClosesWithoutReadingIsNoCommunication)
+TEST_F(ServiceExchange, APeerThatClosesWithoutReadingIsACommunicationError)
 {
     UnixListener listener(SERVICE_SOCKET);
     for (int i = 0; i < 50; ++i) {
         auto call = std::async(std::launch::async, [this] { return Exchange(mgr, 13, "R", nullptr, 0); });
-        listener.Accept().Close(); // before, amid or behind the client's write
+        listener.Accept().Close(); // before, during or after the client's write
         ExpectFailure(call.get(), -1);
     }
 }
 
-TEST_F(ServiceExchange, AHugeLengthIsNoCommunication)
+TEST_F(ServiceExchange, AHugeLengthIsACommunicationError)
 {
     for (const unsigned long long length :
          {0x80000000ull, 0xFFFFFFFFull, 0x100000000ull, 0x100000007ull, 0x7FFFFFFFFFFFFFFFull,
@@ -230,13 +230,13 @@ TEST_F(ServiceExchange, AHugeLengthIsNoCommunication)
         auto call = Call();
         std::string request;
         UnixPeer peer = call.Accept(request);
-        EXPECT_TRUE(peer.Write(Header(13, 0, length))); // and nothing behind it
+        EXPECT_TRUE(peer.Write(Header(13, 0, length))); // and nothing after it
         EXPECT_TRUE(peer.WaitForClose()) << length;
         ExpectFailure(call.Get(), -1);
     }
 }
 
-TEST_F(ServiceExchange, ALengthThatIsPromisedAndNotDeliveredIsNoCommunication)
+TEST_F(ServiceExchange, AnAnnouncedPayloadThatDoesNotArriveIsACommunicationError)
 {
     for (const unsigned long long length : {0x1000000ull, 0x7FFFFFFFull}) {
         auto call = Call();
@@ -245,12 +245,12 @@ TEST_F(ServiceExchange, ALengthThatIsPromisedAndNotDeliveredIsNoCommunication)
     }
 }
 
-TEST_F(ServiceExchange, NoServiceIsNoCommunication)
+TEST_F(ServiceExchange, AMissingServiceIsACommunicationError)
 {
     ExpectFailure(Exchange(mgr, 13, "R", nullptr, 0), -1);
 }
 
-TEST_F(ServiceExchange, AServiceThatStoppedIsNoCommunication)
+TEST_F(ServiceExchange, AStoppedServiceIsACommunicationError)
 {
     UnixListener listener(SERVICE_SOCKET);
     listener.StopListening();
@@ -260,7 +260,7 @@ TEST_F(ServiceExchange, AServiceThatStoppedIsNoCommunication)
 // ---------------------------------------------------------------------------------------------------------------------
 // Several commands
 
-/// Three commands and their answers; all pointers and lengths as the call left them.
+/// The results of three commands: all pointers and lengths after the call.
 struct Outcome3
 {
     int result = 77;
@@ -286,7 +286,7 @@ Outcome3 Exchange3(CBasicPublisherMgr& mgr)
     return outcome;
 }
 
-TEST_F(ServiceExchange, CommandsGoOutInOrderEachOnItsConnection)
+TEST_F(ServiceExchange, CommandsAreSentInOrderOnSeparateConnections)
 {
     ServiceCall<Outcome3> call([this] { return Exchange3(mgr); });
     EXPECT_EQ(call.AnswerNext(Answer(10, "first")), Request(10, "R"));
@@ -330,7 +330,7 @@ TEST_F(ServiceExchange, AFailureOfTheFirstSendsNoSecond)
     EXPECT_FALSE(listener.Accept(0).IsOpen());
 }
 
-TEST_F(ServiceExchange, ACodeWhoseLowHalfIsZeroEndsTheExchangeAsASuccess)
+TEST_F(ServiceExchange, ACodeWithAZeroLowerHalfCountsAsSuccess)
 {
     auto call = Call();
     call.AnswerNext(Header(13, 0x100000000, 7) + "payload");
@@ -371,7 +371,7 @@ TEST_F(ServiceExchange, ACancelEndsAStalledExchange)
     }
 }
 
-TEST_F(ServiceExchange, SeveralThreadsDisturbNobody)
+TEST_F(ServiceExchange, SeveralThreadsDoNotInterfere)
 {
     UnixListener listener(SERVICE_SOCKET);
     constexpr int count = 60;
@@ -397,7 +397,7 @@ TEST_F(ServiceExchange, SeveralThreadsDisturbNobody)
     EXPECT_FALSE(mgr.IsRunningCommunicateService());
 }
 
-TEST_F(ServiceExchange, CancelsAtAnyMomentLeaveASuccessOrAFailure)
+TEST_F(ServiceExchange, ACancelAtAnyTimeResultsInSuccessOrFailure)
 {
     UnixListener listener(SERVICE_SOCKET);
     std::atomic<bool> done{false};

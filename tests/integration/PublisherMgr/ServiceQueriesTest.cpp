@@ -1,5 +1,5 @@
-// Every operation that asks or tells the control service one thing: the bytes it sends, what it makes of the
-// answer, and of an answer that is none. The facade forwards the same operations.
+// Tests every operation that sends one command to the control service: the bytes it sends, and its results
+// for good and invalid answers. The facade forwards the same operations.
 #include "BasicPublisherMgr.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What an operation yielded, as one text.
+/// The results of an operation as one text.
 template <class... Values>
 std::string Text(Values... values)
 {
@@ -24,7 +24,7 @@ std::string Text(Values... values)
     return text.str();
 }
 
-/// The first byte of each text names its field: enough to tell fields apart.
+/// The values as little-endian numbers of `size` bytes each.
 std::string Numbers(size_t size, const std::vector<unsigned long long>& values)
 {
     std::string bytes;
@@ -42,9 +42,9 @@ struct Operation
     std::string job;
     ULONG subParam;
     std::string payload; ///< of a good answer
-    std::string good;    ///< what the operation makes of it
+    std::string good;    ///< the results for that answer
     std::string failed;
-    bool anyPayload; ///< a command, which looks at no payload
+    bool anyPayload; ///< a command, which ignores the payload
     std::function<std::string(Mgr&, long*)> run;
 };
 
@@ -131,7 +131,7 @@ std::vector<Operation<Mgr>> Operations()
     };
 }
 
-/// The operations that a local publisher has and the facade does not offer as they are.
+/// The operations of a local publisher that the facade does not offer unchanged.
 std::vector<Operation<CBasicPublisherMgr>> LocalOperations()
 {
     using Mgr = CBasicPublisherMgr;
@@ -274,9 +274,9 @@ TEST(ServiceOperationsDeathTest, ANullOutputStopsTheProcess)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Operations with an outcome of their own
+// Operations with special results
 
-TEST(IsPossibleCommunicateService, IsTrueForAnyWordOfTheService)
+TEST(IsPossibleCommunicateService, IsTrueForAnyReplyOfTheService)
 {
     CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     const struct
@@ -308,7 +308,7 @@ TEST(IsPossibleCommunicateService, IsTrueForAnyWordOfTheService)
     EXPECT_FALSE(CPublisherMgr(true).IsPossibleCommunicateService(&code));
 }
 
-TEST(ServiceCommunication, TheFacadeAsksTheBasicImplementation)
+TEST(ServiceCommunication, TheFacadeUsesTheBasicImplementation)
 {
     CPublisherMgr mgr(true);
     ServiceCall<bool> call([&] { return mgr.IsPossibleCommunicateService(nullptr); });
@@ -321,7 +321,7 @@ TEST(ServiceCommunication, TheFacadeAsksTheBasicImplementation)
     EXPECT_FALSE(mgr.IsRunningCommunicateService());
 }
 
-TEST(PnumPrecision, AServiceThatDoesNotKnowHasTheLowOne)
+TEST(PnumPrecision, AServiceWithoutThisQueryHasLowPrecision)
 {
     CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     long code = 77;
@@ -367,7 +367,7 @@ TEST(IsFatalErrorInPublisher, FollowsTheFatalCode)
     EXPECT_TRUE(local.IsFatalErrorInPublisher("R", nullptr));
 }
 
-/// A model that learns of fatal errors and cancels jobs in a way of its own.
+/// A model that overrides the query of fatal errors and the cancelling of jobs.
 class OwnWaysMgr : public CBasicPublisherMgr
 {
 public:
@@ -388,7 +388,7 @@ public:
     std::string cancelled;
 };
 
-TEST(ServiceOperations, AModelsOwnWaysAreFollowed)
+TEST(ServiceOperations, OverridesOfAModelAreUsed)
 {
     OwnWaysMgr mgr(true, PUBLISHER_SETTING_DIR); // and no service
     long code = 77;
@@ -399,7 +399,7 @@ TEST(ServiceOperations, AModelsOwnWaysAreFollowed)
     EXPECT_EQ(mgr.cancelled, "R J");
 }
 
-TEST(UpdateErrorDiscContinueCount, TheFacadeTellsOfEveryPublisherThatMeasures)
+TEST(UpdateErrorDiscContinueCount, TheFacadeSendsItForEveryPublisherThatMeasures)
 {
     WriteRegistry(DeviceSection("{A}", "\"DPType\"=dword:00000006\n") +
                   DeviceSection("{B}", "\"DPType\"=dword:00000008\n"));
@@ -463,7 +463,7 @@ TEST(USBModeDeathTest, AnotherLengthStopsTheProcess)
     }
 }
 
-TEST(NotifyStatus, IsOneValueForFourBytes)
+TEST(NotifyStatus, HasOneValuePerFourBytes)
 {
     WriteLocalPublisher("R", "00000008");
     CPublisherMgr mgr(true);

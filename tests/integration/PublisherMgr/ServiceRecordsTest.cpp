@@ -1,4 +1,4 @@
-// The records that the control service answers with: jobs, versions and wear.
+// Tests the records in the answers of the control service: jobs, versions and wear.
 #include "300MODPublisherMgr.h"
 #include "APPublisherMgr.h"
 #include "BasicPublisherMgr.h"
@@ -17,7 +17,7 @@ namespace {
 // ---------------------------------------------------------------------------------------------------------------------
 // Jobs
 
-/// A job of 1088 bytes whose numbers tell their places.
+/// A job of 1088 bytes whose numbers identify their fields.
 std::string Job(const std::string& id, const std::string& name, unsigned long long status)
 {
     std::string job = Field(id, 256) + Field(name, 256) + Number8(status);
@@ -52,7 +52,7 @@ struct JobOutcome
     std::string request;
 };
 
-/// One query through the facade, into an array that held something.
+/// One query through the facade, into an array that is not empty.
 JobOutcome Ask(const JobQuery& query, const std::string& answer)
 {
     WriteLocalPublisher("R", "00000008");
@@ -101,7 +101,7 @@ TEST(JobStatus, RecordsAreCopiedInOrder)
     }
 }
 
-TEST(JobStatus, AnEmptyListIsAFailureWhereAllJobsAreAskedFor)
+TEST(JobStatus, AnEmptyListIsAFailureIfAllJobsAreRequested)
 {
     for (const JobQuery& query : jobQueries) {
         const JobOutcome outcome = Ask(query, Answer(4));
@@ -158,7 +158,7 @@ std::string DriveInfo(const std::string& number)
            Field("DSN", 32);
 }
 
-TEST(VersionInfo, AsksLoaderPrinterAndDrivesInThisOrder)
+TEST(VersionInfo, QueriesLoaderPrinterAndDrivesInThisOrder)
 {
     WriteLocalPublisher("R", "00000008");
     CPublisherMgr mgr(true);
@@ -185,7 +185,7 @@ TEST(VersionInfo, AsksLoaderPrinterAndDrivesInThisOrder)
     EXPECT_EQ(info.strUDNAVersion, "kept too");
 }
 
-TEST(VersionInfo, TextsWithoutTheirNULEndWithTheirField)
+TEST(VersionInfo, TextsWithoutANulEndWithTheirField)
 {
     CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     PUBLISHERVERSIONINFO info;
@@ -220,7 +220,7 @@ TEST(VersionInfo, AnyOtherLengthIsAFailureAndFillsNothing)
     }
 }
 
-TEST(VersionInfo, AnErrorOfOneIsTheErrorOfAll)
+TEST(VersionInfo, AnErrorOfOneQueryFailsAll)
 {
     CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     PUBLISHERVERSIONINFO info;
@@ -233,7 +233,7 @@ TEST(VersionInfo, AnErrorOfOneIsTheErrorOfAll)
     EXPECT_EQ(info.strSerialNo, "");
 }
 
-TEST(VersionInfo, TheModelWithoutDrivesAsksForNone)
+TEST(VersionInfo, TheModelWithoutDrivesQueriesNone)
 {
     CAPPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     PUBLISHERVERSIONINFO info;
@@ -241,7 +241,7 @@ TEST(VersionInfo, TheModelWithoutDrivesAsksForNone)
     ServiceCall<bool> call([&] { return mgr.GetPublisherVersionInfo("R", &info, &code); });
     EXPECT_EQ(call.AnswerNext(Answer(10, aldInfo)), Request(10, "R"));
     EXPECT_EQ(call.AnswerNext(Answer(12, printerInfo)), Request(12, "R"));
-    EXPECT_TRUE(call.Get()); // it would fail had it asked a third time
+    EXPECT_TRUE(call.Get()); // a third request would make it fail
     EXPECT_EQ(code, 0);
     EXPECT_EQ(info.strPublisherRegistID, "R");
     EXPECT_EQ(info.strSerialNo, "SN123");
@@ -279,7 +279,7 @@ TEST(VersionInfoDeathTest, NullArgumentsStopTheProcess)
 // ---------------------------------------------------------------------------------------------------------------------
 // Wear
 
-/// Number n of the record is (n + 1) * 1000: no two are alike.
+/// Number n of the record is (n + 1) * 1000, so that all differ.
 std::string MaintenanceInfo()
 {
     std::string record;
@@ -289,7 +289,7 @@ std::string MaintenanceInfo()
     return record + Field("UNIT-SN", 32);
 }
 
-/// A count at `place` less 1.25 percent of the life behind it, cut to an integer.
+/// The count at `place` minus 1.25 percent of the life after it, which is truncated to an integer.
 UINT Corrected(UINT place)
 {
     const UINT used = (place + 1) * 1000;
@@ -336,7 +336,7 @@ TEST(MaintenanceInfo, CountsAreCorrectedAndLivesAreNot)
     EXPECT_EQ(info.strSerialNo, "UNIT-SN");
 }
 
-TEST(MaintenanceInfo, ASerialNumberWithoutItsNULEndsWithItsField)
+TEST(MaintenanceInfo, ASerialNumberWithoutANulEndsWithItsField)
 {
     CBasicPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     PUBLISHERMAINTENANCEINFO info;
@@ -359,7 +359,7 @@ TEST(MaintenanceInfo, AnErrorFillsNothing)
     EXPECT_EQ(info.strSerialNo, "");
 }
 
-TEST(MaintenanceInfo, TwoDriveModelsGiveTheRecordRaw)
+TEST(MaintenanceInfo, TwoDriveModelsReturnTheRawRecord)
 {
     C300MODPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     ST_PC_MAINTENANCE_INFO info{};
@@ -371,7 +371,7 @@ TEST(MaintenanceInfo, TwoDriveModelsGiveTheRecordRaw)
     EXPECT_EQ(std::string(reinterpret_cast<const char*>(&info), sizeof info), MaintenanceInfo());
 }
 
-TEST(MaintenanceInfo, TwoDriveModelsGiveTheShownRecordToo)
+TEST(MaintenanceInfo, TwoDriveModelsAlsoReturnTheDisplayedRecord)
 {
     C300MODPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     PUBLISHERMAINTENANCEINFO info;

@@ -1,4 +1,4 @@
-// The control service's bytes, put together by offsets, and one call of the client that a test answers.
+// The messages of the control service, byte by byte, and one call of the client that a test answers.
 #pragma once
 
 #include "InstallPaths.h"
@@ -30,7 +30,7 @@ inline std::string Number4(unsigned long long value)
     return Number(value, 4);
 }
 
-/// A text in a field of fixed size, the rest zero.
+/// A text in a field of fixed size, padded with zero bytes.
 inline std::string Field(std::string text, size_t size)
 {
     text.resize(size);
@@ -55,8 +55,8 @@ inline std::string Answer(unsigned long long id, const std::string& payload = ""
     return Header(id, 0, payload.size()) + payload;
 }
 
-/// The control service, played by the test. It goes away before the client's call is waited for, so that a
-/// call which the test did not answer ends.
+/// A control service that the test operates. The destructor closes it before it waits for the client's call,
+/// so that a call without an answer ends.
 template <class Result>
 class ServiceCall
 {
@@ -64,12 +64,12 @@ public:
     template <class Call>
     explicit ServiceCall(Call call)
     {
-        std::filesystem::remove(SERVICE_SOCKET); // a service that was killed leaves its name
+        std::filesystem::remove(SERVICE_SOCKET); // a killed service leaves its socket
         m_listener.emplace(SERVICE_SOCKET);
         m_result = std::async(std::launch::async, std::move(call));
     }
 
-    /// The connection of the next command, with its request in `request`.
+    /// Accepts the connection of the next command and reads its request into `request`.
     UnixPeer Accept(std::string& request)
     {
         UnixPeer peer = m_listener->Accept();
@@ -77,8 +77,8 @@ public:
         return peer;
     }
 
-    /// Answers the next command and keeps the connection until the client closes it. The request, or what
-    /// came of it.
+    /// Answers the next command and keeps the connection until the client closes it. Returns the request, or
+    /// the part of it that arrived.
     std::string AnswerNext(const std::string& answer)
     {
         std::string request;
@@ -88,7 +88,7 @@ public:
         return request;
     }
 
-    /// What the call gave; waits for it.
+    /// Waits for the call and returns its result.
     Result Get()
     {
         return m_result.get();

@@ -1,4 +1,4 @@
-// The program with a console that is gone before it prints its first line.
+// Runs the program with a console that closes before the first line is printed.
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -11,10 +11,10 @@
 
 namespace {
 
-TEST(BrokenConsoleTest, IsAFailedPrintAndEndsNothing)
+TEST(BrokenConsoleTest, DoesNotKillTheProgram)
 {
     for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        unsetenv(variable); // so that it complains at once and ends with 1
+        unsetenv(variable); // so that it reports an error at once and exits with 1
     }
     std::array<int, 2> ends = {};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
@@ -28,7 +28,7 @@ TEST(BrokenConsoleTest, IsAFailedPrintAndEndsNothing)
     sigset_t deadly;
     sigemptyset(&deadly);
     sigaddset(&deadly, SIGPIPE);
-    posix_spawnattr_setsigdefault(&attributes, &deadly); // whatever this process inherited
+    posix_spawnattr_setsigdefault(&attributes, &deadly); // whatever this process has inherited
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
     char program[] = UDSETUP_PROGRAM;
     std::array<char*, 2> arguments = {program, nullptr};

@@ -1,4 +1,4 @@
-// The program started with a publisher's name: the properties without the list.
+// Starts the program with a publisher's name: it shows the properties without the list.
 #include "RunningProgram.h"
 
 namespace {
@@ -18,7 +18,7 @@ protected:
         return xdotool({"search", "--onlyvisible", "--class", "UDSetup"}).split('\n', Qt::SkipEmptyParts);
     }
 
-    /// The id of the one visible window that is not titled like the list, the indicator and the boxes.
+    /// The id of the only visible window whose title is not that of the list, the indicator and the boxes.
     QString properties()
     {
         QElapsedTimer time;
@@ -29,7 +29,7 @@ protected:
                     return id;
                 }
             }
-            m_program.waitForFinished(50); // or a while
+            m_program.waitForFinished(50); // or for a moment
         }
         ADD_FAILURE() << "no properties; the program said: "
                       << m_program.readAllStandardError().toStdString();
@@ -44,7 +44,7 @@ protected:
         while (time.elapsed() < programPatience && m_program.state() == QProcess::Running) {
             xdotool({"windowfocus", window});
             xdotool({"key", "Escape"});
-            m_program.waitForFinished(300); // the key arrives in a while, and nothing tells when
+            m_program.waitForFinished(300); // the key arrives after a while, without a signal
         }
     }
 
@@ -69,7 +69,7 @@ TEST_F(DirectStartTest, ShowsThePropertiesAndEndsWithThem)
     EXPECT_EQ(m_service.count("22 a"), 0) << "no polling without a list";
 }
 
-TEST_F(DirectStartTest, TheToolkitTakesItsOwnOptionsFirst)
+TEST_F(DirectStartTest, QtConsumesItsOwnOptionsFirst)
 {
     start({"-platform", "xcb", "Studio A", "and more"});
     const QString id = properties();
@@ -78,7 +78,7 @@ TEST_F(DirectStartTest, TheToolkitTakesItsOwnOptionsFirst)
     expectEnd();
 }
 
-TEST_F(DirectStartTest, AnEnvironmentArgumentInFrontHidesTheName)
+TEST_F(DirectStartTest, AnEnvironmentArgumentBeforeTheNameHidesIt)
 {
     start({"-envFOO=bar", "Studio A"});
     const QString id = window(mainTitle);
@@ -88,7 +88,7 @@ TEST_F(DirectStartTest, AnEnvironmentArgumentInFrontHidesTheName)
     expectEnd();
 }
 
-TEST_F(DirectStartTest, ANameInAnotherCaseLeadsToTheList)
+TEST_F(DirectStartTest, ANameInAnotherCaseOpensTheList)
 {
     start({"studio a"});
     const QString id = window(mainTitle);
@@ -98,7 +98,7 @@ TEST_F(DirectStartTest, ANameInAnotherCaseLeadsToTheList)
     expectEnd();
 }
 
-TEST_F(DirectStartTest, AnEnvironmentArgumentBehindTheNameDoesNoHarm)
+TEST_F(DirectStartTest, AnEnvironmentArgumentAfterTheNameIsHarmless)
 {
     m_environment.remove("FOO");
     start({"Studio A", "-envFOO=bar"});
@@ -109,7 +109,7 @@ TEST_F(DirectStartTest, AnEnvironmentArgumentBehindTheNameDoesNoHarm)
     EXPECT_EQ(m_program.readAllStandardOutput(), "FOO: \"(null)\"\n");
 }
 
-TEST_F(DirectStartTest, AStalledServiceShowsTheIndicatorMeanwhile)
+TEST_F(DirectStartTest, AStalledServiceShowsTheIndicator)
 {
     m_service.hold("a");
     start({"Studio A"});
@@ -124,7 +124,7 @@ TEST_F(DirectStartTest, AStalledServiceShowsTheIndicatorMeanwhile)
     expectEnd();
 }
 
-TEST_F(DirectStartTest, AModeThatCannotBeHadIsSaidFirst)
+TEST_F(DirectStartTest, AnUnavailableModeIsReportedFirst)
 {
     m_installation.addLocal("b", "Studio B"); // for which the service has no publish mode
     start({"Studio B"});
@@ -135,7 +135,7 @@ TEST_F(DirectStartTest, AModeThatCannotBeHadIsSaidFirst)
     while (time.elapsed() < programPatience && windows().contains(warning)) {
         xdotool({"windowfocus", warning});
         xdotool({"key", "Return"});
-        m_program.waitForFinished(300); // the key arrives in a while, and nothing tells when
+        m_program.waitForFinished(300); // the key arrives after a while, without a signal
     }
     const QString id = properties();
     ASSERT_FALSE(id.isEmpty());

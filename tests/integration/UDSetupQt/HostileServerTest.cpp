@@ -1,5 +1,5 @@
-// The program among servers that send without end: it stays small, and the rows of other publishers stay
-// fresh.
+// Runs the program with servers that send without end: it uses little memory, and the rows of other
+// publishers stay up to date.
 #include "RunningProgram.h"
 #include "ServerRoom.h"
 #include "TcpPeer.h"
@@ -9,8 +9,8 @@
 
 namespace {
 
-/// A server that begins every reply with `head`, and goes on with `piece` for as long as the client reads, at
-/// most `pieces` times. Of all such servers one sends at a time.
+/// A server that starts every reply with `head`, and repeats `piece` while the client reads, at most `pieces`
+/// times. Only one of these servers sends at a time.
 class HostileServer
 {
 public:
@@ -55,7 +55,7 @@ private:
     TcpListener m_listener;
     std::atomic<int> m_replies = 0;
     std::atomic<bool> m_isEnding = false;
-    std::thread m_thread; // last: it uses all of the above
+    std::thread m_thread; // last, because it uses all of the above
 };
 
 class HostileServerTest : public RunningProgram
@@ -66,12 +66,12 @@ protected:
         QElapsedTimer time;
         time.start();
         while (!condition() && time.elapsed() < 60'000 && m_program.state() == QProcess::Running) {
-            m_program.waitForFinished(50); // or a while
+            m_program.waitForFinished(50); // or for a moment
         }
         return condition();
     }
 
-    /// The most memory that the program has had resident, in KiB.
+    /// The peak resident memory of the program, in KiB.
     long peak() const
     {
         std::ifstream status("/proc/" + std::to_string(m_program.processId()) + "/status");
@@ -84,7 +84,7 @@ protected:
     }
 };
 
-TEST_F(HostileServerTest, CostsLittleAndDelaysNoOther)
+TEST_F(HostileServerTest, UsesLittleMemoryAndDelaysNoOther)
 {
     const std::string ok = "HTTP/1.1 200 OK\r\n";
     const std::string mebibyte(1 << 20, '\0');

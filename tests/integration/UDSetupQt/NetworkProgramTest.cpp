@@ -1,4 +1,4 @@
-// The program on an X11 display while its threads convert the texts of servers.
+// Runs the program on an X11 display while its threads convert the texts of servers.
 #include "RunningProgram.h"
 #include "ServerRoom.h"
 
@@ -9,7 +9,7 @@ namespace {
 class NetworkProgramTest : public RunningProgram
 {
 protected:
-    /// Whether every server was asked for its jobs so often.
+    /// Whether every server has received at least `times` requests for its jobs.
     bool allAskedForJobs(int times) const
     {
         const QString question = "GET /webapp2/JobInfoGetter?ifversion=02000000&type=3";
@@ -25,14 +25,15 @@ protected:
 };
 
 // Each new window makes the X11 library read the locale of the process on the user-interface thread, without
-// a lock; a text of a server sets it on a pool thread. To the thread sanitizer any data that goes through a
-// socket orders all threads that use sockets, which hides the race but for a few microseconds; io_sync=0 ends
-// that, and makes it report what other locks guard, too. So only reports about the locale count here.
+// a lock; a text from a server sets it on a pool thread. By default the thread sanitizer treats socket data
+// as a synchronization of all threads that use sockets, which hides the race except for a few microseconds.
+// io_sync=0 disables this, but also causes reports about data that other locks guard. Therefore only reports
+// about the locale count here.
 TEST_F(NetworkProgramTest, OpensWindowsWhileServersAnswer)
 {
     const QString options = m_environment.value("TSAN_OPTIONS");
     m_environment.insert("TSAN_OPTIONS", options + ":io_sync=0:exitcode=0");
-    // Late enough for a window to open between the question and the first text.
+    // Late enough for a window to open between the request and the first text.
     m_room.spoil("/webapp2/JobInfoGetter", "delay 2000");
     start();
     const QString id = window(mainTitle);
@@ -42,12 +43,12 @@ TEST_F(NetworkProgramTest, OpensWindowsWhileServersAnswer)
         time.start();
         while (!allAskedForJobs(round) && time.elapsed() < programPatience &&
                m_program.state() == QProcess::Running) {
-            m_program.waitForFinished(50); // or a while
+            m_program.waitForFinished(50); // or for a moment
         }
         ASSERT_TRUE(allAskedForJobs(round));
         xdotool({"windowfocus", "--sync", id});
         xdotool({"key", "alt+h"});
-        m_program.waitForFinished(300); // the menu opens in a while, and nothing tells when
+        m_program.waitForFinished(300); // the menu opens after a while, without a signal
         xdotool({"key", "a"});
         const QString about = window("About " + mainTitle);
         ASSERT_FALSE(about.isEmpty());

@@ -1,4 +1,4 @@
-// The program itself on a display of its own: started, seen, driven by keys, ended.
+// Tests the program on its own display: starts it, finds its windows, sends it keys and ends it.
 #include "RunningProgram.h"
 
 #include <filesystem>
@@ -22,7 +22,7 @@ TEST_F(ProgramTest, ShowsItsWindowAndEndsByItsMenu)
         << errors.toStdString();
 }
 
-TEST_F(ProgramTest, SpeaksTheLanguageOfTheLocale)
+TEST_F(ProgramTest, UsesTheLanguageOfTheLocale)
 {
     std::filesystem::create_directories(TRANSLATION_DIR);
     std::filesystem::copy_file(GERMAN_CATALOGUE, std::string(TRANSLATION_DIR) + "PubSetupQt_de.qm");
@@ -34,7 +34,7 @@ TEST_F(ProgramTest, SpeaksTheLanguageOfTheLocale)
     EXPECT_FALSE(m_program.readAllStandardError().contains("language file"));
 }
 
-TEST_F(ProgramTest, ReportsTheLanguageThatIsMissing)
+TEST_F(ProgramTest, ReportsAMissingLanguage)
 {
     start({}, "de_DE.UTF-8");
     const QString id = window(mainTitle);
@@ -44,19 +44,19 @@ TEST_F(ProgramTest, ReportsTheLanguageThatIsMissing)
     EXPECT_TRUE(m_program.readAllStandardError().contains("ERROR: language file de_DE is not found\n"));
 }
 
-TEST_F(ProgramTest, TakesItsEnvironmentFromTheCommandLine)
+TEST_F(ProgramTest, ReadsItsEnvironmentFromTheCommandLine)
 {
     m_environment.remove("FOO");
     m_environment.insert("BAR", "old");
     start({"-envFOO=bar", "-envBAR=new", "-envNOTHING"});
-    const QString id = window(mainTitle); // the first argument is no publisher's name
+    const QString id = window(mainTitle); // the first argument is not a publisher's name
     ASSERT_FALSE(id.isEmpty());
     choose(id, "f", "x");
     expectEnd();
     EXPECT_EQ(m_program.readAllStandardOutput(), "FOO: \"(null)\"\nBAR: \"old\"\n");
 }
 
-TEST_F(ProgramTest, FindsItsDisplayThroughTheCommandLine)
+TEST_F(ProgramTest, UsesTheDisplayOfAnEnvironmentArgument)
 {
     const QString display = m_screen.name();
     m_environment.insert("LC_ALL", "C.UTF-8");
@@ -74,9 +74,9 @@ TEST_F(ProgramTest, FindsItsDisplayThroughTheCommandLine)
     expectEnd();
 }
 
-TEST_F(ProgramTest, SaysThatItNeedsADisplay)
+TEST_F(ProgramTest, ReportsAMissingDisplay)
 {
-    m_environment.insert("DISPLAY", ""); // an empty name is none
+    m_environment.insert("DISPLAY", ""); // an empty name counts as unset
     m_environment.remove("WAYLAND_DISPLAY");
     m_environment.remove("QT_QPA_PLATFORM");
     m_program.setProcessEnvironment(m_environment);
@@ -88,7 +88,7 @@ TEST_F(ProgramTest, SaysThatItNeedsADisplay)
               "ARVEN Ulmar Disc Setup needs a graphical desktop: DISPLAY is not set.\n");
 }
 
-TEST_F(ProgramTest, TakesTheDisplayThatTheToolkitsOptionNames)
+TEST_F(ProgramTest, UsesTheDisplayOfTheQtOption)
 {
     QProcessEnvironment bare = m_environment;
     bare.insert("LC_ALL", "C.UTF-8");
@@ -105,7 +105,7 @@ TEST_F(ProgramTest, TakesTheDisplayThatTheToolkitsOptionNames)
     expectEnd();
 }
 
-TEST_F(ProgramTest, NameThatNoPublisherBearsLeadsToTheList)
+TEST_F(ProgramTest, AnUnknownNameOpensTheList)
 {
     m_installation.addLocal("a", "Studio A");
     start({"Studio B"});

@@ -1,4 +1,4 @@
-// The program as users have it, on a display of its own: started, seen, driven by keys.
+// Runs the program as a user does, on its own display: starts it, finds its windows and sends it keys.
 #pragma once
 
 #include "Installation.h"
@@ -9,7 +9,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 
-constexpr int programPatience = 20000; // milliseconds, for what has to happen soon
+constexpr int programPatience = 20000; // milliseconds, for events that must happen soon
 
 /// A virtual screen without a window manager.
 class Screen
@@ -17,7 +17,8 @@ class Screen
 public:
     Screen()
     {
-        // Without -noreset the server starts anew, and refuses connections, whenever its last client leaves.
+        // Without -noreset the server restarts, and refuses connections, whenever its last client
+        // disconnects.
         m_server.start("Xvfb",
                        {"-displayfd", "1", "-screen", "0", "1024x600x24", "-nolisten", "tcp", "-noreset"});
         if (m_server.waitForReadyRead(programPatience)) {
@@ -39,11 +40,11 @@ private:
     QString m_name;
 };
 
-/// The program on a screen of its own.
+/// The program on its own screen.
 class RunningProgram : public testing::Test
 {
 protected:
-    /// The sanitizers have to be told about the libraries that show the window.
+    /// Configures the sanitizers for the libraries that show the window.
     void SetUp() override
     {
         const QString notes = SANITIZER_NOTES;
@@ -73,7 +74,7 @@ protected:
         return QString::fromLatin1(tool.readAllStandardOutput()).trimmed();
     }
 
-    /// The id of the visible window of that title; empty when none came up.
+    /// The id of the visible window with this title; empty if none appears.
     QString window(const QString& title)
     {
         QElapsedTimer time;
@@ -83,14 +84,14 @@ protected:
             if (!id.isEmpty()) {
                 return id;
             }
-            m_program.waitForFinished(50); // or a while
+            m_program.waitForFinished(50); // or for a moment
         }
         m_program.waitForReadyRead(0);
         ADD_FAILURE() << "no window; the program said: " << m_program.readAllStandardError().toStdString();
         return QString();
     }
 
-    /// Opens the first menu by its key and presses the key of an entry, again until the program notices.
+    /// Opens the first menu by its key and presses the key of an entry, until the main window has closed.
     void choose(const QString& window, const QString& menuKey, const QString& entryKey)
     {
         QElapsedTimer time;
@@ -99,7 +100,7 @@ protected:
                !xdotool({"search", "--onlyvisible", "--name", mainTitle}).isEmpty()) {
             xdotool({"windowfocus", "--sync", window});
             xdotool({"key", "alt+" + menuKey});
-            m_program.waitForFinished(300); // the menu opens in a while, and nothing tells when
+            m_program.waitForFinished(300); // the menu opens after a while, without a signal
             xdotool({"key", entryKey});
             m_program.waitForFinished(300);
         }

@@ -1,4 +1,5 @@
-// The network library at a publisher server, recorded; and again, with the recording in the server's place.
+// Records the network library with a publisher server, and repeats the session with the recording in place of
+// the server.
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -42,7 +43,7 @@ protected:
 TEST_F(RecordServer, TheClientGetsTheSameAnswers)
 {
     const std::vector<std::vector<std::string>> sessions[] = {
-        {{}}, // everything that can be asked
+        {{}}, // all queries
         {{"--job", "Recorded", "--copies", "2", "--image", PROBE, "--print", NETWORK_SCENARIO}},
         {{"--special", "cleaning", NETWORK_SCENARIO}},
         {{"--do", "stop", "00000002"}, {"--do", "restart", "00000002"}, {"--do", "stop", "000000ff"}},
@@ -78,7 +79,7 @@ TEST_F(RecordServer, TheClientGetsTheSameAnswers)
     }
 }
 
-TEST_F(RecordServer, PasswordsAreNotInIt)
+TEST_F(RecordServer, PasswordsAreNotRecorded)
 {
     ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, FILE_NAME});
     recorder.readUntil("Ctrl-C ends it\n");
@@ -102,7 +103,7 @@ TEST_F(RecordServer, PasswordsAreNotInIt)
     EXPECT_EQ(text.find(password), std::string::npos);
 }
 
-TEST_F(RecordServer, ALargeUploadGoesThroughWholeAndIsKeptInPart)
+TEST_F(RecordServer, ALargeUploadIsForwardedWholeAndRecordedInPart)
 {
     const std::string large = "/tmp/large.iso";
     std::ofstream(large, std::ios::binary) << std::string(8U << 20, 'i') << "end";
@@ -115,7 +116,7 @@ TEST_F(RecordServer, ALargeUploadGoesThroughWholeAndIsKeptInPart)
     EXPECT_NE(ReadText(FILE_NAME).find("Content-Range: bytes 0-3999999/8388611"), std::string::npos);
 }
 
-TEST_F(RecordServer, WhatIsNotInTheRecordingIsTold)
+TEST_F(RecordServer, RequestsNotInTheRecordingAreReported)
 {
     std::ofstream(FILE_NAME) << "udsim-recording 1 server\n";
     ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
@@ -127,7 +128,7 @@ TEST_F(RecordServer, WhatIsNotInTheRecordingIsTold)
     EXPECT_NE(output.find("udsim: 0 requests answered, "), std::string::npos) << output;
 }
 
-TEST_F(RecordServer, AServerThatIsNotThere)
+TEST_F(RecordServer, AMissingServerIsReported)
 {
     ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.77", "--listen", RECORDER, FILE_NAME});
     recorder.readUntil("Ctrl-C ends it\n");
@@ -140,9 +141,9 @@ TEST_F(RecordServer, AServerThatIsNotThere)
               std::string::npos);
 }
 
-TEST_F(RecordServer, TheRecorderItselfIsNoServer)
+TEST_F(RecordServer, TheRecorderDoesNotConnectToItself)
 {
-    // What listens everywhere is not seen to be the same.
+    // A listener on all addresses is not recognized as the server.
     ProgramProcess recorder(UDSIM,
                             {"record", "--server", "127.0.0.99:8080", "--listen", "0.0.0.0:8080", FILE_NAME});
     recorder.readUntil("Ctrl-C ends it\n");
@@ -154,7 +155,7 @@ TEST_F(RecordServer, TheRecorderItselfIsNoServer)
     EXPECT_EQ(output.find(told, first + 1), std::string::npos) << "not over and over: " << output;
 }
 
-TEST_F(RecordServer, OneClientTooManyIsTold)
+TEST_F(RecordServer, AnExcessClientIsReported)
 {
     TcpListener silent("127.0.0.50", 80);
     ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, FILE_NAME});
@@ -166,7 +167,7 @@ TEST_F(RecordServer, OneClientTooManyIsTold)
     EXPECT_NE(ReadText(FILE_NAME).find(" 0 a client was turned away: 64 are"), std::string::npos);
 }
 
-TEST_F(RecordServer, ItEndsWithConnectionsOpenAndServersSilent)
+TEST_F(RecordServer, ItEndsDespiteOpenConnectionsAndSilentServers)
 {
     TcpListener silent("127.0.0.50", 80);
     ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, FILE_NAME});
@@ -178,7 +179,7 @@ TEST_F(RecordServer, ItEndsWithConnectionsOpenAndServersSilent)
     EXPECT_NE(ReadText(FILE_NAME).find(" 1 ask "), std::string::npos) << "the last message is in it";
 }
 
-TEST(Replay, FilesThatAreNone)
+TEST(Replay, InvalidFiles)
 {
     const std::pair<std::string, std::string> table[] = {
         {"", "udsim: /tmp/session.udrec:1: this is no recording of udsim, or one of another version\n"},
@@ -197,7 +198,7 @@ TEST(Replay, FilesThatAreNone)
     EXPECT_EQ(player.end().find("udsim: line 2: the recording is cut off here; the line is left out\n"), 0U);
 }
 
-TEST(Record, AnExistingFileStays)
+TEST(Record, AnExistingFileIsKept)
 {
     std::ofstream(FILE_NAME) << "precious";
     const Ended ended =

@@ -1,4 +1,5 @@
-// The service's client, recorded with a service; and again, with the recording in the service's place.
+// Records the client of the control service with a service, and repeats the session with the recording in
+// place of the service.
 #include "InstallPaths.h"
 #include "ProgramProcess.h"
 #include "PublisherMgr.h"
@@ -31,7 +32,7 @@ udsim::Scenario scenario()
     return parsed.value_or(udsim::Scenario{});
 }
 
-/// What the client makes of two publishers, in one text.
+/// The results of the client for two publishers, as one text.
 std::string WholeSession()
 {
     CPublisherMgr mgr(true);
@@ -111,7 +112,7 @@ TEST(RecordService, WithoutAService)
     EXPECT_FALSE(std::filesystem::exists(FILE_NAME));
 }
 
-TEST(RecordService, AFileThatCannotBeLeavesTheServiceInItsPlace)
+TEST(RecordService, AnInvalidFileNameLeavesTheServiceInPlace)
 {
     udsim::Room room(scenario());
     std::string error;
@@ -121,7 +122,7 @@ TEST(RecordService, AFileThatCannotBeLeavesTheServiceInItsPlace)
     EXPECT_TRUE(CPublisherMgr(true).IsPossibleCommunicateService(nullptr));
 }
 
-TEST(RecordService, OneThatWasKilledIsPutRightByTheNext)
+TEST(RecordService, TheNextRecorderRepairsAKilledOne)
 {
     udsim::Room room(scenario());
     std::string error;
@@ -141,7 +142,7 @@ TEST(RecordService, OneThatWasKilledIsPutRightByTheNext)
     EXPECT_TRUE(mgr.IsPossibleCommunicateService(nullptr));
 }
 
-TEST(RecordService, AReplyInPiecesArrivesInOne)
+TEST(RecordService, AReplyInPiecesIsForwardedAsOne)
 {
     std::optional<UnixListener> service(std::in_place, SERVICE_SOCKET);
     ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
@@ -152,7 +153,7 @@ TEST(RecordService, AReplyInPiecesArrivesInOne)
     UnixPeer peer;
     std::string request;
     for (int tries = 0; request.empty() && tries < 5; ++tries) {
-        peer = service->Accept(); // the first one only looked whether somebody listens
+        peer = service->Accept(); // the first one only checked for a listener
         request = peer.ReadExactly(408);
     }
     EXPECT_EQ(request, frame);
@@ -163,7 +164,7 @@ TEST(RecordService, AReplyInPiecesArrivesInOne)
     }
     EXPECT_TRUE(peer.Write(reply.substr(24)));
     EXPECT_EQ(client.readOnce(4096), reply);
-    // What stays half goes on as it is.
+    // A reply that stays incomplete is forwarded unchanged.
     EXPECT_TRUE(client.send(frame));
     EXPECT_EQ(peer.ReadExactly(408), frame);
     EXPECT_TRUE(peer.Write(reply.substr(0, 24)));
@@ -174,12 +175,12 @@ TEST(RecordService, AReplyInPiecesArrivesInOne)
     EXPECT_FALSE(std::filesystem::exists(SERVICE_SOCKET)) << "the service has ended meanwhile";
 }
 
-TEST(RecordService, OneThatStartsAnewKeepsItsPlace)
+TEST(RecordService, ARestartedServiceKeepsItsPlace)
 {
     std::optional<UnixListener> service(std::in_place, SERVICE_SOCKET);
     ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
     recorder.readUntil("Ctrl-C ends it\n");
-    service.reset(); // takes what is in its place along, as a service does that starts
+    service.reset(); // removes the socket in its place, as a starting service does
     UnixListener again(SERVICE_SOCKET);
     recorder.end();
     const RawClient client;
@@ -188,10 +189,10 @@ TEST(RecordService, OneThatStartsAnewKeepsItsPlace)
     EXPECT_FALSE(std::filesystem::exists(std::string(SERVICE_SOCKET) + ".recorded"));
 }
 
-TEST(RecordService, OneWithTooManyWaitingIsThere)
+TEST(RecordService, ABusyServiceIsFound)
 {
     const UnixListener service(SERVICE_SOCKET, 0);
-    const RawClient first; // nobody takes it, so that the next one would wait
+    const RawClient first; // not accepted, so that the next one would wait
     ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
     recorder.readUntil("Ctrl-C ends it\n");
     recorder.end();
