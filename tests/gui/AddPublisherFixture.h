@@ -1,5 +1,5 @@
-// The dialog that registers a network publisher, in front of simulated publisher servers that nobody has
-// registered yet.
+// Fixture for tests of the dialog that registers a network publisher. It starts simulated publisher servers
+// that are not registered yet.
 #pragma once
 
 #include "Boxes.h"
@@ -20,18 +20,18 @@ inline constexpr char notFound[] =
     "The output device could not be found on the network.\nThere is a possibility that either the host name "
     "or IP address is wrong, or the output device is not connected to the network.";
 
-// Where the servers of the room listen.
+// The addresses of the simulated servers.
 inline constexpr char server[] = "127.0.0.11";
 inline constexpr char secondServer[] = "127.0.0.12";
 inline constexpr char securityServer[] = "127.0.0.13";
 inline constexpr char outputControlServer[] = "127.0.0.14";
 inline constexpr char oldServer[] = "127.0.0.15";
-inline constexpr char silentAddress[] = "127.0.0.99"; // there is none
+inline constexpr char silentAddress[] = "127.0.0.99"; // no server listens here
 
 class AddPublisherFixture : public QObject
 {
 protected:
-    /// For init(): a new installation and a new room.
+    /// For init(): creates a new installation and starts a new room.
     void startAnew()
     {
         m_dialog.reset();
@@ -52,7 +52,7 @@ protected:
         QVERIFY2(m_room->start(error), error.c_str());
     }
 
-    /// Another dialog in the place of the one that is open.
+    /// Opens a new dialog and destroys the previous one.
     void open()
     {
         m_dialog.reset();
@@ -63,7 +63,8 @@ protected:
         QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
     }
 
-    /// Puts a text into a field, whatever letters it has, as an input method does.
+    /// Replaces the text of a field. The text arrives through an input method event, so it may contain any
+    /// characters.
     static void enter(QLineEdit* field, const QString& text)
     {
         field->setFocus();
@@ -83,8 +84,8 @@ protected:
     {
         return m_dialog->buttonBox->button(which);
     }
-    /// Presses OK where at most one box comes up, reads that and closes it. The text of the box; empty when
-    /// there was none.
+    /// Presses OK and closes the message box that appears, if any. At most one box is expected. Returns the
+    /// text of the box, or an empty string without a box.
     QString ok()
     {
         Boxes boxes({QMessageBox::Ok});
@@ -94,18 +95,18 @@ protected:
         m_boxes = boxes.seen();
         return m_boxes.empty() ? QString() : m_boxes[0].text;
     }
-    /// The same after entering both texts.
+    /// Enters both texts, then does the same as ok().
     QString add(const QString& host, const QString& name)
     {
         enter(host, name);
         return ok();
     }
-    /// The dialog closed because the publisher was added, and there was no box.
+    /// True if the dialog closed with the publisher added and no box appeared.
     bool wasAdded() const
     {
         return m_boxes.empty() && !m_dialog->isVisible() && m_dialog->result() == 1;
     }
-    /// The dialog stands with these texts behind a warning of its own.
+    /// True if the dialog showed this warning and is still open with these texts.
     bool wasWarned(const QString& text, const QString& host, const QString& name) const
     {
         return m_boxes.size() == 1 && m_boxes[0].text == text &&
@@ -115,7 +116,7 @@ protected:
                m_dialog->textPublisherName->text() == name;
     }
 
-    /// All setting files by their names, with their texts.
+    /// Maps the name of each setting file to its text.
     static std::map<std::string, std::string> files()
     {
         std::map<std::string, std::string> found;
@@ -124,7 +125,8 @@ protected:
         }
         return found;
     }
-    /// The only file whose text is not in `before`, with its name; empty when that is not one file.
+    /// The name and the text of the one file that is new or changed since `before`. Empty unless it is
+    /// exactly one.
     static std::pair<std::string, std::string> newFile(const std::map<std::string, std::string>& before)
     {
         auto now = files();
@@ -135,13 +137,13 @@ protected:
         return now.size() == 1 ? std::pair<std::string, std::string>(*now.begin())
                                : std::pair<std::string, std::string>();
     }
-    /// What a new publisher's file holds.
+    /// The contents of a new publisher's file.
     static std::string newText(const std::string& host, const std::string& name)
     {
         return "[Common]\nPublisherName=" + name +
                "\nPrinterName=NotSet\nPublisherConnectionType=1\nPublisherURL=" + host + "\n";
     }
-    /// The stem of a day's file, of the day that is now in the calendar of the whole world, or will be next.
+    /// The regist id with this number of today's date in UTC, or of a later day.
     static std::string stem(int number, int daysAhead = 0)
     {
         return QDateTime::currentDateTimeUtc()
@@ -151,7 +153,6 @@ protected:
                    .insert(0, "{ARPUB") +
                "_" + std::to_string(number) + "}";
     }
-    /// How many requests have come to a server.
     size_t requestsTo(const std::string& host) const
     {
         const auto requests = m_room->httpRequests();
@@ -163,6 +164,6 @@ protected:
     Installation m_installation;
     std::unique_ptr<udsim::Room> m_room;
     std::unique_ptr<addPublisherDialog> m_dialog;
-    std::vector<SeenBox> m_boxes; // of the last OK
+    std::vector<SeenBox> m_boxes; // of the last ok()
     QWidget* m_boxParent = nullptr;
 };

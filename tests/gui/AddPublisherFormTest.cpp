@@ -1,4 +1,4 @@
-// The dialog that registers a network publisher, as it opens.
+// The initial state of the dialog that registers a network publisher.
 #include "AddPublisherFixture.h"
 
 #include "SameImage.h"
@@ -17,12 +17,12 @@ private slots:
     void init();
 
     void hasItsTitleAndWidgets();
-    void standsAtItsSize();
-    void keyboardBeginsAtTheHost();
+    void hasAFixedSize();
+    void tabOrderStartsAtTheHost();
     void offersAName_data();
     void offersAName();
     void offersNoNameWhenAllAreTaken();
-    void tellsWhoIsRegistered();
+    void printsTheRegisteredPublishers();
 };
 
 void AddPublisherFormTest::init()
@@ -74,7 +74,7 @@ void AddPublisherFormTest::hasItsTitleAndWidgets()
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
 }
 
-void AddPublisherFormTest::standsAtItsSize()
+void AddPublisherFormTest::hasAFixedSize()
 {
     open();
     QCOMPARE(m_dialog->minimumSize(), m_dialog->size());
@@ -86,7 +86,7 @@ void AddPublisherFormTest::standsAtItsSize()
     QCOMPARE(m_dialog->size(), size);
 }
 
-void AddPublisherFormTest::keyboardBeginsAtTheHost()
+void AddPublisherFormTest::tabOrderStartsAtTheHost()
 {
     open();
     QStringList reached;
@@ -118,8 +118,8 @@ void AddPublisherFormTest::offersAName_data()
     const QStringList none;
     QTest::newRow("first") << none << none << "RT-300N 1";
     QTest::newRow("second") << none << QStringList{"RT-300N 1"} << "RT-300N 2";
-    QTest::newRow("a local one") << QStringList{"RT-300N 1"} << none << "RT-300N 2";
-    QTest::newRow("small letters") << QStringList{"rt-300n 1"} << QStringList{"Rt-300N 2"} << "RT-300N 3";
+    QTest::newRow("local publisher") << QStringList{"RT-300N 1"} << none << "RT-300N 2";
+    QTest::newRow("other case") << QStringList{"rt-300n 1"} << QStringList{"Rt-300N 2"} << "RT-300N 3";
     QTest::newRow("gap") << none << QStringList{"RT-300N 1", "RT-300N 3"} << "RT-300N 2";
     QTest::newRow("others") << QStringList{"Studio"} << QStringList{"RT-300N 12"} << "RT-300N 1";
 }
@@ -153,7 +153,7 @@ void AddPublisherFormTest::offersNoNameWhenAllAreTaken()
     QCOMPARE(m_dialog->textPublisherName->text(), QString());
 }
 
-void AddPublisherFormTest::tellsWhoIsRegistered()
+void AddPublisherFormTest::printsTheRegisteredPublishers()
 {
     m_installation.addLocal("a", "Studio");
     Installation::addNetwork("{ARPUB20260101_1}", "Server room", "host");

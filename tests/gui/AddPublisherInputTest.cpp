@@ -1,5 +1,5 @@
-// Whatever somebody types or pastes into the registration: the new file holds it as one line each, and nobody
-// else's file changes, neither then nor when the new publisher is polled.
+// Any text may be typed or pasted into the registration dialog. The new file holds each text on one line. The
+// files of other publishers stay unchanged, also when the new publisher is polled.
 #include "AddPublisherFixture.h"
 
 #include "MyRunnable.h"
@@ -25,19 +25,20 @@ private slots:
 
     void namesInAnyScript_data();
     void namesInAnyScript();
-    void sameNameInAnotherScriptIsNotSeen();
+    void namesAreComparedAsTheyReadBack();
     void pastedTexts_data();
     void pastedTexts();
-    void namesThatLookLikeTheFile_data();
-    void namesThatLookLikeTheFile();
-    void endlessTexts_data();
-    void endlessTexts();
-    void endlessTextsOfOthers();
-    void rubbish();
+    void namesWithFileSyntax_data();
+    void namesWithFileSyntax();
+    void hugeTexts_data();
+    void hugeTexts();
+    void hugeTextsOfARegisteredPublisher();
+    void randomTexts();
 
 private:
     static void paste(QLineEdit* field, const QString& text);
-    /// Lets a list poll everybody once, and tells the name that it shows for the one that is no neighbour.
+    /// Polls all publishers once. Returns the names that the list then shows for the added publishers, joined
+    /// by " and "; an error text if the poll does not end.
     QString polledName();
 
     std::map<std::string, std::string> m_before;
@@ -71,11 +72,13 @@ void AddPublisherInputTest::paste(QLineEdit* field, const QString& text)
 
 QString AddPublisherInputTest::polledName()
 {
-    PubSetup asking(nullptr); // asks at once, and what has not begun when it closes never begins
+    // The window starts a poll at once. It must stay open until the poll ends: closing cancels queries that
+    // have not begun.
+    PubSetup asking(nullptr);
     if (!waitForTasks(20000)) {
         return "the poll does not end";
     }
-    const PubSetup window(nullptr); // a row keeps the name from before
+    const PubSetup window(nullptr); // a row keeps its old name: only a new list shows the new one
     QStringList names;
     for (int i = 0; i < window.treePublisherList->topLevelItemCount(); ++i) {
         const QString key = window.treePublisherList->topLevelItem(i)->data(0, Qt::UserRole).toString();
@@ -89,7 +92,7 @@ QString AddPublisherInputTest::polledName()
 void AddPublisherInputTest::namesInAnyScript_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("shown"); // reading leaves out what is not ASCII
+    QTest::addColumn<QString>("shown"); // reading keeps printable ASCII only
     const struct
     {
         const char *row, *name, *shown;
@@ -102,10 +105,10 @@ void AddPublisherInputTest::namesInAnyScript_data()
         {"Hindi", "स्टूडियो A", "A"},
         {"Korean", "스튜디오-B", "-B"},
         {"Thai", "สตูดิโอ", ""},
-        {"beyond 16 bits", "Studio 💿𝄞", "Studio"},
-        {"a letter and its mark", "Bu\u0308ro", "Buro"},
-        {"marks of direction", "a\u202Eb", "ab"},
-        {"a line separator", "a\u2028b", "ab"},
+        {"surrogate pairs", "Studio 💿𝄞", "Studio"},
+        {"combining mark", "Bu\u0308ro", "Buro"},
+        {"direction mark", "a\u202Eb", "ab"},
+        {"line separator", "a\u2028b", "ab"},
     };
     for (const auto& row : table) {
         QTest::newRow(row.row) << QString::fromUtf8(row.name) << QString::fromUtf8(row.shown);
@@ -123,11 +126,11 @@ void AddPublisherInputTest::namesInAnyScript()
     QCOMPARE(m_dialog->textPublisherName->text(), "RT-300N 1");
 }
 
-void AddPublisherInputTest::sameNameInAnotherScriptIsNotSeen()
+void AddPublisherInputTest::namesAreComparedAsTheyReadBack()
 {
     QCOMPARE(add(server, QString::fromUtf8("Büro")), QString());
     open();
-    QCOMPARE(add(secondServer, "Bro"), sameName); // as it reads
+    QCOMPARE(add(secondServer, "Bro"), sameName); // as the stored name reads back
     QCOMPARE(add(secondServer, QString::fromUtf8("Büro")), QString());
     QVERIFY(wasAdded());
     QCOMPARE(files().size(), m_before.size() + 2);
@@ -140,22 +143,22 @@ void AddPublisherInputTest::pastedTexts_data()
     QTest::addColumn<QString>("storedName");
     QTest::addColumn<QString>("storedHost");
     const QString host = server;
-    QTest::newRow("line ends behind") << "New\r\n" << host + "\n" << "New" << host;
+    QTest::newRow("trailing line ends") << "New\r\n" << host + "\n" << "New" << host;
     QTest::newRow("two lines") << "New\nStudio" << host << "NewStudio" << host;
-    QTest::newRow("a key") << "New\nPublisherConnectionType=0" << host << "NewPublisherConnectionType=0"
-                           << host;
-    QTest::newRow("a section") << "New\n[Common]\nPublisherName=Other" << host
-                               << "New[Common]PublisherName=Other" << host;
-    QTest::newRow("a host in two lines") << "New"
-                                         << "127.0.\n0.11"
-                                         << "New" << host;
-    QTest::newRow("nothing but line ends") << "\n\r\n" << host << "NotSet" << host;
+    QTest::newRow("key") << "New\nPublisherConnectionType=0" << host << "NewPublisherConnectionType=0"
+                         << host;
+    QTest::newRow("section") << "New\n[Common]\nPublisherName=Other" << host
+                             << "New[Common]PublisherName=Other" << host;
+    QTest::newRow("host in two lines") << "New"
+                                       << "127.0.\n0.11"
+                                       << "New" << host;
+    QTest::newRow("only line ends") << "\n\r\n" << host << "NotSet" << host;
     QTest::newRow("NUL") << QString::fromLatin1("New\0PublisherURL=other\0\0x", 25)
                          << QString::fromLatin1("127.0.0\0.11\0", 12) << "NewPublisherURL=otherx" << host;
     QTest::newRow("tabs") << "\tNew\t1" << host << "\tNew\t1" << host;
-    QTest::newRow("a path") << "C:\\New\\"
-                            << "\\\\x\\" + host << "C:\\New\\"
-                            << "\\\\x\\" + host;
+    QTest::newRow("path") << "C:\\New\\"
+                          << "\\\\x\\" + host << "C:\\New\\"
+                          << "\\\\x\\" + host;
 }
 
 void AddPublisherInputTest::pastedTexts()
@@ -166,14 +169,14 @@ void AddPublisherInputTest::pastedTexts()
     QFETCH(QString, storedHost);
     paste(m_dialog->textHostName, host);
     paste(m_dialog->textPublisherName, name);
-    QCOMPARE(m_dialog->textPublisherName->text(), name); // a field keeps all of it
+    QCOMPARE(m_dialog->textPublisherName->text(), name); // the field keeps the whole text
     QCOMPARE(ok(), QString());
     QVERIFY(wasAdded());
     QCOMPARE(newFile(m_before).second, newText(storedHost.toStdString(), storedName.toStdString()));
     polledName();
 }
 
-void AddPublisherInputTest::namesThatLookLikeTheFile_data()
+void AddPublisherInputTest::namesWithFileSyntax_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
@@ -183,7 +186,8 @@ void AddPublisherInputTest::namesThatLookLikeTheFile_data()
     } table[] = {
         {"[Common]", "[Common]"},
         {"[COMMON]", "[COMMON]"},
-        {"[COMMON]NPType=9", "[COMMON]NPType=2"}, // the kind is written where it is found,
+        // The poll writes the model where the section and the key first appear.
+        {"[COMMON]NPType=9", "[COMMON]NPType=2"},
         {"[", "["},
         {"]", "]"},
         {"=", ""},
@@ -202,7 +206,7 @@ void AddPublisherInputTest::namesThatLookLikeTheFile_data()
     }
 }
 
-void AddPublisherInputTest::namesThatLookLikeTheFile()
+void AddPublisherInputTest::namesWithFileSyntax()
 {
     QFETCH(QString, name);
     QCOMPARE(add(server, name), QString());
@@ -210,25 +214,25 @@ void AddPublisherInputTest::namesThatLookLikeTheFile()
     const auto [file, text] = newFile(m_before);
     QCOMPARE(text, newText(server, name.toStdString()));
     QTEST(polledName(), "shown");
-    // Its kind was written into it, and its host still reads.
+    // The poll has written the model into the file, and the host is intact.
     const std::string polled = files()[file];
     QVERIFY2(polled.find("\nPublisherURL=127.0.0.11\n") != std::string::npos, polled.c_str());
     QVERIFY2(polled.find("NPType=2\n") != std::string::npos, polled.c_str());
     QCOMPARE(files().size(), m_before.size() + 1);
 }
 
-void AddPublisherInputTest::endlessTexts_data()
+void AddPublisherInputTest::hugeTexts_data()
 {
     QTest::addColumn<QString>("piece");
     QTest::newRow("letters") << "x";
     QTest::newRow("lines") << "[Common]\nPublisherName=x\n";
-    QTest::newRow("file signs") << "[]=;\\ ";
+    QTest::newRow("file syntax") << "[]=;\\ ";
     QTest::newRow("NUL") << QString::fromLatin1("x\0", 2);
     QTest::newRow("formats") << "%s%n";
     QTest::newRow("Japanese") << QString::fromUtf8("東京");
 }
 
-void AddPublisherInputTest::endlessTexts()
+void AddPublisherInputTest::hugeTexts()
 {
     QFETCH(QString, piece);
     const QString endless = piece.repeated(megabyte / piece.size());
@@ -255,7 +259,7 @@ void AddPublisherInputTest::endlessTexts()
     QVERIFY(wasAdded());
 }
 
-void AddPublisherInputTest::endlessTextsOfOthers()
+void AddPublisherInputTest::hugeTextsOfARegisteredPublisher()
 {
     const std::string endless(megabyte, 'x');
     Installation::addNetwork("endless", endless, endless);
@@ -264,9 +268,9 @@ void AddPublisherInputTest::endlessTextsOfOthers()
     QVERIFY(wasAdded());
 }
 
-void AddPublisherInputTest::rubbish()
+void AddPublisherInputTest::randomTexts()
 {
-    uint32_t state = 1; // the same texts in each run
+    uint32_t state = 1; // fixed seed: each run uses the same texts
     const auto next = [&state](uint32_t bound) {
         state = state * 1664525 + 1013904223;
         return (state >> 8) % bound;
@@ -289,7 +293,7 @@ void AddPublisherInputTest::rubbish()
         const auto before = files();
         if (!ok().isEmpty()) {
             QVERIFY(files() == before);
-            continue; // it reads as one that is there
+            continue; // the name or the host reads back as one that is registered
         }
         QVERIFY(wasAdded());
         const std::string written = newFile(before).second;

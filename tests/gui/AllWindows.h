@@ -1,5 +1,5 @@
-// Every window that the program can show, each opened as the program opens it. A new dialog gets a line in
-// allWindows(), and with it every test that goes over all of them.
+// Every window of the program, each opened the way the program opens it. Add a line to allWindows() for a new
+// dialog: all tests that iterate over the windows then cover it.
 #pragma once
 
 #include "BusyIndicator.h"
@@ -19,10 +19,10 @@
 #include <functional>
 #include <vector>
 
-/// Called with a window that is on the screen and has the keyboard. It may close the window.
+/// Called with a window that is visible and active. It may close the window.
 using Visit = std::function<void(QWidget&)>;
 
-/// A machine of each local model, as the simulated service has it, and a publisher behind a server.
+/// One machine of each local model, by the names of the simulator.
 inline constexpr struct
 {
     const char* model;
@@ -32,10 +32,10 @@ inline constexpr struct
     {"RT-30II", "d"},       {"RT-30II BDXL", "e"},
 };
 
-/// A name that does not read back as it is typed.
+/// A name that reads back differently from how it is typed.
 inline constexpr char changingName[] = "B\u00FCro 3";
 
-/// The computer that the windows open on: its publishers, and the service behind them.
+/// The machines as local publishers with unfinished jobs, one unregistered server and one network publisher.
 inline udsim::Scenario scenarioOfMachines()
 {
     std::string text;
@@ -54,8 +54,8 @@ inline udsim::Scenario scenarioOfMachines()
     return *scenario;
 }
 
-/// Meets the dialogs that a call of the program shows one after the other: accepts those ahead of one, visits
-/// that one, and sends it and all others away.
+/// Handles the modal dialogs that one call shows in sequence: accepts the first `ahead` dialogs, visits the
+/// next one, then rejects it, if it is still open, and all that follow.
 class ModalDialogs : public QObject
 {
 public:
@@ -113,7 +113,7 @@ inline PUBLISHERINFO recordOf(const char* id)
     return info;
 }
 
-/// As its server told it. The server is out of reach for wear and versions.
+/// The record of a network publisher whose server is unreachable, so wear and versions are not available.
 inline PUBLISHERINFO networkRecord()
 {
     Installation::addNetwork("net", "Server room", "studio-3.example.org");
@@ -135,12 +135,13 @@ inline void visitProperties(const PUBLISHERINFO& info, BOOL connection, const Vi
     visitShown(dialog, visit);
 }
 
-/// With the address of the server entered, so that it can be accepted, as often as one likes.
+/// Opens the registration dialog and enters the address of the unregistered server, so that the dialog can be
+/// accepted. May be called repeatedly.
 inline void visitRegistration(const Visit& visit, const QString& name = {})
 {
     for (const auto& entry : std::filesystem::directory_iterator(PUBLISHER_SETTING_DIR)) {
         if (entry.path().filename().string().starts_with("{ARPUB")) {
-            std::filesystem::remove(entry.path()); // of a visit before
+            std::filesystem::remove(entry.path()); // from an earlier visit
         }
     }
     const ModalDialogs dialogs(0, [&](QWidget& window) {
@@ -153,7 +154,7 @@ inline void visitRegistration(const Visit& visit, const QString& name = {})
     PubSetup(nullptr).showAddDialog();
 }
 
-/// Takes the folder of the publishers away as long as the list shows.
+/// Moves the folder of the setting files away while the list is shown.
 inline void visitEmptyList(const Visit& visit)
 {
     const std::filesystem::path folder = PUBLISHER_SETTING_DIR;
@@ -174,7 +175,7 @@ struct AppWindow
     std::function<void(const Visit&)> show;
 };
 
-/// Needs a running room with the machines.
+/// Requires a running room with scenarioOfMachines().
 inline std::vector<AppWindow> allWindows()
 {
     std::vector<AppWindow> windows = {
@@ -200,9 +201,9 @@ inline std::vector<AppWindow> allWindows()
              PubSetup(nullptr).showSettingDialog();
          }},
         {"registration", true, [](const Visit& visit) { visitRegistration(visit); }},
-        {"registration under a name that changes", true,
+        {"registration with a name listed differently", true,
          [](const Visit& visit) { visitRegistration(visit, QString::fromUtf8(changingName)); }},
-        {"properties with a name that changes", false, // its jobs do not let it be saved
+        {"properties with a name listed differently", false, // its unfinished jobs prevent saving
          [](const Visit& visit) {
              visitProperties(recordOf("c"), 1, [&visit](QWidget& window) {
                  window.findChild<QLineEdit*>("textPublisherName")->setText(QString::fromUtf8(changingName));

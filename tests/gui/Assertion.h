@@ -1,4 +1,4 @@
-// What stops the program, tried in a process of its own.
+// Runs a failing assertion in a child process.
 #pragma once
 
 #include <csignal>
@@ -8,7 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// What a failed assertion wrote when `work` ran into it. Empty when `work` ended in any other way.
+/// Runs `work` in a child process. Returns what it wrote to standard error if an assertion failed; empty if
+/// it ended in any other way.
 template <class Work>
 std::string assertionOf(Work work)
 {
@@ -20,7 +21,7 @@ std::string assertionOf(Work work)
     if (child == 0) {
         const rlimit none{0, 0};
         setrlimit(RLIMIT_CORE, &none);
-        std::signal(SIGABRT, SIG_DFL); // not reported by the test program
+        std::signal(SIGABRT, SIG_DFL); // QtTest must not report it
         dup2(ends[1], STDERR_FILENO);
         work();
         _exit(0);

@@ -1,4 +1,4 @@
-// Answers message boxes as a user does: waits until the box is on the screen, reads it, presses a button.
+// Answers message boxes as a user does: waits until a box is visible, reads it and presses a button.
 #pragma once
 
 #include <QAbstractButton>
@@ -10,7 +10,7 @@
 #include <functional>
 #include <vector>
 
-/// What a box said.
+/// The contents of a message box.
 struct SeenBox
 {
     QString title;
@@ -20,7 +20,8 @@ struct SeenBox
     QPushButton* defaultButton;
 };
 
-/// Answers the boxes that come up while it lives, each with the next of its answers.
+/// Answers the boxes that appear during its lifetime, each with the next of its answers. A box that has
+/// no answer, or not the answer's button, is rejected.
 class Boxes : public QObject
 {
 public:
@@ -30,7 +31,7 @@ public:
         m_timer.start(10);
     }
 
-    /// Called when the box is up, before it is answered.
+    /// Called with each visible box before it is answered. It may close the box.
     std::function<void(QMessageBox&)> onBox = [](QMessageBox&) {};
 
     const std::vector<SeenBox>& seen() const
@@ -54,7 +55,7 @@ private:
             {box->windowTitle(), box->text(), box->icon(), box->standardButtons(), box->defaultButton()});
         onBox(*box);
         if (!box->isVisible()) {
-            m_timer.start(10); // answered already
+            m_timer.start(10); // onBox closed it
             return;
         }
         QAbstractButton* button =
@@ -62,7 +63,7 @@ private:
         if (button) {
             QTest::mouseClick(button, Qt::LeftButton);
         } else {
-            box->reject(); // not expected: the test sees it in what was seen
+            box->reject(); // unexpected: the test finds it in seen()
         }
         m_timer.start(10);
     }

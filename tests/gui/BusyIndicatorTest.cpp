@@ -1,4 +1,4 @@
-// The indicator that moves while something slow runs, and the interface behind it.
+// The busy indicator that is shown during slow work, and the windows behind it.
 #include "Installation.h"
 #include "MyRunnable.h"
 #include "PubSetup.h"
@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::chrono::seconds patience(15);
 
-/// Work that lasts until it is released; false when nobody does.
+/// Work that runs until release(). Without release() it gives up after `patience`, and ended() stays false.
 class Work
 {
 public:
@@ -60,16 +60,16 @@ private slots:
 
     void isShownWhileTheWorkRuns();
     void needsNoParent();
-    void cannotBeSentAway_data();
-    void cannotBeSentAway();
-    void keepsInputFromItsParent();
-    void workHasAThreadOfItsOwn();
-    void interfaceIsServedTenTimesASecond();
-    void endIsNoticedAtOnce();
-    void quickWorkShowsNothing();
-    void resultsAreThereWhenItReturns();
-    void withoutAThreadTheWorkIsDoneAllTheSame();
-    void looksDecent();
+    void cannotBeDismissed_data();
+    void cannotBeDismissed();
+    void blocksInputToItsParent();
+    void workRunsOnAnotherThread();
+    void eventsAreProcessedTenTimesASecond();
+    void returnsSoonAfterTheWorkEnds();
+    void quickWorkShowsNoIndicator();
+    void resultsAreAvailableOnReturn();
+    void workRunsOnTheCallingThreadWhenNoneStarts();
+    void isWideAndCentresItsBar();
 
 private:
     Installation m_installation;
@@ -139,14 +139,14 @@ void BusyIndicatorTest::needsNoParent()
     QCOMPARE(parent, nullptr);
 }
 
-void BusyIndicatorTest::cannotBeSentAway_data()
+void BusyIndicatorTest::cannotBeDismissed_data()
 {
     QTest::addColumn<bool>("byKey");
     QTest::newRow("Escape") << true;
     QTest::newRow("frame") << false;
 }
 
-void BusyIndicatorTest::cannotBeSentAway()
+void BusyIndicatorTest::cannotBeDismissed()
 {
     QFETCH(bool, byKey);
     Work work;
@@ -168,7 +168,7 @@ void BusyIndicatorTest::cannotBeSentAway()
     QVERIFY(!cancelled);
 }
 
-void BusyIndicatorTest::keepsInputFromItsParent()
+void BusyIndicatorTest::blocksInputToItsParent()
 {
     Work work;
     WhenShown<QProgressDialog> indicator([&](QProgressDialog&) {
@@ -181,7 +181,7 @@ void BusyIndicatorTest::keepsInputFromItsParent()
     QVERIFY(indicator.seen());
     QCOMPARE(QApplication::activePopupWidget(), nullptr);
 
-    // The very same click opens the menu when nothing is in the way.
+    // Without the indicator the same click opens the menu.
     const QPoint file = m_window->menubar->actionGeometry(m_window->fileMenu->menuAction()).center();
     QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                       m_window->menubar->mapTo(m_window.get(), file));
@@ -189,7 +189,7 @@ void BusyIndicatorTest::keepsInputFromItsParent()
     m_window->fileMenu->close();
 }
 
-void BusyIndicatorTest::workHasAThreadOfItsOwn()
+void BusyIndicatorTest::workRunsOnAnotherThread()
 {
     std::thread::id worker;
     m_window->doWithProgress([&worker] { worker = std::this_thread::get_id(); });
@@ -197,12 +197,12 @@ void BusyIndicatorTest::workHasAThreadOfItsOwn()
     QVERIFY(worker != std::this_thread::get_id());
 }
 
-void BusyIndicatorTest::interfaceIsServedTenTimesASecond()
+void BusyIndicatorTest::eventsAreProcessedTenTimesASecond()
 {
     Work work;
     QElapsedTimer time;
     int served = 0;
-    QTimer ticks; // due whenever the interface is served, and once in each turn
+    QTimer ticks; // shorter than the interval of the indicator: fires once in each turn of the loop
     connect(&ticks, &QTimer::timeout, this, [&] {
         if (++served == 10) {
             work.release();
@@ -217,11 +217,11 @@ void BusyIndicatorTest::interfaceIsServedTenTimesASecond()
     QVERIFY2(elapsed < 5000, qPrintable(QString::number(elapsed)));
 }
 
-void BusyIndicatorTest::endIsNoticedAtOnce()
+void BusyIndicatorTest::returnsSoonAfterTheWorkEnds()
 {
     using Clock = std::chrono::steady_clock;
     auto best = std::chrono::milliseconds::max();
-    for (int i = 0; i < 5; ++i) { // the machine may be busy now and then
+    for (int i = 0; i < 5; ++i) { // the best of five, because the machine may be busy
         std::atomic<Clock::time_point> end;
         PubSetup::doWithProgress([&end] { end = Clock::now(); }, m_window.get());
         best =
@@ -230,7 +230,7 @@ void BusyIndicatorTest::endIsNoticedAtOnce()
     QVERIFY2(best.count() <= 150, qPrintable(QString::number(best.count())));
 }
 
-void BusyIndicatorTest::quickWorkShowsNothing()
+void BusyIndicatorTest::quickWorkShowsNoIndicator()
 {
     int runs = 0;
     m_window->doWithProgress([&runs] { ++runs; });
@@ -240,7 +240,7 @@ void BusyIndicatorTest::quickWorkShowsNothing()
     QCOMPARE(shownWindow<QProgressDialog>(), nullptr);
 }
 
-void BusyIndicatorTest::resultsAreThereWhenItReturns()
+void BusyIndicatorTest::resultsAreAvailableOnReturn()
 {
     std::vector<int> results;
     for (int i = 0; i < 3; ++i) {
@@ -250,13 +250,13 @@ void BusyIndicatorTest::resultsAreThereWhenItReturns()
     }
 }
 
-void BusyIndicatorTest::withoutAThreadTheWorkIsDoneAllTheSame()
+void BusyIndicatorTest::workRunsOnTheCallingThreadWhenNoneStarts()
 {
     QVERIFY(waitForTasks(10000));
     pthread_attr_t usual, endless;
     QCOMPARE(pthread_getattr_default_np(&usual), 0);
     QCOMPARE(pthread_attr_init(&endless), 0);
-    QCOMPARE(pthread_attr_setstacksize(&endless, size_t(1) << 47), 0); // more than there are addresses
+    QCOMPARE(pthread_attr_setstacksize(&endless, size_t(1) << 47), 0); // exceeds the address space
     QCOMPARE(pthread_setattr_default_np(&endless), 0);
     std::thread::id worker;
     m_window->doWithProgress([&worker] { worker = std::this_thread::get_id(); });
@@ -266,7 +266,7 @@ void BusyIndicatorTest::withoutAThreadTheWorkIsDoneAllTheSame()
     QVERIFY(worker == std::this_thread::get_id());
 }
 
-void BusyIndicatorTest::looksDecent()
+void BusyIndicatorTest::isWideAndCentresItsBar()
 {
     Work work;
     int width = 0, barWidth = 0, height = 0, barTop = 0, barBottom = 0;

@@ -1,5 +1,5 @@
-// How all windows of the program feel: to somebody without a mouse, with a screen reader, with a large font,
-// in another language, in dark colours. Runs at several scales of the screen (see CMakeLists.txt).
+// Usability of all windows without a mouse, with a screen reader, with a large font, in other languages and
+// in dark colours. Runs at several screen scales (see CMakeLists.txt).
 #include "AllWindows.h"
 #include "KeyboardFeel.h"
 #include "QtVersion.h"
@@ -23,11 +23,11 @@
 
 namespace {
 
-constexpr int plainPoints = 10; // as desktops set it
+constexpr int plainPoints = 10; // the usual size on desktops
 constexpr QSize smallScreen(800, 560);
 constexpr QSize screen(1024, 768);
 
-/// Makes every text longer by two fifths, as a translation may.
+/// Makes every text 40 % longer, as a translation may.
 class LongTexts : public QTranslator
 {
 public:
@@ -57,13 +57,13 @@ QPalette darkPalette()
     return palette;
 }
 
-/// How the user has set up the desktop.
+/// A desktop configuration.
 enum class Desktop
 {
     plain,
     largeFont,
     longTexts,
-    translated, ///< into the language that the row names
+    translated, ///< with the catalogue that the row names
     dark,
     turnsDark, ///< while the window is open
 };
@@ -71,7 +71,7 @@ enum class Desktop
 class DesktopSetup
 {
 public:
-    /// The desktop of the row.
+    /// Applies the desktop of the current data row.
     DesktopSetup() : m_font(QApplication::font()), m_palette(QApplication::palette())
     {
         QFETCH(int, desktopNumber);
@@ -114,7 +114,7 @@ private:
     QTranslator m_catalogue;
 };
 
-/// A window with one of each mistake, on two pages.
+/// A window with two pages and one of each defect.
 class BadWindow : public QDialog
 {
 public:
@@ -177,29 +177,29 @@ class DialogFeelTest : public QObject
 private slots:
     void initTestCase();
 
-    void theLooksFindWhatIsWrong();
-    void everyFormIsAmongTheWindows();
+    void checksDetectEveryDefect();
+    void everyFormIsAmongAllWindows();
     void keyboard_data();
     void keyboard();
     void enterAcceptsAndEscapeRejects_data();
     void enterAcceptsAndEscapeRejects();
-    void nothingIsCut_data();
-    void nothingIsCut();
-    void textsStandOut_data();
-    void textsStandOut();
-    void framesStandOut_data();
-    void framesStandOut();
-    void picturesAreThere_data();
-    void picturesAreThere();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void textsHaveContrast_data();
+    void textsHaveContrast();
+    void framesHaveContrast_data();
+    void framesHaveContrast();
+    void picturesAreLoadedAndSharp_data();
+    void picturesAreLoadedAndSharp();
 
 private:
     static void rows(bool dialogsOnly);
     static void rowsOfDesktops(std::initializer_list<std::pair<const char*, Desktop>> desktops);
-    /// A row for each window in each language that the program speaks.
+    /// Adds a row for each window in each language of the program.
     static void addRowsOfLanguages();
-    /// Shows the window that the row names, and fails with what is wrong with it.
+    /// Shows the window of the row and fails if `findWrong` returns any findings.
     static void look(const std::function<QStringList(QWidget&)>& findWrong);
-    /// The same on a desktop that is light, dark, or turned dark while the window is open, as the row says.
+    /// The same with the desktop of the row: light, dark, or turned dark while the window is open.
     static void lookInItsColours(QStringList (*findWrong)(QWidget&));
     static void rowsOfColours();
 
@@ -242,7 +242,7 @@ void DialogFeelTest::rowsOfDesktops(std::initializer_list<std::pair<const char*,
 void DialogFeelTest::addRowsOfLanguages()
 {
     if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
-        // Letters and their places grow together: what fits at one scale fits at all, as English shows.
+        // Fonts and widgets scale alike: a text that fits at one scale fits at all, as the English rows show.
         return;
     }
     const std::vector<AppWindow> windows = allWindows();
@@ -269,7 +269,7 @@ void DialogFeelTest::look(const std::function<QStringList(QWidget&)>& findWrong)
     QVERIFY2(findings.isEmpty(), qPrintable("\n  " + findings.join("\n  ")));
 }
 
-void DialogFeelTest::theLooksFindWhatIsWrong()
+void DialogFeelTest::checksDetectEveryDefect()
 {
     BadWindow window;
     window.show();
@@ -303,7 +303,7 @@ void DialogFeelTest::theLooksFindWhatIsWrong()
     QCOMPARE(faint.size(), 1);
 }
 
-void DialogFeelTest::everyFormIsAmongTheWindows()
+void DialogFeelTest::everyFormIsAmongAllWindows()
 {
     QSet<QString> seen;
     for (const AppWindow& window : allWindows()) {
@@ -334,7 +334,7 @@ void DialogFeelTest::keyboard()
     const DesktopSetup setup;
     look([](QWidget& window) {
         if (window.inherits("QProgressDialog")) {
-            return QStringList(); // it takes no keys
+            return QStringList(); // it handles no keys
         }
         QStringList findings = badFirstFocus(window);
         findings << namelessParts(window) << labelsThatLeadNowhere(window) << mnemonicClashes(window)
@@ -363,14 +363,14 @@ void DialogFeelTest::enterAcceptsAndEscapeRejects()
     }
 }
 
-void DialogFeelTest::nothingIsCut_data()
+void DialogFeelTest::nothingIsClipped_data()
 {
     rowsOfDesktops(
         {{"plain", Desktop::plain}, {"large font", Desktop::largeFont}, {"long texts", Desktop::longTexts}});
     addRowsOfLanguages();
 }
 
-void DialogFeelTest::nothingIsCut()
+void DialogFeelTest::nothingIsClipped()
 {
     const DesktopSetup setup;
     const bool shipped = setup.desktop == Desktop::plain || setup.desktop == Desktop::translated;
@@ -398,37 +398,37 @@ void DialogFeelTest::lookInItsColours(QStringList (*findWrong)(QWidget&))
     });
 }
 
-void DialogFeelTest::textsStandOut_data()
+void DialogFeelTest::textsHaveContrast_data()
 {
     rowsOfColours();
 }
 
-void DialogFeelTest::textsStandOut()
+void DialogFeelTest::textsHaveContrast()
 {
     lookInItsColours(faintTexts);
 }
 
-void DialogFeelTest::framesStandOut_data()
+void DialogFeelTest::framesHaveContrast_data()
 {
     rowsOfColours();
 }
 
-void DialogFeelTest::framesStandOut()
+void DialogFeelTest::framesHaveContrast()
 {
     lookInItsColours([](QWidget& window) {
         for (QGroupBox* group : window.findChildren<QGroupBox*>()) {
-            group->setEnabled(true); // also what the settings leave no choice in
+            group->setEnabled(true); // includes groups that settings disable
         }
         return faintFrames(window) + faintKeyboardFrames(window);
     });
 }
 
-void DialogFeelTest::picturesAreThere_data()
+void DialogFeelTest::picturesAreLoadedAndSharp_data()
 {
     rows(false);
 }
 
-void DialogFeelTest::picturesAreThere()
+void DialogFeelTest::picturesAreLoadedAndSharp()
 {
     look(missingPictures);
 }

@@ -1,4 +1,4 @@
-// Goes through modal dialogs as a user does: waits until the next one is on the screen, looks, and answers.
+// Goes through modal dialogs as a user does: waits until the next one is visible, then answers it.
 #pragma once
 
 #include <QApplication>
@@ -11,8 +11,8 @@
 #include <functional>
 #include <vector>
 
-/// Answers the dialogs that come up while it lives, each with the next of its answers. A dialog that nobody
-/// expected, or that an answer left open, is rejected: the test sees it in what was seen.
+/// Answers the dialogs that appear during its lifetime, each with the next of its answers. A dialog that is
+/// unexpected, or that its answer left open, is rejected; seen() marks it.
 class DialogWalk : public QObject
 {
 public:
@@ -24,7 +24,7 @@ public:
         m_timer.start(5);
     }
 
-    /// The object names of the dialogs so far; one that was left open is marked.
+    /// The object names of the dialogs so far. " (left open)" follows the name of a rejected one.
     const QStringList& seen() const
     {
         return m_seen;
@@ -58,7 +58,7 @@ private:
 
 Q_DECLARE_METATYPE(DialogWalk::Answer)
 
-/// Presses the button of that name.
+/// Clicks the button with this object name.
 inline DialogWalk::Answer click(const char* button)
 {
     return [button](QDialog& dialog) {

@@ -1,4 +1,5 @@
-// The start with a publisher's name, inside a test: which dialog comes up, and which event loop it ends.
+// Starting with a publisher's name, called in the test's own process: which dialog appears, and which event
+// loop it ends.
 #include "Boxes.h"
 #include "DirectStart.h"
 #include "Installation.h"
@@ -14,8 +15,8 @@
 
 namespace {
 
-/// Removes a setting file at the moment when the busy indicator is made: the publisher's name has been read
-/// by then, and its record has not.
+/// Removes a setting file when the busy indicator is created. At that moment the publisher's name has been
+/// read, but not its record.
 class RemoveBehindTheIndicator : public QObject
 {
 public:
@@ -53,15 +54,15 @@ private slots:
     void init();
     void cleanup();
 
-    void showsThePropertiesAlone();
+    void showsOnlyTheProperties();
     void closingEndsTheEventLoop();
-    void resultIsThatOfTheEventLoop();
-    void nameHasToBeExact_data();
-    void nameHasToBeExact();
-    void firstOfOneNameWins();
-    void nextOfOneNameWhenTheFirstCannotBeRead();
-    void nothingWhenNoneCanBeRead();
-    void warnsWithoutEndingTheProgram();
+    void returnsTheExitCodeOfTheEventLoop();
+    void nameMustMatchExactly_data();
+    void nameMustMatchExactly();
+    void firstPublisherOfTheNameIsShown();
+    void nextOfTheNameWhenTheFirstIsUnreadable();
+    void returnsNothingWhenNoneIsReadable();
+    void warningDoesNotEndTheEventLoop();
 
 private:
     Installation m_installation;
@@ -80,7 +81,7 @@ void DirectStartDialogTest::cleanup()
     QCOMPARE(shownWindow<QWidget>(), nullptr);
 }
 
-void DirectStartDialogTest::showsThePropertiesAlone()
+void DirectStartDialogTest::showsOnlyTheProperties()
 {
     m_installation.addLocal("a", "Studio A");
     bool modal = true, list = true;
@@ -110,26 +111,26 @@ void DirectStartDialogTest::closingEndsTheEventLoop()
     QVERIFY(dialog.seen());
 }
 
-void DirectStartDialogTest::resultIsThatOfTheEventLoop()
+void DirectStartDialogTest::returnsTheExitCodeOfTheEventLoop()
 {
     m_installation.addLocal("a", "Studio A");
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx&) { QCoreApplication::exit(7); });
     QCOMPARE(startWithPublisher("Studio A"), std::optional<int>(7));
-    QCOMPARE(shownWindow<propertyDialogEx>(), nullptr); // gone with the call
+    QCOMPARE(shownWindow<propertyDialogEx>(), nullptr); // destroyed when the call returns
 }
 
-void DirectStartDialogTest::nameHasToBeExact_data()
+void DirectStartDialogTest::nameMustMatchExactly_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("other case") << QByteArray("studio a");
-    QTest::newRow("part of it") << QByteArray("Studio");
-    QTest::newRow("more than it") << QByteArray("Studio A ");
+    QTest::newRow("prefix") << QByteArray("Studio");
+    QTest::newRow("trailing blank") << QByteArray("Studio A ");
     QTest::newRow("registered identifier") << QByteArray("a");
     QTest::newRow("empty") << QByteArray("");
     QTest::newRow("environment") << QByteArray("-envFOO=bar");
 }
 
-void DirectStartDialogTest::nameHasToBeExact()
+void DirectStartDialogTest::nameMustMatchExactly()
 {
     QFETCH(QByteArray, name);
     m_installation.addLocal("a", "Studio A");
@@ -140,7 +141,7 @@ void DirectStartDialogTest::nameHasToBeExact()
     QCOMPARE(m_service->count("18 a"), 0);
 }
 
-void DirectStartDialogTest::firstOfOneNameWins()
+void DirectStartDialogTest::firstPublisherOfTheNameIsShown()
 {
     m_installation.addLocal("a", "Twin");
     m_installation.addLocal("b", "Twin");
@@ -158,7 +159,7 @@ void DirectStartDialogTest::firstOfOneNameWins()
     QCOMPARE(m_service->count("18 " + ids[1]), 0);
 }
 
-void DirectStartDialogTest::nextOfOneNameWhenTheFirstCannotBeRead()
+void DirectStartDialogTest::nextOfTheNameWhenTheFirstIsUnreadable()
 {
     m_installation.addLocal("a", "Twin");
     m_installation.addLocal("b", "Twin");
@@ -174,7 +175,7 @@ void DirectStartDialogTest::nextOfOneNameWhenTheFirstCannotBeRead()
     QCOMPARE(m_service->count("18 " + ids[1]), 1);
 }
 
-void DirectStartDialogTest::nothingWhenNoneCanBeRead()
+void DirectStartDialogTest::returnsNothingWhenNoneIsReadable()
 {
     m_installation.addLocal("a", "Studio A");
     const RemoveBehindTheIndicator removal("a");
@@ -184,10 +185,10 @@ void DirectStartDialogTest::nothingWhenNoneCanBeRead()
     QVERIFY(boxes.seen().empty());
 }
 
-void DirectStartDialogTest::warnsWithoutEndingTheProgram()
+void DirectStartDialogTest::warningDoesNotEndTheEventLoop()
 {
-    // Neither the indicator nor the warning, each the only window while it stands, may end the event loop
-    // that begins behind them.
+    // The indicator and the warning are each the only visible window for a time. Closing them must not end
+    // the event loop that starts afterwards.
     m_service.reset();
     m_installation.addLocal("a", "Studio A");
     QWidget other;

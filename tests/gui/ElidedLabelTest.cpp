@@ -1,4 +1,4 @@
-// The label for texts of any length and content.
+// The label for texts of any length and any content.
 #include "ElidedLabel.h"
 
 #include <QHelpEvent>
@@ -12,17 +12,17 @@ class ElidedLabelTest : public QObject
 private slots:
     void init();
 
-    void asksForTheWidthOfItsText();
-    void asksForALimitedWidthHoweverLongTheText();
-    void asksForOneLineHoweverManyTheTextHas_data();
-    void asksForOneLineHoweverManyTheTextHas();
-    void canBeSqueezed();
+    void sizeHintFitsTheText();
+    void sizeHintWidthIsLimited();
+    void sizeHintIsOneLineHigh_data();
+    void sizeHintIsOneLineHigh();
+    void minimumWidthIsZero();
     void keepsTheWholeText();
-    void elidesWhatDoesNotFit();
-    void showsMarkupAsItIs();
-    void tellsTheRestInItsToolTip();
-    void needsNoToolTipForATextThatFits();
-    void drawsAHugeTextInNoTime();
+    void elidesLongText();
+    void showsMarkupAsPlainText();
+    void toolTipShowsTheWholeText();
+    void noToolTipWhenTheTextFits();
+    void drawingTimeIsIndependentOfTheLength();
 
 private:
     void askForToolTip();
@@ -39,13 +39,13 @@ void ElidedLabelTest::init()
     QTRY_VERIFY(!QToolTip::isVisible());
 }
 
-void ElidedLabelTest::asksForTheWidthOfItsText()
+void ElidedLabelTest::sizeHintFitsTheText()
 {
     m_label.setText("RT-DRIVE 1.02");
     QVERIFY(m_label.sizeHint().width() >= m_label.fontMetrics().horizontalAdvance("RT-DRIVE 1.02"));
 }
 
-void ElidedLabelTest::asksForALimitedWidthHoweverLongTheText()
+void ElidedLabelTest::sizeHintWidthIsLimited()
 {
     m_label.setText(QString(100, 'W'));
     const int width = m_label.sizeHint().width();
@@ -54,7 +54,7 @@ void ElidedLabelTest::asksForALimitedWidthHoweverLongTheText()
     QCOMPARE(m_label.sizeHint().width(), width);
 }
 
-void ElidedLabelTest::asksForOneLineHoweverManyTheTextHas_data()
+void ElidedLabelTest::sizeHintIsOneLineHigh_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("line feed") << "1.0\n2.0";
@@ -62,10 +62,10 @@ void ElidedLabelTest::asksForOneLineHoweverManyTheTextHas_data()
     QTest::newRow("line separator") << QString("1.0") + QChar(QChar::LineSeparator) + "2.0";
     QTest::newRow("paragraph separator") << QString("1.0") + QChar(QChar::ParagraphSeparator) + "2.0";
     QTest::newRow("form feed") << "1.0\f2.0";
-    QTest::newRow("nothing but line feeds") << QString(1000, '\n');
+    QTest::newRow("only line feeds") << QString(1000, '\n');
 }
 
-void ElidedLabelTest::asksForOneLineHoweverManyTheTextHas()
+void ElidedLabelTest::sizeHintIsOneLineHigh()
 {
     QFETCH(QString, text);
     const int oneLine = m_label.sizeHint().height();
@@ -74,7 +74,7 @@ void ElidedLabelTest::asksForOneLineHoweverManyTheTextHas()
     QCOMPARE(m_label.minimumSizeHint().height(), oneLine);
 }
 
-void ElidedLabelTest::canBeSqueezed()
+void ElidedLabelTest::minimumWidthIsZero()
 {
     m_label.setText(QString(100, 'W'));
     QCOMPARE(m_label.minimumSizeHint().width(), 0);
@@ -87,7 +87,7 @@ void ElidedLabelTest::keepsTheWholeText()
     QCOMPARE(m_label.text(), text);
 }
 
-void ElidedLabelTest::elidesWhatDoesNotFit()
+void ElidedLabelTest::elidesLongText()
 {
     m_label.setText(QString(60, 'W'));
     const QImage image = m_label.grab().toImage();
@@ -97,7 +97,7 @@ void ElidedLabelTest::elidesWhatDoesNotFit()
     QVERIFY(m_label.grab().toImage() != image);
 }
 
-void ElidedLabelTest::showsMarkupAsItIs()
+void ElidedLabelTest::showsMarkupAsPlainText()
 {
     QCOMPARE(m_label.textFormat(), Qt::PlainText);
     m_label.setText("<b>x</b>");
@@ -113,7 +113,7 @@ void ElidedLabelTest::askForToolTip()
     QCoreApplication::sendEvent(&m_label, &question);
 }
 
-void ElidedLabelTest::tellsTheRestInItsToolTip()
+void ElidedLabelTest::toolTipShowsTheWholeText()
 {
     m_label.setText(QString(60, 'W') + "<b>");
     askForToolTip();
@@ -121,20 +121,20 @@ void ElidedLabelTest::tellsTheRestInItsToolTip()
     QCOMPARE(QToolTip::text(), "<span>" + QString(60, 'W') + "&lt;b&gt;</span>");
 }
 
-void ElidedLabelTest::needsNoToolTipForATextThatFits()
+void ElidedLabelTest::noToolTipWhenTheTextFits()
 {
     m_label.setText("1.02");
     askForToolTip();
     QVERIFY(!QToolTip::isVisible());
 }
 
-void ElidedLabelTest::drawsAHugeTextInNoTime()
+void ElidedLabelTest::drawingTimeIsIndependentOfTheLength()
 {
     m_label.setText(QString(10000, 'W'));
     QElapsedTimer timer;
     timer.start();
     m_label.grab();
-    const qint64 some = timer.nsecsElapsed() + 1000000; // the floor keeps a slow moment from deciding
+    const qint64 some = timer.nsecsElapsed() + 1000000; // 1 ms more, so that a short delay does not decide
     m_label.setText(QString(10000000, 'W'));
     timer.restart();
     m_label.grab();

@@ -1,5 +1,5 @@
-// A test program ends as the program does: static objects are destroyed after the last task of the thread
-// pool.
+// Makes a test program end as the product does: static objects are destroyed only after the last task of the
+// thread pool has ended.
 #include "MyRunnable.h"
 
 #include <QCoreApplication>

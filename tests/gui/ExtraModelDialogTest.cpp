@@ -1,4 +1,4 @@
-// A row added to the table of models is all that the windows need to set up a new model.
+// The windows need only a row in the table of models to support a new model.
 #include "ExtraModel.h"
 #include "PropertyService.h"
 
@@ -13,7 +13,7 @@ private slots:
     void cleanup();
 
     void isListedByItsName();
-    void isShownAsItsFamily();
+    void propertiesFollowItsRow();
     void savesItsSettings();
 
 private:
@@ -35,7 +35,7 @@ void ExtraModelDialogTest::isListedByItsName()
     QCOMPARE(window.treePublisherList->topLevelItem(0)->text(1), "RT-31 (BD-XL)");
 }
 
-void ExtraModelDialogTest::isShownAsItsFamily()
+void ExtraModelDialogTest::propertiesFollowItsRow()
 {
     m_stage.storeAndOpen(EXTRA_MODEL, {.mode = 1});
     QCOMPARE(m_stage->windowTitle(), "Properties - Studio(RT-31 (BD-XL))");
@@ -50,7 +50,7 @@ void ExtraModelDialogTest::isShownAsItsFamily()
 void ExtraModelDialogTest::savesItsSettings()
 {
     m_stage.store(EXTRA_MODEL, {.useDrive = 1});
-    PropertyService service("RT-30II BDXL"); // registers the device as one of its own models
+    PropertyService service("RT-30II BDXL"); // registers the device as one of the simulator's models
     m_stage.installation().setDevice("{X}", EXTRA_MODEL, true);
     m_stage.open();
     QCOMPARE(m_stage->windowTitle(), "Properties - Studio(RT-31 (BD-XL))");

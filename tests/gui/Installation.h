@@ -1,4 +1,4 @@
-// The installation as the window finds it: setting files and device keys, in the sandbox's own "/opt".
+// The installation that the windows read: setting files and device keys below the sandbox's own "/opt".
 #pragma once
 
 #include "InstallPaths.h"
@@ -14,7 +14,7 @@
 class Installation
 {
 public:
-    /// Starts with an empty setting folder and no devices.
+    /// Deletes the old installation and starts with an empty setting folder and no devices.
     Installation()
     {
         std::filesystem::remove_all(INSTALL_DIR);
@@ -27,7 +27,7 @@ public:
         return std::string(PUBLISHER_SETTING_DIR) + "/" + id + ".ini";
     }
 
-    /// A local publisher with a device of its own, which bears the GUID "{id}".
+    /// Adds a local publisher and its device, whose GUID is "{id}".
     void addLocal(const std::string& id, const std::string& name, uint32_t dpType = 0x20000009,
                   bool attached = true)
     {

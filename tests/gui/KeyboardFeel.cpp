@@ -22,9 +22,10 @@
 
 namespace {
 
-constexpr int longestRound = 60; // tab stops; no window has as many
+constexpr int longestRound = 60; // tab stops; no window has that many
 
-/// What a screen reader calls it. The title of a group, which the toolkit falls back on, names the group.
+/// The accessible name. Qt falls back on the title of the surrounding group box, which does not name the
+/// widget itself: empty in that case.
 QString spokenName(QWidget* widget)
 {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
@@ -40,7 +41,7 @@ bool isPicture(const QWidget* widget)
     return qobject_cast<const QGraphicsView*>(widget) || (label && !pictureOf(*label).isNull());
 }
 
-/// Whether a click or a key can give it the keyboard. Parts of a composed widget hand it on.
+/// Whether a click or a key can focus the widget. Parts of a composite widget have a focus proxy.
 bool takesFocus(const QWidget* widget)
 {
     return widget->focusPolicy() != Qt::NoFocus && !widget->focusProxy() &&
@@ -52,14 +53,14 @@ bool isTabStop(const QWidget* widget)
     return takesFocus(widget) && (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled();
 }
 
-/// A control that says nothing of itself: it needs a text beside it.
+/// A control without a text of its own, which needs a label.
 bool isField(const QWidget* widget)
 {
     return qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
            qobject_cast<const QLineEdit*>(widget);
 }
 
-/// The text that stands closest to the left of the field, in its line; null without one.
+/// The closest label to the left of the field, on the same line; null without one.
 const QLabel* labelAhead(const QWidget& window, const QWidget* field)
 {
     const QRect place = placeOf(field);
@@ -75,7 +76,7 @@ const QLabel* labelAhead(const QWidget& window, const QWidget* field)
     return closest;
 }
 
-/// Collects who is reached by which letter, and tells when a letter is taken.
+/// Collects mnemonics and reports each letter that is already taken.
 class Letters
 {
 public:
@@ -104,7 +105,7 @@ private:
     QHash<QString, QString> m_taken;
 };
 
-/// Whether a reader who has read `one` reads `next` after it.
+/// Whether `next` follows `one` in reading order.
 bool readsOn(const QRect& one, const QRect& next)
 {
     if (next.bottom() < one.top()) {
@@ -114,7 +115,7 @@ bool readsOn(const QRect& one, const QRect& next)
     return !sameLine || next.left() >= one.left();
 }
 
-/// The tab stops, from the one that has the keyboard, until it comes round.
+/// The tab stops in the order of Tab, starting with the focused one, until one repeats.
 QList<QWidget*> roundOfTabs(QWidget& window)
 {
     QList<QWidget*> round;
@@ -236,7 +237,7 @@ QStringList tabOrderBreaks(QWidget& window)
                 jumps << QString("%1 to %2").arg(nameOf(round[i]), nameOf(next));
             }
         }
-        if (jumps.size() > 1) { // one leads from the end to the beginning
+        if (jumps.size() > 1) { // the one jump allowed is from the last stop to the first
             findings << QString("back from %1, in: %2").arg(jumps.join(", from "), order.join(", "));
         }
     });

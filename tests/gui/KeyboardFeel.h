@@ -1,5 +1,5 @@
-// What is wrong with a window for somebody who has no mouse, or cannot see it. Each function looks at every
-// page and gives one line for each finding; none when all is well.
+// Checks that a window is usable without a mouse and with a screen reader. Each check returns one line for
+// each finding, over all pages unless it concerns the initial state only.
 #pragma once
 
 #include <QStringList>
@@ -7,13 +7,14 @@
 
 /// Controls and pictures that a screen reader cannot name.
 QStringList namelessParts(QWidget& window);
-/// Labels that stand ahead of a control and do not lead to it, and those that lead to nothing.
+/// Labels to the left of a field that are not its buddy, and labels whose buddy takes no focus.
 QStringList labelsThatLeadNowhere(QWidget& window);
-/// Letters that two texts of one page, or of one menu, are reached by.
+/// Mnemonics that two texts of one page or of one menu share.
 QStringList mnemonicClashes(QWidget& window);
-/// The window opens with the keyboard at a place where nothing can be done.
+/// A window that opens without a useful focus: on nothing, on a widget that Tab does not reach, on a button
+/// that is not the default, or on the tabs.
 QStringList badFirstFocus(QWidget& window);
-/// Controls that the tab key does not reach, or reaches against the order of reading. Types into the window.
+/// Controls that Tab does not reach, or reaches out of reading order. Sends key events to the window.
 QStringList tabOrderBreaks(QWidget& window);
-/// Not exactly one button answers to Enter.
+/// A window with no default button, or with more than one.
 QStringList badDefaultButton(QWidget& window);

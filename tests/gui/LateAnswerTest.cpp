@@ -1,4 +1,4 @@
-// Closing the window while the service is asked, and answers that come when there is no window any more.
+// Closing the window during a query, and replies that arrive after the window is destroyed.
 #include "Installation.h"
 #include "LocalRoom.h"
 #include "MyRunnable.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds lateness(1500); // long enough for the window to have begun to close
+constexpr std::chrono::milliseconds lateness(1500); // the window has begun to close by then
 
 } // namespace
 
@@ -26,10 +26,10 @@ class LateAnswerTest : public QObject
 private slots:
     void init();
 
-    void taskThatRunsOutOfMemoryEndsAlone();
-    void closingWaitsForTheAnswer();
-    void closingStopsAskingTheOthers();
-    void answerAfterTheWindowIsGone();
+    void outOfMemoryEndsOnlyThatTask();
+    void closingWaitsForTheReply();
+    void closingSkipsTheRemainingQueries();
+    void replyAfterTheWindowIsDestroyed();
 
 private:
     Installation m_installation;
@@ -40,7 +40,7 @@ void LateAnswerTest::init()
     m_installation = Installation();
 }
 
-void LateAnswerTest::taskThatRunsOutOfMemoryEndsAlone()
+void LateAnswerTest::outOfMemoryEndsOnlyThatTask()
 {
     std::atomic<bool> nextHasRun = false;
     QThreadPool::globalInstance()->start(new MyRunnable([] { throw std::bad_alloc(); }));
@@ -49,7 +49,7 @@ void LateAnswerTest::taskThatRunsOutOfMemoryEndsAlone()
     QVERIFY(nextHasRun);
 }
 
-void LateAnswerTest::closingWaitsForTheAnswer()
+void LateAnswerTest::closingWaitsForTheReply()
 {
     LocalRoom service({"a", "b"});
     service.hold("a");
@@ -59,7 +59,7 @@ void LateAnswerTest::closingWaitsForTheAnswer()
     QVERIFY(service.waitFor("22 a", 1));
     std::atomic<bool> answered = false;
     std::thread answer([&] {
-        std::this_thread::sleep_for(lateness); // house-rule: sleeps: the answer is to be late
+        std::this_thread::sleep_for(lateness); // house-rule: sleeps: the reply must be late
         answered = true;
         service.release("a");
     });
@@ -73,7 +73,7 @@ void LateAnswerTest::closingWaitsForTheAnswer()
     QCoreApplication::processEvents();
 }
 
-void LateAnswerTest::closingStopsAskingTheOthers()
+void LateAnswerTest::closingSkipsTheRemainingQueries()
 {
     LocalRoom service({"a", "b"});
     m_installation.addLocal("a", "A");
@@ -81,9 +81,9 @@ void LateAnswerTest::closingStopsAskingTheOthers()
     service.hold("a");
     service.hold("b");
     auto window = std::make_unique<PubSetup>(nullptr);
-    QTRY_COMPARE(service.count("22 a") + service.count("22 b"), 1); // whichever the folder names first
+    QTRY_COMPARE(service.count("22 a") + service.count("22 b"), 1); // the folder's order decides which
     std::thread answer([&] {
-        std::this_thread::sleep_for(lateness); // house-rule: sleeps: the answer is to be late
+        std::this_thread::sleep_for(lateness); // house-rule: sleeps: the reply must be late
         service.release("a");
         service.release("b");
     });
@@ -93,7 +93,7 @@ void LateAnswerTest::closingStopsAskingTheOthers()
     QCOMPARE(service.count("22 a") + service.count("22 b"), 1);
 }
 
-void LateAnswerTest::answerAfterTheWindowIsGone()
+void LateAnswerTest::replyAfterTheWindowIsDestroyed()
 {
     LocalRoom service({"a", "b"});
     service.hold("a");
@@ -106,7 +106,7 @@ void LateAnswerTest::answerAfterTheWindowIsGone()
     window.reset();
     const qint64 waited = time.elapsed();
     QVERIFY2(waited >= 9900 && waited < 15000, qPrintable(QString::number(waited)));
-    QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 1); // it still hangs
+    QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 1); // the query still hangs
     service.release("a");
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();

@@ -1,4 +1,5 @@
-// The line below the name fields: when it shows, what it says, and that the windows make room for it.
+// The note below the name fields: when it is visible, its text, and the space that the windows reserve for
+// it.
 #include "AddPublisherFixture.h"
 #include "PropertyService.h"
 
@@ -15,16 +16,17 @@ private slots:
 
     void registrationNotesTheName_data();
     void registrationNotesTheName();
-    void registrationSaysWhatTheListShows();
-    void registrationMakesRoom();
+    void registrationNoteMatchesTheList();
+    void registrationGrowsForTheNote();
     void propertiesNoteTheName_data();
     void propertiesNoteTheName();
-    void propertiesMakeRoom();
-    void aLongNameDoesNotWidenTheWindow();
+    void propertiesGrowForTheNote();
+    void longNameDoesNotWidenTheWindow();
 
 private:
     static void rows();
-    /// The line as a user sees it and a screen reader reads it; "(hidden)" without one.
+    /// The text of the note; "(hidden)" without one. Marked if the note is misplaced, or differs from the
+    /// accessible description.
     static QString noteOf(const QDialog& dialog);
 };
 
@@ -75,8 +77,8 @@ QString ListedNameNoteTest::noteOf(const QDialog& dialog)
 void ListedNameNoteTest::registrationNotesTheName_data()
 {
     rows();
-    QTest::newRow("nothing") << ""
-                             << "It will be listed as \"NotSet\".";
+    QTest::newRow("empty") << ""
+                           << "It will be listed as \"NotSet\".";
 }
 
 void ListedNameNoteTest::registrationNotesTheName()
@@ -91,7 +93,7 @@ void ListedNameNoteTest::registrationNotesTheName()
     QCOMPARE(noteOf(*m_dialog), "(hidden)");
 }
 
-void ListedNameNoteTest::registrationSaysWhatTheListShows()
+void ListedNameNoteTest::registrationNoteMatchesTheList()
 {
     open();
     enter(server, QString::fromUtf8("Büro; 3"));
@@ -103,8 +105,8 @@ void ListedNameNoteTest::registrationSaysWhatTheListShows()
     QCOMPARE(window.treePublisherList->topLevelItem(0)->text(0), "Bro");
 }
 
-/// The window grows with the first line and then stays as it is.
-void ListedNameNoteTest::registrationMakesRoom()
+/// The window grows when the note appears for the first time, then keeps its size.
+void ListedNameNoteTest::registrationGrowsForTheNote()
 {
     open();
     const QSize before = m_dialog->size();
@@ -127,8 +129,8 @@ void ListedNameNoteTest::registrationMakesRoom()
 void ListedNameNoteTest::propertiesNoteTheName_data()
 {
     rows();
-    QTest::newRow("nothing, which is refused") << ""
-                                               << "(hidden)";
+    QTest::newRow("empty, which is rejected") << ""
+                                              << "(hidden)";
 }
 
 void ListedNameNoteTest::propertiesNoteTheName()
@@ -147,7 +149,7 @@ void ListedNameNoteTest::propertiesNoteTheName()
     QCOMPARE(noteOf(*stage.dialog()), "(hidden)");
 }
 
-void ListedNameNoteTest::propertiesMakeRoom()
+void ListedNameNoteTest::propertiesGrowForTheNote()
 {
     PropertyStage stage;
     stage.storeAndOpen(rt300xl);
@@ -166,7 +168,7 @@ void ListedNameNoteTest::propertiesMakeRoom()
     }
 }
 
-void ListedNameNoteTest::aLongNameDoesNotWidenTheWindow()
+void ListedNameNoteTest::longNameDoesNotWidenTheWindow()
 {
     open();
     const int width = m_dialog->width();

@@ -1,4 +1,4 @@
-// The simulated control service with the devices of local publishers, and what it was asked.
+// The simulated control service with the devices of local publishers, and the requests that it received.
 #pragma once
 
 #include "Room.h"
@@ -13,12 +13,12 @@
 #include <string>
 #include <vector>
 
-/// Simulated time stands still. Setting files are the test's own (see Installation).
+/// Simulated time does not advance. The test creates the setting files itself (see Installation).
 class LocalRoom
 {
 public:
-    /// One device with the GUID "{id}" and the scenario name "id" for each regist id. Stops the test program
-    /// when the service cannot be started.
+    /// Creates one device for each regist id, with the GUID "{id}" and the id as its name in the scenario.
+    /// Aborts the test program if the service does not start.
     explicit LocalRoom(const std::vector<std::string>& ids)
     {
         std::string text;
@@ -53,14 +53,14 @@ public:
         return m_room.get();
     }
 
-    /// From here on the first request for this publisher is read and waits for release(), and all requests
-    /// behind it wait as well.
+    /// The service reads the next request for this publisher, but does not answer it before release(). All
+    /// later requests wait as well, because the service has one thread.
     void hold(const std::string& id)
     {
         const std::lock_guard lock(m_mutex);
         m_held.insert(id);
     }
-    /// Answers what waits, and what follows.
+    /// Answers the waiting request and all later ones.
     void release(const std::string& id)
     {
         {
@@ -70,7 +70,8 @@ public:
         m_changed.notify_all();
     }
 
-    /// Requests so far, as "control id". One that waits for release() counts.
+    /// The number of requests so far. `request` is the control id and the publisher, as in "22 a". A request
+    /// that waits for release() counts.
     int count(const std::string& request)
     {
         const std::lock_guard lock(m_mutex);
@@ -83,7 +84,7 @@ public:
     }
 
 private:
-    /// On the service's thread, before it answers.
+    /// Called on the service's thread before the reply.
     void take(const udsim::Request& request)
     {
         std::unique_lock lock(m_mutex);
@@ -96,5 +97,5 @@ private:
     std::condition_variable m_changed;
     std::map<std::string, int> m_counts;
     std::set<std::string> m_held;
-    std::unique_ptr<udsim::Room> m_room; ///< last: its thread uses the others
+    std::unique_ptr<udsim::Room> m_room; ///< last: its thread uses the other members
 };

@@ -1,5 +1,5 @@
-// Collecting the logs, as a user does it: the question, the name of the archive, the wait, the report. Each
-// run that gets as far as the archive takes ten seconds.
+// Collecting the logs as a user does: the question, the file dialog, the wait and the final message. Each run
+// that reaches the archive takes ten seconds.
 #include "Boxes.h"
 #include "Installation.h"
 #include "MyRunnable.h"
@@ -21,17 +21,18 @@ private slots:
     void init();
     void cleanup();
 
-    void asksFirst();
-    void otherAnswersEndIt_data();
-    void otherAnswersEndIt();
-    void noNameEndsItInSilence();
-    void dialogStartsInTheHomeOfTheCaller();
-    void packsWhatWasThereBeforeTheWait();
+    void asksForConfirmation();
+    void otherAnswersCancel_data();
+    void otherAnswersCancel();
+    void cancelledFileDialogEndsSilently();
+    void fileDialogStartsInTheCallersHome();
+    void packsOnlyLogsFromBeforeTheWait();
     void quoteInTheFolderIsReported();
     void missingTarIsReported();
 
 private:
-    /// Says what the last box said. A `folder` is gone to before the archive's name is typed.
+    /// Returns the last box. If `folder` is given, the file dialog opens it before the archive's name is
+    /// typed.
     SeenBox collectInto(const QString& archive, const QString& folder = {});
 
     Installation m_installation;
@@ -41,7 +42,7 @@ private:
 
 namespace {
 
-/// Types a name into the file dialog and presses its button.
+/// Types a name into the file dialog and presses Enter.
 void save(QFileDialog& dialog, const QString& name)
 {
     QTest::keyClick(typePath(dialog, name), Qt::Key_Enter);
@@ -92,7 +93,7 @@ SeenBox LogCollectionTest::collectInto(const QString& archive, const QString& fo
     return boxes.seen().size() == 2 ? boxes.seen()[1] : SeenBox{};
 }
 
-void LogCollectionTest::asksFirst()
+void LogCollectionTest::asksForConfirmation()
 {
     Boxes boxes({QMessageBox::No});
     m_window->collectAndSaveLogs->trigger();
@@ -108,14 +109,14 @@ void LogCollectionTest::asksFirst()
     QCOMPARE(box.defaultButton, nullptr);
 }
 
-void LogCollectionTest::otherAnswersEndIt_data()
+void LogCollectionTest::otherAnswersCancel_data()
 {
     QTest::addColumn<bool>("escape");
     QTest::newRow("No") << false;
     QTest::newRow("Escape") << true;
 }
 
-void LogCollectionTest::otherAnswersEndIt()
+void LogCollectionTest::otherAnswersCancel()
 {
     QFETCH(bool, escape);
     Boxes boxes({QMessageBox::No});
@@ -128,7 +129,7 @@ void LogCollectionTest::otherAnswersEndIt()
     QVERIFY(!dialog.seen());
 }
 
-void LogCollectionTest::noNameEndsItInSilence()
+void LogCollectionTest::cancelledFileDialogEndsSilently()
 {
     Boxes boxes({QMessageBox::Yes});
     WhenShown<QFileDialog> dialog([](QFileDialog& shown) { shown.reject(); });
@@ -140,7 +141,7 @@ void LogCollectionTest::noNameEndsItInSilence()
     QVERIFY2(time.elapsed() < 9000, "nothing is collected");
 }
 
-void LogCollectionTest::dialogStartsInTheHomeOfTheCaller()
+void LogCollectionTest::fileDialogStartsInTheCallersHome()
 {
     Boxes boxes({QMessageBox::Yes});
     QString title, folder, suffix;
@@ -166,9 +167,10 @@ void LogCollectionTest::dialogStartsInTheHomeOfTheCaller()
     QCOMPARE(mode, QFileDialog::AcceptSave);
 }
 
-void LogCollectionTest::packsWhatWasThereBeforeTheWait()
+void LogCollectionTest::packsOnlyLogsFromBeforeTheWait()
 {
-    // Another log comes up during the wait: not in the list. The name has blanks, and no suffix is added.
+    // A log that appears during the wait is not packed. The archive's name contains blanks and gets no
+    // suffix.
     bool indicator = false;
     WhenShown<QProgressDialog> busy([&](QProgressDialog& shown) {
         indicator = shown.parentWidget() == m_window.get();
@@ -190,7 +192,8 @@ void LogCollectionTest::packsWhatWasThereBeforeTheWait()
 
 void LogCollectionTest::quoteInTheFolderIsReported()
 {
-    // It opens a quotation that swallows the log files: tar refuses to make an empty archive.
+    // The quote in the folder ends the quoted archive name. The rest of the command line, with the log files,
+    // becomes one argument, and tar finds no such file.
     std::filesystem::create_directory("/tmp/12\" discs");
     const SeenBox box = collectInto("a.tgz", "/tmp/12\" discs");
     QCOMPARE(box.title, "ARVEN Ulmar Disc Setup");

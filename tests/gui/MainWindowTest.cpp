@@ -1,4 +1,4 @@
-// The window as it stands when it opens: widgets, actions, texts, enablement, images.
+// The initial state of the main window: widgets, actions, texts, enabled states and images.
 #include "Boxes.h"
 #include "Installation.h"
 #include "PubSetup.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int rightCentre = 0x0082; // Qt::AlignRight and Qt::AlignVCenter
+constexpr int rightCentre = 0x0082; // Qt::AlignRight | Qt::AlignVCenter
 
 } // namespace
 
@@ -30,30 +30,30 @@ private slots:
     void init();
     void cleanup();
 
-    void standsInTheMiddleOfTheScreen();
-    void hasItsTitleAndImage();
+    void isCentredOnTheScreen();
+    void hasItsTitleAndIcon();
     void listHasItsColumns();
-    void listBehavesAsAList();
-    void menusHoldTheirActions();
+    void listIsFlatAndSortable();
+    void menusHaveTheirActions();
     void actionsHaveTheirTextsAndImages();
-    void toolBarHoldsThreeActions();
-    void noRightClickHidesTheToolBar();
-    void contextMenuHoldsRemoveAndProperties();
+    void toolBarHasThreeActions();
+    void rightClickDoesNotHideTheToolBar();
+    void contextMenuHasRemoveAndProperties();
     void mnemonicsAreUnique();
     void widgetsHaveAccessibleNames();
     void imagesExistInEverySize();
     void emptyListLeavesSelectionActionsDisabled();
     void emptyListHasANote();
-    void noteOfTheEmptyListStaysInTheMiddle();
-    void noteOfTheEmptyListTakesNoClicks();
-    void someActionsAreForRootAlone();
-    void actionsForEverybodyAreEnabled();
+    void noteOfTheEmptyListStaysCentred();
+    void noteOfTheEmptyListIgnoresClicks();
+    void someActionsRequireRoot();
+    void otherActionsAreEnabled();
     void pollTimerRuns();
-    void slotsStandInOrder();
+    void signalsAndSlotsAreDeclaredInOrder();
     void exitClosesTheWindow();
     void aboutBoxShowsTheProgram();
     void publishModeWarningHasItsText();
-    void publishModeWarningNeedsNoWindow();
+    void publishModeWarningNeedsNoParent();
 
 private:
     QStringList textsOf(const QList<QAction*>& actions);
@@ -84,7 +84,7 @@ QStringList MainWindowTest::textsOf(const QList<QAction*>& actions)
     return texts;
 }
 
-void MainWindowTest::standsInTheMiddleOfTheScreen()
+void MainWindowTest::isCentredOnTheScreen()
 {
     QCOMPARE(m_window->size(), QSize(800, 300));
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
@@ -93,7 +93,7 @@ void MainWindowTest::standsInTheMiddleOfTheScreen()
              qPrintable(QString("%1 %2").arg(distance.x()).arg(distance.y())));
 }
 
-void MainWindowTest::hasItsTitleAndImage()
+void MainWindowTest::hasItsTitleAndIcon()
 {
     QCOMPARE(m_window->windowTitle(), "ARVEN Ulmar Disc Setup");
     QVERIFY(!m_window->windowIcon().isNull());
@@ -120,7 +120,7 @@ void MainWindowTest::listHasItsColumns()
     for (int i = 0; i < 7; ++i) {
         QCOMPARE(tree->headerItem()->text(i), columns[i].header);
         QCOMPARE(tree->headerItem()->textAlignment(i) == rightCentre, columns[i].right);
-        if (i < 6) { // the last one takes the rest of the width
+        if (i < 6) { // the last column stretches
             QCOMPARE(tree->header()->sectionSize(i), columns[i].width);
         }
     }
@@ -129,7 +129,7 @@ void MainWindowTest::listHasItsColumns()
     QCOMPARE(tree->header()->sortIndicatorOrder(), Qt::AscendingOrder);
 }
 
-void MainWindowTest::listBehavesAsAList()
+void MainWindowTest::listIsFlatAndSortable()
 {
     const QTreeWidget* tree = m_window->treePublisherList;
     QCOMPARE(tree->selectionMode(), QAbstractItemView::ExtendedSelection);
@@ -138,7 +138,7 @@ void MainWindowTest::listBehavesAsAList()
     QCOMPARE(tree->topLevelItemCount(), 0);
 }
 
-void MainWindowTest::menusHoldTheirActions()
+void MainWindowTest::menusHaveTheirActions()
 {
     auto menubar = m_window->findChild<QMenuBar*>("menubar");
     QVERIFY(menubar);
@@ -193,7 +193,7 @@ void MainWindowTest::actionsHaveTheirTextsAndImages()
     }
 }
 
-void MainWindowTest::toolBarHoldsThreeActions()
+void MainWindowTest::toolBarHasThreeActions()
 {
     auto toolBar = m_window->findChild<QToolBar*>("toolBar");
     QVERIFY(toolBar);
@@ -205,7 +205,7 @@ void MainWindowTest::toolBarHoldsThreeActions()
     QCOMPARE(toolBar->styleSheet(), "QToolButton { margin-bottom: 2px; }");
 }
 
-void MainWindowTest::noRightClickHidesTheToolBar()
+void MainWindowTest::rightClickDoesNotHideTheToolBar()
 {
     for (QWidget* place :
          {static_cast<QWidget*>(m_window->toolBar), static_cast<QWidget*>(m_window->menubar)}) {
@@ -215,7 +215,7 @@ void MainWindowTest::noRightClickHidesTheToolBar()
     }
 }
 
-void MainWindowTest::contextMenuHoldsRemoveAndProperties()
+void MainWindowTest::contextMenuHasRemoveAndProperties()
 {
     QCOMPARE(m_window->treePublisherList->contextMenuPolicy(), Qt::ActionsContextMenu);
     QCOMPARE(textsOf(m_window->treePublisherList->actions()), (QStringList{"&Remove...", "&Properties..."}));
@@ -300,7 +300,7 @@ void MainWindowTest::emptyListHasANote()
     QCOMPARE(tree->accessibleDescription(), text);
 }
 
-void MainWindowTest::noteOfTheEmptyListStaysInTheMiddle()
+void MainWindowTest::noteOfTheEmptyListStaysCentred()
 {
     QTreeWidget* tree = m_window->treePublisherList;
     const auto note = m_window->findChild<QLabel*>("labelEmptyList");
@@ -318,14 +318,14 @@ void MainWindowTest::noteOfTheEmptyListStaysInTheMiddle()
     QCOMPARE(note->mapTo(m_window.get(), QPoint()), tree->viewport()->mapTo(m_window.get(), QPoint()));
 }
 
-void MainWindowTest::noteOfTheEmptyListTakesNoClicks()
+void MainWindowTest::noteOfTheEmptyListIgnoresClicks()
 {
     QTreeWidget* tree = m_window->treePublisherList;
     QCOMPARE(m_window->childAt(tree->viewport()->mapTo(m_window.get(), tree->viewport()->rect().center())),
              tree->viewport());
 }
 
-void MainWindowTest::someActionsAreForRootAlone()
+void MainWindowTest::someActionsRequireRoot()
 {
     for (const QAction* action :
          {m_window->addPublisher, m_window->showSetting, m_window->collectAndSaveLogs}) {
@@ -338,7 +338,7 @@ void MainWindowTest::someActionsAreForRootAlone()
     }
 }
 
-void MainWindowTest::actionsForEverybodyAreEnabled()
+void MainWindowTest::otherActionsAreEnabled()
 {
     for (const QAction* action : {m_window->exitProgram, m_window->showAbout, m_window->udmMenu}) {
         QVERIFY2(action->isEnabled(), qPrintable(action->text()));
@@ -354,7 +354,7 @@ void MainWindowTest::pollTimerRuns()
     QVERIFY(!timers[0]->isSingleShot());
 }
 
-void MainWindowTest::slotsStandInOrder()
+void MainWindowTest::signalsAndSlotsAreDeclaredInOrder()
 {
     const QMetaObject& meta = PubSetup::staticMetaObject;
     QList<QByteArray> declared;
@@ -389,7 +389,7 @@ void MainWindowTest::aboutBoxShowsTheProgram()
         }
         seen = dialog;
         modal =
-            dialog->isModal() && dialog->testAttribute(Qt::WA_DeleteOnClose) == false; // taken over by exec()
+            dialog->isModal() && dialog->testAttribute(Qt::WA_DeleteOnClose) == false; // cleared by exec()
         title = dialog->windowTitle();
         size = dialog->size();
         smallest = dialog->minimumSize();
@@ -434,7 +434,7 @@ void MainWindowTest::publishModeWarningHasItsText()
     QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
 }
 
-void MainWindowTest::publishModeWarningNeedsNoWindow()
+void MainWindowTest::publishModeWarningNeedsNoParent()
 {
     Boxes boxes({QMessageBox::Ok});
     PubSetup::showWariningBeforeProperty(nullptr);

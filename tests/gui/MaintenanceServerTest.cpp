@@ -1,5 +1,5 @@
-// The guided maintenance of a network publisher, clicked through in front of its server: what arrives there,
-// and that the dialogs go on whatever becomes of it.
+// The guided maintenance of a network publisher, operated against a simulated server: the requests that
+// arrive there. The dialogs continue even if the server fails.
 #include "DialogWalk.h"
 #include "PropertyFixture.h"
 #include "ServerRoom.h"
@@ -15,7 +15,7 @@ namespace {
 const QStringList nozzleDialogs{"printerMaintNozzleCheck1", "printerMaintNozzleCheck2"};
 const QStringList cleaningDialogs{"printerMaintHeadCleaning1", "printerMaintHeadCleaning2"};
 
-/// What follows on the connection when all goes well.
+/// The requests of a successful job, after `connecting`.
 const QStringList sending{
     "POST /webapp2/SpecialJobSetter", "GET /webapp2/UploadInfoGetter?serverjobid=00000001",
     "MKCOL /uploads/00000001/",       "PUT /uploads/00000001/PrnData_Special.prn",
@@ -24,7 +24,7 @@ const QStringList sending{
 const std::string nozzleData = "/opt/arven/Ulmar Disc Maker/res/prnfile/nozzleCheck.prn";
 const std::string cleaningData = "/opt/arven/Ulmar Disc Maker/res/prnfile/headCleaning.prn";
 
-/// The text that a server is sent; `moment` stands where the time of the job does.
+/// The job text that the server receives, with "moment" in place of the job's time.
 QString jobText(const char* load, const char* eject, const char* count, const QString& name,
                 const char* printMode, const std::string& data)
 {
@@ -36,7 +36,7 @@ QString jobText(const char* load, const char* eject, const char* count, const QS
         .arg(load, eject, count, name, printMode, QString::fromStdString(data));
 }
 
-/// The two names of jobs in another language.
+/// Translates the two job names.
 class JobNames : public QTranslator
 {
 public:
@@ -68,29 +68,29 @@ private slots:
 
     void jobArrives_data();
     void jobArrives();
-    void nameInTheLanguageOfTheInterface();
-    void stackersByTheMode_data();
-    void stackersByTheMode();
-    void printDataArrivesWhole();
-    void sequencesTakeTurns();
-    void withoutPrintDataNothingIsSent_data();
-    void withoutPrintDataNothingIsSent();
-    void serverOutOfReach();
-    void serverThatFails_data();
-    void serverThatFails();
-    void folderThatIsNotMade();
-    void oldServerTakesNoHash();
+    void jobNameIsTranslated();
+    void stackersDependOnTheMode_data();
+    void stackersDependOnTheMode();
+    void printDataArrivesComplete();
+    void sequencesAlternate();
+    void nothingIsSentWithoutPrintData_data();
+    void nothingIsSentWithoutPrintData();
+    void unreachableServer();
+    void failingServer_data();
+    void failingServer();
+    void failedFolderCreation();
+    void oldServerGetsNoHash();
     void cancelSendsNothing();
 
 private:
     void open(const std::string& scenario);
-    /// The dialogs that the button of the property dialog brought up, all of them accepted.
+    /// Clicks the button of the property dialog and accepts all dialogs. Returns their object names.
     QStringList nozzleCheck();
     QStringList headCleaning();
     QStringList press(QAbstractButton* button, std::vector<DialogWalk::Answer> answers);
-    /// Body of the one request with this target.
+    /// The body of the only request with this target; "(none)" or "(more than one)" otherwise.
     std::string body(const std::string& target) const;
-    /// The job's text, with "moment" in the place of its time, which lay between the two.
+    /// The job text that was sent. Its time is replaced by "moment" if it lies between `notBefore` and now.
     QString sentText(std::time_t notBefore) const;
 
     std::optional<ServerRoom> m_room;
@@ -195,7 +195,7 @@ void MaintenanceServerTest::jobArrives()
     QVERIFY2(std::filesystem::is_empty(JOB_DIR), "no file for the service of this computer");
 }
 
-void MaintenanceServerTest::nameInTheLanguageOfTheInterface()
+void MaintenanceServerTest::jobNameIsTranslated()
 {
     open(studio());
     JobNames language;
@@ -209,7 +209,7 @@ void MaintenanceServerTest::nameInTheLanguageOfTheInterface()
     QCOMPARE(QString::fromStdString(jobs[1].name), QString("ヘッドクリーニング"));
 }
 
-void MaintenanceServerTest::stackersByTheMode_data()
+void MaintenanceServerTest::stackersDependOnTheMode_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QByteArray>("eject");
@@ -220,7 +220,7 @@ void MaintenanceServerTest::stackersByTheMode_data()
     QTest::newRow("batch") << "server-mode = 4\n" << QByteArray("0");
 }
 
-void MaintenanceServerTest::stackersByTheMode()
+void MaintenanceServerTest::stackersDependOnTheMode()
 {
     QFETCH(QString, keys);
     QFETCH(QByteArray, eject);
@@ -231,10 +231,10 @@ void MaintenanceServerTest::stackersByTheMode()
     QCOMPARE((*m_room)->jobs("Studio").size(), size_t{1});
 }
 
-void MaintenanceServerTest::printDataArrivesWhole()
+void MaintenanceServerTest::printDataArrivesComplete()
 {
     open(studio());
-    std::string data; // every byte, in more than one piece of the wire
+    std::string data; // nearly all byte values, in more than one packet
     for (int i = 0; i < 300000; ++i) {
         data += static_cast<char>(i % 251);
     }
@@ -251,7 +251,7 @@ void MaintenanceServerTest::printDataArrivesWhole()
     QCOMPARE((*m_room)->jobs("Studio").size(), size_t{1});
 }
 
-void MaintenanceServerTest::sequencesTakeTurns()
+void MaintenanceServerTest::sequencesAlternate()
 {
     open(studio());
     QCOMPARE(press(m_stage->btnNozzleCheck,
@@ -266,15 +266,15 @@ void MaintenanceServerTest::sequencesTakeTurns()
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
 }
 
-void MaintenanceServerTest::withoutPrintDataNothingIsSent_data()
+void MaintenanceServerTest::nothingIsSentWithoutPrintData_data()
 {
     QTest::addColumn<QString>("what");
     QTest::newRow("empty") << "empty";
     QTest::newRow("missing") << "missing";
-    QTest::newRow("folder") << "folder"; // has a size, and cannot be read
+    QTest::newRow("folder") << "folder"; // has a size but cannot be read
 }
 
-void MaintenanceServerTest::withoutPrintDataNothingIsSent()
+void MaintenanceServerTest::nothingIsSentWithoutPrintData()
 {
     QFETCH(QString, what);
     open(studio());
@@ -296,7 +296,7 @@ void MaintenanceServerTest::withoutPrintDataNothingIsSent()
     QVERIFY((*m_room)->jobs("Studio").empty());
 }
 
-void MaintenanceServerTest::serverOutOfReach()
+void MaintenanceServerTest::unreachableServer()
 {
     open(studio());
     QVERIFY((*m_room)->tell("Studio", "server off"));
@@ -307,7 +307,7 @@ void MaintenanceServerTest::serverOutOfReach()
     QVERIFY(m_stage->isVisible());
 }
 
-void MaintenanceServerTest::serverThatFails_data()
+void MaintenanceServerTest::failingServer_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("fault");
@@ -317,16 +317,16 @@ void MaintenanceServerTest::serverThatFails_data()
     const auto first = [&all](int count) { return QStringList(all.mid(0, count)); };
     QTest::newRow("mode") << "/webapp2/ServerModeGetter"
                           << "http 500" << first(1) << 0;
-    QTest::newRow("mode, connection ended") << "/webapp2/ServerModeGetter"
-                                            << "close" << first(1) + first(1) << 0; // tried once more
-    QTest::newRow("kind") << "/webapp2/DevInfoIntGetter"
-                          << "status 3" << first(2) << 0;
-    QTest::newRow("kind not told") << "/webapp2/DevInfoIntGetter"
+    QTest::newRow("mode, connection closed") << "/webapp2/ServerModeGetter"
+                                             << "close" << first(1) + first(1) << 0; // retried once
+    QTest::newRow("model") << "/webapp2/DevInfoIntGetter"
+                           << "status 3" << first(2) << 0;
+    QTest::newRow("model unknown") << "/webapp2/DevInfoIntGetter"
                                    << "http 500" << all << 1;
     QTest::newRow("interface version") << "/webapp2/IFVersionChecker"
                                        << "status 1" << first(3) << 0;
-    QTest::newRow("version not told") << "/webapp2/DevInfoGetter"
-                                      << "http 500" << all << 1;
+    QTest::newRow("version unknown") << "/webapp2/DevInfoGetter"
+                                     << "http 500" << all << 1;
     QTest::newRow("job refused") << "/webapp2/SpecialJobSetter"
                                  << "status 8" << first(5) << 0;
     QTest::newRow("job without a number") << "/webapp2/SpecialJobSetter"
@@ -334,7 +334,7 @@ void MaintenanceServerTest::serverThatFails_data()
     QTest::newRow("password") << "/webapp2/UploadInfoGetter"
                               << "status 7" << first(6) << 0;
     QTest::newRow("folder") << "/uploads/00000001/"
-                            << "http 500" << first(9) << 0; // and the file in it
+                            << "http 500" << first(9) << 0; // the upload of the file fails as well
     QTest::newRow("file") << "/uploads/00000001/PrnData"
                           << "http 507" << first(9) << 0;
     QTest::newRow("hash") << "/webapp2/FileHashSetter"
@@ -343,7 +343,7 @@ void MaintenanceServerTest::serverThatFails_data()
                             << "status 9" << all << 0;
 }
 
-void MaintenanceServerTest::serverThatFails()
+void MaintenanceServerTest::failingServer()
 {
     QFETCH(QString, path);
     QFETCH(QString, fault);
@@ -358,8 +358,8 @@ void MaintenanceServerTest::serverThatFails()
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
 }
 
-/// A server that takes hashes makes it by itself.
-void MaintenanceServerTest::folderThatIsNotMade()
+/// A server that accepts hashes creates the folder by itself.
+void MaintenanceServerTest::failedFolderCreation()
 {
     open(studio());
     udsim::HttpFault fault;
@@ -372,7 +372,7 @@ void MaintenanceServerTest::folderThatIsNotMade()
     QCOMPARE((*m_room)->jobs("Studio").size(), size_t{1});
 }
 
-void MaintenanceServerTest::oldServerTakesNoHash()
+void MaintenanceServerTest::oldServerGetsNoHash()
 {
     WriteRegistry("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n");
     open(studio("RT-300NII", "server-version = 2.10\n"));
@@ -383,7 +383,7 @@ void MaintenanceServerTest::oldServerTakesNoHash()
     QCOMPARE((*m_room)->jobs("Studio").size(), size_t{1});
 
     m_room->forget();
-    m_room->spoil("/uploads/", "http 500"); // without its folder the file has no place
+    m_room->spoil("/uploads/", "http 500"); // without the folder the upload fails
     QCOMPARE(headCleaning(), cleaningDialogs);
     QCOMPARE(m_room->asked().size(), 7);
     QCOMPARE((*m_room)->jobs("Studio").size(), size_t{1});

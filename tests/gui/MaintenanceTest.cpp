@@ -1,5 +1,5 @@
-// The guided maintenance of a printer, clicked through: the dialogs, the jobs they make, and what is shown
-// when a job cannot be made.
+// The guided maintenance of a printer: the dialogs, the jobs that they create, and the behaviour when a job
+// cannot be created.
 #include "DialogWalk.h"
 #include "InstallPaths.h"
 #include "MaintenanceSequences.h"
@@ -44,7 +44,7 @@ void closeByTheFrame(QDialog& dialog)
     dialog.close();
 }
 
-/// The dialogs that a sequence showed, in order.
+/// The object names of the dialogs that a sequence showed, in order.
 QStringList walk(Sequence sequence, std::vector<DialogWalk::Answer> answers,
                  const PUBLISHERINFO& info = publisher())
 {
@@ -53,7 +53,7 @@ QStringList walk(Sequence sequence, std::vector<DialogWalk::Answer> answers,
     return walk.seen();
 }
 
-/// The values of JobName in the job files, in the order of their numbers.
+/// The JobName values of the job files, in the order of the file names.
 QStringList jobNames()
 {
     std::set<std::string> files;
@@ -72,7 +72,7 @@ QStringList jobNames()
     return names;
 }
 
-/// Brings up one of the four dialogs, looks at it, and leaves it and the sequence behind.
+/// Opens one of the four dialogs, calls `look` with it, and ends the sequence.
 void lookAt(const QString& name, const DialogWalk::Answer& look)
 {
     const auto lookAndReject = [look](QDialog& dialog) {
@@ -97,7 +97,7 @@ void lookAt(const QString& name, const DialogWalk::Answer& look)
     QCOMPARE(seen.last(), name);
 }
 
-/// Every text in capitals, and some three times as long.
+/// Translates every text to capitals, repeated `times` times.
 class OtherLanguage : public QTranslator
 {
 public:
@@ -134,22 +134,22 @@ private slots:
     void dialogsHaveTheirTextsAndButtons();
     void dialogsShowTheirPictures_data();
     void dialogsShowTheirPictures();
-    void dialogsAreModalAndOfAFixedSize_data();
-    void dialogsAreModalAndOfAFixedSize();
-    void nothingIsCut_data();
-    void nothingIsCut();
-    void checkMakesAJobAndTellsWhatToLookFor();
-    void cleaningMakesAJobAndTellsWhatToLookFor();
+    void dialogsAreModalAndHaveAFixedSize_data();
+    void dialogsAreModalAndHaveAFixedSize();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void nozzleCheckCreatesAJob();
+    void headCleaningCreatesAJob();
     void enterAccepts();
-    void cancelInTheFirstDialogMakesNoJob_data();
-    void cancelInTheFirstDialogMakesNoJob();
+    void cancelInTheFirstDialogCreatesNoJob_data();
+    void cancelInTheFirstDialogCreatesNoJob();
     void secondDialogOffersTheOtherSequence_data();
     void secondDialogOffersTheOtherSequence();
-    void sequencesTakeTurnsWithoutLimit();
-    void failureShowsNothing_data();
-    void failureShowsNothing();
-    void fullFolderShowsNothing();
-    void networkPublisherMakesNoJobFile();
+    void sequencesAlternateWithoutLimit();
+    void failureShowsNoMessage_data();
+    void failureShowsNoMessage();
+    void fullFolderShowsNoMessage();
+    void networkPublisherCreatesNoJobFile();
     void jobNameStaysEnglishInAnotherLanguage();
     void propertiesStartTheSequences_data();
     void propertiesStartTheSequences();
@@ -291,7 +291,7 @@ void MaintenanceTest::dialogsShowTheirPictures()
     });
 }
 
-void MaintenanceTest::dialogsAreModalAndOfAFixedSize_data()
+void MaintenanceTest::dialogsAreModalAndHaveAFixedSize_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name : {nozzleCheck1, nozzleCheck2, headCleaning1, headCleaning2}) {
@@ -299,7 +299,7 @@ void MaintenanceTest::dialogsAreModalAndOfAFixedSize_data()
     }
 }
 
-void MaintenanceTest::dialogsAreModalAndOfAFixedSize()
+void MaintenanceTest::dialogsAreModalAndHaveAFixedSize()
 {
     QFETCH(QString, name);
     lookAt(name, [](QDialog& dialog) {
@@ -314,20 +314,20 @@ void MaintenanceTest::dialogsAreModalAndOfAFixedSize()
     });
 }
 
-void MaintenanceTest::nothingIsCut_data()
+void MaintenanceTest::nothingIsClipped_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<qreal>("fontFactor");
     QTest::addColumn<int>("textFactor");
     for (const char* name : {nozzleCheck1, nozzleCheck2, headCleaning1, headCleaning2}) {
         QTest::addRow("%s", name) << name << 1.0 << 1;
-        QTest::addRow("%s font half as large again", name) << name << 1.5 << 1;
+        QTest::addRow("%s font 1.5 times as large", name) << name << 1.5 << 1;
         QTest::addRow("%s font twice as large", name) << name << 2.0 << 1;
         QTest::addRow("%s long translation", name) << name << 1.0 << 2;
     }
 }
 
-void MaintenanceTest::nothingIsCut()
+void MaintenanceTest::nothingIsClipped()
 {
     QFETCH(QString, name);
     QFETCH(qreal, fontFactor);
@@ -359,10 +359,10 @@ void MaintenanceTest::nothingIsCut()
     QApplication::setFont(font);
 }
 
-void MaintenanceTest::checkMakesAJobAndTellsWhatToLookFor()
+void MaintenanceTest::nozzleCheckCreatesAJob()
 {
     const auto finish = [](QDialog& dialog) {
-        QCOMPARE(jobNames(), QStringList{"Nozzle Check"}); // handed over before the second dialog
+        QCOMPARE(jobNames(), QStringList{"Nozzle Check"}); // submitted before the second dialog opens
         click("buttonFinish")(dialog);
     };
     QCOMPARE(walk(runNozzleCheckSequence, {click("buttonPrint"), finish}),
@@ -371,7 +371,7 @@ void MaintenanceTest::checkMakesAJobAndTellsWhatToLookFor()
     QVERIFY(std::filesystem::exists("/opt/arven/Ulmar Disc Maker/JOB/{ARPUB20240131_1}_0000.epj"));
 }
 
-void MaintenanceTest::cleaningMakesAJobAndTellsWhatToLookFor()
+void MaintenanceTest::headCleaningCreatesAJob()
 {
     const auto finish = [](QDialog& dialog) {
         QCOMPARE(jobNames(), QStringList{"Head Cleaning"});
@@ -392,7 +392,7 @@ void MaintenanceTest::enterAccepts()
     QCOMPARE(jobNames(), (QStringList{"Nozzle Check", "Head Cleaning"}));
 }
 
-void MaintenanceTest::cancelInTheFirstDialogMakesNoJob_data()
+void MaintenanceTest::cancelInTheFirstDialogCreatesNoJob_data()
 {
     QTest::addColumn<DialogWalk::Answer>("answer");
     QTest::newRow("button") << click("buttonCancel");
@@ -400,7 +400,7 @@ void MaintenanceTest::cancelInTheFirstDialogMakesNoJob_data()
     QTest::newRow("frame") << DialogWalk::Answer(closeByTheFrame);
 }
 
-void MaintenanceTest::cancelInTheFirstDialogMakesNoJob()
+void MaintenanceTest::cancelInTheFirstDialogCreatesNoJob()
 {
     QFETCH(DialogWalk::Answer, answer);
     QCOMPARE(walk(runNozzleCheckSequence, {answer}), QStringList{nozzleCheck1});
@@ -428,10 +428,10 @@ void MaintenanceTest::secondDialogOffersTheOtherSequence()
     QCOMPARE(jobNames(), (QStringList{"Nozzle Check", "Head Cleaning"}));
 }
 
-void MaintenanceTest::sequencesTakeTurnsWithoutLimit()
+void MaintenanceTest::sequencesAlternateWithoutLimit()
 {
     constexpr int rounds = 30;
-    std::set<quintptr> depths; // of the stack under the first dialog of each round
+    std::set<quintptr> depths; // addresses of the first dialog of each round: the stack depth
     std::vector<DialogWalk::Answer> answers;
     QStringList dialogs;
     QStringList jobs;
@@ -454,14 +454,14 @@ void MaintenanceTest::sequencesTakeTurnsWithoutLimit()
     QVERIFY2(depths.size() == 1, "a round does not stand on the stack of the one before");
 }
 
-void MaintenanceTest::failureShowsNothing_data()
+void MaintenanceTest::failureShowsNoMessage_data()
 {
     QTest::addColumn<bool>("fileInPlaceOfTheFolder");
     QTest::newRow("no folder") << false;
-    QTest::newRow("no folder but a file") << true;
+    QTest::newRow("file in place of the folder") << true;
 }
 
-void MaintenanceTest::failureShowsNothing()
+void MaintenanceTest::failureShowsNoMessage()
 {
     QFETCH(bool, fileInPlaceOfTheFolder);
     std::filesystem::remove(JOB_DIR);
@@ -474,7 +474,7 @@ void MaintenanceTest::failureShowsNothing()
     QCOMPARE(QString::fromStdString(ReadText(JOB_DIR)), QString(fileInPlaceOfTheFolder ? "kept" : ""));
 }
 
-void MaintenanceTest::fullFolderShowsNothing()
+void MaintenanceTest::fullFolderShowsNoMessage()
 {
     for (int number = 0; number < 1000; ++number) {
         const QString name = QString::asprintf("%s/{ARPUB20240131_1}_%04d.epj", JOB_DIR, number);
@@ -485,7 +485,7 @@ void MaintenanceTest::fullFolderShowsNothing()
     QCOMPARE(jobNames(), QStringList());
 }
 
-void MaintenanceTest::networkPublisherMakesNoJobFile()
+void MaintenanceTest::networkPublisherCreatesNoJobFile()
 {
     QCOMPARE(
         walk(runNozzleCheckSequence,
@@ -537,7 +537,7 @@ void MaintenanceTest::propertiesStartTheSequences()
     QFETCH(QString, jobName);
     QFETCH(QString, eject);
     PropertyStage stage;
-    stage.storeAndOpen(rt300, {.mode = 2, .stacker3 = 7}); // external output, into stacker 3
+    stage.storeAndOpen(rt300, {.mode = 2, .stacker3 = 7}); // external output to stacker 3
     std::filesystem::create_directories(JOB_DIR);
     stage->propertyTab->setCurrentWidget(stage->pagePrinterMaint);
     DialogWalk walk({click(accept.constData()), click("buttonFinish")});
