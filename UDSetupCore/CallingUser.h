@@ -1,10 +1,10 @@
-// The user who had this program run with raised rights.
+// The user who started this program with elevated privileges.
 #pragma once
 
 #include <cstdlib>
 
-/// That user's number as the environment has it, which need not be one: "PKEXEC_UID", or else "SUDO_UID".
-/// NULL for nobody.
+/// That user's id from "PKEXEC_UID", or else from "SUDO_UID", unchecked: it need not be a number. NULL if
+/// neither is set.
 inline const char* callersUserID()
 {
     const char* pkexecUser = std::getenv("PKEXEC_UID");

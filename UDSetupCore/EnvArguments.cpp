@@ -18,7 +18,7 @@ std::optional<EnvAssignment> parseEnvArgument(std::string_view argument)
     }
     argument.remove_prefix(prefix.size());
     const size_t equals = argument.find('=');
-    if (equals > longestName) { // so is the place of an "=" that is not there
+    if (equals > longestName) { // also true without "=": npos
         return std::nullopt;
     }
     return EnvAssignment{std::string(argument.substr(0, equals)),

@@ -1,5 +1,6 @@
-// Arguments of the form "-envNAME=VALUE". A launcher that raises the rights of the program starts it with an
-// empty environment and hands over what a desktop program needs, such as the display, on the command line.
+// Arguments of the form "-envNAME=VALUE". A launcher that elevates privileges starts the program with an
+// empty environment and passes the variables that a desktop program needs, such as the display, on the
+// command line.
 #pragma once
 
 #include <optional>
@@ -9,12 +10,12 @@
 struct EnvAssignment
 {
     std::string name;  ///< at most 255 bytes; may be empty
-    std::string value; ///< at most 256 bytes; what is longer is cut
+    std::string value; ///< truncated to 256 bytes
 };
 
-/// The assignment in one argument, or nothing when it is none or is malformed.
+/// Parses one argument. Returns nothing if it is not an assignment or is malformed.
 std::optional<EnvAssignment> parseEnvArgument(std::string_view argument);
 
-/// Prints the present value of each variable named on the command line and sets those that have none.
-/// To be called while the process has one thread.
+/// Prints the current value of each variable named on the command line and sets those that are unset. Call it
+/// while the process has a single thread.
 void applyEnvArguments(int argc, char** argv);

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int jobFileNumbers = 1000; // from 0 on, in four digits
+constexpr int jobFileNumbers = 1000; // numbered from 0, in four digits
 constexpr long nanosecondsPerMillisecond = 1000000;
 
 std::string jobFilePath(const std::string& registID, int number)
@@ -36,8 +36,8 @@ timeb presentTime()
     return time;
 }
 
-/// Sends the job with the whole of its print data, which is read at once; nothing without data. What became
-/// of the job nobody asks.
+/// Sends the job with its print data, which is read in one call. Sends nothing if there is no data. The
+/// result is ignored.
 void sendWithData(DWORD connection, const std::string& text, int fd)
 {
     struct stat status = {};
@@ -127,7 +127,7 @@ void CFerroJob::writeJobFile(const PUBLISHERINFO& info, const std::string& text)
         ::close(fd);
         return;
     }
-    // The text fits the stream's buffer, and so the service sees an empty file or a whole one.
+    // The text fits the stream's buffer, so the service sees either an empty file or a complete one.
     std::fprintf(file, "%s", text.c_str());
     std::fclose(file);
 }

@@ -1,21 +1,21 @@
-// Hands a maintenance job to a publisher: as a file in the job folder, which the control service watches, or
-// over the connection of a network publisher.
+// Submits a maintenance job to a publisher: as a file in the job folder, which the control service watches,
+// or over the connection to a network publisher.
 #pragma once
 
 #include "JobText.h"
 
-/// Nothing is reported: a job that cannot be handed over is not. For the thread of the windows alone.
+/// Failures are not reported; the job is dropped. User-interface thread only.
 class CFerroJob
 {
 public:
-    /// A new empty job file under the publisher's lowest free number, opened for writing; the caller closes
-    /// it. -1 when no number is free or the folder takes no file.
+    /// Creates an empty job file with the publisher's lowest free number and opens it for writing; the caller
+    /// closes it. Returns -1 if no number is free or the file cannot be created.
     int openNewJobFile(const PUBLISHERINFO& info);
-    /// The present time and its local date. Each time is later than the one before, by a millisecond at
-    /// least.
+    /// The current time and its local date. Each call gives a time at least one millisecond after the
+    /// previous one.
     void getCurrentTimeForFileName(timeb& time, tm& date);
-    /// `szJobNameUtf8` is the name that a network publisher shows; a local one has its own. Blocks while such
-    /// a publisher is connected to and takes the print data.
+    /// `szJobNameUtf8` is the name that a network publisher shows; a local one uses a fixed name. Blocks
+    /// while it connects to a network publisher and sends the print data.
     void SubmitHeadCleaningJob(const PUBLISHERINFO& info, const char* szJobNameUtf8);
     void SubmitNozzleCheckJob(const PUBLISHERINFO& info, const char* szJobNameUtf8);
 

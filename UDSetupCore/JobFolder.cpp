@@ -27,7 +27,7 @@ void reportRealPath(const char* path, int error)
     std::fprintf(stderr, "realpath(\"%s\") failed, errno: %d\n%s\n", path, error, std::strerror(error));
 }
 
-/// By the path itself: a link to a folder is none.
+/// Tests the path itself: a link to a folder is not a folder.
 bool isFolder(const char* path)
 {
     struct stat found = {};
@@ -40,7 +40,8 @@ bool isMissing(const char* path)
     return lstat(path, &found) != 0 && errno == ENOENT;
 }
 
-/// Becomes a user given in decimal digits. False when that is none, or one that this process may not become.
+/// Changes the effective user to the one given in decimal digits. Returns false if the text is not a number
+/// or the change is not permitted.
 bool becomeUser(const char* text)
 {
     uid_t user = 0;
@@ -49,8 +50,8 @@ bool becomeUser(const char* text)
     return error == std::errc() && rest == end && seteuid(user) == 0;
 }
 
-/// Tells of a folder that the caller of a raised program could not open: that person will want to look at
-/// the jobs. A hint only, nothing hangs on it.
+/// Reports a folder that the user who started the privileged program cannot open, because that user needs to
+/// see the jobs. The report has no other effect.
 void reportUnreadableForCaller(const char* folder)
 {
     const char* user = callersUserID();
@@ -62,7 +63,7 @@ void reportUnreadableForCaller(const char* folder)
     if (opened != nullptr) {
         closedir(opened);
     }
-    // The way back to the real user is always free.
+    // Returning to the real user is always permitted.
     [[maybe_unused]] const int result = seteuid(getuid());
     if (opened == nullptr) {
         std::fprintf(stderr, "opendir(\"%s\") failed for uid %s, errno: %d\n%s for uid %s\n", folder, user,
@@ -84,7 +85,7 @@ JobFolderChange changeToDefault()
     return {changeWorkingFolder_OK, INSTALL_DIR};
 }
 
-/// The link leads to `target` already, which may have been removed since.
+/// The link already points to `target`, which may have been removed since.
 JobFolderChange keepTarget(const char* target)
 {
     if (isMissing(target)) {
@@ -107,7 +108,7 @@ JobFolderChange changeToCustom(const std::string& folder)
     if (!makeJobFolder(target.c_str())) {
         return badPath;
     }
-    // A folder that still holds files other than jobs stays, and with it the place of the jobs.
+    // If the default folder holds files other than jobs, rmdir() and symlink() fail and jobs stay there.
     if (isFolder(JOB_DIR)) {
         rmdir(JOB_DIR);
     } else {
@@ -194,7 +195,7 @@ bool makeJobFolder(const char* path)
             return false;
         }
     }
-    if (chmod(path, jobFolderMode) != 0) { // mkdir() had the umask take rights away
+    if (chmod(path, jobFolderMode) != 0) { // the umask restricted the mode of mkdir()
         const int error = errno;
         std::fprintf(stderr, "chmod failed, errno: %d\n%s\n", error, std::strerror(error));
         return false;

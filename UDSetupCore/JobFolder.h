@@ -1,56 +1,55 @@
-// Where jobs live. All programs of the suite use one fixed path for them, JOB_DIR: a folder of its own by
-// default, or a link to a folder in the place that somebody chose. The link itself is the setting.
+// The folder for jobs. All programs of the suite use the fixed path JOB_DIR: a folder by default, or a link
+// to a folder inside the working folder that the user chose. The link itself is the setting.
 //
-// What goes wrong is told on the standard error. Nothing is locked: a job that another program adds between
-// the look for jobs and the move of the link is not noticed. Main thread: changeJobFolder may switch the user
-// for a moment.
+// Errors are printed on standard error. Nothing is locked: a job that another program adds between the check
+// for jobs and the change of the link goes unnoticed. Main thread only: changeJobFolder may switch the
+// effective user temporarily.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-/// What became of an attempt to change the working folder.
+/// The result of an attempt to change the working folder.
 enum ChangeWorkingFolderResult
 {
     changeWorkingFolder_OK = 0,
-    changeWorkingFolder_ProcessingJob = 1, ///< jobs wait or run in the present folder, which stays
-    changeWorkingFolder_BadPath = 2        ///< jobs cannot live there
+    changeWorkingFolder_ProcessingJob = 1, ///< jobs wait or run in the current folder, which is kept
+    changeWorkingFolder_BadPath = 2        ///< the folder cannot hold jobs
 };
 
 struct JobFolderChange
 {
     ChangeWorkingFolderResult result;
-    std::string folder; ///< the working folder from now on; empty where no folder was put into force
+    std::string folder; ///< the working folder now in force; empty if none was set
 };
 
-/// The path without links, "." and "..". Empty when it cannot be followed, with the reason in errno.
+/// The path without links, "." and "..". Empty if it cannot be resolved; errno holds the reason.
 std::string realPathOf(const char* path);
 
-/// The folder behind JOB_DIR, also when the link's target is missing or out of reach. Empty when the path is
-/// broken. A link's text is cut at 1023 bytes.
+/// The folder that JOB_DIR refers to, even if the link's target is missing or inaccessible. Empty if the path
+/// is broken. The text of a link that cannot be resolved is cut at 1023 bytes.
 std::string currentJobFolder();
 
-/// The folder behind JOB_DIR after its repair: a path that is broken is removed and made as a folder. Empty
-/// when that fails.
+/// The folder that JOB_DIR refers to. A broken path is first replaced by a folder. Empty if that fails.
 std::string repairedJobFolder();
 
-/// The folder that holds `jobFolder`: what a person knows as the working folder.
+/// The folder that contains `jobFolder`. The user interface calls it the working folder.
 std::string workingFolderOf(const std::string& jobFolder);
 
-/// Whether a file of this name in the job folder is a job that waits or runs.
+/// Whether a file with this name in the job folder is a waiting or running job.
 bool isJobName(std::string_view name);
 
-/// Whether JOB_DIR holds a job. False when it cannot be opened.
+/// Whether JOB_DIR holds a job. False if it cannot be opened.
 bool jobFolderHasJobs();
 
-/// Makes a folder that every user may use and where nobody removes another's files (mode 01777, whatever the
-/// umask). A folder that is there already gets that mode.
+/// Creates a folder that every user may use and in which users cannot remove each other's files (mode 01777,
+/// regardless of the umask). An existing folder gets that mode.
 bool makeJobFolder(const char* path);
 
-/// Whether a text names a place in the installation other than its own folder. By its first bytes alone, so
-/// a neighbour whose name begins like the installation's counts too.
+/// Whether a path lies inside the installation folder; the folder itself does not count. Compares only the
+/// first bytes, so a sibling folder whose name starts with that of the installation counts too.
 bool isInsideInstallation(std::string_view folder);
 
-/// Puts jobs into the working folder `folder`; empty or INSTALL_DIR means the default. Files are not moved.
-/// A target made on the way may stay behind when a later step fails.
+/// Changes the working folder to `folder`; empty or INSTALL_DIR means the default. Files are not moved. A
+/// newly created target folder may remain if a later step fails.
 JobFolderChange changeJobFolder(const std::string& folder);

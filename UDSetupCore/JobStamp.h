@@ -1,18 +1,18 @@
-// The moment at which a maintenance job was made, which tells the jobs of this program apart.
+// The creation time of a maintenance job. It distinguishes the jobs of this program.
 #pragma once
 
 #include <ctime>
 
-#include <sys/timeb.h> // for the record alone: the call that goes with it is deprecated
+#include <sys/timeb.h> // only for the struct; ftime() is deprecated
 
-/// What the texts of a job say about its time.
+/// The time of a job, as its texts need it.
 struct JobStamp
 {
     timeb time; ///< since the epoch
-    tm date;    ///< the same in local time, to the second
+    tm date;    ///< the same time as a local date, to the second
 };
 
-/// `now`, or a millisecond after `last` when the clock has not gone on since, or went back.
+/// `now`, or `last` plus one millisecond if the clock has not advanced since or was set back.
 inline timeb risingStamp(const timeb& now, const timeb& last)
 {
     constexpr int millisecondsPerSecond = 1000;

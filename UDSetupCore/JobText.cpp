@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The name that the control service knows a job by; of the fixed parts it makes its own sense.
+/// The id by which the control service identifies a job. The service defines the meaning of the fixed parts.
 std::string jobID(const JobStamp& stamp)
 {
     return QString::asprintf("LOCALHOST_%04d%02d%02d%02d%02d%02d%03d_UDSetup_0000", stamp.date.tm_year + 1900,
@@ -20,14 +20,14 @@ std::string jobID(const JobStamp& stamp)
         .toStdString();
 }
 
-/// Stackers are unsigned in the records, and -1 in a text where none is named.
+/// Stackers are unsigned in the records. Job texts use -1 for no stacker.
 std::string stackerText(UINT uiStacker)
 {
     return std::to_string(static_cast<int>(uiStacker));
 }
 
-/// A line end inside a value would begin a key that nobody wrote. Replaced, and the value not cut there: what
-/// is left of a regist id could be another publisher's.
+/// Replaces line ends, because one inside a value would start a forged key. The value is not cut there: a
+/// truncated regist id could be that of another publisher.
 std::string inOneLine(std::string value)
 {
     const auto endsLine = [](char byte) { return byte == '\n' || byte == '\r' || byte == '\0'; };
@@ -35,8 +35,7 @@ std::string inOneLine(std::string value)
     return value;
 }
 
-/// A key with its value in the job file of a local publisher and in the text that goes to a network
-/// publisher.
+/// A key with its values in the job file of a local publisher and in the text for a network publisher.
 struct JobLine
 {
     JobLine(const char* lineKey, const std::string& bothValues)
@@ -78,7 +77,7 @@ std::string jobText(std::string JobLine::* road, MaintenanceJob job, const PUBLI
         {"Silent", "0"},
     };
     const JobLine print[] = {
-        {"PrintMode", std::to_string(printMode), std::to_string(printMode + 1)}, // servers stand one above
+        {"PrintMode", std::to_string(printMode), std::to_string(printMode + 1)}, // one higher for servers
         {"DataPath", printDataPath(job)},
         {"DryingTime", "0"},
         {"PrintQuality", "0"},

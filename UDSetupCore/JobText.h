@@ -1,4 +1,4 @@
-// The text of a maintenance job: what the device is to print, on which disc, and under which name.
+// The text of a maintenance job: what the device prints, on which disc, and under which name.
 #pragma once
 
 #include "JobStamp.h"
@@ -13,19 +13,20 @@ enum class MaintenanceJob
     nozzleCheck
 };
 
-/// Where a nozzle check puts its disc, an enJobMgrEjectStacker: decided by the mode and by stacker 3.
+/// The stacker to which a nozzle check ejects its disc (enJobMgrEjectStacker). It depends on the publish mode
+/// and on stacker 3.
 UINT nozzleCheckEjectStacker(UINT uiPublishMode, UINT uiStacker3DiscType);
 
-/// The installation's print data for the job.
+/// The path of the installed print data for the job.
 const char* printDataPath(MaintenanceJob job);
 
-/// For the control service of this computer. Its name for the job does not depend on the language of the
-/// interface.
+/// The text for the local control service. Its job name is the same in all languages.
 std::string localJobText(MaintenanceJob job, const PUBLISHERINFO& info, const JobStamp& stamp);
 
-/// Longest job text that a network publisher is sent, in bytes without a NUL.
+/// The longest job text that is sent to a network publisher, in bytes without a NUL.
 constexpr size_t longestNetworkJobText = 1023;
 
-/// For a network publisher, which shows `jobName` (UTF-8) in its list of jobs. Cut at the longest length.
+/// The text for a network publisher, which shows `jobName` (UTF-8) in its job list. Cut at
+/// longestNetworkJobText.
 std::string networkJobText(MaintenanceJob job, const PUBLISHERINFO& info, const JobStamp& stamp,
                            const std::string& jobName);

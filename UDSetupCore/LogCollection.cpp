@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr unsigned long settleTime = 10000; // milliseconds, for what has just happened to get into the logs
+constexpr unsigned long settleTime = 10000; // milliseconds, for recent events to reach the logs
 constexpr int crashed = -1;
 constexpr int notStarted = -2;
 

@@ -9,8 +9,8 @@
 
 namespace {
 
-/// The tasks that were created and not yet deleted. The lock also orders a task's run after its creation, and
-/// the end of a wait after every run.
+/// Counts the tasks that exist. The lock also orders a task's run after its creation, and the end of a wait
+/// after every run.
 struct TaskCount
 {
     std::mutex guard;
@@ -18,7 +18,7 @@ struct TaskCount
     int tasks = 0;
 };
 
-/// Never destroyed: a task that hangs may end after the static objects.
+/// Never destroyed: a hung task may outlive the static objects.
 TaskCount& taskCount()
 {
     static TaskCount& count = *new TaskCount;
@@ -35,7 +35,7 @@ MyRunnable::MyRunnable(std::function<void()> function) : functionToRun(std::move
 
 MyRunnable::~MyRunnable()
 {
-    functionToRun = nullptr; // what it owns goes before the wait ends
+    functionToRun = nullptr; // destroys what it owns before the wait ends
     const std::lock_guard lock(taskCount().guard);
     if (--taskCount().tasks == 0) {
         taskCount().noneLeft.notify_all();
@@ -50,7 +50,7 @@ void MyRunnable::run()
     try {
         functionToRun();
     } catch (const std::bad_alloc&) {
-        // Its row stays as it is until the next poll.
+        // The row of the task keeps its contents until the next poll.
         std::fputs("Out of memory: a task was given up\n", stderr);
     }
 }

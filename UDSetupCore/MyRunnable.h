@@ -1,11 +1,11 @@
-// The tasks of the thread pool, and the wait for their end.
+// Tasks for the thread pool, and a wait for their end.
 #pragma once
 
 #include <QRunnable>
 
 #include <functional>
 
-/// A function as a task of the thread pool, which deletes the task after its run.
+/// Runs a function on the thread pool, which deletes the task afterwards.
 class MyRunnable : public QRunnable
 {
 public:
@@ -17,6 +17,6 @@ private:
     std::function<void()> functionToRun;
 };
 
-/// Waits until every task has been run and deleted; false when that takes longer than so many milliseconds.
+/// Waits until every task has run and been deleted. Returns false if that takes longer than `milliseconds`.
 /// Any thread.
 bool waitForTasks(int milliseconds);

@@ -1,8 +1,8 @@
-// The order in which people expect to find names that end in numbers: "A9" before "A10".
+// The order that users expect for names that end in numbers: "A9" before "A10".
 #pragma once
 
 #include <QString>
 
-/// True when `a` stands before `b`. Runs of number characters that meet at the same place compare by their
-/// length first and only then by their value, so "007" stands behind "12". All else compares by code unit.
+/// True if `a` sorts before `b`. Runs of number characters at the same position compare by length first and
+/// then by value, so "007" sorts after "12". Everything else compares by code unit.
 bool naturalLess(const QString& a, const QString& b);

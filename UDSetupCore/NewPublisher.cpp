@@ -10,7 +10,7 @@
 
 namespace {
 
-/// CString's own comparison minds the case. What is looked for here is ASCII.
+/// CString compares case-sensitively. The texts searched for here are ASCII.
 bool containsInAnyCase(const CStringArray& texts, const CString& text)
 {
     return std::any_of(texts.begin(), texts.end(), [&text](const CString& other) {

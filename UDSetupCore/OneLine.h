@@ -1,10 +1,10 @@
-// Texts that are one line of a setting file.
+// Texts that fit one line of a setting file.
 #pragma once
 
 #include <QString>
 
-/// What a field holds, as one line: a pasted text may bring line ends along, which a field keeps and only
-/// draws as blanks, and NULs, at which the text would end.
+/// Removes line ends and NULs from the text of a field. Pasted text may contain line ends, which a field
+/// keeps and draws as blanks, and NULs, which would end the text.
 inline QString oneLine(QString text)
 {
     for (const char end : {'\r', '\n', '\0'}) {

@@ -1,5 +1,5 @@
-// A regist id is the stem of a file name: any bytes but NUL and "/". Rows carry it as a QString that no one
-// ever sees, so the mapping has to be lossless and need not be readable: one character a byte.
+// A regist id is the stem of a file name: any bytes but NUL and "/". Rows store it as a QString that is never
+// displayed, so the mapping must be lossless but need not be readable: one character per byte.
 #pragma once
 
 #include "Win_def_MFC.h"

@@ -1,4 +1,4 @@
-// Which actions on publishers make sense for how many selected rows.
+// Which publisher actions are available for a number of selected rows.
 #pragma once
 
 struct SelectionActions

@@ -1,4 +1,4 @@
-// What the publish mode and the model mean for the stackers of a publisher.
+// How the publish mode and the model determine the stackers of a publisher.
 #pragma once
 
 #include "ModelTable.h"
@@ -8,7 +8,7 @@
 /// `modelType` is an enPublisherType.
 ModelFamily modelFamily(UINT modelType);
 
-/// The model as which the property dialog shows this one: itself, or one of its family.
+/// The model that the property dialog shows in place of this one: itself, or another of its family.
 UINT modelSetUpAs(UINT modelType);
 
 /// Whether the drives write BD-R XL. `netPublisherType` is an enNetworkPublisherType.
@@ -17,19 +17,19 @@ bool writesBdXl(UINT modelType, UINT netPublisherType);
 /// Whether the property dialog fills in the version of drive 2.
 bool showsDrive2Version(UINT modelType);
 
-/// The resource with the picture of the discs' way, or null for a mode that has none. `usesStacker3` counts
-/// where a stacker 3 can be chosen.
+/// The resource path of the picture that shows the path of the discs; null if the mode has none.
+/// `usesStacker3` applies only where stacker 3 can be chosen.
 const char* stackerPicture(UINT publishMode, ModelFamily family, bool usesStacker3);
 
-/// How stacker 2 is tied to the publish mode.
+/// How the publish mode determines stacker 2.
 enum class Stacker2Rule
 {
-    output,          ///< takes the finished discs, and nothing else is offered
+    output,          ///< takes the finished discs; the only choice
     followsStacker1, ///< holds the same media
-    freeMedia        ///< holds media of its own, and takes no finished discs
+    freeMedia        ///< holds media chosen separately; takes no finished discs
 };
 
-/// What a change of the settings demands. An empty value is left as it is.
+/// The adjustments that a change of the settings requires. Empty means no change.
 struct StackerDemand
 {
     Stacker2Rule stacker2 = Stacker2Rule::output;
@@ -37,8 +37,8 @@ struct StackerDemand
     std::optional<bool> stacker3Enabled;
 };
 
-/// `publishMode` is one that can be chosen: normal, batch or output. `stacker3Changed`: the change was one of
-/// stacker 3, which output mode then lets stand. A combination that no user can bring about stops the
+/// `publishMode` must be selectable: normal, batch or output. `stacker3Changed` means that the user changed
+/// stacker 3; output mode then keeps it. Combinations that the user interface cannot produce abort the
 /// process: an unknown model in normal or output mode, and a network publisher whose stacker 3 changes in
 /// output mode.
 StackerDemand stackerDemand(UINT publishMode, ModelFamily family, bool stacker3Changed);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int mostPollThreads = 96;
 
-/// Jobs that wait in the publisher's queue; 0 when the list cannot be fetched.
+/// The number of jobs waiting in the publisher's queue; 0 if the list cannot be fetched.
 int countWaitingJobs(CPublisherMgr& publisherMgr, const CString& id)
 {
     JobStatusArray jobs;
@@ -108,7 +108,7 @@ void StatusPoll::fetchStatusOneDevice(const CString& id)
         facts.fatal = m_cPubMgr.IsFatalErrorInPublisher(id.c_str(), &facts.fatalCode);
     }
     if (m_closed) {
-        return; // a server that stalls would keep the closing waiting for each of the questions below
+        return; // with a stalled server, each query below would delay closing
     }
     const StatusDecision decision = decideStatus(facts);
 

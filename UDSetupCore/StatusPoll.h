@@ -1,4 +1,4 @@
-// The queries of the publisher list: which one runs when, and what it asks.
+// The status queries for the publisher list: when they run and what they fetch.
 #pragma once
 
 #include "PublisherMgr.h"
@@ -13,7 +13,7 @@
 #include <mutex>
 #include <string>
 
-/// What one query found out about a publisher, in the order of the status signal's arguments.
+/// The result of a query for one publisher, in the order of the status signal's arguments.
 struct StatusRow
 {
     QString strPublisherRegistID; ///< the row's key
@@ -25,43 +25,44 @@ struct StatusRow
     QString strHDDAvail;
 };
 
-/// Reads a publisher's record: with the device's live values when it can be reached, else as it is stored.
-/// `bConnection` becomes 0 only for a network publisher that cannot be reached, with the reason in
-/// `lResultCommLib`. May wait for a device.
+/// Reads a publisher's record, with live values from the device if it is reachable, otherwise as stored. Sets
+/// `bConnection` to 0 only for a network publisher that is unreachable; `lResultCommLib` then holds the
+/// reason. May block on a device.
 bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                    long& lResultCommLib);
 
-/// How many threads the queries of so many registered publishers need: one for each, so that those that hang
-/// hold back nobody, and one for all local publishers; never fewer than `leastThreads`. No more than 96: the
-/// network library's table holds 100 connections, and the windows need a few of their own.
+/// The number of threads that the queries of `registered` publishers need: one per publisher, so that a hung
+/// one delays only itself, plus one for all local publishers. At most 96, because the table of the network
+/// library holds 100 connections and the windows need a few. Never fewer than `leastThreads`.
 int pollThreads(int registered, int leastThreads);
 
-/// Asks publishers for their status on the global thread pool. The tasks share the ownership, so a query that
-/// hangs in a device outlives the window in safety. The start functions, close and waitForQueries belong to
-/// the user-interface thread.
+/// Queries the status of publishers on the global thread pool. The tasks share ownership of this object, so a
+/// hung query can safely outlive the window. Call the start functions, close and waitForQueries on the
+/// user-interface thread.
 class StatusPoll : public std::enable_shared_from_this<StatusPoll>
 {
 public:
     using Report = std::function<void(const StatusRow&)>;
 
-    /// `publisherMgr` outlives every query. `report` is called on pool threads, until close.
+    /// `publisherMgr` must outlive every query. `report` is called on pool threads until close().
     StatusPoll(CPublisherMgr& publisherMgr, bool bSupportNetworkModel, Report report);
 
-    /// Sees that the thread pool has room for the queries of so many registered publishers. It is never taken
-    /// back: idle threads end by themselves.
+    /// Raises the limit of the thread pool for the queries of `registered` publishers. The limit is never
+    /// lowered: idle threads end by themselves.
     static void makeRoom(int registered);
-    /// One query of all local publishers among `ids`, one after the other, unless such a query is running.
+    /// Queries the local publishers among `ids` one after the other, unless such a query is already running.
     void startLocal(const CStringArray& ids);
-    /// A query of one network publisher, unless such a query is running. Of a local one nothing is asked.
+    /// Queries one network publisher, unless such a query is already running. Does nothing for a local one.
     void startNetwork(const CString& id);
 
-    /// Asks one publisher and reports. Reports nothing when its record cannot be read. Any thread.
+    /// Queries one publisher and reports the result. Reports nothing if its record cannot be read. Any
+    /// thread.
     void fetchStatusOneDevice(const CString& id);
 
-    /// From here on nothing is reported, and no further publisher is asked.
+    /// After this call nothing is reported and no further publisher is queried.
     void close();
-    /// Waits for running queries, the local one first, then one network publisher after the other: up to so
-    /// many milliseconds for each.
+    /// Waits for running queries: first the local one, then each network publisher in turn. The timeouts are
+    /// in milliseconds and apply to each query.
     void waitForQueries(int localTimeout, int networkTimeout);
 
 private:
@@ -74,8 +75,10 @@ private:
     std::mutex m_reportGuard;
     Report m_report; // empty once closed
 
-    // Each marks a running query: the user-interface thread only tests it, a task holds it for its whole run.
+    // Each mutex marks a running query: the user-interface thread only tests it; a task holds it for its
+    // whole run.
     QMutex m_mtxUpdateStatusLocal;
-    // Touched by the user-interface thread alone; a task is handed its own mutex. Entries are never removed.
+    // Accessed only by the user-interface thread; each task gets a reference to its mutex. Entries are never
+    // removed.
     std::map<std::string, QMutex> m_mtxUpdateStatusNetwork;
 };

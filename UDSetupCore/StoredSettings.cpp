@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Stacker 4 takes the finished discs when stacker 3 does not.
+/// Stacker 4 takes the finished discs if stacker 3 does not.
 UINT stacker4BesideStacker3(UINT stacker3)
 {
     return stacker3 == PUBMGR_STACKERDISCTYPE_NOTUSE ? PUBMGR_STACKERDISCTYPE_OUTPUT

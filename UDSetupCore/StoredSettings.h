@@ -1,19 +1,20 @@
-// The settings of a publisher between the stored record and the controls of a dialog.
+// Converts the settings of a publisher between the stored record and the controls of a dialog.
 #pragma once
 
 #include "PublisherMgrIF.h"
 #include "StackerRules.h"
 
-/// What stacker 1 or 2 is shown to hold: DVD-R and DVD+R are one choice, an unknown value is CD-R.
+/// The media shown for stacker 1 or 2: DVD-R and DVD+R are one choice; an unknown value shows as CD-R.
 UINT correctedMedia(UINT discType);
 
-/// What stacker 3 is shown to be: PUBMGR_STACKERDISCTYPE_OUTPUT when it is in use, else ..._NOTUSE.
+/// The value shown for stacker 3: PUBMGR_STACKERDISCTYPE_OUTPUT if it is in use, otherwise ..._NOTUSE.
 UINT correctedStacker3(UINT discType);
 
-/// Modes that are set elsewhere show as normal mode. A mode that nobody can choose stays as it is.
+/// Modes that are set elsewhere show as normal mode. Any other mode is returned unchanged, even if it cannot
+/// be chosen.
 UINT correctedPublishMode(UINT publishMode);
 
-/// What the user chose.
+/// The user's choices.
 struct SettingChoices
 {
     UINT publishMode = PUBMGR_PUBLISHMODE_NORMAL;
@@ -25,6 +26,6 @@ struct SettingChoices
     bool errorMark = true;
 };
 
-/// Puts the choices into the record of a local publisher, with the stackers that follow from the mode. Stops
-/// the process for a family other than the local ones.
+/// Writes the choices to the record of a local publisher, including the stackers that follow from the mode.
+/// Aborts the process unless the family is a local one.
 void storeChoices(const SettingChoices& choices, ModelFamily family, PUBLISHERINFO& info);

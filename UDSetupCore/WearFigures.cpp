@@ -12,7 +12,7 @@ QString notKnown()
     return QStringLiteral("-");
 }
 
-/// Percent, cut to two decimals. Not a number for 0 of 0.
+/// Percent, rounded down to two decimals. NaN for 0 of 0.
 double share(UINT count, UINT limit)
 {
     return std::floor(static_cast<double>(count) / static_cast<double>(limit) * 10000) / 100;
