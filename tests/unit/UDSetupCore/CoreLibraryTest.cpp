@@ -1,5 +1,5 @@
-// The program holds the whole library, and no window toolkit: a widget in the library would not link, or
-// would bring one along.
+// This program contains all of UDSetupCore and loads only Qt Core. A widget in the library would fail to link
+// or would load another Qt library.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -21,7 +21,7 @@ std::vector<std::string> loadedLibraries()
     return names;
 }
 
-TEST(CoreLibrary, LoadsNothingOfQtButItsCore)
+TEST(CoreLibrary, LoadsNoQtLibraryButQtCore)
 {
     bool core = false;
     for (const std::string& name : loadedLibraries()) {
