@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int narrowest = 360; // pixels: the whole title fits beside the frame's buttons
+constexpr int narrowest = 360; // pixels: the title fits beside the window buttons
 
 } // namespace
 

@@ -1,21 +1,21 @@
-// The window that moves while something slow runs.
+// The window that is shown during a slow operation.
 #pragma once
 
 #include <QProgressDialog>
 
-/// Says that the program is at work, not how far it got. It blocks its parent, if it has one, and the user
-/// cannot send it away. It serves the event loop with each call of setValue, and appears with the first of
-/// them that comes a moment after another.
+/// Shows that the program is busy, but no progress. It blocks its parent, if it has one, and the user cannot
+/// close it. Each call of setValue processes events. The window appears with the first call that comes a
+/// moment after an earlier one.
 class BusyIndicator : public QProgressDialog
 {
 public:
     explicit BusyIndicator(QWidget* parent);
 
-    /// Does nothing: Escape would hide it and hand the window below back to the user, with the work running.
+    /// Does nothing: Escape would hide the dialog and unblock the window below while the work still runs.
     void reject() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    /// Puts the bar in the middle, where there is no label above it.
+    /// Centres the bar, because there is no label above it.
     void resizeEvent(QResizeEvent* event) override;
 };

@@ -1,11 +1,11 @@
-// Combo boxes whose items bear a number.
+// Combo boxes whose items have a number.
 #pragma once
 
 #include "Win_def.h"
 
 #include <QComboBox>
 
-/// Selects the item that bears `value`, or none.
+/// Selects the item with `value`, or none.
 inline void selectValue(QComboBox* box, UINT value)
 {
     box->setCurrentIndex(box->findData(value));
@@ -17,7 +17,7 @@ inline UINT selectedValue(const QComboBox* box)
     return box->currentData().toUInt();
 }
 
-/// Takes the item that bears `value` away, if there is one.
+/// Removes the item with `value`, if there is one.
 inline void removeValue(QComboBox* box, UINT value)
 {
     box->removeItem(box->findData(value));

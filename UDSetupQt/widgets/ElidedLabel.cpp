@@ -70,7 +70,7 @@ void ElidedLabel::paintEvent(QPaintEvent* e)
 {
     const QString shown = line();
     if (shown == text() && !isElided()) {
-        QLabel::paintEvent(e); // with the selection, if there is one
+        QLabel::paintEvent(e); // paints the selection too
         return;
     }
     QPainter painter(this);

@@ -1,11 +1,10 @@
-// A label for a text from a device or a file, which may be of any length and hold any character.
+// A label for a text from a device or a file, which may have any length and contain any character.
 #pragma once
 
 #include <QLabel>
 
-/// One line, whatever the text holds. A text that does not fit ends in an ellipsis, and its tool tip tells
-/// the rest; the label asks for 40 characters at most, so that no device can make a window wider than the
-/// screen.
+/// Always shows one line. A text that does not fit ends in an ellipsis, and the tool tip shows all of it. The
+/// size hint is at most 40 characters, so that no device can make a window wider than the screen.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

@@ -48,7 +48,7 @@ bool EmptyListNote::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::Move:
     case QEvent::Resize:
-    case QEvent::Show: // the first layout ends without the other two
+    case QEvent::Show: // the first layout sends neither of the other two
         setGeometry(list()->viewport()->geometry());
         break;
     default:

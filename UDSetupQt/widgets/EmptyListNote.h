@@ -1,12 +1,12 @@
-// The line in the middle of a list that has no rows.
+// The text in the middle of a list that has no rows.
 #pragma once
 
 #include <QLabel>
 
 class QTreeWidget;
 
-/// Lies over the list, which owns it, while the list has no rows: grey, and without taking clicks. The text
-/// is the list's accessible description meanwhile, because a screen reader does not reach the label.
+/// Covers the list, which owns it, while the list has no rows. It is grey and ignores clicks. Meanwhile the
+/// text is also the list's accessible description, because a screen reader does not reach the label.
 class EmptyListNote : public QLabel
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ private:
     void takeColours();
     void follow();
 
-    /// Null while the list is being destroyed, when its model still sends signals.
+    /// Null while the list is being destroyed: its model still emits signals then.
     QTreeWidget* list() const;
 
-    QString m_description; // of the list that has rows
+    QString m_description; // of the list while it has rows
 };

@@ -1,9 +1,9 @@
-// Dialogs that stand at the size of what they hold.
+// Dialogs with the fixed size of their contents.
 #pragma once
 
 class QDialog;
 
-/// May be called again when the contents have changed. Fixes a dialog with a layout at the size that
-/// adjustSize gives, and makes it as high as its contents need where adjustSize falls short: it stops at two
-/// thirds of the screen, which would cut the text of a large font on a small screen.
+/// Fixes the size of a dialog that has a layout at the size that adjustSize gives. Makes the dialog higher if
+/// its contents need it: adjustSize stops at two thirds of the screen, which would cut text in a large font
+/// on a small screen. May be called again when the contents change.
 void fixToContents(QDialog& dialog);

@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int darkening = 140;  // percent: by so much the style darkens the colour that a frame starts from
-constexpr int leastLight = 170; // of 255: of the colour that the frame of what has the keyboard starts from
+constexpr int darkening = 140;  // percent: the style darkens the base colour of a frame by this
+constexpr int leastLight = 170; // of 255: minimum lightness of a focused frame's base colour
 
 bool hasFrame(const QWidget* widget)
 {
@@ -21,7 +21,7 @@ bool hasFrame(const QWidget* widget)
            qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget);
 }
 
-/// Three fifths of the way. Half of it would do, if no screen drew a frame over parts of its pixels.
+/// Three fifths of the way. Half would do, but some screens draw a frame across parts of pixels.
 int between(int one, int other)
 {
     return one + (other - one) * 3 / 5;
@@ -42,7 +42,7 @@ QColor greyBetween(const QColor& ground, const QColor& text)
 
 void setFrameColours(QWidget& part)
 {
-    QPalette colours; // what is not set here follows the application
+    QPalette colours; // colours not set here follow the application
     const QPalette application = QApplication::palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const QColor& ground = application.color(group, QPalette::Base);

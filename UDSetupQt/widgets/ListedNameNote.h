@@ -5,14 +5,14 @@
 
 class QLineEdit;
 
-/// What a window does with an empty name.
+/// How a window treats an empty name.
 enum class EmptyName
 {
     isStored,
     isRefused
 };
 
-/// Hidden as long as the typed name will be listed as it is.
+/// Hidden while the typed name will be listed unchanged.
 class ListedNameNote : public ElidedLabel
 {
     Q_OBJECT
@@ -20,8 +20,9 @@ class ListedNameNote : public ElidedLabel
 public:
     explicit ListedNameNote(QWidget* parent = nullptr);
 
-    /// Shows or hides itself for the text of the field, which has the line as accessible description
-    /// meanwhile. True when it appears for the first time: the window has to make room for it. It keeps the
-    /// room when it is hidden again, so that the window does not change its size with every letter.
+    /// Shows or hides the line for the text of the field. While shown, the line is also the field's
+    /// accessible description. Returns true when it appears for the first time: the window must then make
+    /// space for it. The line keeps its space when it is hidden again, so that the window does not change its
+    /// size with every letter.
     bool showFor(QLineEdit& field, EmptyName emptyName);
 };

@@ -1,4 +1,4 @@
-// A row of the publisher list: names sort naturally, the other columns as plain text.
+// A row of the publisher list. Names sort in natural order, the other columns as plain text.
 #pragma once
 
 #include <QTreeWidgetItem>

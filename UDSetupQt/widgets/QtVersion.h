@@ -1,4 +1,4 @@
-// Where Qt 5.15 and Qt 6 differ. The only file that asks for the version of Qt.
+// The differences between Qt 5.15 and Qt 6. The only file that checks the version of Qt.
 #pragma once
 
 #include <QCoreApplication>
@@ -7,8 +7,8 @@
 #include <QPixmap>
 #include <QString>
 
-/// Scales windows and pictures with the screen. To be called before the application object is created. Qt 6
-/// always scales.
+/// Scales windows and pictures with the screen. Call it before the application object is created. Qt 6 always
+/// scales.
 inline void enableScreenScaling()
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)

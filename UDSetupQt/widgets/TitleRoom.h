@@ -1,9 +1,9 @@
-// Titles of groups that keep their last letter.
+// Group titles whose last letter is not cut.
 #pragma once
 
 class QWidget;
 
-/// The style gives the title of a group the width of its letters as they are drawn one by one. A line of text
-/// is up to some pixels wider, so that its end is cut with many a font. This gives the titles of all groups
-/// in the form the width of their group. User-interface thread; to be called once the form is set up.
+/// The style gives a group title the sum of the widths of its letters. The drawn line is up to a few pixels
+/// wider, so many fonts lose its end. This function gives all group titles in the form the width of their
+/// group. User-interface thread. Call it after the form is set up.
 void giveTitlesRoom(QWidget& form);

@@ -7,8 +7,8 @@
 WaitCursor::WaitCursor()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    // X11 gets the cursor at once. Wayland requests are sent before the event loop blocks, and the thread is
-    // about to block without it. Serving the event loop instead would run timers and deliver input.
+    // X11 sets the cursor at once. Wayland requests are sent when the event loop is about to block, but this
+    // thread blocks outside it. Processing events instead would run timers and deliver input.
     emit QAbstractEventDispatcher::instance() -> aboutToBlock();
 }
 

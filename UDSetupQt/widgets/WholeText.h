@@ -1,4 +1,4 @@
-// The tool tip that tells the whole of a text which is cut where it stands.
+// The tool tip that shows the whole of a truncated text.
 #pragma once
 
 #include <QRect>
@@ -7,11 +7,11 @@
 class QPoint;
 class QWidget;
 
-/// Shows the text as it is, markup included; of a very long one the beginning. It goes when the mouse leaves
-/// `place`, in the coordinates of `widget`; of the whole widget when it is empty.
+/// Shows the text literally, including markup, up to 1000 characters. It disappears when the mouse leaves
+/// `place`, in coordinates of `widget`, or the widget if `place` is empty.
 void showWholeText(const QPoint& globalPos, const QString& text, QWidget* widget, const QRect& place = {});
 
-/// The cells of a list: one whose text does not fit has its whole text as tool tip. For the view with
+/// Gives each cell of a list whose text does not fit its whole text as tool tip. Install it on the view with
 /// setItemDelegate.
 class WholeTextDelegate : public QStyledItemDelegate
 {
