@@ -8,7 +8,7 @@
 std::optional<int> startWithPublisher(const char* strPublisherName)
 {
     CPublisherMgr publisherMgr(true);
-    CString strFirstMatch; // readable or not: the search below decides
+    CString strFirstMatch; // may be unreadable; the search below decides
     publisherMgr.GetPublisherRegistIDFromName(strPublisherName, &strFirstMatch);
 
     CStringArray ids;

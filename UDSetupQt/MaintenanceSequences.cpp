@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Shows one of the forms and waits for its answer: true when it was accepted.
+/// Shows one of the forms and waits until it is closed. Returns true if it was accepted.
 template <class Form>
 bool isAccepted()
 {
@@ -43,7 +43,7 @@ void submitHeadCleaning(const PUBLISHERINFO& info)
         info, QCoreApplication::translate("propertyDialogEx", "Cleaning").toUtf8().constData());
 }
 
-/// True when the user goes on to a head cleaning.
+/// Returns true if the user continues with a head cleaning.
 bool checkNozzles(const PUBLISHERINFO& info)
 {
     if (!isAccepted<Ui::printerMaintNozzleCheck1>()) {
@@ -53,7 +53,7 @@ bool checkNozzles(const PUBLISHERINFO& info)
     return !isAccepted<Ui::printerMaintNozzleCheck2>();
 }
 
-/// True when the user goes on to a nozzle check.
+/// Returns true if the user continues with a nozzle check.
 bool cleanHead(const PUBLISHERINFO& info)
 {
     if (!isAccepted<Ui::printerMaintHeadCleaning1>()) {

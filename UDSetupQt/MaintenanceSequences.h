@@ -1,10 +1,10 @@
-// The guided printer maintenance of a publisher: a dialog that explains, a job, a dialog that tells what to
-// look for on the printer.
+// The guided printer maintenance of a publisher: a dialog with instructions, a job, and a dialog that says
+// what to check on the printer.
 #pragma once
 
 #include "PublisherMgrIF.h"
 
-/// Each offers the other at its end, and so they take turns until the user finishes. Both run the event loop
-/// of their dialogs, and block while a job is handed over.
+/// Each sequence offers the other at its end, so they alternate until the user finishes. Both run the event
+/// loop of their dialogs and block while a job is submitted.
 void runNozzleCheckSequence(const PUBLISHERINFO& info);
 void runHeadCleaningSequence(const PUBLISHERINFO& info);

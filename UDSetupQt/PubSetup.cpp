@@ -39,9 +39,9 @@ namespace {
 
 constexpr QSize startSize(800, 300);
 constexpr int pollInterval = 5000;         // milliseconds, as are the three below
-constexpr int localPollPatience = 10000;   // how long closing waits for the local query
-constexpr int networkPollPatience = 60000; // and for the query of each network publisher
-constexpr unsigned long busyStep = 100;    // how long the busy indicator stands still
+constexpr int localPollPatience = 10000;   // maximum wait for the local query on closing
+constexpr int networkPollPatience = 60000; // the same for the query of each network publisher
+constexpr unsigned long busyStep = 100;    // time between two steps of the busy indicator
 constexpr Qt::Alignment numberAlignment = Qt::AlignRight | Qt::AlignVCenter;
 
 QString keyOf(const QTreeWidgetItem* row)
@@ -49,9 +49,8 @@ QString keyOf(const QTreeWidgetItem* row)
     return row->data(0, Qt::UserRole).toString();
 }
 
-/// An image with the other size that stands beside the plain one in the resource tree, so that nothing is
-/// scaled. A selected row shows it as it is: tinted with the colour of the selection it could not be made
-/// out.
+/// An icon with both sizes from the resource tree, so that nothing is scaled. A selected row shows it
+/// unchanged: tinted with the selection colour it would be unrecognisable.
 QIcon image(const char* name, const char* otherSize)
 {
     QIcon icon;
@@ -118,7 +117,7 @@ void PubSetup::setUpImages()
 void PubSetup::setUpColumns()
 {
     QHeaderView* header = treePublisherList->header();
-    header->setTextElideMode(Qt::ElideRight); // a cut head keeps its beginning
+    header->setTextElideMode(Qt::ElideRight); // a cut heading keeps its beginning
     if (m_bSupportNetworkModel) {
         treePublisherList->setHeaderLabels({tr("Name"), tr("Model name"), tr("Host Name"), tr("Status"),
                                             tr("Waiting"), tr("Transmitting"), tr("Available Space")});
@@ -182,11 +181,11 @@ void PubSetup::doWithProgress(std::function<void()> f, QWidget* parent)
             done = true;
         });
     } catch (const std::system_error&) {
-        f(); // no thread to be had: the callers count on the work, so the interface stands still for once
+        f(); // no thread available: the callers need the work done, so the interface blocks
         return;
     }
     while (!done) {
-        progress.setValue(progress.value() + 1); // serves the event loop
+        progress.setValue(progress.value() + 1); // processes events
         QThread::msleep(busyStep);
     }
     t.join();
@@ -304,8 +303,8 @@ void PubSetup::updateList()
 
     const ReadPass pass;
     for (const CString& id : ids) {
-        // Nothing of the settings goes into a row that is there already. Reading a file that is missing
-        // writes to the log.
+        // An existing row takes nothing from the settings. Its file is read only if it is missing, because
+        // that read writes to the log.
         const QString key = keyFromRegistID(id);
         if (shown.contains(key) && m_cPubMgr.IsExistSettingFile(id.c_str())) {
             continue;
@@ -427,8 +426,7 @@ void PubSetup::showPropertyDialog()
 {
     const QTreeWidgetItem* row = chosenRow();
     ASSERT(row != nullptr);
-    // From here on the row may go at any time: the list follows the registered publishers behind every
-    // dialog.
+    // The row may be deleted at any time from here on: the list is updated while a dialog is open.
     const CString strPublisherRegistID = registIDFromKey(keyOf(row));
     PUBLISHERINFO info;
     BOOL bConnection = 0;
@@ -444,7 +442,7 @@ void PubSetup::showPropertyDialog()
     }
     const WaitCursor cursor;
     QTreeWidgetItem* chosen = chosenRow();
-    // A server may be out of reach; its name is stored here. A publisher that is gone has no name to show.
+    // A server may be unreachable; its name is stored locally. A removed publisher has no name to show.
     if (chosen && (m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, FALSE) ||
                    m_cPubMgr.GetPublisherInfo(strPublisherRegistID.c_str(), &info, TRUE))) {
         chosen->setText(colName, QString::fromStdString(info.strPublisherName));

@@ -1,4 +1,5 @@
-// The main window: the list of registered publishers with their live status, and the way to everything else.
+// The main window: the list of registered publishers with their live status, and the actions that open all
+// other windows.
 #pragma once
 
 #include "PublisherMgr.h"
@@ -19,36 +20,37 @@ class PubSetup : public QMainWindow, public Ui::MainWindow
 
 public:
     explicit PubSetup(QWidget* parent);
-    /// Waits for running queries: 10 seconds for the local publishers, 60 for each network publisher.
+    /// Waits for running queries: up to 10 seconds for the local publishers and 60 for each network
+    /// publisher.
     ~PubSetup() override;
 
-    /// Reads a publisher's record as readPublisher does, through the window's manager. Any thread.
+    /// Calls readPublisher with the window's publisher manager. Any thread.
     static bool getPublisherInfo(const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                                  long& lResultCommLib);
-    /// Runs `f` on a thread of its own behind a busy indicator that keeps the interface alive, and returns
-    /// when it has ended, up to a tenth of a second late. `f` must not throw, touches no widget, and leaves
-    /// its results in variables of the caller. `parent`, which may be null, takes no input meanwhile.
-    /// User-interface thread; there is no time-out.
+    /// Runs `f` on its own thread while a busy indicator keeps the interface responsive. Returns up to a
+    /// tenth of a second after `f` has ended. `f` must not throw or use widgets; it returns its results in
+    /// variables of the caller. `parent` may be null; it accepts no input meanwhile. User-interface thread.
+    /// There is no timeout.
     static void doWithProgress(std::function<void()> f, QWidget* parent);
-    /// The same with the window as parent.
+    /// The same, with this window as parent.
     void doWithProgress(std::function<void()> f);
-    /// Reads, behind a busy indicator, what the properties open with, and says so when the publish mode among
-    /// it is the stored one: `publisherMgr` is asked whether the device's own can be had. False, without a
-    /// message, when the publisher cannot be read.
+    /// Reads the record for the property dialog behind a busy indicator. Asks `publisherMgr` for the publish
+    /// mode of the device and shows a warning if it cannot be fetched, because the record then holds the
+    /// stored one. Returns false, without a message, if the publisher cannot be read.
     static bool readForProperties(CPublisherMgr& publisherMgr, const CString& id, QWidget* parent,
                                   PUBLISHERINFO& info, BOOL& bConnection);
-    /// Says that the publish mode about to be shown is the stored one. `parent` may be null.
+    /// Warns that the publish mode about to be shown is the stored one. `parent` may be null.
     static void showWariningBeforeProperty(QWidget* parent);
 
-    /// The row of a key, or null.
+    /// The row with a key, or null.
     QTreeWidgetItem* findItemByPublisherRegistID(const QString& strPublisherRegistID);
     /// getPublisherInfo for the current row, which must exist.
     bool getCurrentPublisherInfo(PUBLISHERINFO& info, BOOL& bConnection);
     /// The text of the model column.
     QString getPublisherDevTypeStr(const PUBLISHERINFO& info, const CString& id);
-    /// Fills a new row from what is stored; its status comes with the first answer.
+    /// Fills a new row from the stored record; the first query adds its status.
     void fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINFO& info);
-    /// Asks one publisher and emits updateStatusOneDeviceSignal. Any thread.
+    /// Queries one publisher and emits updateStatusOneDeviceSignal. Any thread.
     void fetchStatusOneDevice(const CString& strPublisherRegistID);
 
 signals:
@@ -75,8 +77,8 @@ private:
     void setUpColumns();
     void setUpEmptyList();
     void connectAll();
-    /// The current row; without one, the selected row if it is the only one; else null. "Select all" selects
-    /// rows and makes none of them current.
+    /// The current row; without one, the selected row if it is the only one; otherwise null. "Select all"
+    /// selects rows but makes none of them current.
     QTreeWidgetItem* chosenRow() const;
     /// Emits updateStatusOneDeviceSignal, whose seven arguments are the fields of the record. Any thread.
     void sendStatus(const StatusRow& status);
@@ -89,8 +91,8 @@ private:
         jobs,
         failed
     };
-    /// Takes them one after the other, up to the first that has unfinished jobs or cannot be deleted. Blocks
-    /// while services and servers answer.
+    /// Removes the selected publishers in turn and stops at the first that has unfinished jobs or cannot be
+    /// deleted. Blocks on services and servers.
     Removal removeSelected();
 
     bool m_bSupportNetworkModel = true;

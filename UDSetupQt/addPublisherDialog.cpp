@@ -21,7 +21,7 @@ addPublisherDialog::addPublisherDialog(QDialog* parent) : QDialog(parent), m_cPu
     connectAll();
     colourFrames();
     for (QLineEdit* field : {textHostName, textPublisherName}) {
-        field->setMaxLength(std::numeric_limits<int>::max()); // it begins with a limit
+        field->setMaxLength(std::numeric_limits<int>::max()); // the default has a limit
     }
     textHostName->setFocus();
     fixToContents(*this);
@@ -70,7 +70,7 @@ bool addPublisherDialog::isTaken(const CStringArray& ids, const CString& name, c
 {
     return std::any_of(ids.begin(), ids.end(), [&](const CString& id) {
         const bool network = m_cPubMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
-        PUBLISHERINFO info; // as it is stored: no device is asked
+        PUBLISHERINFO info; // as stored: no device is queried
         return m_cPubMgr.GetPublisherInfo(id.c_str(), &info, network) && isTakenBy(info, name, host);
     });
 }

@@ -1,4 +1,4 @@
-// Registers a network publisher under a host name and a name to show.
+// Registers a network publisher with a host name and a displayed name.
 #pragma once
 
 #include "PublisherMgr.h"
@@ -7,17 +7,17 @@
 
 #include <QDialog>
 
-/// Its result is 1 when the publisher was added. User-interface thread, which stands still while the device
-/// is looked for.
+/// The result is 1 if the publisher was added. User-interface thread, which blocks while the device is looked
+/// up.
 class addPublisherDialog : public QDialog, public Ui::addPublisherDialog
 {
     Q_OBJECT
 
 public:
-    /// Offers a name that no registered publisher has. Lists the registered ones on the standard output.
+    /// Offers a name that no registered publisher has. Prints the registered ones on standard output.
     explicit addPublisherDialog(QDialog* parent);
-    /// Adds the publisher and closes. When it cannot, says why; the dialog then stays, unless trying again is
-    /// of no use.
+    /// Adds the publisher and closes the dialog. On failure it shows the reason and stays open if a retry can
+    /// succeed.
     Q_SLOT void addPublisher();
 
 protected:
@@ -27,7 +27,7 @@ private:
     void connectAll();
     void colourFrames();
     void offerName();
-    /// What became of a try to add the publisher.
+    /// The result of an attempt to add the publisher.
     enum class Addition
     {
         done,
@@ -35,7 +35,7 @@ private:
         notFound,
         failed
     };
-    /// Blocks while the server is looked for.
+    /// Blocks while it connects to the server.
     Addition add();
     bool isTaken(const CStringArray& ids, const CString& name, const CString& host);
 

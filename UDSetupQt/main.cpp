@@ -32,7 +32,7 @@ bool hasValue(const char* variable)
     return value && *value != '\0';
 }
 
-/// Whether somebody named a screen to show anything on. The toolkit aborts when there is none.
+/// Whether a display is named on the command line or in the environment. Qt aborts without one.
 bool hasDisplay(int argc, char** argv)
 {
     constexpr std::string_view options[] = {"-platform", "--platform", "-display", "--display"};
@@ -43,8 +43,9 @@ bool hasDisplay(int argc, char** argv)
     return chosen || hasValue("DISPLAY") || hasValue("WAYLAND_DISPLAY") || hasValue("QT_QPA_PLATFORM");
 }
 
-/// Ends the process at once when a task still hangs in a service that accepts and never answers: the thread
-/// pool would wait for it for good, and the static objects may not go while the task uses them.
+/// Ends the process at once if a task still hangs in a service that accepts a connection but never replies.
+/// The thread pool would wait for it forever, and the static objects must not be destroyed while the task
+/// uses them.
 void endDespiteHangingTasks(int result)
 {
     if (!waitForTasks(taskPatience)) {
@@ -65,14 +66,14 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
 
-    // A fixed threshold: otherwise glibc raises it with the first large reply of a server, and each polling
-    // thread keeps the memory of its largest one.
+    // A fixed threshold. Otherwise glibc raises it with the first large server reply, and each polling thread
+    // keeps the memory of its largest reply.
     mallopt(M_MMAP_THRESHOLD, largeAllocation);
 
     enableScreenScaling();
     QGuiApplication::setDesktopFileName("com.arven.UlmarDiscSetup");
     QApplication app(argc, argv);
-    SetTextLocale(); // before the first poll; QApplication has just set the locale of the environment
+    SetTextLocale(); // before the first poll; QApplication has just set the locale from the environment
 
     QTranslator qtTr;
     if (qtTr.load("qt_" + QLocale::system().name(), qtTranslationFolder())) {

@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr int widestBox = 900; // pixels: with the margins around it, it fits a screen 1024 pixels wide
+constexpr int widestBox = 900; // pixels: with its margins it fits a screen 1024 pixels wide
 
-/// A label breaks its lines by itself, a check box does not.
+/// Breaks the text in the middle: a label wraps its text, a check box does not.
 void breakLongText(QCheckBox* box)
 {
     QString text = box->text();
@@ -65,7 +65,7 @@ void settingDialogEx::connectAll()
     connect(cancelButton, &QPushButton::clicked, this, &settingDialogEx::reject);
 }
 
-/// What stands below the box on the screen, for those who hear the box only.
+/// Gives screen readers the text below the check box.
 void settingDialogEx::describeApproval()
 {
     checkCompatMode->setAccessibleDescription(
@@ -76,14 +76,14 @@ void settingDialogEx::fixSize()
 {
     for (QGroupBox* group : {groupWorkingFolder, groupNotificationMethod, groupNotificationTiming,
                              groupNetworkModelCompatibility}) {
-        group->setTitle(group->title() + ' '); // room behind the last letter
+        group->setTitle(group->title() + ' '); // space after the last letter
     }
     breakLongText(checkCompatMode);
     int widest = 0;
     for (int i = 0; i < settingTab->count(); ++i) {
         widest = std::max(widest, settingTab->widget(i)->sizeHint().width());
     }
-    for (int i = 0; i < settingTab->count(); ++i) { // the tabs do not ask what a page needs at that width
+    for (int i = 0; i < settingTab->count(); ++i) { // tabs ignore the height that a page needs at its width
         QWidget* page = settingTab->widget(i);
         page->setMinimumSize(
             widest, std::max(page->sizeHint().height(), page->layout()->totalHeightForWidth(widest)));
@@ -95,7 +95,7 @@ void settingDialogEx::fixSize()
 bool settingDialogEx::event(QEvent* e)
 {
     if (e->type() == QEvent::ApplicationPaletteChange) {
-        // The colours that the style sheet names are worked out when it is set.
+        // The colours in the style sheet are resolved when it is set.
         settingTab->setStyleSheet(settingTab->styleSheet());
         setFrameColours(*settingTab);
     }
@@ -165,7 +165,7 @@ void settingDialogEx::onWokingFolderEdited(const QString& /*text*/)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Keeping the settings
+// Reading and saving the settings
 
 DWORD settingDialogEx::readSetting(const char* name, DWORD preset)
 {
@@ -229,7 +229,7 @@ void settingDialogEx::saveAndContinue()
     if (changeSetting()) {
         m_isChanged = false;
         applyButton->setEnabled(false);
-        setResult(QDialog::Accepted); // what is applied stays, whatever closes the dialog
+        setResult(QDialog::Accepted); // applied settings count, however the dialog is closed
     }
 }
 

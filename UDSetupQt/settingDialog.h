@@ -1,4 +1,5 @@
-// What all publishers of this computer have in common: working folder, notification, compatibility approval.
+// The settings shared by all publishers of this computer: working folder, notification, compatibility
+// approval.
 #pragma once
 
 #include "RegUtility.h"
@@ -9,25 +10,25 @@
 
 #include <string>
 
-/// Its result is 1 when something was applied, also when it is closed with Cancel afterwards.
+/// The result is 1 if settings were applied, even if the dialog is then closed with Cancel.
 class settingDialogEx : public QDialog, public Ui::settingDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows what is in force. Repairs the path of the job folder when it is broken.
+    /// Shows the current settings. Repairs the path of the job folder if it is broken.
     explicit settingDialogEx(QDialog* parent);
 
     // The working folder: see JobFolder.h.
     std::string getCurrentJobFolder();
     bool checkProcessingJob();
     bool createActualJobFolder(const char* path);
-    /// Puts the folder of the field into force; a ChangeWorkingFolderResult.
+    /// Changes the working folder to the one in the field. Returns a ChangeWorkingFolderResult.
     int changeWorkingFolder();
 
-    /// Writes notification and approval to the registry. False when it cannot be written.
+    /// Writes notification and approval to the registry. Returns false if that fails.
     bool changeNotification();
-    /// Puts into force what was changed. False, and the person has been told, when that failed.
+    /// Applies the changes. On failure it shows a message and returns false.
     bool changeSetting();
 
 protected:
@@ -39,7 +40,7 @@ public slots:
     void searchFolder();
     void onWokingFolderEdited(const QString& text);
     void setChanged();
-    /// Cancel, Escape and the window's own button: the result stays as Apply left it.
+    /// Handles Cancel, Escape and the close button of the window. Keeps the result that Apply set.
     void reject() override;
 
 private:
@@ -51,7 +52,7 @@ private:
     void showWorkingFolder(const std::string& folder);
     std::string workingFolder() const;
 
-    bool m_isChanged = false; // since the dialog was opened or its settings were applied
+    bool m_isChanged = false; // since the dialog was opened or settings were applied
     CRegUtility m_cRegUtil;
-    std::string m_shownFolder; // the bytes behind the field's text, which need not be UTF-8
+    std::string m_shownFolder; // the bytes of the field's text, which need not be UTF-8
 };
