@@ -1,4 +1,5 @@
-// The rows of network publishers, from the servers' answers to the texts, and what a person does with them.
+// Tests the list rows of network publishers: the texts derived from server replies, and user actions on the
+// rows.
 #include "SameImage.h"
 #include "ServerFixture.h"
 #include "settingDialog.h"
@@ -7,7 +8,7 @@
 
 namespace {
 
-/// A fault of the server from one moment on.
+/// An HTTP fault for requests whose target begins with `path`. The first `after` requests succeed.
 struct Trouble
 {
     const char* path;
@@ -30,36 +31,37 @@ private slots:
     void init();
     void cleanup();
 
-    void everyStateHasItsRow_data();
-    void everyStateHasItsRow();
+    void rowShowsStatus_data();
+    void rowShowsStatus();
     void readyRows_data();
     void readyRows();
-    void spaceIsCutToWholeMebibytes();
-    void jobsThatOthersSend();
-    void queriesInTheirOrder();
-    void removalEndsTheQuestionsOfAPoll();
-    void unreadableServerKeepsItsRow();
-    void modelsHaveTheirTexts_data();
-    void modelsHaveTheirTexts();
-    void storedRowComesFirst();
-    void hostBehindBackslashes();
-    void kindOfAHostBehindBackslashesIsNotKept();
-    void approvalLetsAnOldServerIn();
-    void serverComesBack();
+    void spaceIsRoundedDownToMebibytes();
+    void jobsSentByOtherComputers();
+    void queryOrder();
+    void removalStopsTheQueriesOfAPoll();
+    void unreadableServerLeavesRowUnchanged();
+    void modelTexts_data();
+    void modelTexts();
+    void storedValuesAreShownFirst();
+    void hostAfterBackslashes();
+    void kindOfHostAfterBackslashesIsNotStored();
+    void approvalAllowsOldServer();
+    void serverReturns();
     void localAndNetworkSideBySide();
-    void slowServerHoldsBackOnlyItself();
-    void publisherRemovedWhileItsServerIsAsked();
-    void closingWaitsForTheRunningQuestionAlone();
-    void removedWithItsJobs();
-    void removedOutOfReach();
-    void unreadablePublisherLosesItsRowOnly();
+    void slowServerDelaysOnlyItself();
+    void publisherRemovedDuringQuery();
+    void closingWaitsOnlyForTheRunningQuery();
+    void removedWithJobs();
+    void removedWhileUnreachable();
+    void removingUnreadablePublisherKeepsItsFile();
 
 private:
     void open(const std::string& scenario);
     void ask();
     void remove(const QString& key);
     QStringList texts(const QString& key = "N") const;
-    /// The texts behind the host name, once the row has been written anew.
+    /// Queries the servers once more and compares the columns after the host name, which are overwritten
+    /// first.
     void compareAnswer(const QStringList& expected);
 };
 
@@ -108,7 +110,7 @@ void NetworkListTest::compareAnswer(const QStringList& expected)
     QCOMPARE(texts().mid(3), expected);
 }
 
-void NetworkListTest::everyStateHasItsRow_data()
+void NetworkListTest::rowShowsStatus_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<Troubles>("troubles");
@@ -116,25 +118,25 @@ void NetworkListTest::everyStateHasItsRow_data()
 
     const QString notRegistered = "Administrator not registered";
     QTest::newRow("no administrator") << "" << Troubles{{modeGetter, "status 11"}} << notRegistered;
-    QTest::newRow("no administrator for the kind")
+    QTest::newRow("no administrator, kind query")
         << "" << Troubles{{"/webapp2/DevInfoIntGetter", "status 11"}} << notRegistered;
-    QTest::newRow("no administrator for the version")
+    QTest::newRow("no administrator, version query")
         << "" << Troubles{{"/webapp2/IFVersionChecker", "status 11"}} << notRegistered;
 
     const QString unsupported = "Unsupported version";
     QTest::newRow("refuses the interface version")
         << "interface-version = 03000000" << Troubles{} << unsupported;
-    QTest::newRow("version refused by the mode") << "" << Troubles{{modeGetter, "status 1"}} << unsupported;
+    QTest::newRow("version refused, mode query") << "" << Troubles{{modeGetter, "status 1"}} << unsupported;
     for (const char* version : {"2.0", "2.10", "2.29", "3.0", "3.29", "2", "3"}) {
         QTest::addRow("old server %s", version)
             << QString("server-version = ") + version << Troubles{} << unsupported;
     }
 
     const QString notConnected = "Not connected";
-    QTest::newRow("nobody listens") << "listening = no" << Troubles{} << notConnected;
+    QTest::newRow("not listening") << "listening = no" << Troubles{} << notConnected;
     for (const char* fault : {"http 500", "http 404", "close", "empty", "size 2", "status 2", "status 3",
                               "status 9", "status 10", "status 12", "status 200", "cut 20"}) {
-        QTest::addRow("mode answered by %s", fault) << "" << Troubles{{modeGetter, fault}} << notConnected;
+        QTest::addRow("mode reply: %s", fault) << "" << Troubles{{modeGetter, fault}} << notConnected;
     }
     QTest::newRow("kind refused") << "" << Troubles{{"/webapp2/DevInfoIntGetter", "status 2"}}
                                   << notConnected;
@@ -143,11 +145,11 @@ void NetworkListTest::everyStateHasItsRow_data()
     QTest::newRow("security mode") << "server-mode = 0" << Troubles{} << notConnected;
     QTest::newRow("output control mode") << "server-mode = 1" << Troubles{} << notConnected;
 
-    // From here on the server is reached.
-    QTest::newRow("machine switched off") << "connected = no" << Troubles{} << notConnected;
-    QTest::newRow("no state to be had") << "" << Troubles{{fatalGetter, "http 500"}} << notConnected;
-    QTest::newRow("state of a wrong size") << "" << Troubles{{fatalGetter, "size 3"}} << notConnected;
-    // Its number among the fatal errors is that of a device which is switched off.
+    // In the rows below the server is reachable.
+    QTest::newRow("machine is off") << "connected = no" << Troubles{} << notConnected;
+    QTest::newRow("state unavailable") << "" << Troubles{{fatalGetter, "http 500"}} << notConnected;
+    QTest::newRow("state of wrong size") << "" << Troubles{{fatalGetter, "size 3"}} << notConnected;
+    // The library reports this error with the number of a switched-off device.
     QTest::newRow("no disc supply") << "error = 39" << Troubles{} << notConnected;
 
     for (const int code : {1, 2, 3, 4, 5, 6, 25, 26, 28, 29, 42, 43}) {
@@ -155,7 +157,7 @@ void NetworkListTest::everyStateHasItsRow_data()
     }
 }
 
-void NetworkListTest::everyStateHasItsRow()
+void NetworkListTest::rowShowsStatus()
 {
     QFETCH(QString, keys);
     QFETCH(Troubles, troubles);
@@ -178,7 +180,7 @@ void NetworkListTest::readyRows_data()
     const auto numbers = [](const char* waiting, const char* sending, const char* space) {
         return QStringList{waiting, sending, space};
     };
-    QTest::newRow("nothing to do") << "" << none << numbers("0", "0", "2.0 GB");
+    QTest::newRow("idle") << "" << none << numbers("0", "0", "2.0 GB");
     QTest::newRow("cover open") << "error = 9" << none << numbers("0", "0", "2.0 GB");
     QTest::newRow("jobs") << "jobs = 12" << none << numbers("12", "0", "2.0 GB");
     QTest::newRow("1024 MiB") << "disc-space = 1024" << none << numbers("0", "0", "1.0 GB");
@@ -194,25 +196,25 @@ void NetworkListTest::readyRows_data()
                                  << numbers("0", "0", "2.0 GB");
     QTest::newRow("no job count") << "jobs = 3" << Troubles{{"/webapp2/JobNumGetter", "status 9"}}
                                   << numbers("3", "-", "2.0 GB");
-    QTest::newRow("no space told") << "jobs = 3"
-                                   << Troubles{{"/webapp2/DevInfoGetter?ifversion=02000000&type=8", "close"}}
-                                   << numbers("3", "0", "-");
-    QTest::newRow("space without a text")
+    QTest::newRow("no disc space reply")
+        << "jobs = 3" << Troubles{{"/webapp2/DevInfoGetter?ifversion=02000000&type=8", "close"}}
+        << numbers("3", "0", "-");
+    QTest::newRow("empty disc space reply")
         << "" << Troubles{{"/webapp2/DevInfoGetter?ifversion=02000000&type=8", "size 0"}}
         << numbers("0", "0", "-");
-    QTest::newRow("version not told")
+    QTest::newRow("no version reply")
         << "" << Troubles{{"/webapp2/DevInfoGetter?ifversion=02000000&type=5", "status 9"}}
         << numbers("0", "0", "2.0 GB");
-    // Reached, read, and then gone: one connection tells that it is there, the next reads its settings, the
-    // mode among them, and those for its state and its numbers fail.
+    // The server fails after its settings were read. The first connection tests whether it is reachable, the
+    // second reads the settings, including the mode. The connections for its state and its figures then fail.
     for (const char* fault : {"http 500", "close"}) {
-        QTest::addRow("gone behind the settings, %s", fault)
+        QTest::addRow("fails after the settings, %s", fault)
             << "jobs = 3" << Troubles{{modeGetter, fault, 3}} << numbers("0", "-", "-");
-        QTest::addRow("gone behind its state, %s", fault)
+        QTest::addRow("fails after the state, %s", fault)
             << "jobs = 3" << Troubles{{modeGetter, fault, 4}} << numbers("0", "-", "-");
-        QTest::addRow("gone behind its jobs, %s", fault)
+        QTest::addRow("fails after the job list, %s", fault)
             << "jobs = 3" << Troubles{{modeGetter, fault, 5}} << numbers("3", "-", "-");
-        QTest::addRow("gone behind the job count, %s", fault)
+        QTest::addRow("fails after the job count, %s", fault)
             << "jobs = 3" << Troubles{{modeGetter, fault, 6}} << numbers("3", "0", "-");
     }
 }
@@ -231,7 +233,8 @@ void NetworkListTest::readyRows()
 
 namespace {
 
-/// A job that another computer is sending: registered, not committed. False when the server does not take it.
+/// Registers a job without committing it, as another computer does while it sends. Returns false if the
+/// server rejects it.
 bool sendJob(const std::string& printData)
 {
     DWORD handle = 0;
@@ -250,23 +253,23 @@ bool sendJob(const std::string& printData)
 
 } // namespace
 
-void NetworkListTest::spaceIsCutToWholeMebibytes()
+void NetworkListTest::spaceIsRoundedDownToMebibytes()
 {
     open(studio("RT-300NII", "disc-space = 1\n"));
-    QVERIFY(sendJob("x")); // leaves a byte less than a mebibyte
+    QVERIFY(sendJob("x")); // leaves one byte less than a mebibyte
     compareAnswer({"Ready", "0", "1", "0.0 GB"});
 }
 
-void NetworkListTest::jobsThatOthersSend()
+void NetworkListTest::jobsSentByOtherComputers()
 {
     open(studio("RT-300NII", "jobs = 3\ndisc-space = 1537\n"));
     QVERIFY(sendJob("first") && sendJob("second"));
     compareAnswer({"Ready", "3", "2", "1.5 GB"});
     (*m_room)->advance(1000);
-    compareAnswer({"Ready", "2", "2", "1.5 GB"}); // one of the three is under way
+    compareAnswer({"Ready", "2", "2", "1.5 GB"}); // one of the three is running
 }
 
-void NetworkListTest::queriesInTheirOrder()
+void NetworkListTest::queryOrder()
 {
     open(studio());
     m_room->forget();
@@ -280,19 +283,19 @@ void NetworkListTest::queriesInTheirOrder()
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
 }
 
-void NetworkListTest::removalEndsTheQuestionsOfAPoll()
+void NetworkListTest::removalStopsTheQueriesOfAPoll()
 {
     startRoom(studio());
     m_room->spoil(fatalGetter, "delay 1500");
     m_window = std::make_unique<PubSetup>(nullptr);
     QVERIFY((*m_room)->waitForHttpRequests(fatalGetter, 1));
-    Installation::remove("N"); // the answer is yet to come
+    Installation::remove("N"); // the reply is still pending
     QVERIFY(waitForTasks(10000));
     const QStringList asked = m_room->asked();
     QCOMPARE(asked.last(), QString("GET ") + fatalGetter);
 }
 
-void NetworkListTest::unreadableServerKeepsItsRow()
+void NetworkListTest::unreadableServerLeavesRowUnchanged()
 {
     open(studio("RT-300NII", "jobs = 2\n"));
     QCOMPARE(texts(), (QStringList{"Studio", "RT-300NII", "127.0.0.11", "Ready", "2", "0", "2.0 GB"}));
@@ -300,45 +303,45 @@ void NetworkListTest::unreadableServerKeepsItsRow()
     compareAnswer({"before the answer", "before the answer", "before the answer", "before the answer"});
 }
 
-void NetworkListTest::modelsHaveTheirTexts_data()
+void NetworkListTest::modelTexts_data()
 {
     QTest::addColumn<QString>("model");
-    QTest::addColumn<QString>("kind");     // what the file knows of it
-    QTest::addColumn<QString>("stored");   // before the first answer
-    QTest::addColumn<QString>("answered"); // and behind it
+    QTest::addColumn<QString>("kind");     // appended to the setting file
+    QTest::addColumn<QString>("stored");   // text before the first reply
+    QTest::addColumn<QString>("answered"); // text after it
     const QString ofTheLibrary = "[COMMON]\nNPType=%1\n";
     QTest::newRow("300NII") << "RT-300NII"
                             << ""
                             << "N/A"
                             << "RT-300NII";
-    QTest::newRow("300NII, known") << "RT-300NII" << ofTheLibrary.arg(2) << "RT-300NII"
-                                   << "RT-300NII";
-    QTest::newRow("300NII, known as another") << "RT-300NII" << ofTheLibrary.arg(3) << "RT-300NII (BD-XL)"
-                                              << "RT-300NII";
+    QTest::newRow("300NII, kind stored") << "RT-300NII" << ofTheLibrary.arg(2) << "RT-300NII"
+                                         << "RT-300NII";
+    QTest::newRow("300NII, wrong kind stored") << "RT-300NII" << ofTheLibrary.arg(3) << "RT-300NII (BD-XL)"
+                                               << "RT-300NII";
     QTest::newRow("300NII BDXL") << "RT-300NII BD-XL"
                                  << ""
                                  << "N/A"
                                  << "RT-300NII (BD-XL)";
-    QTest::newRow("300NII BDXL, known as another") << "RT-300NII BD-XL" << ofTheLibrary.arg(2) << "RT-300NII"
-                                                   << "RT-300NII (BD-XL)";
+    QTest::newRow("300NII BDXL, wrong kind stored") << "RT-300NII BD-XL" << ofTheLibrary.arg(2) << "RT-300NII"
+                                                    << "RT-300NII (BD-XL)";
     QTest::newRow("300N") << "RT-300N"
                           << ""
                           << "N/A"
-                          << "RT-300NII"; // it does not tell what it is
-    QTest::newRow("300N, known") << "RT-300N" << ofTheLibrary.arg(1) << "N/A"
-                                 << "N/A";
-    QTest::newRow("300N, known as another") << "RT-300N" << ofTheLibrary.arg(3) << "RT-300NII (BD-XL)"
-                                            << "RT-300NII";
-    QTest::newRow("no such kind") << "RT-300NII" << ofTheLibrary.arg(4) << "N/A"
+                          << "RT-300NII"; // it does not report its kind
+    QTest::newRow("300N, kind stored") << "RT-300N" << ofTheLibrary.arg(1) << "N/A"
+                                       << "N/A";
+    QTest::newRow("300N, wrong kind stored") << "RT-300N" << ofTheLibrary.arg(3) << "RT-300NII (BD-XL)"
+                                             << "RT-300NII";
+    QTest::newRow("unknown kind") << "RT-300NII" << ofTheLibrary.arg(4) << "N/A"
                                   << "RT-300NII";
-    // Among the settings themselves it stands ahead of what the library writes.
-    QTest::newRow("kept by hand") << "RT-300NII"
-                                  << "NPType=3\n"
-                                  << "RT-300NII (BD-XL)"
-                                  << "RT-300NII (BD-XL)";
+    // A value in [Common] takes precedence over the one that the library writes to [COMMON].
+    QTest::newRow("kind set by hand") << "RT-300NII"
+                                      << "NPType=3\n"
+                                      << "RT-300NII (BD-XL)"
+                                      << "RT-300NII (BD-XL)";
 }
 
-void NetworkListTest::modelsHaveTheirTexts()
+void NetworkListTest::modelTexts()
 {
     QFETCH(QString, model);
     QFETCH(QString, kind);
@@ -349,13 +352,13 @@ void NetworkListTest::modelsHaveTheirTexts()
                                                   kind.toStdString());
     startRoom(studio(model.toStdString()));
     m_window = std::make_unique<PubSetup>(nullptr);
-    QCOMPARE(texts()[1], stored); // no event loop has run since
+    QCOMPARE(texts()[1], stored); // the event loop has not run yet
     m_window.reset();
     openList();
     QCOMPARE(texts().mid(0, 4), (QStringList{"Studio", answered, "127.0.0.11", "Ready"}));
 }
 
-void NetworkListTest::storedRowComesFirst()
+void NetworkListTest::storedValuesAreShownFirst()
 {
     startRoom(studio("RT-300NII", "known-kind = 2\njobs = 2\n"));
     m_window = std::make_unique<PubSetup>(nullptr);
@@ -364,15 +367,15 @@ void NetworkListTest::storedRowComesFirst()
     QTRY_COMPARE(texts(), (QStringList{"Studio", "RT-300NII", "127.0.0.11", "Ready", "2", "0", "2.0 GB"}));
 }
 
-void NetworkListTest::hostBehindBackslashes()
+void NetworkListTest::hostAfterBackslashes()
 {
     Installation::addNetwork("N", "Studio", "\\\\127.0.0.11");
     open(studio());
     QCOMPARE(texts(), (QStringList{"Studio", "RT-300NII", "\\\\127.0.0.11", "Ready", "0", "0", "2.0 GB"}));
 }
 
-/// The library looks for the file by the bare host, and finds none that it could write the kind into.
-void NetworkListTest::kindOfAHostBehindBackslashesIsNotKept()
+/// The library looks up the file by the host without backslashes, so it finds no file to write the kind to.
+void NetworkListTest::kindOfHostAfterBackslashesIsNotStored()
 {
     const std::string text = "[Common]\nPublisherName=Studio\nPublisherConnectionType=1\n"
                              "PublisherURL=\\\\127.0.0.11\n";
@@ -383,7 +386,7 @@ void NetworkListTest::kindOfAHostBehindBackslashesIsNotKept()
     QCOMPARE(file(), text);
 }
 
-void NetworkListTest::approvalLetsAnOldServerIn()
+void NetworkListTest::approvalAllowsOldServer()
 {
     open(studio("RT-300NII", "server-version = 2.10\njobs = 1\n"));
     QCOMPARE(texts()[3], "Unsupported version");
@@ -394,7 +397,7 @@ void NetworkListTest::approvalLetsAnOldServerIn()
                               QPoint(8, shown.checkCompatMode->height() / 2));
             QTest::mouseClick(shown.okButton, Qt::LeftButton);
             if (shown.isVisible()) {
-                shown.reject(); // what was not saved shows in the row
+                shown.reject(); // a failed save shows in the row
             }
         });
         m_window->showSetting->trigger();
@@ -406,7 +409,7 @@ void NetworkListTest::approvalLetsAnOldServerIn()
     compareAnswer({"Unsupported version", "-", "-", "-"});
 }
 
-void NetworkListTest::serverComesBack()
+void NetworkListTest::serverReturns()
 {
     open(studio("RT-300NII", "jobs = 1\n"));
     QCOMPARE(texts()[3], "Ready");
@@ -440,18 +443,18 @@ void NetworkListTest::localAndNetworkSideBySide()
     for (const char* key : {"D", "S"}) {
         QVERIFY(showsImage(m_window->findItemByPublisherRegistID(key)->icon(0), ":/res/A6-1.png", 22));
     }
-    // The service of this computer is one thing, the servers are another.
+    // Stopping the local service does not affect the servers.
     QVERIFY((*m_room)->tell("", "service off"));
     ask();
     QCOMPARE(texts("N")[3], "Ready");
     QCOMPARE(texts("D")[3], "Not connected");
 }
 
-void NetworkListTest::slowServerHoldsBackOnlyItself()
+void NetworkListTest::slowServerDelaysOnlyItself()
 {
     startRoom(studio() + "[network Slow]\nid = S\nmodel = RT-300NII\n"
                          "[publisher Desk]\nid = D\nmodel = RT-300III BD\n");
-    m_room->spoil("", "delay 4000", 0, "Slow"); // two answers take longer than the time between two ticks
+    m_room->spoil("", "delay 4000", 0, "Slow"); // two replies take longer than one poll interval
     m_window = std::make_unique<PubSetup>(nullptr);
     const auto queries = [this] { return m_room->asked().count(QString("GET ") + fatalGetter); };
     QTRY_COMPARE(queries(), 1);
@@ -463,11 +466,11 @@ void NetworkListTest::slowServerHoldsBackOnlyItself()
     QTRY_COMPARE(texts("D")[4], "1");
     const QStringList asked = m_room->asked("127.0.0.12");
     QVERIFY(asked.size() >= 2);
-    QCOMPARE(asked, connecting.mid(0, asked.size())); // one query alone
+    QCOMPARE(asked, connecting.mid(0, asked.size())); // one query only
     QCOMPARE(texts("S")[3], "Not connected");
 }
 
-void NetworkListTest::publisherRemovedWhileItsServerIsAsked()
+void NetworkListTest::publisherRemovedDuringQuery()
 {
     startRoom(studio() + "[network Other]\nid = O\nmodel = RT-300NII\n");
     m_room->spoil(fatalGetter, "stall", 0, "Studio");
@@ -477,7 +480,7 @@ void NetworkListTest::publisherRemovedWhileItsServerIsAsked()
     Installation::remove("N");
     m_window->updateList();
     QCOMPARE(texts("N"), QStringList());
-    QVERIFY((*m_room)->tell("Studio", "server off")); // lets the query go
+    QVERIFY((*m_room)->tell("Studio", "server off")); // ends the query
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();
     QCOMPARE(texts("N"), QStringList());
@@ -485,7 +488,7 @@ void NetworkListTest::publisherRemovedWhileItsServerIsAsked()
     QTRY_COMPARE(texts("O")[3], "Ready");
 }
 
-void NetworkListTest::closingWaitsForTheRunningQuestionAlone()
+void NetworkListTest::closingWaitsOnlyForTheRunningQuery()
 {
     startRoom(studio());
     m_room->spoil(fatalGetter, "delay 1500");
@@ -496,11 +499,11 @@ void NetworkListTest::closingWaitsForTheRunningQuestionAlone()
     QElapsedTimer closing;
     closing.start();
     m_window.reset();
-    QVERIFY(closing.elapsed() > 500); // the answer was yet to come
+    QVERIFY(closing.elapsed() > 500); // the reply was still pending
     QVERIFY(!m_room->asked().contains(last));
 }
 
-/// As a person does, who says yes.
+/// Removes the publisher as a user does, and confirms the question.
 void NetworkListTest::remove(const QString& key)
 {
     m_window->treePublisherList->clearSelection();
@@ -511,7 +514,7 @@ void NetworkListTest::remove(const QString& key)
     QCOMPARE(boxes.seen()[0].text, "Do you want to delete it?");
 }
 
-void NetworkListTest::removedWithItsJobs()
+void NetworkListTest::removedWithJobs()
 {
     open(studio("RT-300NII", "jobs = 3\n"));
     (*m_room)->advance(1000);
@@ -519,11 +522,11 @@ void NetworkListTest::removedWithItsJobs()
     remove("N");
     QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
     QVERIFY(!std::filesystem::exists(Installation::settingFile("N")));
-    QCOMPARE(m_room->asked(), connecting + readingTheRecord); // nobody asks for its jobs
+    QCOMPARE(m_room->asked(), connecting + readingTheRecord); // the jobs are not queried
     QCOMPARE((*m_room)->jobs("Studio").size(), size_t{3});
 }
 
-void NetworkListTest::removedOutOfReach()
+void NetworkListTest::removedWhileUnreachable()
 {
     open(studio("RT-300NII", "listening = no\n"));
     remove("N");
@@ -531,7 +534,7 @@ void NetworkListTest::removedOutOfReach()
     QVERIFY(!std::filesystem::exists(Installation::settingFile("N")));
 }
 
-void NetworkListTest::unreadablePublisherLosesItsRowOnly()
+void NetworkListTest::removingUnreadablePublisherKeepsItsFile()
 {
     open(studio());
     m_room->spoil("/webapp2/DevInfoIntGetter?ifversion=02000000&type=2", "status 9");

@@ -1,4 +1,5 @@
-// The ways to the dialogs, what stands before them, and what goes on behind them.
+// Tests how the list window opens its dialogs, what is shown before them, and what continues while they are
+// open.
 #include "Boxes.h"
 #include "Installation.h"
 #include "LocalRoom.h"
@@ -24,22 +25,22 @@ private slots:
 
     void propertiesOpenFromEveryPlace_data();
     void propertiesOpenFromEveryPlace();
-    void selectionDecidesTheActions();
-    void doubleClickTakesTheCurrentRowOfSeveral();
+    void selectionEnablesActions();
+    void doubleClickOpensCurrentRowOfSelection();
     void selectedRowOpensWithoutACurrentRow();
-    void publisherThatCannotBeReadOpensNothing();
-    void publishModeThatCannotBeHadIsSaidFirst();
+    void unreadablePublisherOpensNoDialog();
+    void unavailablePublishModeIsReportedFirst();
     void stalledServiceShowsTheIndicator();
-    void impatientDoubleClicksOpenOneDialog();
-    void rowFollowsASavedName();
+    void repeatedDoubleClicksOpenOneDialog();
+    void rowShowsSavedName();
     void rowStaysAfterCancel();
     void rowStaysAfterApplyAndCancel();
-    void savedNameGoesToWhateverRowIsCurrent();
-    void noRowIsLeftForASavedName();
-    void rowKeepsItsTextWhenThePublisherIsGone();
-    void nameOfAnUnreachableServerIsTheStoredOne();
-    void publisherVanishesBehindItsDialog();
-    void pollsGoOnBehindTheDialog();
+    void savedNameGoesToCurrentRow();
+    void savedNameWithoutRows();
+    void currentRowKeepsItsTextWhenPublisherIsRemoved();
+    void unreachableServerShowsStoredName();
+    void publisherRemovedWhileDialogIsOpen();
+    void pollingContinuesWhileDialogIsOpen();
     void commonSettingOpens();
 
 private:
@@ -131,7 +132,7 @@ void OpenDialogsTest::propertiesOpenFromEveryPlace()
     QCOMPARE(m_service->count("18 b"), 1);
 }
 
-void OpenDialogsTest::selectionDecidesTheActions()
+void OpenDialogsTest::selectionEnablesActions()
 {
     const struct
     {
@@ -150,7 +151,7 @@ void OpenDialogsTest::selectionDecidesTheActions()
     }
 }
 
-void OpenDialogsTest::doubleClickTakesTheCurrentRowOfSeveral()
+void OpenDialogsTest::doubleClickOpensCurrentRowOfSelection()
 {
     QTreeWidget* tree = m_window->treePublisherList;
     tree->selectAll();
@@ -167,8 +168,8 @@ void OpenDialogsTest::doubleClickTakesTheCurrentRowOfSeveral()
     QCOMPARE(m_service->count("18 a") + m_service->count("18 c"), 0);
 }
 
-/// A row that is inserted while the empty list has the keyboard does not become current, and neither does it
-/// by "select all".
+/// A row that is inserted while the empty list has the keyboard focus does not become the current row;
+/// "select all" does not make it current either.
 void OpenDialogsTest::selectedRowOpensWithoutACurrentRow()
 {
     QTreeWidget* tree = m_window->treePublisherList;
@@ -197,7 +198,7 @@ void OpenDialogsTest::selectedRowOpensWithoutACurrentRow()
     QVERIFY(row("New name") && !row("B"));
 }
 
-void OpenDialogsTest::publisherThatCannotBeReadOpensNothing()
+void OpenDialogsTest::unreadablePublisherOpensNoDialog()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     Installation::remove("b");
@@ -212,9 +213,9 @@ void OpenDialogsTest::publisherThatCannotBeReadOpensNothing()
     QVERIFY(boxes.seen().empty());
 }
 
-void OpenDialogsTest::publishModeThatCannotBeHadIsSaidFirst()
+void OpenDialogsTest::unavailablePublishModeIsReportedFirst()
 {
-    m_service.reset(); // nobody to ask
+    m_service.reset(); // the service is not running
     m_window->treePublisherList->setCurrentItem(row("B"));
     QWidget* parent = nullptr;
     bool before = false;
@@ -263,7 +264,7 @@ void OpenDialogsTest::stalledServiceShowsTheIndicator()
     QVERIFY(indicatorGone);
 }
 
-void OpenDialogsTest::impatientDoubleClicksOpenOneDialog()
+void OpenDialogsTest::repeatedDoubleClicksOpenOneDialog()
 {
     m_service->hold("b");
     int clicks = 0, opened = 0;
@@ -298,7 +299,7 @@ void OpenDialogsTest::impatientDoubleClicksOpenOneDialog()
     QCOMPARE(m_service->count("18 b"), 1);
 }
 
-void OpenDialogsTest::rowFollowsASavedName()
+void OpenDialogsTest::rowShowsSavedName()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
@@ -328,7 +329,7 @@ void OpenDialogsTest::rowStaysAfterApplyAndCancel()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
-        QTest::keyClicks(shown.textPublisherName, "2"); // in place of the whole name, which is selected
+        QTest::keyClicks(shown.textPublisherName, "2"); // replaces the name, which is selected
         QTest::mouseClick(shown.applyButton, Qt::LeftButton);
         QTest::mouseClick(shown.cancelButton, Qt::LeftButton);
     });
@@ -338,7 +339,7 @@ void OpenDialogsTest::rowStaysAfterApplyAndCancel()
     QVERIFY(row("B") && !row("2"));
 }
 
-void OpenDialogsTest::savedNameGoesToWhateverRowIsCurrent()
+void OpenDialogsTest::savedNameGoesToCurrentRow()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
@@ -351,7 +352,7 @@ void OpenDialogsTest::savedNameGoesToWhateverRowIsCurrent()
     QVERIFY(row("A") && row("B") && row("New") && !row("C"));
 }
 
-void OpenDialogsTest::noRowIsLeftForASavedName()
+void OpenDialogsTest::savedNameWithoutRows()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
@@ -366,7 +367,7 @@ void OpenDialogsTest::noRowIsLeftForASavedName()
     QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
 }
 
-void OpenDialogsTest::rowKeepsItsTextWhenThePublisherIsGone()
+void OpenDialogsTest::currentRowKeepsItsTextWhenPublisherIsRemoved()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
@@ -381,12 +382,12 @@ void OpenDialogsTest::rowKeepsItsTextWhenThePublisherIsGone()
     QVERIFY(row("A") && row("C"));
 }
 
-void OpenDialogsTest::nameOfAnUnreachableServerIsTheStoredOne()
+void OpenDialogsTest::unreachableServerShowsStoredName()
 {
     Installation::addNetwork("n", "N", "127.0.0.99"); // nothing listens there
     m_window->updateList();
     m_window->treePublisherList->setCurrentItem(row("N"));
-    Boxes boxes({QMessageBox::Ok}); // the publish mode is not known
+    Boxes boxes({QMessageBox::Ok}); // the publish mode is unknown
     WhenShown<propertyDialogEx> dialog([&](propertyDialogEx& shown) {
         Installation::addNetwork("n", "New name", "127.0.0.99");
         shown.accept();
@@ -397,7 +398,7 @@ void OpenDialogsTest::nameOfAnUnreachableServerIsTheStoredOne()
     QVERIFY(row("New name") && !row("N"));
 }
 
-void OpenDialogsTest::publisherVanishesBehindItsDialog()
+void OpenDialogsTest::publisherRemovedWhileDialogIsOpen()
 {
     m_window->treePublisherList->setCurrentItem(row("B"));
     bool rowGone = false, staysOpen = false;
@@ -415,7 +416,7 @@ void OpenDialogsTest::publisherVanishesBehindItsDialog()
     QVERIFY(row("A") && row("C"));
 }
 
-void OpenDialogsTest::pollsGoOnBehindTheDialog()
+void OpenDialogsTest::pollingContinuesWhileDialogIsOpen()
 {
     QVERIFY(m_service->waitFor("22 a", 1));
     m_window->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly).at(0)->setInterval(50);

@@ -1,5 +1,4 @@
-// The pictures of the dialogs: each is there at its size and at twice its size, and none can be taken for
-// another.
+// Tests the pictures of the dialogs: each exists at its size and at twice its size, and no two look alike.
 #include <QImage>
 #include <QTest>
 #include <algorithm>
@@ -8,7 +7,7 @@ namespace {
 
 struct Picture
 {
-    const char* name; // below :/res, without its ending
+    const char* name; // path below :/res, without extension
     QSize size;
 };
 
@@ -47,8 +46,8 @@ int differentPixels(const QImage& one, const QImage& other)
     return count;
 }
 
-/// How many pixels of the picture are drawn and stand out from that background by a fifth of the way to its
-/// opposite.
+/// Counts the opaque pixels (alpha above 200) that differ from the background by more than a fifth of the
+/// range in at least one colour channel.
 int standingOut(const QImage& picture, QColor background)
 {
     int count = 0;
@@ -73,11 +72,11 @@ class PicturesTest : public QObject
 private slots:
     void existAtBothSizes_data();
     void existAtBothSizes();
-    void showOnLightAndOnDark_data();
-    void showOnLightAndOnDark();
+    void visibleOnLightAndDark_data();
+    void visibleOnLightAndDark();
     void differFromEachOther();
-    void sequencesHideWhatLiesBeneath();
-    void patternMissesLinesOnlyInTheBadOne();
+    void sequencesAreOpaque();
+    void badPatternDiffersOnlyByMissingLines();
 };
 
 void PicturesTest::existAtBothSizes_data()
@@ -97,12 +96,12 @@ void PicturesTest::existAtBothSizes()
     QCOMPARE(load(pathOf(name, "@2x.png")).size(), 2 * size);
 }
 
-void PicturesTest::showOnLightAndOnDark_data()
+void PicturesTest::visibleOnLightAndDark_data()
 {
     existAtBothSizes_data();
 }
 
-void PicturesTest::showOnLightAndOnDark()
+void PicturesTest::visibleOnLightAndDark()
 {
     QFETCH(QString, name);
     for (const char* ending : {".png", "@2x.png"}) {
@@ -134,8 +133,8 @@ void PicturesTest::differFromEachOther()
     }
 }
 
-// The dialog puts each picture of the discs' way on top of the one before.
-void PicturesTest::sequencesHideWhatLiesBeneath()
+// The dialog puts each picture of a disc sequence on top of the previous one.
+void PicturesTest::sequencesAreOpaque()
 {
     int sequences = 0;
     for (const Picture& picture : pictures) {
@@ -156,7 +155,7 @@ void PicturesTest::sequencesHideWhatLiesBeneath()
     QCOMPARE(sequences, 7);
 }
 
-void PicturesTest::patternMissesLinesOnlyInTheBadOne()
+void PicturesTest::badPatternDiffersOnlyByMissingLines()
 {
     const QImage bad = load(":/res/PrinterMaint/H2-01.png");
     const QImage good = load(":/res/PrinterMaint/H2-02.png");
@@ -170,7 +169,7 @@ void PicturesTest::patternMissesLinesOnlyInTheBadOne()
             }
         }
     }
-    QCOMPARE(missing, 16 * 6 * 3); // so many lines of 6 by 3 pixels are left out
+    QCOMPARE(missing, 16 * 6 * 3); // 16 lines of 6 by 3 pixels are missing
 }
 
 QTEST_MAIN(PicturesTest)

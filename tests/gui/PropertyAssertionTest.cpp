@@ -1,4 +1,5 @@
-// What stops the program instead of showing nonsense: models that the property dialog does not know.
+// Tests that an assertion stops the program when the property dialog gets a model or a stacker setting that
+// it cannot show.
 #include "Assertion.h"
 #include "PropertyFixture.h"
 
@@ -9,8 +10,8 @@ class PropertyAssertionTest : public QObject
 private slots:
     void unknownModel_data();
     void unknownModel();
-    void knownModelsFill_data();
-    void knownModelsFill();
+    void knownModels_data();
+    void knownModels();
     void missingDeviceKey();
     void networkPublisher_data();
     void networkPublisher();
@@ -22,7 +23,7 @@ private:
     PropertyStage m_stage;
 };
 
-/// Whether the filling with this record stops the program.
+/// Returns whether filling the dialog with this record fails an assertion.
 bool PropertyAssertionTest::stops(const PUBLISHERINFO& info)
 {
     const std::string said = assertionOf([&info] {
@@ -50,7 +51,7 @@ void PropertyAssertionTest::unknownModel()
     }
 }
 
-void PropertyAssertionTest::knownModelsFill_data()
+void PropertyAssertionTest::knownModels_data()
 {
     QTest::addColumn<uint32_t>("dpType");
     for (const LocalModel& model : localModels) {
@@ -58,7 +59,7 @@ void PropertyAssertionTest::knownModelsFill_data()
     }
 }
 
-void PropertyAssertionTest::knownModelsFill()
+void PropertyAssertionTest::knownModels()
 {
     QFETCH(uint32_t, dpType);
     for (const uint mode : {0U, 1U, 2U, 3U, 4U, 5U, unknownNumber}) {

@@ -1,4 +1,4 @@
-// What the property dialog shows of a local publisher, for every model and every stored value.
+// Tests what the property dialog shows for a local publisher, for every model and every stored value.
 #include "PropertyFixture.h"
 
 #include <QCheckBox>
@@ -14,7 +14,7 @@ private slots:
     void everyModel();
     void titles_data();
     void titles();
-    void textLabelsAreForNetworkPublishers();
+    void networkLabelsAreHidden();
     void correctedMedia_data();
     void correctedMedia();
     void correctedThirdStacker_data();
@@ -116,10 +116,10 @@ void PropertyContentTest::titles_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("plain") << "Lab 3";
-    QTest::newRow("other letters") << QString::fromUtf8("Stüdio – 日本");
+    QTest::newRow("non-ASCII letters") << QString::fromUtf8("Stüdio – 日本");
     QTest::newRow("ampersand") << "Sound & Vision";
     QTest::newRow("markup") << "<b>Studio</b>";
-    QTest::newRow("brackets") << "Studio(A)";
+    QTest::newRow("parentheses") << "Studio(A)";
     QTest::newRow("percent signs") << "100%1 %s";
     QTest::newRow("200 bytes") << QString(200, 'x');
 }
@@ -135,7 +135,7 @@ void PropertyContentTest::titles()
     QCOMPARE(m_stage->textPublisherName->text(), name);
 }
 
-void PropertyContentTest::textLabelsAreForNetworkPublishers()
+void PropertyContentTest::networkLabelsAreHidden()
 {
     for (const uint32_t dpType : {rt300, rt30}) {
         m_stage.storeAndOpen(dpType);
@@ -155,7 +155,7 @@ void PropertyContentTest::correctedMedia_data()
     for (const uint stored : rowsOfUInt) {
         QString shown = "1";
         if (stored == 0) {
-            shown = "none"; // no item of its own: stacker 1 never had it, stacker 2 loses it in this mode
+            shown = "none"; // no such item: stacker 1 never offers it, stacker 2 not in this mode
         } else if (stored == 2 || stored == 4) {
             shown = "6";
         } else if (stored == 3 || stored == 5) {
@@ -179,7 +179,7 @@ void PropertyContentTest::correctedMedia()
         QCOMPARE(chosen(m_stage->selectStacker1), "8");
         QCOMPARE(chosen(m_stage->selectStacker2), shown);
     }
-    // The other models know no discs of three or four layers.
+    // The other models do not support discs with three or four layers.
     const QString withoutXl = stored == 10 || stored == 11 ? "none" : shown;
     for (const uint32_t dpType : {rt300, rt30}) {
         m_stage.storeAndOpen(dpType, {.mode = 2, .stacker1 = stored, .stacker2 = stored});
@@ -232,7 +232,7 @@ void PropertyContentTest::publishModes_data()
     }
     row(false, 1, 0, "mode 1, stackers 7 7-+out 0-, A11-3");
     row(false, 1, 32, "mode 1, stackers 7 7-+out 0-, A11-3");
-    row(true, 1, 0, "mode 0, stackers 7 0-+out 32H-, A11-7"); // has no batch mode
+    row(true, 1, 0, "mode 0, stackers 7 0-+out 32H-, A11-7"); // no batch mode
     row(true, 1, 32, "mode 0, stackers 7 0-+out 32H-, A11-7");
     row(false, 2, 0, "mode 2, stackers 7 8 0, A11-5");
     row(false, 2, 32, "mode 2, stackers 7 8 32, A11-2");
@@ -306,7 +306,7 @@ void PropertyContentTest::retryCount_data()
     for (const uint stored : rowsOfUInt) {
         QTest::addRow("%u", stored) << stored << QString::number(qMin(stored, 9U));
     }
-    QTest::newRow("never give up") << 150000U << "9";
+    QTest::newRow("default of a read job") << 150000U << "9";
 }
 
 void PropertyContentTest::retryCount()
@@ -340,7 +340,7 @@ void PropertyContentTest::unchangedAfterFilling()
 {
     QFETCH(uint, mode);
     for (const LocalModel& model : localModels) {
-        // Every one of these differs from what the boxes stood at.
+        // These values differ from the initial values of the widgets.
         m_stage.store(model.dpType, {.mode = mode,
                                      .stacker1 = 8,
                                      .stacker2 = 7,
@@ -351,7 +351,7 @@ void PropertyContentTest::unchangedAfterFilling()
         const std::string before = ReadText(Installation::settingFile("X"));
         m_stage.open();
         QVERIFY(!m_stage->applyButton->isEnabled());
-        m_stage->okButton->click(); // nobody answers on the service's socket: a saving would show a box
+        m_stage->okButton->click(); // the service is not running, so saving would show a message box
         QTRY_VERIFY(!m_stage->isVisible());
         QCOMPARE(m_stage->result(), 1);
         QCOMPARE(ReadText(Installation::settingFile("X")), before);
@@ -372,7 +372,7 @@ void PropertyContentTest::emptySettingFile_data()
     everyModel_data();
 }
 
-/// As the registration leaves it when it stops half way: the device is known, and nothing is set.
+/// An interrupted registration leaves this file: the device is known, and no setting is stored.
 void PropertyContentTest::emptySettingFile()
 {
     QFETCH(uint32_t, dpType);

@@ -1,4 +1,5 @@
-// The wear figures and versions that the dialog shows, and what it hides when the device does not tell them.
+// Tests the wear figures and versions that the dialog shows, and the labels that it hides when the device
+// does not report them.
 #include "PropertyFixture.h"
 #include "Room.h"
 
@@ -18,20 +19,20 @@ private slots:
     void maintenanceBox();
     void driveLife_data();
     void driveLife();
-    void everyPairCounts_data();
-    void everyPairCounts();
+    void everyPairContributes_data();
+    void everyPairContributes();
     void unknownWearIsHidden();
-    void wearOfTheSmallMachine();
+    void wearOfTheSmallModels();
     void versions();
-    void secondDriveOfTheSmallMachines();
+    void secondDriveOfTheSmallModels();
     void unknownVersionsAreHidden();
-    void serialNumberComesWithTheWear();
+    void serialNumberIsReadWithTheWear();
     void textsAreNotMarkup();
-    void fromTheService_data();
-    void fromTheService();
-    void silentService_data();
-    void silentService();
-    void notConnectedIsNotAsked();
+    void valuesFromTheService_data();
+    void valuesFromTheService();
+    void missingReplies_data();
+    void missingReplies();
+    void disconnectedDeviceIsNotQueried();
 
 private:
     QList<const QLabel*> wearValues() const;
@@ -79,8 +80,8 @@ void PropertyFiguresTest::counts_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("none") << 0U << "0";
     QTest::newRow("some") << 12345U << "12345";
-    QTest::newRow("half of all") << 0x80000000U << "2147483648";
-    QTest::newRow("most") << 0xFFFFFFFEU << "4294967294";
+    QTest::newRow("half of the range") << 0x80000000U << "2147483648";
+    QTest::newRow("largest known") << 0xFFFFFFFEU << "4294967294";
     QTest::newRow("unknown") << unknownNumber << "-";
 }
 
@@ -110,15 +111,15 @@ void PropertyFiguresTest::maintenanceBox_data()
     QTest::newRow("half") << 50U << 100U << "50.00";
     QTest::newRow("a third") << 1U << 3U << "66.67";
     QTest::newRow("two thirds") << 2U << 3U << "33.34";
-    QTest::newRow("less than two decimals show") << 1U << 20000U << "100.00";
-    QTest::newRow("the last two decimals") << 1U << 10000U << "99.99";
+    QTest::newRow("below two decimals") << 1U << 20000U << "100.00";
+    QTest::newRow("smallest visible step") << 1U << 10000U << "99.99";
     QTest::newRow("full") << 100U << 100U << "0.00";
     QTest::newRow("above the limit") << 101U << 100U << "-";
     QTest::newRow("far above the limit") << 0xFFFFFFFEU << 1U << "-";
-    QTest::newRow("a hair above the limit") << 100001U << 100000U << "0.00";
+    QTest::newRow("slightly above the limit") << 100001U << 100000U << "0.00";
     QTest::newRow("large") << 4000000000U << 4200000000U << "4.77";
-    QTest::newRow("nothing of nothing") << 0U << 0U << "nan";
-    QTest::newRow("something of nothing") << 1U << 0U << "-";
+    QTest::newRow("zero of zero") << 0U << 0U << "nan";
+    QTest::newRow("limit zero") << 1U << 0U << "-";
     QTest::newRow("count unknown") << unknownNumber << 100U << "-";
     QTest::newRow("life unknown") << 0U << unknownNumber << "100.00";
     QTest::newRow("both unknown") << unknownNumber << unknownNumber << "0.00";
@@ -143,7 +144,7 @@ void PropertyFiguresTest::driveLife_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("new") << 0U << 100U << "0";
     QTest::newRow("half") << 50U << 100U << "50";
-    QTest::newRow("cut") << 9999U << 10000U << "99";
+    QTest::newRow("rounded down") << 9999U << 10000U << "99";
     QTest::newRow("two thirds") << 2U << 3U << "66";
     QTest::newRow("at the limit") << 100U << 100U << "100";
     QTest::newRow("above the limit") << 150U << 100U << "100";
@@ -176,7 +177,7 @@ void PropertyFiguresTest::driveLife()
 using DrivePair = std::pair<UINT PUBMAINTINFODRIVE::*, UINT PUBMAINTINFODRIVE::*>;
 Q_DECLARE_METATYPE(DrivePair)
 
-void PropertyFiguresTest::everyPairCounts_data()
+void PropertyFiguresTest::everyPairContributes_data()
 {
     using Drive = PUBMAINTINFODRIVE;
     QTest::addColumn<DrivePair>("pair");
@@ -188,19 +189,19 @@ void PropertyFiguresTest::everyPairCounts_data()
     QTest::newRow("reading") << DrivePair(&Drive::uiDriveReadTimeTotal, &Drive::uiDriveReadTimeTotalLife);
 }
 
-void PropertyFiguresTest::everyPairCounts()
+void PropertyFiguresTest::everyPairContributes()
 {
     QFETCH(DrivePair, pair);
     PUBLISHERMAINTENANCEINFO info;
     info.midrvDrive1.*pair.first = 42;
     info.midrvDrive1.*pair.second = 100;
     m_stage->updateMaintenance(true, info);
-    QCOMPARE(m_stage->labelDrive1Life->text(), "42"); // the only one that is known
+    QCOMPARE(m_stage->labelDrive1Life->text(), "42"); // the only known pair
 
     info.midrvDrive1 = {10, 100, 10, 100, 10, 100, 10, 100, 10, 100, 10, 100};
     info.midrvDrive1.*pair.first = 42;
     m_stage->updateMaintenance(true, info);
-    QCOMPARE(m_stage->labelDrive1Life->text(), "42"); // the most worn one
+    QCOMPARE(m_stage->labelDrive1Life->text(), "42"); // the pair with the highest wear
 
     info.midrvDrive1.*pair.first = unknownNumber;
     m_stage->updateMaintenance(true, info);
@@ -225,8 +226,8 @@ void PropertyFiguresTest::unknownWearIsHidden()
     }
 }
 
-/// What the model does not have stays hidden, whatever the device says.
-void PropertyFiguresTest::wearOfTheSmallMachine()
+/// Parts that the model does not have stay hidden, whatever the device reports.
+void PropertyFiguresTest::wearOfTheSmallModels()
 {
     for (const uint32_t dpType : {rt30, rt30xl}) {
         m_stage.store(dpType);
@@ -284,7 +285,7 @@ void PropertyFiguresTest::versions()
     QCOMPARE(m_stage->labelDrive2VersionValue->text(), " ");
 }
 
-void PropertyFiguresTest::secondDriveOfTheSmallMachines()
+void PropertyFiguresTest::secondDriveOfTheSmallModels()
 {
     for (const auto& [dpType, second] :
          {std::pair(rt30, ""), std::pair(rt30xl, "Writer two 1.06"), std::pair(rt300, "Writer two 1.06")}) {
@@ -317,7 +318,7 @@ void PropertyFiguresTest::unknownVersionsAreHidden()
     }
 }
 
-void PropertyFiguresTest::serialNumberComesWithTheWear()
+void PropertyFiguresTest::serialNumberIsReadWithTheWear()
 {
     m_stage.store(rt300);
     propertyDialogEx dialog(nullptr);
@@ -328,7 +329,7 @@ void PropertyFiguresTest::serialNumberComesWithTheWear()
     QCOMPARE(dialog.labelDrive1VersionValue->text(), "Writer one 1.05");
 }
 
-/// A device may call itself whatever it likes.
+/// Texts from a device may contain any characters.
 void PropertyFiguresTest::textsAreNotMarkup()
 {
     for (const QLabel* label : versionValues() + QList<const QLabel*>{m_stage->labelSerialNo}) {
@@ -336,15 +337,15 @@ void PropertyFiguresTest::textsAreNotMarkup()
     }
 }
 
-void PropertyFiguresTest::fromTheService_data()
+void PropertyFiguresTest::valuesFromTheService_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QString>("printer");
     QTest::addColumn<QString>("drive");
     QTest::addColumn<QString>("life");
     QTest::addColumn<bool>("oneDrive");
-    // The tray is the most worn part: 30,000 discs over the drives, of 60,000 less the 1.25 % that never
-    // count.
+    // The tray is the most worn part. Each drive handles its share of 30,000 discs, of a tray life of 60,000;
+    // the first 1.25 % of the life does not count.
     QTest::newRow("RT-300III DVD") << "RT-300III DVD"
                                    << "ARVEN RT-300PRN 01.37"
                                    << "DVR-300III 1.05"
@@ -367,7 +368,7 @@ void PropertyFiguresTest::fromTheService_data()
                                   << "48" << true;
 }
 
-void PropertyFiguresTest::fromTheService()
+void PropertyFiguresTest::valuesFromTheService()
 {
     QFETCH(QString, model);
     QFETCH(QString, printer);
@@ -416,7 +417,7 @@ void PropertyFiguresTest::fromTheService()
     }
 }
 
-void PropertyFiguresTest::silentService_data()
+void PropertyFiguresTest::missingReplies_data()
 {
     QTest::addColumn<QString>("fault");
     QTest::addColumn<uint>("control");
@@ -425,13 +426,13 @@ void PropertyFiguresTest::silentService_data()
     QTest::newRow("no service") << "refuse" << 0U << false << false;
     QTest::newRow("device is off") << "result 11" << 0U << false << false;
     QTest::newRow("no wear") << "result 1001" << 28U << false << true;
-    QTest::newRow("wear is cut off") << "short-payload" << 28U << false << true;
+    QTest::newRow("truncated wear") << "short-payload" << 28U << false << true;
     QTest::newRow("no loader") << "result 1001" << 10U << true << false;
     QTest::newRow("no printer") << "close" << 12U << true << false;
     QTest::newRow("no drives") << "wrong-id" << 11U << true << false;
 }
 
-void PropertyFiguresTest::silentService()
+void PropertyFiguresTest::missingReplies()
 {
     QFETCH(QString, fault);
     QFETCH(uint, control);
@@ -456,7 +457,7 @@ void PropertyFiguresTest::silentService()
     QVERIFY(seenOn(m_stage->pageVersion, m_stage->labelDrive2VersionLabel));
 }
 
-void PropertyFiguresTest::notConnectedIsNotAsked()
+void PropertyFiguresTest::disconnectedDeviceIsNotQueried()
 {
     m_stage.close();
     m_stage.installation() = Installation();

@@ -1,4 +1,5 @@
-// One stored publisher and the property dialog on it, and what a test reads from its widgets and its file.
+// Fixture with one stored publisher and its property dialog, and helpers that read its widgets and its
+// setting file.
 #pragma once
 
 #include "Installation.h"
@@ -14,26 +15,26 @@
 #include <initializer_list>
 #include <memory>
 
-/// The models of local publishers that the dialog knows. A test's rows go over all of them.
+/// A model of local publishers that the dialog knows. Data-driven tests have a row for each.
 struct LocalModel
 {
     const char* row;
     uint32_t dpType;
     const char* text;
-    bool oneDrive; ///< the small machine: one drive, no third stacker, no batch mode
+    bool oneDrive; ///< small model: one drive, no third stacker, no batch mode
     bool xl;       ///< writes BD-R XL
 };
 
 inline constexpr LocalModel localModels[] = {
     {"RT-300III DVD", 0x10000009, "RT-300III", false, false},
     {"RT-300III BD", 0x20000009, "RT-300III", false, false},
-    {"RT-300III, bare number", 9, "RT-300III", false, false},
+    {"RT-300III, family alone", 9, "RT-300III", false, false},
     {"RT-300III BDXL", 0x30000009, "RT-300III (BD-XL)", false, true},
     {"RT-30II", 8, "RT-30II", true, false},
     {"RT-30II BDXL", 0x30000008, "RT-30II (BD-XL)", true, true},
 };
 
-/// One of each kind, where the others would only repeat it.
+/// One model of each kind, for tests in which the others would add nothing.
 constexpr uint32_t rt300 = 0x20000009;
 constexpr uint32_t rt300xl = 0x30000009;
 constexpr uint32_t rt30 = 8;
@@ -41,11 +42,11 @@ constexpr uint32_t rt30xl = 0x30000008;
 
 constexpr uint unknownNumber = 0xFFFFFFFF;
 
-/// What a loop goes over.
+/// Lists for range-based for loops.
 using Labels = std::initializer_list<const QLabel*>;
 using Widgets = std::initializer_list<const QWidget*>;
 
-/// The settings of a local publisher, as its file holds them.
+/// The settings of a local publisher, as its file stores them.
 struct StoredPublisher
 {
     std::string name = "Studio";
@@ -73,8 +74,8 @@ struct StoredPublisher
     }
 };
 
-/// The record of the network publisher "N", as its server tells it: Installation::addNetwork("N", "Server",
-/// "studio-3").
+/// The record of the network publisher "N", as its server reports it. Matches
+/// Installation::addNetwork("N", "Server", "studio-3").
 inline PUBLISHERINFO serverRecord()
 {
     PUBLISHERINFO info;
@@ -87,13 +88,13 @@ inline PUBLISHERINFO serverRecord()
     return info;
 }
 
-/// Keeps the installation with the publisher "X", and the dialog on it.
+/// Owns an installation with the publisher "X" and its property dialog.
 class PropertyStage
 {
 public:
     static constexpr char id[] = "X";
 
-    /// Forgets everything before, and stores the publisher with its device.
+    /// Closes the dialog, resets the installation, and stores the publisher with its device.
     void store(uint32_t dpType, const StoredPublisher& publisher = {})
     {
         m_dialog.reset();
@@ -102,7 +103,7 @@ public:
         WriteText(Installation::settingFile(id), publisher.text(std::string("{") + id + "}"));
     }
 
-    /// The stored record, as the list window takes it.
+    /// Reads the stored record as the list window does. Stops the test program on failure.
     static PUBLISHERINFO record(const char* registID = id)
     {
         PUBLISHERINFO info;
@@ -114,7 +115,7 @@ public:
         return info;
     }
 
-    /// A dialog that is filled and shown. With `connection` 0 nobody asks the device.
+    /// Opens, fills and shows the dialog. With `connection` 0 the device is not queried.
     void open(BOOL connection = 0)
     {
         open(record(), connection);
@@ -155,7 +156,7 @@ private:
     std::unique_ptr<propertyDialogEx> m_dialog;
 };
 
-/// What stands behind the key in the publisher's file; "(none)" without the key.
+/// Returns the value of the key in the publisher's file, "(none)" if the key is missing.
 inline QString setting(const char* key, const std::string& registID = PropertyStage::id)
 {
     const std::string text = ReadText(Installation::settingFile(registID));
@@ -168,7 +169,7 @@ inline QString setting(const char* key, const std::string& registID = PropertySt
     return QString::fromStdString(text.substr(value, text.find('\n', value) - value));
 }
 
-/// The settings behind several keys, as "PublishMode=0 Stacker1=1".
+/// Returns the values of several keys, as "PublishMode=0 Stacker1=1".
 inline QString settings(const std::vector<const char*>& keys)
 {
     QStringList list;
@@ -178,19 +179,19 @@ inline QString settings(const std::vector<const char*>& keys)
     return list.join(" ");
 }
 
-/// The widget would be seen with this page, tab or window on the screen.
+/// Returns whether the widget is visible when this page, tab or window is shown.
 inline bool seenOn(const QWidget* page, const QWidget* widget)
 {
     return widget->isVisibleTo(page);
 }
 
-/// The chosen value as text; "none" when no item is chosen.
+/// Returns the selected value as text, "none" if no item is selected.
 inline QString chosen(const QComboBox* box)
 {
     return box->currentIndex() == -1 ? "none" : box->currentData().toString();
 }
 
-/// All items, as "CD-R=1".
+/// Returns all items as text and value: "CD-R=1".
 inline QStringList items(const QComboBox* box)
 {
     QStringList list;
@@ -200,7 +201,7 @@ inline QStringList items(const QComboBox* box)
     return list;
 }
 
-/// Chooses in the list that the box unfolds, as a user does.
+/// Selects an item in the popup list of the box, as a user does.
 inline void choose(QComboBox* box, uint value)
 {
     const int row = box->findData(value);
@@ -214,14 +215,14 @@ inline void choose(QComboBox* box, uint value)
     QCOMPARE(box->currentIndex(), row);
 }
 
-/// How many pictures lie on each other in the view.
+/// Returns the number of pictures that are stacked in the view.
 inline int pictureCount(const QGraphicsView* view)
 {
     return view->scene() ? static_cast<int>(view->scene()->items().size()) : 0;
 }
 
-/// Which picture of the resource tree lies on top: "A11-9". "" when there is none, "?" when it is no such
-/// image.
+/// Returns the resource name of the topmost picture, such as "A11-9"; "" without a picture, "?" for an
+/// unknown image.
 inline QString picture(const QGraphicsView* view)
 {
     if (pictureCount(view) == 0) {
@@ -240,9 +241,9 @@ inline QString picture(const QGraphicsView* view)
     return "?";
 }
 
-/// The state of the stacker settings in one line, so that a failed comparison shows all of it:
-/// "mode 0, stackers 1 0- 32, A11-1". A "-" marks a box that is disabled, "H" one that is hidden; "+out" says
-/// that stacker 2 offers to take finished discs.
+/// Describes the stacker settings in one line, so that a failed comparison shows all of them:
+/// "mode 0, stackers 1 0- 32, A11-1". "-" marks a disabled box, "H" a hidden one; "+out" means that stacker 2
+/// offers the item for finished discs.
 inline QString stackers(const propertyDialogEx* dialog)
 {
     const auto state = [dialog](const QComboBox* box) {

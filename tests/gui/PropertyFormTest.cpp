@@ -1,5 +1,4 @@
-// The property dialog as it is made, before it shows any publisher: every widget with its name, its words and
-// its place.
+// Tests the property dialog before it shows a publisher: the name, the text and the position of every widget.
 #include "PropertyFixture.h"
 #include "SameImage.h"
 
@@ -18,25 +17,25 @@ private slots:
     void tabs();
     void windowIcon();
     void maintenanceButtons();
-    void itemsOfTheBoxes();
-    void startValues();
+    void comboBoxItems();
+    void initialValues();
     void pictureView();
     void applyIsDisabled();
     void sizeIsFixed();
     void slotsInOrder();
-    void callersOfTheRules();
-    void signalsReachTheirSlots();
-    void picturesLieOnEachOther();
+    void callersOfChangeStacker();
+    void changesEnableApply();
+    void picturesAreStacked();
     void styleFollowsThePalette();
-    void otherEventsDoNotTouchTheStyle();
-    void rulesRepaintTheDialogAtOnce();
+    void otherEventsKeepTheStyle();
+    void stackerRulesRepaintAtOnce();
 };
 
 void PropertyFormTest::everyWidget_data()
 {
     QTest::addColumn<QString>("inside");
     QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("text"); // null: not said
+    QTest::addColumn<QString>("text"); // null: not checked
     const auto row = [](const char* inside, const char* name, const char* type, const char* text = nullptr) {
         QTest::newRow(name) << inside << type << QString(text);
     };
@@ -165,7 +164,7 @@ void PropertyFormTest::maintenanceButtons()
     QVERIFY(showsImage(dialog.btnHeadCleaning->icon(), ":/res/PrinterMaint/btnHeadCleaning.png", 64));
 }
 
-void PropertyFormTest::itemsOfTheBoxes()
+void PropertyFormTest::comboBoxItems()
 {
     const propertyDialogEx dialog(nullptr);
     QCOMPARE(items(dialog.selectPublishMode),
@@ -177,12 +176,12 @@ void PropertyFormTest::itemsOfTheBoxes()
     QCOMPARE(items(dialog.selectStacker3), (QStringList{"Use=0", "Do not use=32"}));
     QStringList drives;
     for (int i = 0; i < dialog.selectUseDrive->count(); ++i) {
-        drives << dialog.selectUseDrive->itemText(i); // these go by their index
+        drives << dialog.selectUseDrive->itemText(i); // the value is the index
     }
     QCOMPARE(drives, (QStringList{"Use Both", "Use Drive 1 Only", "Use Drive 2 Only"}));
 }
 
-void PropertyFormTest::startValues()
+void PropertyFormTest::initialValues()
 {
     const propertyDialogEx dialog(nullptr);
     QCOMPARE(dialog.selectStacker2->isEnabled(), false);
@@ -242,16 +241,16 @@ void PropertyFormTest::slotsInOrder()
     QCOMPARE(meta.method(meta.indexOfSlot("savePublisherInfo()")).returnType(), int(QMetaType::Bool));
 }
 
-void PropertyFormTest::callersOfTheRules()
+void PropertyFormTest::callersOfChangeStacker()
 {
     QCOMPARE(int(propertyDialogEx::STACKER_1_2), 0);
     QCOMPARE(int(propertyDialogEx::STACKER_3), 1);
     QCOMPARE(int(propertyDialogEx::PUB_MODE), 2);
 }
 
-void PropertyFormTest::signalsReachTheirSlots()
+void PropertyFormTest::changesEnableApply()
 {
-    // Before anything is filled in, a change of any setting already marks the dialog as changed.
+    // A change of any setting marks the dialog as changed, even before it is filled.
     const auto marks = [](const std::function<void(propertyDialogEx&)>& change) {
         propertyDialogEx dialog(nullptr);
         change(dialog);
@@ -270,7 +269,7 @@ void PropertyFormTest::signalsReachTheirSlots()
              "only a click counts");
 }
 
-void PropertyFormTest::picturesLieOnEachOther()
+void PropertyFormTest::picturesAreStacked()
 {
     propertyDialogEx dialog(nullptr);
     const QGraphicsView* view = dialog.viewStackerSequence;
@@ -316,7 +315,7 @@ void PropertyFormTest::styleFollowsThePalette()
     QTRY_COMPARE(background(), before.color(QPalette::Base));
 }
 
-/// Counts the events of one kind that a widget gets.
+/// Counts the events of one type that a widget receives.
 class EventCounter : public QObject
 {
 public:
@@ -336,7 +335,7 @@ private:
     QEvent::Type m_type;
 };
 
-void PropertyFormTest::otherEventsDoNotTouchTheStyle()
+void PropertyFormTest::otherEventsKeepTheStyle()
 {
     propertyDialogEx dialog(nullptr);
     dialog.show();
@@ -352,7 +351,7 @@ void PropertyFormTest::otherEventsDoNotTouchTheStyle()
              "QTabWidget::pane > QWidget {\n\tbackground: palette(base);\n}");
 }
 
-void PropertyFormTest::rulesRepaintTheDialogAtOnce()
+void PropertyFormTest::stackerRulesRepaintAtOnce()
 {
     propertyDialogEx dialog(nullptr);
     dialog.show();

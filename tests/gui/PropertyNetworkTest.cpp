@@ -1,4 +1,4 @@
-// The property dialog of a network publisher: everything can be read, and only the name can be edited.
+// Tests the property dialog of a network publisher: all settings are shown, and only the name can be edited.
 #include "Boxes.h"
 #include "PropertyFixture.h"
 
@@ -17,11 +17,11 @@ private slots:
     void titles();
     void settingsAsTexts_data();
     void settingsAsTexts();
-    void labelsInPlaceOfControls();
+    void labelsReplaceControls();
     void retriesAndErrorMark();
     void figuresOfAServer();
     void unreachable();
-    void discsOfManyLayers();
+    void discsWithManyLayers();
     void cancelIsDisabled();
     void unchangedNameIsAccepted();
     void namesAreChecked_data();
@@ -53,7 +53,7 @@ void PropertyNetworkTest::titles_data()
     QTest::newRow("300N") << 1U << "N/A";
     QTest::newRow("300NII") << 2U << "RT-300NII";
     QTest::newRow("300NII BDXL") << 3U << "RT-300NII (BD-XL)";
-    QTest::newRow("beyond") << 4U << "N/A";
+    QTest::newRow("out of range") << 4U << "N/A";
 }
 
 void PropertyNetworkTest::titles()
@@ -114,7 +114,7 @@ void PropertyNetworkTest::settingsAsTexts()
     QVERIFY(!m_stage->applyButton->isEnabled());
 }
 
-void PropertyNetworkTest::labelsInPlaceOfControls()
+void PropertyNetworkTest::labelsReplaceControls()
 {
     m_stage.open(serverRecord(), 0);
     const QWidget* page = m_stage->pageGeneral;
@@ -193,7 +193,7 @@ void PropertyNetworkTest::unreachable()
     QCOMPARE(m_stage->textHostName->text(), "studio-3");
 }
 
-void PropertyNetworkTest::discsOfManyLayers()
+void PropertyNetworkTest::discsWithManyLayers()
 {
     PUBLISHERINFO info = serverRecord();
     info.uiNetPublisherType = 3;

@@ -1,4 +1,4 @@
-// Records of any content fill the property dialog, and any choices leave its settings in order.
+// Fills the property dialog with random records, and checks that random choices keep its settings consistent.
 #include "PropertyFixture.h"
 #include "ScriptedService.h"
 
@@ -13,7 +13,7 @@ namespace {
 constexpr int recordsPerModel = 25;
 constexpr int choicesPerDialog = 60;
 
-/// The same numbers on every machine for the same seed.
+/// Yields the same numbers on every machine for the same seed.
 class Dice
 {
 public:
@@ -27,7 +27,7 @@ public:
     {
         return below(100) < percent;
     }
-    /// Mostly a number with a meaning, sometimes any.
+    /// Returns a number with a meaning in 80 % of the calls, any number otherwise.
     uint32_t number()
     {
         constexpr uint32_t usual[] = {0, 1,  2,  3,  4,  5,  6,   7,          8,
@@ -42,7 +42,8 @@ public:
         }
         return text;
     }
-    /// Text as files and devices may hold it: plain, other letters, or any bytes; without a NUL.
+    /// Returns text as files and devices may contain it: ASCII, non-ASCII letters and invalid bytes, without
+    /// NUL.
     std::string text()
     {
         constexpr const char* pieces[] = {"Studio", "&", "<b>", "\xC3\xBC", "\xE6\x97\xA5", "\xFF",
@@ -59,7 +60,7 @@ private:
     std::mt19937 m_engine;
 };
 
-/// A setting file with keys left out, doubled and filled with anything.
+/// Returns a setting file with missing keys and random values.
 std::string randomFile(Dice& dice)
 {
     std::string file = "[Common]\nGUID={X}\n";
@@ -79,7 +80,7 @@ std::string randomFile(Dice& dice)
     return file;
 }
 
-/// A record of numbers of 8 bytes.
+/// Returns a record of `count` numbers of 8 bytes each.
 std::string numbers(Dice& dice, int count)
 {
     std::string record;
@@ -98,12 +99,12 @@ class PropertyRandomTest : public QObject
     Q_OBJECT
 
 private slots:
-    void anyRecord_data();
-    void anyRecord();
-    void anyRecordAtAll_data();
-    void anyRecordAtAll();
-    void anyChoices_data();
-    void anyChoices();
+    void randomFilesAndReplies_data();
+    void randomFilesAndReplies();
+    void randomRecords_data();
+    void randomRecords();
+    void randomChoices_data();
+    void randomChoices();
 
 private:
     void looksRight();
@@ -123,7 +124,7 @@ void PropertyRandomTest::looksRight()
     }
 }
 
-void PropertyRandomTest::anyRecord_data()
+void PropertyRandomTest::randomFilesAndReplies_data()
 {
     QTest::addColumn<uint32_t>("dpType");
     QTest::addColumn<uint32_t>("seed");
@@ -134,8 +135,8 @@ void PropertyRandomTest::anyRecord_data()
     }
 }
 
-/// From files and answers that are no good.
-void PropertyRandomTest::anyRecord()
+/// Opens the dialog with random files and random replies.
+void PropertyRandomTest::randomFilesAndReplies()
 {
     QFETCH(uint32_t, dpType);
     QFETCH(uint32_t, seed);
@@ -157,13 +158,13 @@ void PropertyRandomTest::anyRecord()
     }
 }
 
-void PropertyRandomTest::anyRecordAtAll_data()
+void PropertyRandomTest::randomRecords_data()
 {
-    anyRecord_data();
+    randomFilesAndReplies_data();
 }
 
-/// From records that no file could hold: long names, line ends, any number in any place.
-void PropertyRandomTest::anyRecordAtAll()
+/// Fills the dialog with records that no file can contain: long names, line breaks, any number in any field.
+void PropertyRandomTest::randomRecords()
 {
     QFETCH(uint32_t, dpType);
     QFETCH(uint32_t, seed);
@@ -203,13 +204,13 @@ void PropertyRandomTest::anyRecordAtAll()
     }
 }
 
-void PropertyRandomTest::anyChoices_data()
+void PropertyRandomTest::randomChoices_data()
 {
-    anyRecord_data();
+    randomFilesAndReplies_data();
 }
 
-/// Whatever was chosen before, the mode's own rules hold, and the picture shows them.
-void PropertyRandomTest::anyChoices()
+/// The rules of the mode hold after any sequence of choices, and the picture matches them.
+void PropertyRandomTest::randomChoices()
 {
     QFETCH(uint32_t, dpType);
     QFETCH(uint32_t, seed);
@@ -240,7 +241,7 @@ void PropertyRandomTest::anyChoices()
     }
 }
 
-/// `stacker2Before`: what stacker 2 held before a change that is no matter of its own; null otherwise.
+/// `stacker2Before`: the value of stacker 2 before a change of stacker 1 or 3; null after other changes.
 void PropertyRandomTest::settingsAreInOrder(bool oneDrive, const QString& stacker2Before)
 {
     const QString mode = chosen(m_stage->selectPublishMode);

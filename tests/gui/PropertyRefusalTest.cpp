@@ -1,4 +1,5 @@
-// Why the properties of a publisher are not saved: each box, and what was written before it came up.
+// Tests why the properties of a publisher are not saved: each message box, and what is written before it
+// appears.
 #include "Boxes.h"
 #include "OrdinaryRights.h"
 #include "PropertyService.h"
@@ -35,31 +36,31 @@ private slots:
 
     void unfinishedJobs_data();
     void unfinishedJobs();
-    void jobListThatCannotBeFetched();
+    void unavailableJobList();
     void runningJobOfTheService();
     void runningJobOfANetworkPublisher();
     void names_data();
     void names();
-    void takenNamesByteForByte_data();
-    void takenNamesByteForByte();
+    void takenNamesAreComparedByteForByte_data();
+    void takenNamesAreComparedByteForByte();
     void unreadablePublisherIsSkipped();
-    void noticeRefusedBehindTheName();
+    void noticeRefusedAfterTheName();
     void modeRefused_data();
     void modeRefused();
-    void nothingIsTakenBack();
+    void savedNameIsNotRolledBack();
     void noticeRefusedAtTheEnd();
-    void noticeRefusedAtTheEndBehindANewName();
-    void withoutAService();
+    void noticeRefusedAtTheEndWithNewName();
+    void withoutService();
     void deviceSwitchedOff();
-    void recordKeepsWhatWasRead();
+    void recordKeepsReadValues();
     void applyIsRefusedTheSameWay();
-    void fileVanishes();
-    void unwritableFile(); // the last two: they give up privileges
-    void unwritableFileBehindANewName();
+    void settingFolderIsRemoved();
+    void unwritableFile(); // the last two tests: they drop privileges
+    void unwritableFileWithNewName();
 
 private:
     void start(const StoredPublisher& publisher = {});
-    /// Presses the button, and answers the one box that has to come up.
+    /// Presses the button and answers the one message box that must appear.
     void pressAndRead(QPushButton* button, const QString& text, QMessageBox::Icon icon);
     void okIsRefused(const QString& text, QMessageBox::Icon icon = QMessageBox::Warning);
     void okIsAccepted();
@@ -154,7 +155,7 @@ void PropertyRefusalTest::unfinishedJobs()
     QCOMPARE(setting("PublisherName"), "Studio B");
 }
 
-void PropertyRefusalTest::jobListThatCannotBeFetched()
+void PropertyRefusalTest::unavailableJobList()
 {
     (*m_service)->addJob("Studio");
     m_service->refuse(PropertyService::jobList, 0, 1001);
@@ -173,7 +174,7 @@ void PropertyRefusalTest::runningJobOfTheService()
     QCOMPARE((*m_service)->look("Studio")->state().mode, 0U);
 }
 
-/// Its name alone can be changed, and has to wait for the jobs all the same.
+/// Only the name can be changed, and this too is refused while a job is running.
 void PropertyRefusalTest::runningJobOfANetworkPublisher()
 {
     (*m_service)->addJob("Studio");
@@ -211,7 +212,7 @@ void PropertyRefusalTest::names()
     m_stage->propertyTab->setFocus();
     okIsRefused(text, QMessageBox::Information);
     QCOMPARE(m_stage->textPublisherName->text(), name);
-    QCOMPARE(m_stage->textPublisherName->selectedText(), name); // all of it, to be typed over
+    QCOMPARE(m_stage->textPublisherName->selectedText(), name); // all of it, ready to be overwritten
     QCOMPARE(m_service->asked(), "4");
     QCOMPARE(file(), before);
 
@@ -223,7 +224,7 @@ void PropertyRefusalTest::names()
     QCOMPARE(settings({"PublisherName", "PublishMode"}), "PublisherName=Studio B PublishMode=2");
 }
 
-void PropertyRefusalTest::takenNamesByteForByte_data()
+void PropertyRefusalTest::takenNamesAreComparedByteForByte_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("refused");
@@ -231,10 +232,10 @@ void PropertyRefusalTest::takenNamesByteForByte_data()
     QTest::newRow("other case") << "LAB 3" << false;
     QTest::newRow("prefix") << "Lab" << false;
     QTest::newRow("longer") << "Lab 33" << false;
-    QTest::newRow("blank behind") << "Lab 3 " << false;
+    QTest::newRow("trailing blank") << "Lab 3 " << false;
 }
 
-void PropertyRefusalTest::takenNamesByteForByte()
+void PropertyRefusalTest::takenNamesAreComparedByteForByte()
 {
     QFETCH(QString, name);
     QFETCH(bool, refused);
@@ -260,7 +261,7 @@ void PropertyRefusalTest::unreadablePublisherIsSkipped()
     okIsAccepted();
 }
 
-void PropertyRefusalTest::noticeRefusedBehindTheName()
+void PropertyRefusalTest::noticeRefusedAfterTheName()
 {
     m_service->refuse(PropertyService::notifyChange, 1);
     choose(m_stage->selectPublishMode, 2);
@@ -270,7 +271,7 @@ void PropertyRefusalTest::noticeRefusedBehindTheName()
     QCOMPARE(settings({"PublisherName", "PublishMode"}), "PublisherName=Studio B PublishMode=0");
     QCOMPARE((*m_service)->look("Studio")->state().mode, 0U);
 
-    okIsAccepted(); // the name is no new one any more
+    okIsAccepted(); // the name is no longer new
     QCOMPARE(m_service->asked(), "4 21 16");
     QCOMPARE(settings({"PublisherName", "PublishMode"}), "PublisherName=Studio B PublishMode=2");
 }
@@ -283,9 +284,9 @@ void PropertyRefusalTest::modeRefused_data()
     QTest::newRow("device is off") << int(Kind::result) << quint64(11);
     QTest::newRow("busy") << int(Kind::result) << quint64(1004);
     QTest::newRow("no such mode") << int(Kind::result) << quint64(37);
-    QTest::newRow("no answer") << int(Kind::close) << quint64(0);
-    QTest::newRow("wrong answer") << int(Kind::wrongId) << quint64(0);
-    QTest::newRow("half an answer") << int(Kind::shortHeader) << quint64(0);
+    QTest::newRow("no reply") << int(Kind::close) << quint64(0);
+    QTest::newRow("wrong control id") << int(Kind::wrongId) << quint64(0);
+    QTest::newRow("truncated header") << int(Kind::shortHeader) << quint64(0);
 }
 
 void PropertyRefusalTest::modeRefused()
@@ -306,7 +307,7 @@ void PropertyRefusalTest::modeRefused()
     QCOMPARE(setting("PublishMode"), "2");
 }
 
-void PropertyRefusalTest::nothingIsTakenBack()
+void PropertyRefusalTest::savedNameIsNotRolledBack()
 {
     m_service->refuse(PropertyService::setPublishMode);
     choose(m_stage->selectPublishMode, 2);
@@ -331,7 +332,7 @@ void PropertyRefusalTest::noticeRefusedAtTheEnd()
     QCOMPARE(m_service->asked(), "4 21 16");
 }
 
-void PropertyRefusalTest::noticeRefusedAtTheEndBehindANewName()
+void PropertyRefusalTest::noticeRefusedAtTheEndWithNewName()
 {
     m_service->onRequest = [this](const udsim::Request& request) {
         if (request.control == PropertyService::setPublishMode) {
@@ -345,11 +346,11 @@ void PropertyRefusalTest::noticeRefusedAtTheEndBehindANewName()
     QCOMPARE(settings({"PublisherName", "PublishMode"}), "PublisherName=Studio B PublishMode=1");
 }
 
-void PropertyRefusalTest::withoutAService()
+void PropertyRefusalTest::withoutService()
 {
     m_service.reset();
     m_stage->spinRetryCount->stepUp();
-    okIsRefused(::modeRefused); // jobs that nobody can list do not stand in the way
+    okIsRefused(::modeRefused); // because of the mode, not of the unavailable job list
     QCOMPARE(setting("RetryTimes"), "3");
     typeName(m_stage.dialog(), "Studio B");
     okIsRefused(busy);
@@ -367,8 +368,8 @@ void PropertyRefusalTest::deviceSwitchedOff()
     QCOMPARE(setting("PublishMode"), "2");
 }
 
-/// What was read from the boxes before a refusal is stored with the next new name.
-void PropertyRefusalTest::recordKeepsWhatWasRead()
+/// Values that were read from the widgets before a refusal are stored with the next new name.
+void PropertyRefusalTest::recordKeepsReadValues()
 {
     m_service->refuse(PropertyService::setPublishMode, 1);
     choose(m_stage->selectPublishMode, 2);
@@ -394,8 +395,8 @@ void PropertyRefusalTest::applyIsRefusedTheSameWay()
     QCOMPARE(m_stage->result(), 1);
 }
 
-/// Somebody removes the publisher while its properties are open.
-void PropertyRefusalTest::fileVanishes()
+/// The setting folder is removed while the properties are open.
+void PropertyRefusalTest::settingFolderIsRemoved()
 {
     std::filesystem::remove_all(PUBLISHER_SETTING_DIR);
     typeName(m_stage.dialog(), "Studio B");
@@ -410,7 +411,7 @@ void PropertyRefusalTest::unwritableFile()
     QCOMPARE(chmod(Installation::settingFile("X").c_str(), 0444), 0);
     choose(m_stage->selectPublishMode, 2);
     okIsRefused(notWritten);
-    QCOMPARE(m_service->asked(), "4 21"); // the device has the new mode, and nobody is told of it
+    QCOMPARE(m_service->asked(), "4 21"); // the device has the new mode, but no change notice is sent
     QCOMPARE((*m_service)->look("Studio")->state().mode, 2U);
     QCOMPARE(file(), before);
     QCOMPARE(chmod(Installation::settingFile("X").c_str(), 0644), 0);
@@ -418,7 +419,7 @@ void PropertyRefusalTest::unwritableFile()
     QCOMPARE(setting("PublishMode"), "2");
 }
 
-void PropertyRefusalTest::unwritableFileBehindANewName()
+void PropertyRefusalTest::unwritableFileWithNewName()
 {
     QVERIFY(TakeAwayPrivileges());
     const std::string path = Installation::settingFile("X");
@@ -428,7 +429,7 @@ void PropertyRefusalTest::unwritableFileBehindANewName()
     QCOMPARE(m_service->asked(), "4");
     QCOMPARE(setting("PublisherName"), "Studio");
 
-    // The name can be written, what follows cannot.
+    // The name can be written, the remaining settings cannot.
     QCOMPARE(chmod(path.c_str(), 0644), 0);
     m_service->onRequest = [path](const udsim::Request& request) {
         if (request.control == PropertyService::setPublishMode) {

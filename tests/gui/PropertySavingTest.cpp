@@ -1,4 +1,5 @@
-// Saving the properties of a local publisher: what is written, in which order, and how the dialog ends.
+// Tests saving the properties of a local publisher: what is written, in which order, and how the dialog
+// closes.
 #include "Boxes.h"
 #include "PropertyService.h"
 
@@ -20,41 +21,41 @@ private slots:
     void stackerSettings_data();
     void stackerSettings();
     void driveAndPrinterSettings();
-    void smallMachineKeepsItsDrive();
+    void smallModelKeepsItsDrive();
     void retryCounts_data();
     void retryCounts();
     void correctedValuesAreWrittenBack_data();
     void correctedValuesAreWrittenBack();
-    void orderOfASaving();
-    void orderWithANewName();
+    void savingOrder();
+    void savingOrderWithNewName();
     void newNameStoresTheCorrectedRecord_data();
     void newNameStoresTheCorrectedRecord();
     void nothingElseIsWritten();
-    void deviceFollows();
+    void deviceTakesTheSettings();
     void newNames_data();
     void newNames();
     void pastedNames_data();
     void pastedNames();
-    void sameNameInOtherLetters();
+    void takenNameInOtherCase();
     void retypedOldName();
-    void onlyTheNameOfANetworkPublisher();
-    void applyKeepsTheDialog();
+    void networkPublisherSavesOnlyItsName();
+    void applyKeepsTheDialogOpen();
     void applyThenCancel();
     void applyThenOk();
-    void okEndsWithOne();
+    void okReturnsOne();
     void cancelWritesNothing_data();
     void cancelWritesNothing();
     void enterIsOk();
-    void unchangedValueStillCounts();
-    void servedByAnOrdinaryService();
+    void undoneChangeStillCounts();
+    void fillingAndSaving();
 
 private:
     void start(uint32_t dpType, const char* model, const StoredPublisher& publisher = {});
-    /// Presses OK, which has to close the dialog.
+    /// Presses OK, which must close the dialog.
     void ok();
     static QString savedStackers();
     static QString savedDrive();
-    /// What exec() gives when `act` is done as soon as the dialog is up.
+    /// Returns the result of exec(). Calls `act` as soon as the dialog runs; `act` must close it.
     int exec(const std::function<void()>& act);
 
     PropertyStage m_stage;
@@ -130,7 +131,7 @@ void PropertySavingTest::stackerSettings_data()
         QTest::addRow("%s, mode %u, stacker 3 %u", oneDrive ? "RT-30" : "RT-300", mode, stacker3)
             << oneDrive << mode << stacker3 << QString(saved);
     };
-    // Stacker 1 is set to BD-R, stacker 2 to BD-R DL where the mode leaves it a choice.
+    // Stacker 1 is set to BD-R, stacker 2 to BD-R DL if the mode allows it.
     row(false, 0, 0, "PublishMode=0 Stacker1=8 Stacker2=0 Stacker3=0 Stacker4=32");
     row(false, 0, 32, "PublishMode=0 Stacker1=8 Stacker2=0 Stacker3=32 Stacker4=0");
     row(false, 1, 0, "PublishMode=1 Stacker1=8 Stacker2=8 Stacker3=0 Stacker4=32");
@@ -151,7 +152,7 @@ void PropertySavingTest::stackerSettings()
                   : std::vector<std::pair<uint32_t, const char*>>{{0x10000009, "RT-300III DVD"},
                                                                   {rt300, "RT-300III BD"},
                                                                   {rt300xl, "RT-300III BDXL"}}) {
-        // Stored as something else, so that every key has to be written.
+        // Other values are stored, so that every key must be written.
         start(dpType, model,
               {.mode = mode == 0 ? 2U : 0U, .stacker1 = 6, .stacker2 = 7, .stacker3 = 16, .stacker4 = 5});
         choose(m_stage->selectPublishMode, mode);
@@ -185,7 +186,7 @@ void PropertySavingTest::driveAndPrinterSettings()
              "UseDrive=2 RetryTimes=5 RetryTimesW=5 RetryTimesR=7 ReadBackContinue=1 AddErrorMark=0");
 }
 
-void PropertySavingTest::smallMachineKeepsItsDrive()
+void PropertySavingTest::smallModelKeepsItsDrive()
 {
     start(rt30, "RT-30II", {.useDrive = 2, .errorMark = false});
     QTest::mouseClick(m_stage->checkErrorMark, Qt::LeftButton, Qt::NoModifier,
@@ -232,8 +233,8 @@ void PropertySavingTest::correctedValuesAreWrittenBack_data()
                            << "PublishMode=2 Stacker1=6 Stacker2=6 Stacker3=0 Stacker4=32";
     QTest::newRow("DVD-R DL and DVD+R DL")
         << 2U << 3U << 5U << 32U << "PublishMode=2 Stacker1=7 Stacker2=7 Stacker3=32 Stacker4=0";
-    QTest::newRow("no medium") << 2U << 16U << 99U << 5U
-                               << "PublishMode=2 Stacker1=1 Stacker2=1 Stacker3=0 Stacker4=32";
+    QTest::newRow("unknown media") << 2U << 16U << 99U << 5U
+                                   << "PublishMode=2 Stacker1=1 Stacker2=1 Stacker3=0 Stacker4=32";
     QTest::newRow("mode 3") << 3U << 1U << 8U << 32U
                             << "PublishMode=0 Stacker1=1 Stacker2=0 Stacker3=32 Stacker4=0";
     QTest::newRow("mode 4") << 4U << 1U << 8U << 16U
@@ -242,7 +243,7 @@ void PropertySavingTest::correctedValuesAreWrittenBack_data()
         << 1U << 8U << 6U << 32U << "PublishMode=1 Stacker1=8 Stacker2=8 Stacker3=0 Stacker4=32";
 }
 
-/// A change of something else saves what the boxes show.
+/// A change of another setting also saves the values that the boxes show.
 void PropertySavingTest::correctedValuesAreWrittenBack()
 {
     QFETCH(uint, mode);
@@ -257,8 +258,8 @@ void PropertySavingTest::correctedValuesAreWrittenBack()
     QCOMPARE(savedStackers(), saved);
 }
 
-/// The device takes the mode first, the file follows, and the service is told last.
-void PropertySavingTest::orderOfASaving()
+/// The device gets the mode first, then the file is written, then the service is notified.
+void PropertySavingTest::savingOrder()
 {
     const std::string before = ReadText(Installation::settingFile("X"));
     choose(m_stage->selectPublishMode, 2);
@@ -279,8 +280,8 @@ void PropertySavingTest::orderOfASaving()
     QCOMPARE(files[2], ReadText(Installation::settingFile("X")));
 }
 
-/// The name is written on its own, and once more with everything else.
-void PropertySavingTest::orderWithANewName()
+/// The name is written alone first, then again with all other settings.
+void PropertySavingTest::savingOrderWithNewName()
 {
     choose(m_stage->selectPublishMode, 2);
     typeName(m_stage.dialog(), "Studio B");
@@ -316,7 +317,7 @@ void PropertySavingTest::newNameStoresTheCorrectedRecord_data()
     row(true, {2, 1, 6, 0}, "PublishMode=2 Stacker1=1 Stacker2=6 Stacker3=32 Stacker4=5");
 }
 
-/// What the service finds when it is told of the new name, before it is told of the settings.
+/// Checks the file at the change notice for the new name, which precedes the notice for the other settings.
 void PropertySavingTest::newNameStoresTheCorrectedRecord()
 {
     QFETCH(bool, oneDrive);
@@ -353,7 +354,7 @@ void PropertySavingTest::nothingElseIsWritten()
     QCOMPARE(std::distance(begin(folder), end(folder)), 1);
 }
 
-void PropertySavingTest::deviceFollows()
+void PropertySavingTest::deviceTakesTheSettings()
 {
     typeName(m_stage.dialog(), "Studio B");
     choose(m_stage->selectPublishMode, 2);
@@ -375,10 +376,10 @@ void PropertySavingTest::newNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("one letter") << "B";
-    QTest::newRow("other letters") << QString::fromUtf8("Stüdio – 日本");
+    QTest::newRow("non-ASCII letters") << QString::fromUtf8("Stüdio – 日本");
     QTest::newRow("slash") << "Studio/B";
     QTest::newRow("blank") << " ";
-    QTest::newRow("signs") << "[B] = 100 % & more; \"#1\"";
+    QTest::newRow("special characters") << "[B] = 100 % & more; \"#1\"";
     QTest::newRow("64 letters") << QString(64, 'n');
     QTest::newRow("200 letters") << QString(200, 'n');
 }
@@ -397,21 +398,21 @@ void PropertySavingTest::pastedNames_data()
     QTest::addColumn<QString>("pasted");
     QTest::addColumn<QString>("saved");
     QTest::addColumn<QString>("asked");
-    QTest::newRow("line end behind") << "Studio B\n"
-                                     << "Studio B"
-                                     << "4 16 21 16";
+    QTest::newRow("trailing line break") << "Studio B\n"
+                                         << "Studio B"
+                                         << "4 16 21 16";
     QTest::newRow("two lines") << "Studio\r\nB"
                                << "StudioB"
                                << "4 16 21 16";
     QTest::newRow("a key") << "Studio B\nStacker1=9"
                            << "Studio BStacker1=9"
                            << "4 16 21 16";
-    QTest::newRow("old name with a line end") << "Studio\n"
-                                              << "Studio"
-                                              << "4 21 16";
+    QTest::newRow("old name with a line break") << "Studio\n"
+                                                << "Studio"
+                                                << "4 21 16";
 }
 
-/// A name stays one line of the file, whatever comes from the clipboard.
+/// A name stays on one line of the file, whatever is pasted.
 void PropertySavingTest::pastedNames()
 {
     QFETCH(QString, pasted);
@@ -426,7 +427,7 @@ void PropertySavingTest::pastedNames()
     QCOMPARE(m_service->asked(), asked);
 }
 
-void PropertySavingTest::sameNameInOtherLetters()
+void PropertySavingTest::takenNameInOtherCase()
 {
     m_stage.installation().addLocal("Y", "STUDIO");
     typeName(m_stage.dialog(), "sTUDIO");
@@ -444,8 +445,8 @@ void PropertySavingTest::retypedOldName()
     QCOMPARE(m_service->asked(), "4 21 16");
 }
 
-/// A change of anything else is let go.
-void PropertySavingTest::onlyTheNameOfANetworkPublisher()
+/// Changes of other settings are ignored.
+void PropertySavingTest::networkPublisherSavesOnlyItsName()
 {
     PUBLISHERINFO info = PropertyStage::record();
     info.uiPublisherType = 1;
@@ -461,7 +462,7 @@ void PropertySavingTest::onlyTheNameOfANetworkPublisher()
     QCOMPARE(ReadText(Installation::settingFile("X")), before);
 }
 
-void PropertySavingTest::applyKeepsTheDialog()
+void PropertySavingTest::applyKeepsTheDialogOpen()
 {
     choose(m_stage->selectPublishMode, 2);
     QTest::mouseClick(m_stage->applyButton, Qt::LeftButton);
@@ -502,7 +503,7 @@ void PropertySavingTest::applyThenOk()
     QCOMPARE(m_service->asked(), "");
 }
 
-void PropertySavingTest::okEndsWithOne()
+void PropertySavingTest::okReturnsOne()
 {
     const int result = exec([this] {
         m_stage->spinRetryCount->stepUp();
@@ -550,8 +551,8 @@ void PropertySavingTest::enterIsOk()
     QCOMPARE(setting("PublisherName"), "Studio B");
 }
 
-/// A change that is taken back is a change all the same.
-void PropertySavingTest::unchangedValueStillCounts()
+/// A change that is undone still counts as a change.
+void PropertySavingTest::undoneChangeStillCounts()
 {
     m_stage->spinRetryCount->stepUp();
     m_stage->spinRetryCount->stepDown();
@@ -560,8 +561,8 @@ void PropertySavingTest::unchangedValueStillCounts()
     QCOMPARE(m_service->asked(), "4 21 16");
 }
 
-/// From the filling to the end as the list window does it, with a device that answers.
-void PropertySavingTest::servedByAnOrdinaryService()
+/// Fills and saves the dialog as the list window does, with a device that replies.
+void PropertySavingTest::fillingAndSaving()
 {
     m_stage.open(1);
     QCOMPARE(m_service->asked(), "28 10 12 11");

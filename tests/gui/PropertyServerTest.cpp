@@ -1,4 +1,5 @@
-// The property dialog against the servers of network publishers: what is asked, and what it shows.
+// Tests the property dialog with simulated servers of network publishers: the requests that it sends, and
+// what it shows.
 #include "Assertion.h"
 #include "DirectStart.h"
 #include "ServerFixture.h"
@@ -11,7 +12,7 @@ constexpr char storedModeShown[] = "The Publish Mode registered in the output de
                                    "different from the values that are actually "
                                    "registered.";
 
-/// "DevInfoGetter" with one of its types.
+/// A "DevInfoGetter" request of the given type.
 QString info(int type)
 {
     return QString("GET /webapp2/DevInfoGetter?ifversion=02000000&type=%1").arg(type);
@@ -25,7 +26,7 @@ QStringList texts(const propertyDialogEx* dialog)
             dialog->textErrorMark->text(),   picture(dialog->viewStackerSequence)};
 }
 
-/// What of these is seen on the page; "" where a label is hidden.
+/// Returns the texts of the labels that are visible on the page, "" for each hidden label.
 QStringList seenTexts(const QWidget* page, Labels labels)
 {
     QStringList list;
@@ -66,16 +67,16 @@ private slots:
     void settings();
     void wearFigures_data();
     void wearFigures();
-    void serverThatDoesNotConnect_data();
-    void serverThatDoesNotConnect();
-    void figuresThatCannotBeHad_data();
-    void figuresThatCannotBeHad();
+    void unavailableServer_data();
+    void unavailableServer();
+    void unavailableFigures_data();
+    void unavailableFigures();
     void thirdStackerInUseStopsTheProgram();
 
     void requestsOfOpening();
-    void refusedReading();
-    void startedWithItsName();
-    void startedWithItsNameOutOfReach();
+    void unreadableSettings();
+    void startedWithPublisherName();
+    void startedWithNameOfUnreachableServer();
 };
 
 void PropertyServerTest::init()
@@ -113,8 +114,8 @@ void PropertyServerTest::everyKind_data()
                           << QStringList{"SN 4711",       "02.14",         "ARVEN RT-300NPRN 01.37",
                                          "DVR-300N 1.05", "DVR-300N 1.05", "1.20",
                                          "2.10"};
-    // It does not tell what it is, and is then asked for the longer record, which it does not have.
-    QTest::newRow("300N, not known")
+    // The server does not report its kind. It is then asked for the longer record, which it does not have.
+    QTest::newRow("300N, kind not stored")
         << "RT-300N" << common << "Properties - Studio(RT-300NII)" << false << none
         << QStringList{"",     "02.14", "ARVEN RT-300NPRN 01.37", "DVR-300N 1.05", "DVR-300N 1.05",
                        "1.20", "2.10"};
@@ -148,7 +149,7 @@ void PropertyServerTest::settings_data()
     QTest::addColumn<QStringList>("shown");
     const QString plain = "RT-300NII";
     const QString xl = "RT-300NII BD-XL";
-    QTest::newRow("as it leaves the works")
+    QTest::newRow("factory settings")
         << plain << "" << QStringList{"Standard mode", "CD-R", "Output Stacker", "Do not use",
                                       "Use Both",      "3",    "Print",          "A11-1"};
     QTest::newRow("standard, stacker 3 in use")
@@ -180,11 +181,11 @@ void PropertyServerTest::settings_data()
                                                 "3",
                                                 "Print",
                                                 "A11-2"};
-    QTest::newRow("many layers that it does not take")
+    QTest::newRow("many layers, not supported")
         << plain << "server-mode = 3\nstacker1.media = BD-R TL\nstacker2.media = BD-R QL\n"
         << QStringList{
                "External Output / Low-volume mode", "", "", "Do not use", "Use Both", "3", "Print", "A11-2"};
-    QTest::newRow("more retries than the box counts")
+    QTest::newRow("retries above the maximum")
         << plain << "retries = 4294967295\n"
         << QStringList{"Standard mode", "CD-R", "Output Stacker", "Do not use",
                        "Use Both",      "9",    "Print",          "A11-1"};
@@ -223,7 +224,8 @@ void PropertyServerTest::wearFigures_data()
     const auto figures = [](const char* count, const char* drives) {
         return QStringList{count, "[discs]", drives, "[%]", drives, "[%]"};
     };
-    // Half of the discs to each drive: of 60,000 tray movements, or of 4,000,000 seconds of writing.
+    // Each drive handles half of the discs. A drive lasts 60,000 tray movements or 4,000,000 seconds of
+    // writing.
     QTest::newRow("new") << "print-count = 0\n" << figures("0", "0");
     QTest::newRow("tray") << "print-count = 1199\ndisc-time = 10s\n" << figures("1199", "0");
     QTest::newRow("tray, a percent") << "print-count = 1200\ndisc-time = 10s\n" << figures("1200", "1");
@@ -240,17 +242,17 @@ void PropertyServerTest::wearFigures()
     openFromTheList([&](propertyDialogEx& dialog) { QCOMPARE(wear(&dialog), figures); });
 }
 
-void PropertyServerTest::serverThatDoesNotConnect_data()
+void PropertyServerTest::unavailableServer_data()
 {
     QTest::addColumn<QString>("keys");
-    QTest::newRow("out of reach") << "listening = no\n";
+    QTest::newRow("unreachable") << "listening = no\n";
     QTest::newRow("security mode") << "server-mode = 0\n";
     QTest::newRow("output control mode") << "server-mode = 1\n";
-    QTest::newRow("old") << "server-version = 2.29\n";
-    QTest::newRow("speaks another version") << "interface-version = 03000000\n";
+    QTest::newRow("old server version") << "server-version = 2.29\n";
+    QTest::newRow("other interface version") << "interface-version = 03000000\n";
 }
 
-void PropertyServerTest::serverThatDoesNotConnect()
+void PropertyServerTest::unavailableServer()
 {
     QFETCH(QString, keys);
     startRoom(studio("RT-300NII BD-XL", "known-kind = 3\n" + keys.toStdString()));
@@ -258,7 +260,7 @@ void PropertyServerTest::serverThatDoesNotConnect()
         [](propertyDialogEx& shown) {
             QCOMPARE(shown.windowTitle(), "Properties - Studio(RT-300NII (BD-XL))");
             QCOMPARE(shown.textHostName->text(), "127.0.0.11");
-            // The retries stand at what the box makes of an unknown number, the mark as in a new record.
+            // The box shows its maximum for an unknown retry count; the error mark is that of a new record.
             QCOMPARE(texts(&shown), (QStringList{"", "", "", "", "", "9", "Print", ""}));
             QCOMPARE(wear(&shown), (QStringList{"", "", "", "", "", ""}));
             QCOMPARE(versions(&shown), (QStringList{"", "", "", "", "", "", ""}));
@@ -267,17 +269,17 @@ void PropertyServerTest::serverThatDoesNotConnect()
     endConnectionsLeftBehind();
 }
 
-void PropertyServerTest::figuresThatCannotBeHad_data()
+void PropertyServerTest::unavailableFigures_data()
 {
     QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("after"); // requests that pass, of this path and of one opening
+    QTest::addColumn<int>("after"); // requests to this path that succeed before the fault
     QTest::addColumn<bool>("wearSeen");
     QTest::addColumn<bool>("serialSeen");
     QTest::addColumn<bool>("versionsSeen");
     const QString devInfo = "/webapp2/DevInfoGetter?ifversion=02000000&type=";
     QTest::newRow("wear") << "/webapp2/DevStatusGetter?ifversion=02000000&type=10" << 0 << false << false
                           << true;
-    // The serial number comes with the wear figures, and again as the first of the versions.
+    // The serial number is read with the wear figures, and again as the first of the versions.
     QTest::newRow("serial number with the wear") << devInfo + "0" << 0 << false << false << false;
     QTest::newRow("serial number with the versions") << devInfo + "0" << 1 << true << true << false;
     for (const char* type : {"12", "2", "13", "3", "14", "4", "6"}) {
@@ -285,7 +287,7 @@ void PropertyServerTest::figuresThatCannotBeHad_data()
     }
 }
 
-void PropertyServerTest::figuresThatCannotBeHad()
+void PropertyServerTest::unavailableFigures()
 {
     QFETCH(QString, path);
     QFETCH(int, after);
@@ -306,7 +308,7 @@ void PropertyServerTest::figuresThatCannotBeHad()
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
 }
 
-/// A mode and a stacker that no dialog of ours can bring about, but the machine's own panel can.
+/// A combination that our dialogs cannot set, but the panel of the machine can.
 void PropertyServerTest::thirdStackerInUseStopsTheProgram()
 {
     const auto stops = [this](const std::string& keys) {
@@ -338,8 +340,8 @@ void PropertyServerTest::requestsOfOpening()
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
 }
 
-/// It can be reached, and its settings cannot be read: no dialog comes up, and no box.
-void PropertyServerTest::refusedReading()
+/// The server is reachable, but its settings cannot be read: neither a dialog nor a message box appears.
+void PropertyServerTest::unreadableSettings()
 {
     startRoom(studio());
     m_window = std::make_unique<PubSetup>(nullptr);
@@ -353,7 +355,7 @@ void PropertyServerTest::refusedReading()
     QVERIFY(boxes.seen().empty());
 }
 
-void PropertyServerTest::startedWithItsName()
+void PropertyServerTest::startedWithPublisherName()
 {
     startRoom(studio("RT-300NII", "server-mode = 4\nserial = SN 4711\n"));
     Boxes boxes({});
@@ -368,7 +370,7 @@ void PropertyServerTest::startedWithItsName()
     QVERIFY(boxes.seen().empty());
 }
 
-void PropertyServerTest::startedWithItsNameOutOfReach()
+void PropertyServerTest::startedWithNameOfUnreachableServer()
 {
     startRoom(studio("RT-300NII", "listening = no\nknown-kind = 2\n"));
     Boxes boxes({QMessageBox::Ok});

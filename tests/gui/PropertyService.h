@@ -1,4 +1,5 @@
-// The simulated service behind the stored publisher, and what it was asked while the dialog saved.
+// The simulated control service of the stored publisher, and the requests that it receives while the dialog
+// saves.
 #pragma once
 
 #include "PropertyFixture.h"
@@ -6,7 +7,7 @@
 
 #include <mutex>
 
-/// The device of the publisher "X" under the simulated service. Goes up behind PropertyStage::store().
+/// The device of the publisher "X" at the simulated service. Create it after PropertyStage::store().
 class PropertyService
 {
 public:
@@ -14,10 +15,10 @@ public:
     static constexpr uint64_t notifyChange = 16;
     static constexpr uint64_t setPublishMode = 21;
 
-    /// Called on the service's thread with each request, while the client waits for the answer.
+    /// Called on the service's thread with each request, while the client waits for the reply.
     std::function<void(const udsim::Request&)> onRequest = [](const udsim::Request&) {};
 
-    /// Stops the test program when the room cannot be made.
+    /// Stops the test program if the room cannot be started.
     explicit PropertyService(const char* model = "RT-300III BD")
     {
         std::string error;
@@ -50,7 +51,7 @@ public:
         return m_room.get();
     }
 
-    /// A request with this control id is answered with the result code, so many times (0: always).
+    /// Replies to requests with this control id with the result code, `times` times (0: always).
     void refuse(uint64_t control, uint64_t times = 0, uint64_t result = 1004)
     {
         udsim::Fault fault;
@@ -61,7 +62,7 @@ public:
         m_room->setFault(fault);
     }
 
-    /// The control ids asked since the last call, as "4 16 21 16".
+    /// Returns the control ids of the requests since the last call, as "4 16 21 16".
     QString asked()
     {
         const std::lock_guard lock(m_mutex);
@@ -73,7 +74,7 @@ public:
         return list.join(" ");
     }
 
-    /// The publisher's file as it was at each request since the start.
+    /// Returns the contents of the publisher's file at each request since the start.
     std::vector<std::string> files()
     {
         const std::lock_guard lock(m_mutex);
@@ -89,10 +90,10 @@ private:
     std::mutex m_mutex;
     std::vector<udsim::Request> m_requests;
     std::vector<std::string> m_files;
-    std::unique_ptr<udsim::Room> m_room; ///< last: its thread uses the others
+    std::unique_ptr<udsim::Room> m_room; ///< declared last: its thread uses the other members
 };
 
-/// Types the name over the old one.
+/// Replaces the name by typing.
 inline void typeName(propertyDialogEx* dialog, const QString& name)
 {
     dialog->textPublisherName->setFocus();

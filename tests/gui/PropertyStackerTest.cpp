@@ -1,4 +1,4 @@
-// The rules that tie publish mode, stackers and picture together, as a user meets them in the dialog.
+// Tests the rules between publish mode, stackers and picture through user input in the dialog.
 #include "PropertyFixture.h"
 
 #include <QPushButton>
@@ -10,17 +10,17 @@ class PropertyStackerTest : public QObject
 private slots:
     void oneChange_data();
     void oneChange();
-    void stacker2IsNoRule_data();
-    void stacker2IsNoRule();
+    void stacker2TriggersNoRules_data();
+    void stacker2TriggersNoRules();
     void stacker2FollowsInBatchMode();
-    void finishedDiscsComeBackAtTheEnd();
-    void everyWayRound_data();
-    void everyWayRound();
-    void ownMediumOfStacker2Survives();
+    void outputItemReturnsAtTheEnd();
+    void modeSequences_data();
+    void modeSequences();
+    void chosenMediumOfStacker2IsKept();
     void picturesOfOneChange_data();
     void picturesOfOneChange();
-    void withoutAModeNothingHappens();
-    void calledByName();
+    void nothingHappensWithoutMode();
+    void directSlotCalls();
     void keyboardStepsThroughTheModes();
 
 private:
@@ -43,7 +43,7 @@ void PropertyStackerTest::oneChange_data()
     };
     constexpr bool big = false;
     constexpr bool small = true;
-    // Stacker 1 holds 7; stacker 2 holds 8 where it holds discs.
+    // Stacker 1 holds 7; stacker 2 holds 8 if it holds discs in this mode.
     row(big, 0, 32, "selectPublishMode", 2, "mode 2, stackers 7 1 32, A11-2");
     row(big, 0, 32, "selectPublishMode", 1, "mode 1, stackers 7 7-+out 0-, A11-3");
     row(big, 0, 32, "selectStacker1", 9, "mode 0, stackers 9 0-+out 32, A11-1");
@@ -96,15 +96,15 @@ void PropertyStackerTest::oneChange()
     }
 }
 
-void PropertyStackerTest::stacker2IsNoRule_data()
+void PropertyStackerTest::stacker2TriggersNoRules_data()
 {
     QTest::addColumn<uint32_t>("dpType");
     QTest::newRow("RT-300") << rt300;
     QTest::newRow("RT-30") << rt30;
 }
 
-/// A medium chosen for stacker 2 marks the dialog as changed, and that is all.
-void PropertyStackerTest::stacker2IsNoRule()
+/// Choosing a medium for stacker 2 only marks the dialog as changed.
+void PropertyStackerTest::stacker2TriggersNoRules()
 {
     QFETCH(uint32_t, dpType);
     m_stage.storeAndOpen(dpType, {.mode = 2, .stacker1 = 7, .stacker2 = 8, .stacker3 = 0});
@@ -126,7 +126,7 @@ void PropertyStackerTest::stacker2FollowsInBatchMode()
     }
 }
 
-void PropertyStackerTest::finishedDiscsComeBackAtTheEnd()
+void PropertyStackerTest::outputItemReturnsAtTheEnd()
 {
     for (const LocalModel& model : localModels) {
         m_stage.storeAndOpen(model.dpType);
@@ -144,7 +144,7 @@ void PropertyStackerTest::finishedDiscsComeBackAtTheEnd()
     }
 }
 
-void PropertyStackerTest::everyWayRound_data()
+void PropertyStackerTest::modeSequences_data()
 {
     QTest::addColumn<QVector<uint>>("modes");
     QTest::addColumn<QString>("after");
@@ -155,7 +155,7 @@ void PropertyStackerTest::everyWayRound_data()
         }
         QTest::newRow(qPrintable(names.join("-"))) << modes << QString(after);
     };
-    // From Standard mode with stacker 3 in use and BD-R in stacker 1.
+    // Each row starts in Standard mode with stacker 3 in use and BD-R in stacker 1.
     row({1, 0}, "mode 0, stackers 8 0-+out 0, A11-9");
     row({2, 0}, "mode 0, stackers 8 0-+out 32, A11-1");
     row({2, 1}, "mode 1, stackers 8 8- 0-, A11-3");
@@ -168,7 +168,7 @@ void PropertyStackerTest::everyWayRound_data()
     row({2, 0, 1, 0, 2, 1, 2}, "mode 2, stackers 8 8 32, A11-2");
 }
 
-void PropertyStackerTest::everyWayRound()
+void PropertyStackerTest::modeSequences()
 {
     QFETCH(QVector<uint>, modes);
     QFETCH(QString, after);
@@ -179,7 +179,7 @@ void PropertyStackerTest::everyWayRound()
     QCOMPARE(stackers(m_stage.dialog()), after);
 }
 
-void PropertyStackerTest::ownMediumOfStacker2Survives()
+void PropertyStackerTest::chosenMediumOfStacker2IsKept()
 {
     m_stage.storeAndOpen(rt300, {.mode = 2, .stacker1 = 7, .stacker2 = 8, .stacker3 = 32});
     choose(m_stage->selectStacker3, 0);
@@ -201,7 +201,7 @@ void PropertyStackerTest::picturesOfOneChange_data()
         QTest::addRow("mode %u, stacker 3 %u: %s = %u", mode, stacker3, box, value)
             << mode << stacker3 << QString(box) << value << added;
     };
-    // One for the change itself, and one more where it moves stacker 3 and so runs the rules again.
+    // One picture for the change itself, and another if it changes stacker 3, which runs the rules again.
     row(0, 32, "selectPublishMode", 2, 1);
     row(0, 0, "selectPublishMode", 2, 2);
     row(0, 32, "selectPublishMode", 1, 2);
@@ -230,8 +230,8 @@ void PropertyStackerTest::picturesOfOneChange()
     QCOMPARE(pictureCount(m_stage->viewStackerSequence), before + added);
 }
 
-/// A publisher whose settings are not known stays as it is until somebody gives it a mode.
-void PropertyStackerTest::withoutAModeNothingHappens()
+/// A publisher with unknown settings stays unchanged until a mode is chosen.
+void PropertyStackerTest::nothingHappensWithoutMode()
 {
     m_stage.storeAndOpen(rt300, {.mode = unknownNumber});
     for (const int caller :
@@ -251,7 +251,7 @@ void PropertyStackerTest::withoutAModeNothingHappens()
     QCOMPARE(picture(m_stage->viewStackerSequence), "A11-1");
 }
 
-void PropertyStackerTest::calledByName()
+void PropertyStackerTest::directSlotCalls()
 {
     m_stage.storeAndOpen(rt300, {.mode = 2, .stacker1 = 7, .stacker2 = 8, .stacker3 = 0});
     m_stage->changeStacker(propertyDialogEx::STACKER_3);
@@ -266,7 +266,7 @@ void PropertyStackerTest::calledByName()
     QVERIFY(m_stage->applyButton->isEnabled());
 }
 
-/// With the arrow keys the modes in between are entered too.
+/// The arrow keys also select the modes in between.
 void PropertyStackerTest::keyboardStepsThroughTheModes()
 {
     m_stage.storeAndOpen(rt300, {.mode = 0, .stacker1 = 6, .stacker3 = 0});

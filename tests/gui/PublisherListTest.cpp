@@ -1,5 +1,5 @@
-// The rows of the list: which publishers have one, what it says, in which order, and what stays over a
-// refresh.
+// Tests the rows of the publisher list: which publishers have a row, its texts, the order, and what a refresh
+// preserves.
 #include "Boxes.h"
 #include "Installation.h"
 #include "LogAgent.h"
@@ -32,28 +32,28 @@ private slots:
     void cleanup();
 
     void missingFolderIsAnEmptyList();
-    void newRowShowsWhatIsStored();
-    void modelsHaveTheirTexts_data();
-    void modelsHaveTheirTexts();
-    void networkPublisherHasItsRow();
+    void newRowShowsStoredValues();
+    void modelTexts_data();
+    void modelTexts();
+    void networkPublisherRow();
     void namesSortNaturally();
     void otherColumnsSortAsText();
-    void rowAppearsAndVanishesWithItsFile();
-    void rowVanishesBehindAnOpenBox();
-    void nameOfARowIsNotRefreshed();
-    void missingFileOfARowIsLogged();
-    void rowOfAPublisherThatMovesToTheNetworkStays();
+    void rowFollowsItsFile();
+    void rowDisappearsWhileMessageBoxIsOpen();
+    void nameIsNotRefreshed();
+    void missingFileIsLogged();
+    void rowStaysWhenPublisherMovesToNetwork();
     void selectionAndScrollPositionSurvive();
     void selectionSurvivesAChangeOfOrder();
     void twoSelectedRowsLeaveRemoveEnabled();
-    void findsARowByItsExactKey();
+    void findsRowByExactKey();
     void currentPublisherCanBeRead();
-    void withoutACurrentRowThereIsNothingToRead();
-    void strangeFileNames_data();
-    void strangeFileNames();
-    void entriesThatNameNoPublisher();
-    void aLongNameIsCut();
-    void rubbishInTheFilesIsSurvived();
+    void readingWithoutCurrentRowAborts();
+    void unusualFileNames_data();
+    void unusualFileNames();
+    void entriesWithoutPublisher();
+    void longNameIsTruncated();
+    void corruptFilesAreTolerated();
 
 private:
     QStringList names(int column = 0) const;
@@ -100,7 +100,7 @@ void PublisherListTest::missingFolderIsAnEmptyList()
     QCOMPARE(names(), QStringList());
 }
 
-void PublisherListTest::newRowShowsWhatIsStored()
+void PublisherListTest::newRowShowsStoredValues()
 {
     m_installation.addLocal("new", "Studio A");
     m_window->updateList();
@@ -116,7 +116,7 @@ void PublisherListTest::newRowShowsWhatIsStored()
     QVERIFY(showsImage(item->icon(0), ":/res/A6-1.png", 22));
 }
 
-void PublisherListTest::modelsHaveTheirTexts_data()
+void PublisherListTest::modelTexts_data()
 {
     QTest::addColumn<uint>("dpType");
     QTest::addColumn<QString>("text");
@@ -131,7 +131,7 @@ void PublisherListTest::modelsHaveTheirTexts_data()
     QTest::newRow("unknown") << 77U << "N/A";
 }
 
-void PublisherListTest::modelsHaveTheirTexts()
+void PublisherListTest::modelTexts()
 {
     QFETCH(uint, dpType);
     QFETCH(QString, text);
@@ -141,7 +141,7 @@ void PublisherListTest::modelsHaveTheirTexts()
     QCOMPARE(row("M")->text(1), text);
 }
 
-void PublisherListTest::networkPublisherHasItsRow()
+void PublisherListTest::networkPublisherRow()
 {
     m_installation.addLocal("local", "Local");
     Installation::addNetwork("network", "Network", "192.0.2.1");
@@ -161,7 +161,7 @@ void PublisherListTest::namesSortNaturally()
     m_window->updateList();
     QCOMPARE(names(), (QStringList{"A", "A9", "A10", "A010", "B", "b"}));
 
-    m_installation.addLocal("sort-late", "A9b"); // joins at its place
+    m_installation.addLocal("sort-late", "A9b"); // inserted in order
     m_window->updateList();
     QCOMPARE(names(), (QStringList{"A", "A9", "A9b", "A10", "A010", "B", "b"}));
 
@@ -182,7 +182,7 @@ void PublisherListTest::otherColumnsSortAsText()
     QCOMPARE(names(4), (QStringList{"-", "10", "9"}));
 }
 
-void PublisherListTest::rowAppearsAndVanishesWithItsFile()
+void PublisherListTest::rowFollowsItsFile()
 {
     m_installation.addLocal("one", "One");
     m_installation.addLocal("two", "Two");
@@ -195,7 +195,7 @@ void PublisherListTest::rowAppearsAndVanishesWithItsFile()
     QCOMPARE(row("Two"), kept);
 }
 
-void PublisherListTest::rowVanishesBehindAnOpenBox()
+void PublisherListTest::rowDisappearsWhileMessageBoxIsOpen()
 {
     m_installation.addLocal("vanishing", "Vanishing");
     m_installation.addLocal("staying", "Staying");
@@ -218,7 +218,7 @@ void PublisherListTest::rowVanishesBehindAnOpenBox()
     QVERIFY(std::filesystem::exists(Installation::settingFile("staying")));
 }
 
-void PublisherListTest::nameOfARowIsNotRefreshed()
+void PublisherListTest::nameIsNotRefreshed()
 {
     m_installation.addLocal("renamed", "Old");
     m_window->updateList();
@@ -227,8 +227,8 @@ void PublisherListTest::nameOfARowIsNotRefreshed()
     QCOMPARE(names(), QStringList{"Old"});
 }
 
-/// Its record is read anew for every query, and the row stays what it is.
-void PublisherListTest::missingFileOfARowIsLogged()
+/// The record is read again for every query. The row does not change.
+void PublisherListTest::missingFileIsLogged()
 {
     m_installation.addLocal("kept", "Kept");
     WriteText(Installation::settingFile("kept") + ".bak", ""); // names the same publisher
@@ -254,7 +254,7 @@ void PublisherListTest::missingFileOfARowIsLogged()
     }
 }
 
-void PublisherListTest::rowOfAPublisherThatMovesToTheNetworkStays()
+void PublisherListTest::rowStaysWhenPublisherMovesToNetwork()
 {
     m_installation.addLocal("moving", "Moving");
     m_window->updateList();
@@ -262,7 +262,7 @@ void PublisherListTest::rowOfAPublisherThatMovesToTheNetworkStays()
     QCoreApplication::processEvents();
     const QTreeWidgetItem* kept = row("Moving");
 
-    Installation::addNetwork("moving", "Moving", "192.0.2.1"); // no way leads there
+    Installation::addNetwork("moving", "Moving", "192.0.2.1"); // unreachable
     m_window->updateStatusOneDevice("moving", "RT-300III", "", "Ready", 3, -1, "-");
     m_window->fetchStatusAsync();
     QVERIFY(waitForTasks(10000));
@@ -336,7 +336,7 @@ void PublisherListTest::twoSelectedRowsLeaveRemoveEnabled()
     QVERIFY2(!m_window->deletePublisher->isEnabled(), "the selected row is gone");
 }
 
-void PublisherListTest::findsARowByItsExactKey()
+void PublisherListTest::findsRowByExactKey()
 {
     m_installation.addLocal("Key", "Same name");
     m_installation.addLocal("key2", "Same name");
@@ -368,7 +368,7 @@ void PublisherListTest::currentPublisherCanBeRead()
     QVERIFY(!m_window->getCurrentPublisherInfo(info, bConnection));
 }
 
-void PublisherListTest::withoutACurrentRowThereIsNothingToRead()
+void PublisherListTest::readingWithoutCurrentRowAborts()
 {
     QCOMPARE(m_window->treePublisherList->currentItem(), nullptr);
     const pid_t child = fork();
@@ -384,17 +384,17 @@ void PublisherListTest::withoutACurrentRowThereIsNothingToRead()
     QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT, "an assertion stops the process");
 }
 
-void PublisherListTest::strangeFileNames_data()
+void PublisherListTest::unusualFileNames_data()
 {
     QTest::addColumn<QByteArray>("id");
     QTest::newRow("not UTF-8") << QByteArray("caf\xe9 \xff\xfe");
     QTest::newRow("UTF-8") << QByteArray("\xe3\x83\x87\xe3\x82\xa3\xe3\x82\xb9\xe3\x82\xaf");
-    QTest::newRow("255 bytes with its ending") << QByteArray(251, 'x');
-    QTest::newRow("blanks, quotes, signs") << QByteArray(" '\"$(x)%s%n;*?[]");
+    QTest::newRow("255 bytes with the extension") << QByteArray(251, 'x');
+    QTest::newRow("blanks, quotes, special characters") << QByteArray(" '\"$(x)%s%n;*?[]");
     QTest::newRow("line feed") << QByteArray("a\nb");
 }
 
-void PublisherListTest::strangeFileNames()
+void PublisherListTest::unusualFileNames()
 {
     QFETCH(QByteArray, id);
     const std::string name = id.toStdString();
@@ -405,9 +405,9 @@ void PublisherListTest::strangeFileNames()
     QCOMPARE(names(), (QStringList{"Other", "Strange"}));
 
     row("Strange")->setText(3, "untouched");
-    QVERIFY(waitForTasks(10000)); // a query that still runs would stand in the way of the next
+    QVERIFY(waitForTasks(10000)); // a running query would suppress the next one
     m_window->fetchStatusAsync();
-    QTRY_COMPARE(row("Strange")->text(3), "Not connected"); // an answer found its row
+    QTRY_COMPARE(row("Strange")->text(3), "Not connected"); // the reply reached its row
 
     row("Strange")->setSelected(true);
     Boxes boxes({QMessageBox::Yes});
@@ -418,7 +418,7 @@ void PublisherListTest::strangeFileNames()
     QCOMPARE(names(), QStringList{"Other"});
 }
 
-void PublisherListTest::entriesThatNameNoPublisher()
+void PublisherListTest::entriesWithoutPublisher()
 {
     const std::string folder = std::string(PUBLISHER_SETTING_DIR) + "/";
     WriteText(folder + ".ini", "[Common]\nPublisherName=Nameless\n");
@@ -429,18 +429,18 @@ void PublisherListTest::entriesThatNameNoPublisher()
     WriteText(folder + "twice.ini~", "[Common]\nPublisherName=Copy\n"); // the same id once more
     m_window->updateList();
     m_window->updateList();
-    // A folder of that name opens and holds no keys: a publisher without a name.
+    // A folder with this name can be opened and contains no keys, so it counts as a publisher without a name.
     QCOMPARE(names(), (QStringList{"", "Twice"}));
 }
 
-void PublisherListTest::aLongNameIsCut()
+void PublisherListTest::longNameIsTruncated()
 {
     m_installation.addLocal("long", std::string(5000, 'L'));
     m_window->updateList();
     QCOMPARE(m_window->findItemByPublisherRegistID("long")->text(0), QString(255, 'L'));
 }
 
-void PublisherListTest::rubbishInTheFilesIsSurvived()
+void PublisherListTest::corruptFilesAreTolerated()
 {
     m_installation.addLocal("sane", "Sane");
     std::mt19937 random(20260101);

@@ -1,5 +1,4 @@
-// What the rows say about publishers behind a control service, from the question on a pool thread to the
-// text.
+// Tests the status texts of publishers at a control service, from the query on a pool thread to the row.
 #include "Installation.h"
 #include "LocalRoom.h"
 #include "MyRunnable.h"
@@ -20,19 +19,19 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void everyStateHasItsRow_data();
-    void everyStateHasItsRow();
-    void withoutAServiceNothingIsConnected();
-    void theTimerKeepsTheRowsUpToDate();
-    void aReturningServiceIsNoticed();
-    void aStalledPublisherIsAskedOnce();
-    void publisherRemovedWhileItIsAsked();
-    void answersComeFromAPoolThread();
-    void answerForAnUnknownRowIsDropped();
-    void answerWritesEveryColumnButTheName();
+    void rowShowsStatus_data();
+    void rowShowsStatus();
+    void notConnectedWithoutService();
+    void timerUpdatesRows();
+    void returningServiceIsDetected();
+    void stalledPublisherIsQueriedOnce();
+    void publisherRemovedDuringQuery();
+    void repliesComeFromPoolThread();
+    void replyForUnknownRowIsDiscarded();
+    void replyUpdatesEveryColumnButTheName();
     void unknownNumbersAreDashes();
     void unreadablePublisherIsNotReported();
-    void absentPublisherIsNotAsked();
+    void absentPublisherIsNotQueried();
 
 private:
     void open();
@@ -46,7 +45,7 @@ private:
 
 void PublisherStatusTest::initTestCase()
 {
-    QThreadPool::globalInstance()->setMaxThreadCount(4); // whatever the machine has
+    QThreadPool::globalInstance()->setMaxThreadCount(4); // independent of the number of CPUs
 }
 
 void PublisherStatusTest::open()
@@ -56,7 +55,8 @@ void PublisherStatusTest::open()
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
 
-/// Asks all publishers once more, when no query runs that would stand in the way.
+/// Queries all publishers again, after running queries have ended; a running query would suppress the new
+/// one.
 void PublisherStatusTest::ask()
 {
     QVERIFY(waitForTasks(10000));
@@ -81,7 +81,7 @@ QStringList PublisherStatusTest::texts(const QString& key) const
     return list;
 }
 
-void PublisherStatusTest::everyStateHasItsRow_data()
+void PublisherStatusTest::rowShowsStatus_data()
 {
     QTest::addColumn<bool>("attached");
     QTest::addColumn<uint>("fatalCode");
@@ -108,7 +108,7 @@ void PublisherStatusTest::everyStateHasItsRow_data()
                                         << "0";
 }
 
-void PublisherStatusTest::everyStateHasItsRow()
+void PublisherStatusTest::rowShowsStatus()
 {
     QFETCH(bool, attached);
     QFETCH(uint, fatalCode);
@@ -127,7 +127,7 @@ void PublisherStatusTest::everyStateHasItsRow()
     QTRY_COMPARE(texts("X"), (QStringList{"Studio", "RT-300III (BD-XL)", "-", status, waiting, "-", "-"}));
 }
 
-void PublisherStatusTest::withoutAServiceNothingIsConnected()
+void PublisherStatusTest::notConnectedWithoutService()
 {
     m_installation.addLocal("X", "Studio");
     open();
@@ -136,7 +136,7 @@ void PublisherStatusTest::withoutAServiceNothingIsConnected()
     QTRY_COMPARE(texts("X"), (QStringList{"Studio", "RT-300III", "-", "Not connected", "-", "-", "-"}));
 }
 
-void PublisherStatusTest::theTimerKeepsTheRowsUpToDate()
+void PublisherStatusTest::timerUpdatesRows()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("X", "Studio");
@@ -148,7 +148,7 @@ void PublisherStatusTest::theTimerKeepsTheRowsUpToDate()
     QCOMPARE(texts("X")[4], "-");
 }
 
-void PublisherStatusTest::aReturningServiceIsNoticed()
+void PublisherStatusTest::returningServiceIsDetected()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("X", "Studio");
@@ -162,7 +162,7 @@ void PublisherStatusTest::aReturningServiceIsNoticed()
     QTRY_COMPARE(texts("X")[3], "Ready");
 }
 
-void PublisherStatusTest::aStalledPublisherIsAskedOnce()
+void PublisherStatusTest::stalledPublisherIsQueriedOnce()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
     m_service->hold("A");
@@ -180,7 +180,7 @@ void PublisherStatusTest::aStalledPublisherIsAskedOnce()
     QVERIFY(m_service->waitFor("22 A", 2));
 }
 
-void PublisherStatusTest::publisherRemovedWhileItIsAsked()
+void PublisherStatusTest::publisherRemovedDuringQuery()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
     m_service->hold("A");
@@ -197,7 +197,7 @@ void PublisherStatusTest::publisherRemovedWhileItIsAsked()
     QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
 }
 
-void PublisherStatusTest::answersComeFromAPoolThread()
+void PublisherStatusTest::repliesComeFromPoolThread()
 {
     m_installation.addLocal("A", "A");
     open();
@@ -211,11 +211,11 @@ void PublisherStatusTest::answersComeFromAPoolThread()
     QVERIFY(waitForTasks(10000));
 
     thread = nullptr;
-    m_window->fetchStatusOneDevice("A"); // serves any thread
+    m_window->fetchStatusOneDevice("A"); // may be called on any thread
     QVERIFY(thread == QThread::currentThread());
 }
 
-void PublisherStatusTest::answerForAnUnknownRowIsDropped()
+void PublisherStatusTest::replyForUnknownRowIsDiscarded()
 {
     m_installation.addLocal("A", "A");
     open();
@@ -224,7 +224,7 @@ void PublisherStatusTest::answerForAnUnknownRowIsDropped()
     QCOMPARE(texts("A")[1], "RT-300III");
 }
 
-void PublisherStatusTest::answerWritesEveryColumnButTheName()
+void PublisherStatusTest::replyUpdatesEveryColumnButTheName()
 {
     m_installation.addLocal("A", "A");
     open();
@@ -252,7 +252,7 @@ void PublisherStatusTest::unreadablePublisherIsNotReported()
     QCOMPARE(texts("A"), (QStringList{"A", "RT-30II", "-", "old text", "5", "-", "-"}));
 }
 
-void PublisherStatusTest::absentPublisherIsNotAsked()
+void PublisherStatusTest::absentPublisherIsNotQueried()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("A", "A", 0x20000009, false);

@@ -1,1 +1,1 @@
-// Nothing of its own: carries the precompiled headers of the toolkit and of its test framework.
+// Intentionally empty: its target builds the precompiled headers of Qt Widgets and Qt Test.

@@ -1,4 +1,4 @@
-// Removing publishers, as a user does it: with the key, the menus and the answers in the boxes.
+// Tests removing publishers through the Delete key, the menus and the tool bar, and the message boxes.
 #include "Boxes.h"
 #include "Installation.h"
 #include "LocalRoom.h"
@@ -32,11 +32,11 @@ private slots:
     void runningJobStopsTheLoop();
     void everyUnfinishedJobStopsTheRemoval_data();
     void everyUnfinishedJobStopsTheRemoval();
-    void jobListThatCannotBeFetchedDoesNotPreventIt();
-    void withoutAServiceItIsRemoved();
-    void publisherThatCannotBeReadLosesItsRowOnly();
-    void deviceKeyGoesWithTheLastPublisherOfAnAbsentDevice();
-    void fileThatCannotBeDeletedIsReported(); // last: it gives up privileges
+    void unavailableJobListDoesNotPreventRemoval();
+    void removedWithoutService();
+    void unreadablePublisherLosesOnlyItsRow();
+    void deviceKeyIsRemovedWithLastPublisherOfAbsentDevice();
+    void undeletableFileIsReported(); // must be last: it drops privileges
 
 private:
     void open();
@@ -244,7 +244,7 @@ void RemovePublisherTest::everyUnfinishedJobStopsTheRemoval()
     QCOMPARE(registered("a"), stops);
 }
 
-void RemovePublisherTest::jobListThatCannotBeFetchedDoesNotPreventIt()
+void RemovePublisherTest::unavailableJobListDoesNotPreventRemoval()
 {
     (*m_service)->addJob("a");
     udsim::Fault fault;
@@ -260,7 +260,7 @@ void RemovePublisherTest::jobListThatCannotBeFetchedDoesNotPreventIt()
     QVERIFY(!registered("a"));
 }
 
-void RemovePublisherTest::withoutAServiceItIsRemoved()
+void RemovePublisherTest::removedWithoutService()
 {
     m_service.reset();
     open();
@@ -272,7 +272,7 @@ void RemovePublisherTest::withoutAServiceItIsRemoved()
     QCOMPARE(names(), (QStringList{"B", "C"}));
 }
 
-void RemovePublisherTest::publisherThatCannotBeReadLosesItsRowOnly()
+void RemovePublisherTest::unreadablePublisherLosesOnlyItsRow()
 {
     open();
     select({"A", "B"});
@@ -280,16 +280,16 @@ void RemovePublisherTest::publisherThatCannotBeReadLosesItsRowOnly()
     boxes.onBox = [](QMessageBox&) { Installation::remove("a"); };
     m_window->deletePublisher->trigger();
     QVERIFY(boxes.allAnswered());
-    QCOMPARE(names(), QStringList{"C"}); // and the loop went on to B
+    QCOMPARE(names(), QStringList{"C"}); // the loop continued with B
     QVERIFY(!registered("b"));
 
-    // Registered again, it has its row back at the next refresh.
+    // Registered again, it gets its row back at the next refresh.
     m_installation.addLocal("a", "A");
     m_window->updateList();
     QCOMPARE(names(), (QStringList{"A", "C"}));
 }
 
-void RemovePublisherTest::deviceKeyGoesWithTheLastPublisherOfAnAbsentDevice()
+void RemovePublisherTest::deviceKeyIsRemovedWithLastPublisherOfAbsentDevice()
 {
     m_installation.setDevice("{a}", 0x20000009, false);
     open();
@@ -303,7 +303,7 @@ void RemovePublisherTest::deviceKeyGoesWithTheLastPublisherOfAnAbsentDevice()
     QVERIFY2(registry.find("/{c}]") != std::string::npos, "in use");
 }
 
-void RemovePublisherTest::fileThatCannotBeDeletedIsReported()
+void RemovePublisherTest::undeletableFileIsReported()
 {
     open();
     select({"A", "B"});

@@ -1,5 +1,5 @@
-// A new name for a network publisher: what its server is asked, what the file and the list say afterwards,
-// and why a name is refused.
+// Tests renaming a network publisher: the requests to its server, the resulting file and list, and why a name
+// is refused.
 #include "PropertyService.h"
 #include "ServerFixture.h"
 
@@ -35,8 +35,8 @@ private slots:
     void runningJobRefusesTheName();
     void nameInUse_data();
     void nameInUse();
-    void nameOfAServerOutOfReachIsNotSeen();
-    void serverVanishesBehindTheDialog();
+    void nameOfUnreachableServerIsNotCompared();
+    void serverStopsWhileDialogIsOpen();
 };
 
 void RenameServerTest::init()
@@ -58,7 +58,7 @@ void RenameServerTest::requestsOfAnUnchangedDialog()
         m_room->forget();
         QTest::mouseClick(shown.okButton, Qt::LeftButton);
     });
-    QCOMPARE(m_room->asked(), readingTheRecord); // for the list, which shows what is stored now
+    QCOMPARE(m_room->asked(), readingTheRecord); // from the list, which reads the record again
     QCOMPARE(file(), before);
 }
 
@@ -72,15 +72,15 @@ void RenameServerTest::renamedFromTheList()
     });
     QCOMPARE(nameInTheList(), "Studio 2");
     QCOMPARE(nameInTheList("O"), "Other");
-    // Its jobs, the names of all publishers, and the new record for the list.
+    // The requests for the jobs, the names of all publishers, and the new record for the list.
     QCOMPARE(m_room->asked(), askingForJobs + readingTheRecord + readingTheRecord);
     QCOMPARE(m_room->asked("127.0.0.12"), readingTheRecord);
-    // The kind stands in a section of its own, where the first connection has written it.
+    // The kind is in a section of its own, where the first connection wrote it.
     QCOMPARE(QString::fromStdString(file()),
              "[Common]\nPublisherName=Studio 2\nPrinterName=ARVEN RT-300NIIPRN\nPublisherConnectionType=1\n"
              "PublisherURL=127.0.0.11\n[COMMON]\nNPType=2\n");
     QVERIFY(waitForTasks(10000));
-    QCOMPARE((*m_room)->requests().size(), size_t{0}); // the service of this computer hears nothing of it
+    QCOMPARE((*m_room)->requests().size(), size_t{0}); // the local service gets no request
 }
 
 void RenameServerTest::renamedFile()
@@ -133,9 +133,9 @@ void RenameServerTest::nameInUse_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("refused");
-    QTest::newRow("of a server") << "Other" << true;
-    QTest::newRow("of a machine of this computer") << "Desk" << true;
-    QTest::newRow("in other letters") << "OTHER" << false;
+    QTest::newRow("network publisher") << "Other" << true;
+    QTest::newRow("local publisher") << "Desk" << true;
+    QTest::newRow("other case") << "OTHER" << false;
     QTest::newRow("free") << "Another" << false;
 }
 
@@ -150,7 +150,7 @@ void RenameServerTest::nameInUse()
             rename(shown, name);
             QCOMPARE(shown.isVisible(), refused);
             if (refused) {
-                QCOMPARE(shown.textPublisherName->selectedText(), name); // to be typed over
+                QCOMPARE(shown.textPublisherName->selectedText(), name); // ready to be overwritten
             }
         },
         refused ? QStringList{taken} : QStringList());
@@ -158,7 +158,7 @@ void RenameServerTest::nameInUse()
     QCOMPARE(::setting("PublisherName", "N"), refused ? "Studio" : name);
 }
 
-void RenameServerTest::nameOfAServerOutOfReachIsNotSeen()
+void RenameServerTest::nameOfUnreachableServerIsNotCompared()
 {
     startRoom(studio() + "[network Other]\nid = O\nmodel = RT-300NII\nlistening = no\n");
     openFromTheList([&](propertyDialogEx& shown) {
@@ -169,13 +169,13 @@ void RenameServerTest::nameOfAServerOutOfReachIsNotSeen()
     QCOMPARE(::setting("PublisherName", "O"), "Other");
 }
 
-void RenameServerTest::serverVanishesBehindTheDialog()
+void RenameServerTest::serverStopsWhileDialogIsOpen()
 {
     startRoom(studio("RT-300NII", "job = Labels\n"));
     openFromTheList([&](propertyDialogEx& shown) {
         QVERIFY((*m_room)->tell("Studio", "server off"));
         QCOMPARE(shown.textPublishMode->text(), "Standard mode");
-        rename(shown, "Studio 2"); // jobs that nobody can list do not stand in the way
+        rename(shown, "Studio 2"); // an unavailable job list does not prevent saving
         QVERIFY(!shown.isVisible());
     });
     QCOMPARE(nameInTheList(), "Studio 2");

@@ -1,4 +1,4 @@
-// Compares what an icon shows with an image of the resource tree.
+// Compares an icon with an image from the resources.
 #pragma once
 
 #include <QIcon>
@@ -6,7 +6,7 @@
 #include <QPixmap>
 #include <QString>
 
-/// Whether the icon, asked for a square of so many pixels, gives the image of that file unscaled.
+/// Returns whether the icon's pixmap of `size` by `size` pixels is the unscaled image of the file.
 inline bool showsImage(const QIcon& icon, const QString& path, int size)
 {
     const QImage file(path);

@@ -1,6 +1,6 @@
-// A control service that answers by a script, for answers that no simulated machine gives (see LocalRoom):
-// lists of jobs in any states, any fatal code beside them, and records of any bytes. Any other request
-// succeeds with an empty payload.
+// A control service with scripted replies, for replies that no simulated machine gives (see LocalRoom): job
+// lists with any states together with any fatal code, and payloads of any bytes. Any other request succeeds
+// with an empty payload.
 #pragma once
 
 #include "InstallPaths.h"
@@ -13,18 +13,18 @@
 #include <thread>
 #include <vector>
 
-/// Throws std::runtime_error when it cannot listen on the service's socket.
+/// Throws std::runtime_error if it cannot listen on the service's socket.
 class ScriptedService
 {
 public:
     void setFatalCode(const std::string& id, uint32_t code);
     void setJobs(const std::string& id, const std::vector<uint64_t>& jobStates);
-    /// The job list is answered with this result code.
+    /// Sets the result code of the reply to a job list request.
     void setJobsResult(const std::string& id, uint64_t result);
-    /// Every request with this control id is answered with success and this payload.
+    /// Sets the payload of the replies to this control id, for every publisher. These replies report success.
     void setPayload(uint64_t control, const std::string& payload);
 
-    /// Requests so far, as "control id".
+    /// Returns the number of these requests so far; `request` is "CONTROL ID", such as "22 X".
     int count(const std::string& request);
 
 private:

@@ -1,4 +1,4 @@
-// The list, and the properties that it opens, in front of the simulated servers of network publishers.
+// Fixture with the list window, its property dialogs and simulated servers of network publishers.
 #pragma once
 
 #include "Boxes.h"
@@ -15,7 +15,7 @@
 #include <optional>
 #include <vector>
 
-/// What is read besides the record when the properties open, and before a name is saved.
+/// Requests in addition to those for the record: when the properties open, and before a name is saved.
 inline const QStringList askingForTheMode = connecting + QStringList{"GET /webapp2/ServerModeGetter"};
 inline const QStringList askingForJobs =
     connecting + QStringList{"GET /webapp2/JobInfoGetter?ifversion=02000000&type=3"};
@@ -23,19 +23,19 @@ inline const QStringList askingForJobs =
 class ServerFixture : public QObject
 {
 protected:
-    /// For init().
+    /// Call it from init().
     static void startAnew()
     {
         SetTextLocale();                                     // as main() does
-        QThreadPool::globalInstance()->setMaxThreadCount(4); // whatever the machine has
+        QThreadPool::globalInstance()->setMaxThreadCount(4); // independent of the number of CPUs
         const Installation empty;
     }
-    /// For cleanup().
+    /// Call it from cleanup().
     void tidyUp()
     {
         QVERIFY(!QApplication::activeModalWidget());
         if (m_room) {
-            (*m_room)->stop(); // nobody waits for a server that stalls
+            (*m_room)->stop(); // so that no query waits for a stalled server
         }
         m_window.reset();
         QVERIFY(waitForTasks(10000));
@@ -47,7 +47,8 @@ protected:
         m_room.emplace(scenario);
     }
 
-    /// The list, after its first queries. From then on it asks nothing by itself.
+    /// Opens the list and waits for its first queries. Its timer is stopped, so it sends no queries by
+    /// itself.
     void openList()
     {
         m_window = std::make_unique<PubSetup>(nullptr);
@@ -60,8 +61,8 @@ protected:
         m_room->forget();
     }
 
-    /// Double-clicks the publisher "N" and calls `look` with the dialog that comes up. The boxes ahead of it
-    /// and behind its buttons have these texts.
+    /// Double-clicks the publisher "N" and calls `look` with the dialog that opens. `boxTexts` are the
+    /// expected texts of the message boxes before the dialog and after its buttons are pressed.
     void openFromTheList(const std::function<void(propertyDialogEx&)>& look, const QStringList& boxTexts = {})
     {
         openList();
@@ -84,7 +85,7 @@ protected:
         QCOMPARE(seen, boxTexts);
     }
 
-    /// A server in a secure mode leaves a connection behind that nobody has the handle of.
+    /// Ends all connections. A server in a secure mode leaves one open whose handle is never returned.
     static void endConnectionsLeftBehind()
     {
         constexpr DWORD mostConnections = 100;

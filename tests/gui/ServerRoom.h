@@ -1,4 +1,4 @@
-// The servers of network publishers, simulated, and what they were asked.
+// Simulated servers of network publishers, and the requests that they receive.
 #pragma once
 
 #include "Room.h"
@@ -9,18 +9,18 @@
 #include <memory>
 #include <string>
 
-/// One network publisher in a scenario, with the regist id "N" at 127.0.0.11; keys of its own follow.
+/// Returns the scenario of one network publisher with the regist id "N" at 127.0.0.11, with additional keys.
 inline std::string studio(const std::string& model = "RT-300NII", const std::string& keys = "")
 {
     return "[network Studio]\nid = N\nmodel = " + model + "\n" + keys;
 }
 
-/// What every connection asks first.
+/// The first requests of every connection.
 inline const QStringList connecting{
     "GET /webapp2/ServerModeGetter", "GET /webapp2/DevInfoIntGetter?ifversion=02000000&type=8",
     "POST /webapp2/IFVersionChecker", "GET /webapp2/DevInfoGetter?ifversion=02000000&type=5"};
 
-/// What the record of a publisher is read from, on a connection of its own.
+/// The requests that read the record of a publisher, on a connection of their own.
 inline const QStringList readingTheRecord =
     connecting + QStringList{"GET /webapp2/ServerModeGetter",
                              "GET /webapp2/DevInfoIntGetter?ifversion=02000000&type=4",
@@ -33,7 +33,7 @@ inline const QStringList readingTheRecord =
 class ServerRoom
 {
 public:
-    /// Stops the test program when the room cannot be made. Time stands still in it, but for advance().
+    /// Stops the test program if the room cannot be started. Time in the room advances only by advance().
     explicit ServerRoom(const std::string& text)
     {
         std::string error;
@@ -57,7 +57,8 @@ public:
         return m_room.get();
     }
 
-    /// What the server at this address was asked since the last forget(), as "GET /webapp2/ServerModeGetter".
+    /// Returns the requests to the server at this address since the last forget(), such as
+    /// "GET /webapp2/ServerModeGetter".
     QStringList asked(const std::string& host = "127.0.0.11") const
     {
         QStringList list;
@@ -74,8 +75,8 @@ public:
         m_forgotten = m_room->httpRequests().size();
     }
 
-    /// A fault, as a scenario names it ("http 500"), of requests whose target begins so, from the one behind
-    /// `after` that pass. Without a publisher it befalls all of them.
+    /// Sets a fault, named as in a scenario ("http 500"), for requests whose target begins with `path`. The
+    /// first `after` requests succeed. Without a publisher the fault applies to all publishers.
     void spoil(const std::string& path, const std::string& fault, quint64 after = 0,
                const std::string& publisher = "")
     {

@@ -1,4 +1,4 @@
-// The common settings on the screen, in an installation whose jobs lie in a folder of their own.
+// Fixture with the dialog of the common settings, in an installation whose job folder is a real directory.
 #pragma once
 
 #include "Installation.h"
@@ -17,11 +17,11 @@ inline const std::string job = "/opt/arven/Ulmar Disc Maker/JOB";
 class SettingDialogFixture : public QObject
 {
 protected:
-    /// For init(): an installation as it was installed, and two folders to choose.
+    /// Call it from init(). Creates a fresh installation, and two folders to choose.
     void startAnew()
     {
         m_dialog.reset();
-        // Qt's file dialog treats the folders above the current one differently, and those used here lie in
+        // Qt's file dialog treats the parents of the current folder differently, and the tests use folders in
         // /tmp.
         QDir::setCurrent("/");
         m_installation = Installation();
@@ -32,7 +32,7 @@ protected:
         }
     }
 
-    /// Another dialog in the place of the one that is open.
+    /// Opens a new dialog in place of the current one.
     void open()
     {
         m_dialog = std::make_unique<settingDialogEx>(nullptr);
@@ -41,7 +41,7 @@ protected:
         QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
     }
 
-    /// As pasting does.
+    /// Replaces the text of the folder field, as pasting does.
     void typeFolder(const QString& folder)
     {
         m_dialog->textWorkingFolder->selectAll();
@@ -49,14 +49,15 @@ protected:
         m_dialog->textWorkingFolder->insert(folder);
     }
 
-    /// A click on a tab's check box or radio button.
+    /// Clicks a check box or radio button on this tab.
     void tick(int tab, QAbstractButton* choice)
     {
         m_dialog->settingTab->setCurrentIndex(tab);
         QTest::mouseClick(choice, Qt::LeftButton, {}, QPoint(8, choice->height() / 2));
     }
 
-    /// The result of the dialog in which `script` acts; -1 when the script leaves it open.
+    /// Runs the dialog and calls `script` in it. Returns the result of the dialog, -1 if the script leaves it
+    /// open.
     int run(std::function<void()> script)
     {
         QTimer::singleShot(0, m_dialog.get(), [this, script] {

@@ -1,4 +1,4 @@
-// The common settings, opened, clicked and closed: what the form shows, what is kept, and what it says.
+// Tests the dialog of the common settings: what it shows, what it saves, its result and its messages.
 #include "SettingDialogFixture.h"
 
 #include "Boxes.h"
@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The registry's file with these three settings, as the writer leaves it.
+/// The registry file with these three settings, as the product writes it.
 std::string registryText(int compatiMode, int endJobNotifyType, int notifyStyleJobEnd)
 {
     const auto line = [](const char* name, int value) {
@@ -35,33 +35,33 @@ private slots:
         startAnew();
     }
 
-    void showsDefaultsWhileNothingIsStored(); // the first: a value once read stays in this process
-    void hasItsTitleImageAndButtons();
-    void widgetsStandOnTheirTabsWithTheirTexts();
+    void showsDefaultsWithoutStoredValues(); // must be first: a value stays in the process once it is read
+    void titleIconAndButtons();
+    void widgetsAndTextsOfEachTab();
     void groupTitlesEndInABlank();
-    void standsAtAFixedSizeThatCutsNothing_data();
-    void standsAtAFixedSizeThatCutsNothing();
-    void keysReachEverythingInReadingOrder();
-    void widgetsSayWhatTheyAre();
-    void tabsTakeUpNewColours();
-    void showsWhatIsStored_data();
-    void showsWhatIsStored();
+    void fixedSizeFitsAllWidgets_data();
+    void fixedSizeFitsAllWidgets();
+    void tabKeyReachesAllWidgetsInOrder();
+    void mnemonicsAndAccessibleTexts();
+    void tabsFollowThePalette();
+    void showsStoredValues_data();
+    void showsStoredValues();
     void timingFollowsTheMethod();
 
     void everyChangeEnablesApply_data();
     void everyChangeEnablesApply();
     void okWithoutAChangeDoesNothing();
-    void keepsWhatIsChosen_data();
-    void keepsWhatIsChosen();
+    void savesChosenValues_data();
+    void savesChosenValues();
     void enterIsOk();
-    void endsWithItsResult_data();
-    void endsWithItsResult();
-    void applyWaitsForTheNextChange();
-    void okAfterApplyWritesNothingAgain();
+    void resultWhenCancelled_data();
+    void resultWhenCancelled();
+    void applyIsDisabledUntilNextChange();
+    void okAfterApplyWritesNothing();
     void registryFailureLeavesTheFolderChanged();
 };
 
-void SettingDialogTest::showsDefaultsWhileNothingIsStored()
+void SettingDialogTest::showsDefaultsWithoutStoredValues()
 {
     open();
     QVERIFY(!m_dialog->checkNotification->isChecked());
@@ -72,7 +72,7 @@ void SettingDialogTest::showsDefaultsWhileNothingIsStored()
     QCOMPARE(ReadText(REGISTRY_FILE), std::string());
 }
 
-void SettingDialogTest::hasItsTitleImageAndButtons()
+void SettingDialogTest::titleIconAndButtons()
 {
     open();
     QCOMPARE(m_dialog->windowTitle(), "Common Setting for Publishing");
@@ -95,7 +95,7 @@ void SettingDialogTest::hasItsTitleImageAndButtons()
         QCOMPARE(row.button->isEnabled(), row.enabled);
     }
 
-    // What the form itself says, before any setting is read.
+    // The initial values of the form, before any setting is read.
     QDialog plain;
     Ui::settingDialog form;
     form.setupUi(&plain);
@@ -104,7 +104,7 @@ void SettingDialogTest::hasItsTitleImageAndButtons()
     QVERIFY(!form.checkCompatMode->isChecked());
 }
 
-void SettingDialogTest::widgetsStandOnTheirTabsWithTheirTexts()
+void SettingDialogTest::widgetsAndTextsOfEachTab()
 {
     open();
     const char* tabs[][2] = {{"tabCommon", "Common"},
@@ -163,15 +163,15 @@ void SettingDialogTest::groupTitlesEndInABlank()
     }
 }
 
-void SettingDialogTest::standsAtAFixedSizeThatCutsNothing_data()
+void SettingDialogTest::fixedSizeFitsAllWidgets_data()
 {
     QTest::addColumn<double>("factor");
-    QTest::newRow("as it comes") << 1.0;
-    QTest::newRow("larger letters") << 1.5;
-    QTest::newRow("letters of twice the size") << 2.0;
+    QTest::newRow("default font") << 1.0;
+    QTest::newRow("larger font") << 1.5;
+    QTest::newRow("font of twice the size") << 2.0;
 }
 
-void SettingDialogTest::standsAtAFixedSizeThatCutsNothing()
+void SettingDialogTest::fixedSizeFitsAllWidgets()
 {
     QFETCH(double, factor);
     const QFont before = QApplication::font();
@@ -200,10 +200,10 @@ void SettingDialogTest::standsAtAFixedSizeThatCutsNothing()
             }
         }
     }
-    QCOMPARE(looked, 13 + 3 * 3); // on the tabs, and the buttons three times
+    QCOMPARE(looked, 13 + 3 * 3); // 13 on the tabs, and the three buttons once for each tab
 }
 
-void SettingDialogTest::keysReachEverythingInReadingOrder()
+void SettingDialogTest::tabKeyReachesAllWidgetsInOrder()
 {
     open();
     m_dialog->applyButton->setEnabled(true);
@@ -229,11 +229,11 @@ void SettingDialogTest::keysReachEverythingInReadingOrder()
     }
     m_dialog->settingTab->setCurrentIndex(1);
     m_dialog->singlejobendradioButton->setFocus();
-    QTest::keyClick(m_dialog->singlejobendradioButton, Qt::Key_Down); // keys meet the two as one
+    QTest::keyClick(m_dialog->singlejobendradioButton, Qt::Key_Down); // the arrow keys move within the group
     QVERIFY(m_dialog->alljobendradioButton->hasFocus());
 }
 
-void SettingDialogTest::widgetsSayWhatTheyAre()
+void SettingDialogTest::mnemonicsAndAccessibleTexts()
 {
     open();
     QStringList mnemonics;
@@ -250,7 +250,7 @@ void SettingDialogTest::widgetsSayWhatTheyAre()
     for (const char* label : {"label_1", "label_2_1", "label_2_2", "label_3"}) {
         QVERIFY(approval.contains(m_dialog->findChild<QLabel*>(label)->text()));
     }
-    // The pair stands below the text of its check box, on one line.
+    // The two labels are on one line, below the text of the check box.
     m_dialog->settingTab->setCurrentIndex(2);
     QCOMPARE(m_dialog->label_2_1->x(), m_dialog->label_1->x());
     QCOMPARE(m_dialog->label_2_1->x(), m_dialog->label_3->x());
@@ -258,7 +258,7 @@ void SettingDialogTest::widgetsSayWhatTheyAre()
     QVERIFY(m_dialog->label_1->x() > m_dialog->checkCompatMode->x() + 10);
 }
 
-void SettingDialogTest::tabsTakeUpNewColours()
+void SettingDialogTest::tabsFollowThePalette()
 {
     open();
     const QString sheet = m_dialog->settingTab->styleSheet();
@@ -279,7 +279,7 @@ void SettingDialogTest::tabsTakeUpNewColours()
     QCOMPARE(m_dialog->settingTab->styleSheet(), sheet);
 }
 
-void SettingDialogTest::showsWhatIsStored_data()
+void SettingDialogTest::showsStoredValues_data()
 {
     QTest::addColumn<int>("compatiMode");
     QTest::addColumn<int>("endJobNotifyType");
@@ -290,16 +290,16 @@ void SettingDialogTest::showsWhatIsStored_data()
     QTest::newRow("all off") << 0 << 2 << 0 << false << false << false;
     QTest::newRow("beep") << 0 << 2 << 2 << false << false << true;
     QTest::newRow("message box") << 0 << 2 << 1 << false << false << true;
-    QTest::newRow("a style of tomorrow") << 0 << 2 << 9 << false << false << true;
+    QTest::newRow("unknown style") << 0 << 2 << 9 << false << false << true;
     QTest::newRow("every job") << 0 << 1 << 2 << false << true << true;
     QTest::newRow("every job, off") << 0 << 1 << 0 << false << true << false;
     QTest::newRow("no timing") << 0 << 0 << 2 << false << false << true;
-    QTest::newRow("a timing of tomorrow") << 0 << 3 << 2 << false << false << true;
+    QTest::newRow("unknown timing") << 0 << 3 << 2 << false << false << true;
     QTest::newRow("approved") << 1 << 2 << 0 << true << false << false;
-    QTest::newRow("approved otherwise") << 5 << 2 << 0 << true << false << false;
+    QTest::newRow("approved, other value") << 5 << 2 << 0 << true << false << false;
 }
 
-void SettingDialogTest::showsWhatIsStored()
+void SettingDialogTest::showsStoredValues()
 {
     QFETCH(int, compatiMode);
     QFETCH(int, endJobNotifyType);
@@ -347,7 +347,7 @@ void SettingDialogTest::everyChangeEnablesApply()
     WriteRegistry(registryText(0, 2, 2));
     open();
     m_dialog->settingTab->setCurrentIndex(tab);
-    m_dialog->textWorkingFolder->setText("/tmp/a"); // not typed
+    m_dialog->textWorkingFolder->setText("/tmp/a"); // set by the program, not by the user
     QVERIFY(!m_dialog->applyButton->isEnabled());
     QWidget* widget = m_dialog->findChild<QWidget*>(name);
     if (tab == 0) {
@@ -369,7 +369,7 @@ void SettingDialogTest::okWithoutAChangeDoesNothing()
     QCOMPARE(fs::read_symlink(job).string(), std::string("/tmp/gone/UlmarDiscMakerWork"));
 }
 
-void SettingDialogTest::keepsWhatIsChosen_data()
+void SettingDialogTest::savesChosenValues_data()
 {
     QTest::addColumn<bool>("compat");
     QTest::addColumn<bool>("single");
@@ -379,12 +379,13 @@ void SettingDialogTest::keepsWhatIsChosen_data()
     }
 }
 
-void SettingDialogTest::keepsWhatIsChosen()
+void SettingDialogTest::savesChosenValues()
 {
     QFETCH(bool, compat);
     QFETCH(bool, single);
     QFETCH(bool, beep);
-    // All others than those that are chosen; the timing must be open to be chosen.
+    // The stored values differ from the chosen ones. The notification is on, so that the timing can be
+    // chosen.
     WriteRegistry(registryText(compat ? 0 : 1, single ? 2 : 1, 1));
     open();
     const int result = run([&] {
@@ -413,7 +414,7 @@ void SettingDialogTest::enterIsOk()
     QCOMPARE(fs::read_symlink(job).string(), std::string("/tmp/a/UlmarDiscMakerWork"));
 }
 
-void SettingDialogTest::endsWithItsResult_data()
+void SettingDialogTest::resultWhenCancelled_data()
 {
     QTest::addColumn<QString>("way");
     QTest::addColumn<bool>("applied");
@@ -423,7 +424,7 @@ void SettingDialogTest::endsWithItsResult_data()
     }
 }
 
-void SettingDialogTest::endsWithItsResult()
+void SettingDialogTest::resultWhenCancelled()
 {
     QFETCH(QString, way);
     QFETCH(bool, applied);
@@ -433,7 +434,7 @@ void SettingDialogTest::endsWithItsResult()
         typeFolder("/tmp/a");
         if (applied) {
             QTest::mouseClick(m_dialog->applyButton, Qt::LeftButton);
-            typeFolder("/tmp/b"); // a change that is given up
+            typeFolder("/tmp/b"); // a change that is discarded
         }
         if (way == "Cancel") {
             QTest::mouseClick(m_dialog->cancelButton, Qt::LeftButton);
@@ -450,7 +451,7 @@ void SettingDialogTest::endsWithItsResult()
     QVERIFY(!fs::exists("/tmp/b/UlmarDiscMakerWork"));
 }
 
-void SettingDialogTest::applyWaitsForTheNextChange()
+void SettingDialogTest::applyIsDisabledUntilNextChange()
 {
     open();
     typeFolder("/tmp/a");
@@ -463,7 +464,7 @@ void SettingDialogTest::applyWaitsForTheNextChange()
     QVERIFY(m_dialog->applyButton->isEnabled());
 }
 
-void SettingDialogTest::okAfterApplyWritesNothingAgain()
+void SettingDialogTest::okAfterApplyWritesNothing()
 {
     open();
     const int result = run([this] {
@@ -481,7 +482,7 @@ void SettingDialogTest::registryFailureLeavesTheFolderChanged()
     open();
     typeFolder("/tmp/a");
     fs::remove(REGISTRY_FILE);
-    fs::create_directory(REGISTRY_FILE); // nobody can write it now
+    fs::create_directory(REGISTRY_FILE); // cannot be written now
     Boxes boxes({QMessageBox::Ok});
     QObject* parent = m_dialog.get();
     boxes.onBox = [&parent](QMessageBox& box) { parent = box.parent(); };

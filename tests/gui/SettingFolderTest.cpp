@@ -1,4 +1,4 @@
-// The working folder in the common settings: found, typed, browsed for, put into force or refused.
+// Tests the working folder in the common settings: shown, typed, browsed for, applied or refused.
 #include "SettingDialogFixture.h"
 
 #include "Boxes.h"
@@ -20,7 +20,7 @@ const QString jobText =
 const QString badPathText =
     "The specified folder cannot be set as the working folder.\nSpecify a different folder.";
 
-/// Acts in the file dialog that comes up, once.
+/// Calls `act` once, with the file dialog as soon as it is visible.
 template <class Act>
 void whenTheFileDialogIsUp(QObject* owner, Act act)
 {
@@ -59,33 +59,33 @@ private slots:
     void showsTheWorkingFolder();
     void repairsABrokenJobFolder();
 
-    void typedFolderIsPutIntoForce();
+    void typedFolderIsApplied();
     void emptyFieldMeansTheDefault();
-    void foldersOfTheInstallationAreRefused();
-    void anyOtherTextIsRefused();
-    void jobKeepsTheFolder();
-    void missingWorkFolderComesBackWithoutAJobCheck();
-    void folderNeedNotBeText();
+    void installationFoldersAreRefused();
+    void invalidTextIsRefused();
+    void jobPreventsFolderChange();
+    void missingWorkFolderIsRecreatedWithoutJobCheck();
+    void folderNameMayBeInvalidUtf8();
 
     void browseStartsAtTheField();
-    void browsePutsTheRealPathIntoTheField();
-    void browseKeepsAFolderThatCannotBeFollowed();
-    void browseLeftOrUnchangedChangesNothing();
+    void browseEntersTheRealPath();
+    void browseKeepsUnresolvableFolder();
+    void cancelledOrUnchangedBrowseChangesNothing();
 
-    void lockedFolderIsRefused(); // the last: the process gives up its privileges
+    void lockedFolderIsRefused(); // must be last: it drops privileges
 };
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Found
+// Shown
 
 void SettingFolderTest::showsTheWorkingFolder_data()
 {
     QTest::addColumn<QByteArray>("link");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("a folder in use") << QByteArray("/tmp/a/UlmarDiscMakerWork") << "/tmp/a";
-    QTest::newRow("a target that is gone") << QByteArray("/tmp/gone/UlmarDiscMakerWork") << "/tmp/gone";
-    QTest::newRow("letters of every script") << QByteArray("/tmp/\xC3\xA4 \xE6\xBC\xA2/UlmarDiscMakerWork")
-                                             << QString::fromUtf8("/tmp/\xC3\xA4 \xE6\xBC\xA2");
+    QTest::newRow("existing folder") << QByteArray("/tmp/a/UlmarDiscMakerWork") << "/tmp/a";
+    QTest::newRow("missing target") << QByteArray("/tmp/gone/UlmarDiscMakerWork") << "/tmp/gone";
+    QTest::newRow("non-ASCII letters") << QByteArray("/tmp/\xC3\xA4 \xE6\xBC\xA2/UlmarDiscMakerWork")
+                                       << QString::fromUtf8("/tmp/\xC3\xA4 \xE6\xBC\xA2");
     QTest::newRow("at the root") << QByteArray("/UlmarDiscMakerWork") << "/";
 }
 
@@ -121,7 +121,7 @@ void SettingFolderTest::repairsABrokenJobFolder()
 // ---------------------------------------------------------------------------------------------------------------------
 // Changed
 
-void SettingFolderTest::typedFolderIsPutIntoForce()
+void SettingFolderTest::typedFolderIsApplied()
 {
     for (const char* name : {"/tmp/two  words", "/tmp/\"quoted\" 'too'", "/tmp/\xC3\xA4\xE6\xBC\xA2"}) {
         fs::create_directories(name);
@@ -145,7 +145,7 @@ void SettingFolderTest::emptyFieldMeansTheDefault()
     QVERIFY(fs::symlink_status(job).type() == fs::file_type::directory);
 }
 
-void SettingFolderTest::foldersOfTheInstallationAreRefused()
+void SettingFolderTest::installationFoldersAreRefused()
 {
     fs::remove("/tmp/alias");
     fs::create_directory_symlink(base + "/conf", "/tmp/alias");
@@ -166,7 +166,7 @@ void SettingFolderTest::foldersOfTheInstallationAreRefused()
     }
 }
 
-void SettingFolderTest::anyOtherTextIsRefused()
+void SettingFolderTest::invalidTextIsRefused()
 {
     const std::string before = ReadText(REGISTRY_FILE);
     open();
@@ -184,7 +184,7 @@ void SettingFolderTest::anyOtherTextIsRefused()
     QCOMPARE(ReadText(REGISTRY_FILE), before);
 }
 
-void SettingFolderTest::jobKeepsTheFolder()
+void SettingFolderTest::jobPreventsFolderChange()
 {
     fs::create_directory("/tmp/a/UlmarDiscMakerWork");
     fs::remove(job);
@@ -210,13 +210,13 @@ void SettingFolderTest::jobKeepsTheFolder()
     QCOMPARE(ReadText(REGISTRY_FILE), before);
 }
 
-void SettingFolderTest::missingWorkFolderComesBackWithoutAJobCheck()
+void SettingFolderTest::missingWorkFolderIsRecreatedWithoutJobCheck()
 {
     fs::remove(job);
     fs::create_directory_symlink("/tmp/a/UlmarDiscMakerWork", job);
     open();
     QCOMPARE(m_dialog->textWorkingFolder->text(), "/tmp/a");
-    tick(2, m_dialog->checkCompatMode); // any change will do
+    tick(2, m_dialog->checkCompatMode); // any change
     QTest::mouseClick(m_dialog->applyButton, Qt::LeftButton);
     QVERIFY(!m_dialog->applyButton->isEnabled());
     QVERIFY(fs::is_directory("/tmp/a/UlmarDiscMakerWork"));
@@ -227,9 +227,9 @@ void SettingFolderTest::missingWorkFolderComesBackWithoutAJobCheck()
     QVERIFY(!m_dialog->applyButton->isEnabled());
 }
 
-void SettingFolderTest::folderNeedNotBeText()
+void SettingFolderTest::folderNameMayBeInvalidUtf8()
 {
-    // A name in no encoding that the field could show.
+    // The name is invalid UTF-8, so the field cannot show it.
     fs::create_directories("/tmp/\xFF\xE4/UlmarDiscMakerWork");
     fs::remove(job);
     fs::create_directory_symlink("/tmp/\xFF\xE4/UlmarDiscMakerWork", job);
@@ -242,7 +242,7 @@ void SettingFolderTest::folderNeedNotBeText()
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Browsed for
+// Browsing
 
 void SettingFolderTest::browseStartsAtTheField()
 {
@@ -259,7 +259,7 @@ void SettingFolderTest::browseStartsAtTheField()
     QVERIFY(looked);
 }
 
-void SettingFolderTest::browsePutsTheRealPathIntoTheField()
+void SettingFolderTest::browseEntersTheRealPath()
 {
     fs::create_directories("/tmp/b/deep");
     fs::remove("/tmp/alias");
@@ -273,12 +273,12 @@ void SettingFolderTest::browsePutsTheRealPathIntoTheField()
         QCOMPARE(m_dialog->textWorkingFolder->text(), QString(folder) == "/tmp/b" ? "/tmp/b" : "/tmp/b/deep");
         QVERIFY(m_dialog->applyButton->isEnabled());
     }
-    QCOMPARE(m_dialog->getCurrentJobFolder(), job); // not before it is applied
+    QCOMPARE(m_dialog->getCurrentJobFolder(), job); // unchanged until it is applied
     QTest::mouseClick(m_dialog->applyButton, Qt::LeftButton);
     QCOMPARE(m_dialog->getCurrentJobFolder(), std::string("/tmp/b/deep/UlmarDiscMakerWork"));
 }
 
-void SettingFolderTest::browseKeepsAFolderThatCannotBeFollowed()
+void SettingFolderTest::browseKeepsUnresolvableFolder()
 {
     fs::create_directory_symlink("/tmp/b", "/tmp/vanishing");
     open();
@@ -292,7 +292,7 @@ void SettingFolderTest::browseKeepsAFolderThatCannotBeFollowed()
     QVERIFY(m_dialog->applyButton->isEnabled());
 }
 
-void SettingFolderTest::browseLeftOrUnchangedChangesNothing()
+void SettingFolderTest::cancelledOrUnchangedBrowseChangesNothing()
 {
     open();
     m_dialog->textWorkingFolder->setText("/tmp/a");
@@ -307,7 +307,7 @@ void SettingFolderTest::browseLeftOrUnchangedChangesNothing()
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Out of bounds
+// Inaccessible
 
 void SettingFolderTest::lockedFolderIsRefused()
 {
@@ -322,7 +322,7 @@ void SettingFolderTest::lockedFolderIsRefused()
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(m_dialog->getCurrentJobFolder(), job);
 
-    // A path that is broken and cannot be repaired: no folder to show, and none to be set.
+    // The job folder is broken and cannot be repaired: the field is empty, and no folder can be set.
     fs::remove(job);
     fs::create_symlink("JOB", job);
     fs::permissions(base, fs::perms::owner_read | fs::perms::owner_exec);

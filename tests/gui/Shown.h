@@ -1,4 +1,4 @@
-// Meets windows as a user does: waits until one of a kind is on the screen, then acts on it.
+// Waits until a window of a given class is visible, then acts on it.
 #pragma once
 
 #include <QApplication>
@@ -8,7 +8,8 @@
 #include <functional>
 #include <utility>
 
-/// The visible window of that class, or null. Not for QDialog, which boxes and indicators are too.
+/// Returns the visible window of that class, or null. Not for QDialog, which is also the base class of
+/// message boxes and progress dialogs.
 template <class Window>
 Window* shownWindow()
 {
@@ -21,7 +22,7 @@ Window* shownWindow()
     return nullptr;
 }
 
-/// How many visible windows of that class there are.
+/// Returns the number of visible windows of that class.
 template <class Window>
 int countShown()
 {
@@ -32,7 +33,7 @@ int countShown()
     return count;
 }
 
-/// Calls `act` once for the first window of that class which is visible while it lives.
+/// Calls `act` once, for the first window of that class that is visible during the lifetime of this object.
 template <class Window>
 class WhenShown
 {

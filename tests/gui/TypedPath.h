@@ -5,12 +5,13 @@
 #include <QLineEdit>
 #include <QTest>
 
-/// Types over what the name field holds, and returns the field. The dialog must be visible.
+/// Replaces the text of the name field by typing, and returns the field. The dialog must be visible.
 inline QLineEdit* typePath(QFileDialog& dialog, const QString& path)
 {
     auto field = dialog.findChild<QLineEdit*>("fileNameEdit");
     field->setFocus();
-    // A field without the focus is overwritten by the selection in the list, which follows each letter.
+    // Without the focus, the field is overwritten by the selection in the list, which follows each typed
+    // letter.
     if (!QTest::qWaitFor([field] { return field->hasFocus(); })) {
         QTest::qFail("the name field did not get the focus", __FILE__, __LINE__);
     }

@@ -35,7 +35,7 @@ namespace {
 
 constexpr double leastContrast = 4.5;
 constexpr double leastFrameContrast = 3;
-constexpr int magnification = 3; // so that the strokes of letters have a core of their full colour
+constexpr int magnification = 3; // so that letter strokes contain pixels of the full text colour
 
 QString sizeText(QSize size)
 {
@@ -43,7 +43,7 @@ QString sizeText(QSize size)
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Room for texts
+// Space for texts
 
 QStringList cutBelow(const QWidget* widget, QSize needed)
 {
@@ -98,7 +98,7 @@ QRect titlePlace(const QGroupBox* group)
     return group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, group);
 }
 
-/// As it is drawn: its letters may stand further apart than each one's own width tells.
+/// The width as drawn, which can exceed the sum of the widths of the letters.
 int lineWidth(const QString& text, const QFont& font)
 {
     QTextLayout layout(text, font);
@@ -163,7 +163,7 @@ QStringList cutPart(const QWidget* widget)
     return {};
 }
 
-/// Widgets that show something themselves and hold no other widgets.
+/// Whether the widget shows content itself and is not a container.
 bool isLeaf(const QWidget* widget)
 {
     return qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
@@ -223,7 +223,7 @@ double contrast(QRgb one, QRgb other)
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// How far the colour that stands out most is from the one that fills most.
+/// Returns the highest contrast ratio between the most frequent colour and any other colour of the image.
 double contrastWithin(const QImage& image)
 {
     QHash<QRgb, int> counts;
@@ -247,7 +247,7 @@ double contrastWithin(const QImage& image)
     return furthest;
 }
 
-/// Where a button draws its text, without its frame.
+/// The rectangle in which a button draws its text, without the frame.
 QRect contents(const QAbstractButton* button)
 {
     QStyleOptionButton option;
@@ -345,7 +345,8 @@ QImage drawn(QWidget& window)
     return image;
 }
 
-/// What has a frame around it, or is one as long as nothing is chosen; else nothing.
+/// Returns the framed rectangle: the indicator of a check box or radio button, or the whole of a field. Empty
+/// for other widgets.
 QRect framed(const QWidget* widget)
 {
     QStyleOptionButton option;
@@ -361,7 +362,7 @@ QRect framed(const QWidget* widget)
     return isField ? widget->rect() : QRect();
 }
 
-/// How far a frame is from what is around it, on the side where it is nearest to that.
+/// Returns the contrast ratio between a frame and its surroundings, on the side where it is lowest.
 double frameContrast(const QImage& image, QRect frame)
 {
     const double ratio = image.devicePixelRatio();
@@ -390,14 +391,15 @@ double frameContrast(const QImage& image, QRect frame)
     return least;
 }
 
-/// Where a window's pixel is no whole number of the screen's, frames are smeared over two of those.
+/// With a fractional device pixel ratio, the screen blurs frames over two pixels, so the window is rendered
+/// at a whole ratio instead.
 QImage inWholePixels(QWidget& window)
 {
     const double ratio = window.devicePixelRatioF();
     return ratio == std::floor(ratio) ? window.grab().toImage() : drawn(window);
 }
 
-/// In a picture of its window.
+/// `image` shows the whole window.
 QStringList faintFrame(const QWidget* widget, const QImage& image)
 {
     const QRect frame = framed(widget);

@@ -1,24 +1,24 @@
-// What is wrong with a window for somebody who looks at it. Each function looks at every page and gives one
-// line for each finding; none when all is well.
+// Checks a window for visual faults. Each function returns one line for each finding, an empty list if there
+// are none. All but cutColumnHeads() and tooLarge() check every page.
 #pragma once
 
 #include <QSize>
 #include <QStringList>
 #include <QWidget>
 
-/// Texts that are wider or higher than their place, and widgets that lie under others or outside.
+/// Texts that are wider or higher than the space for them, and widgets that overlap or are clipped.
 QStringList cutTexts(QWidget& window);
-/// Column heads that are cut. The user can draw them wider.
+/// Column headers that are truncated. The user can widen them.
 QStringList cutColumnHeads(QWidget& window);
-/// A window that is larger than so many pixels.
+/// A window that is larger than `most`, in pixels.
 QStringList tooLarge(QWidget& window, QSize most);
-/// Enabled texts that do not stand out from their background by a ratio of 4.5, on the screen as it is drawn.
-/// Takes the keyboard away from the window, for a focus frame would be taken for a part of a text.
+/// Enabled texts whose contrast ratio to their background, as drawn, is below 4.5. Clears the keyboard focus,
+/// because a focus frame would count as a part of a text.
 QStringList faintTexts(QWidget& window);
-/// Enabled boxes and fields whose frames do not stand out from what is around them by a ratio of 3, on the
-/// screen as it is. Takes the keyboard away from the window, for a focus frame has colours of its own.
+/// Enabled boxes and fields whose frames have a contrast ratio below 3 to their surroundings, as shown on the
+/// screen. Clears the keyboard focus, because a focus frame has colours of its own.
 QStringList faintFrames(QWidget& window);
-/// The same of each while it has the keyboard, which has to be with the window.
+/// The same for each widget while it has the keyboard focus. The window must be active.
 QStringList faintKeyboardFrames(QWidget& window);
-/// Pictures that are not there, and pictures that have fewer pixels than the screen shows.
+/// Missing pictures, and pictures with a lower resolution than the screen.
 QStringList missingPictures(QWidget& window);

@@ -1,5 +1,5 @@
-// The cursor while a call blocks the window: what each request meets when it arrives at the other end, what
-// the boxes meet, and what is left afterwards.
+// Tests the wait cursor while a call blocks the window: the cursor when each request arrives at the service
+// or server, when a message box is shown, and afterwards.
 #include "Boxes.h"
 #include "DialogWalk.h"
 #include "MaintenanceSequences.h"
@@ -27,7 +27,7 @@ constexpr char scenarioText[] = "[publisher Studio]\nid = L\nmodel = RT-300III B
 constexpr char newServer[] = "127.0.0.12";
 constexpr char silentAddress[] = "127.0.0.99"; // nothing listens there
 
-/// Any thread, while the user-interface thread is blocked.
+/// May be called on any thread while the user-interface thread is blocked.
 QString presentCursor()
 {
     const QCursor* cursor = QGuiApplication::overrideCursor();
@@ -45,24 +45,24 @@ private slots:
     void cleanup();
 
     void adding();
-    void addingWhatCannotBeFound();
+    void addingUnreachableServer();
     void removing();
     void removingWithJobs();
     void filling_data();
     void filling();
     void saving();
-    void savingThatIsRefused_data();
-    void savingThatIsRefused();
+    void refusedSaving_data();
+    void refusedSaving();
     void savingFromTheList();
     void maintenance_data();
     void maintenance();
-    void servesNoEvents();
+    void processesNoEvents();
 
 private:
     void openList();
     void openProperties(const char* id);
-    /// The kinds of cursor that the requests since the last call met: "wait" when it was there for all of
-    /// them.
+    /// Returns the distinct cursors at the requests since the last call: "wait" if every request saw the wait
+    /// cursor.
     QString metByRequests();
     void noteRequest();
 
@@ -116,7 +116,7 @@ QString WaitCursorTest::metByRequests()
     return all;
 }
 
-/// The list, after its first queries. It asks nothing by itself any more.
+/// Opens the list and waits for its first queries. Its timer is stopped, so it sends no queries by itself.
 void WaitCursorTest::openList()
 {
     m_window = std::make_unique<PubSetup>(nullptr);
@@ -125,7 +125,7 @@ void WaitCursorTest::openList()
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();
-    QCOMPARE(metByRequests(), "none"); // the queries block nothing
+    QCOMPARE(metByRequests(), "none"); // the queries do not block the window
 }
 
 void WaitCursorTest::openProperties(const char* id)
@@ -146,7 +146,7 @@ void WaitCursorTest::adding()
     QCOMPARE(metByRequests(), "wait");
 }
 
-void WaitCursorTest::addingWhatCannotBeFound()
+void WaitCursorTest::addingUnreachableServer()
 {
     addPublisherDialog dialog(nullptr);
     dialog.show();
@@ -190,8 +190,8 @@ void WaitCursorTest::removingWithJobs()
 void WaitCursorTest::filling_data()
 {
     QTest::addColumn<QByteArray>("id");
-    QTest::newRow("machine") << QByteArray("L");
-    QTest::newRow("server") << QByteArray("N");
+    QTest::newRow("local publisher") << QByteArray("L");
+    QTest::newRow("network publisher") << QByteArray("N");
 }
 
 void WaitCursorTest::filling()
@@ -212,17 +212,17 @@ void WaitCursorTest::saving()
     QCOMPARE(metByRequests(), "wait");
 }
 
-void WaitCursorTest::savingThatIsRefused_data()
+void WaitCursorTest::refusedSaving_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<qulonglong>("refused");
     QTest::newRow("no name") << "" << 0ULL;
     QTest::newRow("a name in use") << "Server" << 0ULL;
-    QTest::newRow("the mode") << "New name" << qulonglong{PropertyService::setPublishMode};
-    QTest::newRow("the notice") << "New name" << qulonglong{PropertyService::notifyChange};
+    QTest::newRow("mode refused") << "New name" << qulonglong{PropertyService::setPublishMode};
+    QTest::newRow("notice refused") << "New name" << qulonglong{PropertyService::notifyChange};
 }
 
-void WaitCursorTest::savingThatIsRefused()
+void WaitCursorTest::refusedSaving()
 {
     QFETCH(QString, name);
     QFETCH(qulonglong, refused);
@@ -247,14 +247,14 @@ void WaitCursorTest::savingThatIsRefused()
     QCOMPARE(metByRequests(), "wait");
 }
 
-/// The list reads the name of the publisher that was saved, which asks its server.
+/// After a save, the list reads the name of the publisher from its server.
 void WaitCursorTest::savingFromTheList()
 {
     openList();
     m_window->treePublisherList->setCurrentItem(m_window->findItemByPublisherRegistID("N"));
     const WhenShown<propertyDialogEx> dialog([this](propertyDialogEx& shown) {
         metByRequests();
-        shown.okButton->click(); // nothing is changed: only the list asks
+        shown.okButton->click(); // nothing is changed, so only the list sends requests
     });
     m_window->showPropertyDialog();
     QVERIFY(dialog.seen());
@@ -288,8 +288,8 @@ void WaitCursorTest::maintenance()
     QCOMPARE(metByRequests(), "wait");
 }
 
-/// Neither a key that was pressed meanwhile nor a timer is served before the call has ended.
-void WaitCursorTest::servesNoEvents()
+/// Neither a pending key event nor a timer event is processed before the call returns.
+void WaitCursorTest::processesNoEvents()
 {
     openProperties("L");
     m_dialog->show();

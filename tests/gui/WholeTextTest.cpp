@@ -1,4 +1,4 @@
-// Cells of the publisher list that do not hold their text tell the whole of it.
+// Tests that truncated cells of the publisher list show their whole text in a tooltip.
 #include "Installation.h"
 #include "PubSetup.h"
 
@@ -14,17 +14,17 @@ private slots:
     void init();
     void cleanup();
 
-    void cutTextHasATip();
-    void textThatFitsHasNone();
-    void widerColumnNeedsNone();
-    void narrowerColumnNeedsOne();
-    void pictureBesideTheNameTakesRoom();
+    void truncatedTextHasTip();
+    void fittingTextHasNoTip();
+    void widenedColumnHasNoTip();
+    void narrowedColumnHasTip();
+    void iconReducesSpaceForName();
     void tipIsPlainText();
-    void tipHasAnEnd();
-    void nothingBehindTheRows();
+    void longTipIsTruncated();
+    void noTipBelowTheRows();
 
 private:
-    /// The mouse rests on a cell of the one row, or, with -1, behind the rows.
+    /// Rests the mouse on a cell of the only row, or below the rows if `column` is -1.
     void restOn(int column);
     void setText(int column, const QString& text);
     int neededWidth(int column) const;
@@ -70,7 +70,7 @@ void WholeTextTest::restOn(int column)
     QCoreApplication::sendEvent(tree->viewport(), &question);
 }
 
-void WholeTextTest::cutTextHasATip()
+void WholeTextTest::truncatedTextHasTip()
 {
     setText(3, "Administrator not registered");
     QVERIFY2(neededWidth(3) > 120, "the column is too narrow");
@@ -79,14 +79,14 @@ void WholeTextTest::cutTextHasATip()
     QCOMPARE(QToolTip::text(), "<span>Administrator not registered</span>");
 }
 
-void WholeTextTest::textThatFitsHasNone()
+void WholeTextTest::fittingTextHasNoTip()
 {
     setText(3, "Ready");
     restOn(3);
     QVERIFY(!QToolTip::isVisible());
 }
 
-void WholeTextTest::widerColumnNeedsNone()
+void WholeTextTest::widenedColumnHasNoTip()
 {
     setText(3, "Administrator not registered");
     m_window->treePublisherList->header()->resizeSection(3, neededWidth(3) + 20);
@@ -94,7 +94,7 @@ void WholeTextTest::widerColumnNeedsNone()
     QVERIFY(!QToolTip::isVisible());
 }
 
-void WholeTextTest::narrowerColumnNeedsOne()
+void WholeTextTest::narrowedColumnHasTip()
 {
     setText(4, "12345");
     restOn(4);
@@ -105,10 +105,10 @@ void WholeTextTest::narrowerColumnNeedsOne()
     QCOMPARE(QToolTip::text(), "<span>12345</span>");
 }
 
-void WholeTextTest::pictureBesideTheNameTakesRoom()
+void WholeTextTest::iconReducesSpaceForName()
 {
     setText(0, "Room on the third floor");
-    m_window->treePublisherList->header()->resizeSection(0, neededWidth(0) + 15); // of the 22 of the picture
+    m_window->treePublisherList->header()->resizeSection(0, neededWidth(0) + 15); // of the 22 of the icon
     restOn(0);
     QTRY_VERIFY(QToolTip::isVisible());
     QCOMPARE(QToolTip::text(), "<span>Room on the third floor</span>");
@@ -122,7 +122,7 @@ void WholeTextTest::tipIsPlainText()
     QCOMPARE(QToolTip::text(), "<span>&lt;b&gt;Studio&lt;/b&gt; &amp; a rather long name of it</span>");
 }
 
-void WholeTextTest::tipHasAnEnd()
+void WholeTextTest::longTipIsTruncated()
 {
     setText(2, QString(100000, 'x'));
     restOn(2);
@@ -130,7 +130,7 @@ void WholeTextTest::tipHasAnEnd()
     QCOMPARE(QToolTip::text(), "<span>" + QString(1000, 'x') + "</span>");
 }
 
-void WholeTextTest::nothingBehindTheRows()
+void WholeTextTest::noTipBelowTheRows()
 {
     setText(0, QString(100, 'x'));
     restOn(-1);

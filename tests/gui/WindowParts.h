@@ -1,5 +1,4 @@
-// What of a window a user has before them: its pages one after the other, and the widgets on the one that
-// shows.
+// Helpers that visit the pages of a window, and find the widgets that are visible on the current page.
 #pragma once
 
 #include <QCoreApplication>
@@ -8,8 +7,8 @@
 
 #include <functional>
 
-/// Shows one page after the other and calls `look` on each; the page from before shows again at the end. A
-/// window without tabs has one page.
+/// Shows each page in turn and calls `look` on it, then restores the current page. A window without tabs has
+/// one page.
 inline void forEachPage(QWidget& window, const std::function<void()>& look)
 {
     auto tabs = window.findChild<QTabWidget*>();
@@ -26,7 +25,7 @@ inline void forEachPage(QWidget& window, const std::function<void()>& look)
     tabs->setCurrentIndex(before);
 }
 
-/// The widgets of a class that the window shows, without those that another widget is built of.
+/// Returns the visible widgets of a class in the window, without the internal parts of other widgets.
 template <class Widget>
 QList<Widget*> shown(const QWidget& window)
 {
@@ -41,7 +40,7 @@ QList<Widget*> shown(const QWidget& window)
     return widgets;
 }
 
-/// Where the widget stands in the window.
+/// Returns the position of the widget, or of a part of it, in the window.
 inline QRect placeOf(const QWidget* widget, const QRect& part)
 {
     return {widget->mapTo(widget->window(), part.topLeft()), part.size()};
@@ -51,7 +50,7 @@ inline QRect placeOf(const QWidget* widget)
     return placeOf(widget, widget->rect());
 }
 
-/// As a failed test names it.
+/// Returns the name of the widget for test failure messages.
 inline QString nameOf(const QWidget* widget)
 {
     return widget->objectName().isEmpty() ? QString(widget->metaObject()->className()) : widget->objectName();
