@@ -22,8 +22,8 @@ const char* WinFileHandle::name()
 
 bool WinFileHandle::Close()
 {
-    // The number is forgotten even if close fails: the kernel has already released it, and another file may
-    // use it.
+    // Clear the descriptor even if close fails: the kernel has already released the number, and another file
+    // may use it.
     const int descriptor = std::exchange(fd, 0);
     return descriptor == 0 || close(descriptor) == 0;
 }

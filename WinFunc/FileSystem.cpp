@@ -105,7 +105,7 @@ int fopen_s(FILE** pFile, const char* filename, const char* mode)
     if (pFile == nullptr || filename == nullptr || mode == nullptr) {
         return EINVAL;
     }
-    // "e" sets close-on-exec. It is inserted after the first letter: further back it could become part of a
+    // "e" sets close-on-exec. It is inserted after the first letter: at the end it could become part of a
     // ",ccs=" clause.
     std::string closeOnExec = mode;
     const size_t behindFirst = closeOnExec.empty() ? 0 : 1;

@@ -26,7 +26,7 @@ int swprintf_s(char* Buffer, size_t, const char* String, ...)
 
 int vsprintf_s(char* Buffer, size_t, const char* Format, va_list ArgList)
 {
-    return vsprintf(Buffer, Format, ArgList); // house-rule: banned: what this name means
+    return vsprintf(Buffer, Format, ArgList); // house-rule: banned: unbounded by contract
 }
 
 int wsprintf(char* Buffer, const char* Format, ...)

@@ -1,4 +1,4 @@
-// What the objects behind all handles share.
+// Default class names of handle objects, and the warning about a handle that is no object.
 #include "WinFunc.h"
 
 const char* IWinHandle::name()

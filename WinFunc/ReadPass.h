@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
-/// While an object of this class lives, its thread reads a profile file once, unless it reads another one in
+/// While an object of this class exists, its thread reads a profile file once, unless it reads another one in
 /// between, and loads the registry file once. All values read in the pass thus belong to one moment; changes
 /// by other programs are visible from the next pass on. A write by the thread itself, and any change of the
-/// registry by this process, ends the sharing: the next read goes to the file again.
+/// registry by this process, ends the sharing: the next read reads the file again.
 ///
 /// A nested pass in the same thread has no effect. GetPrivateProfileStringA and GetPrivateProfileIntA always
 /// read the file.

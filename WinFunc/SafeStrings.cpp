@@ -136,7 +136,7 @@ int _strnicmp(const char* string1, const char* string2, size_t count)
         if (!Matches(ByteOf(string1[i]), ByteOf(*other))) {
             return exact;
         }
-        // Stays at the NUL of the other text: bytes that match anything may go on past its end.
+        // Stays at the NUL of the other text: bytes that match anything may continue past its end.
         if (*other != '\0') {
             ++other;
         }
@@ -152,7 +152,7 @@ char* _strspnp(const char* str, const char* charset)
 
 char* strtok_s(char* str, const char* delimiters, char**)
 {
-    return strtok(str, delimiters); // house-rule: banned: what this name means
+    return strtok(str, delimiters); // house-rule: banned: the contract requires strtok
 }
 
 int memcpy_s(void* dest, size_t, const void* src, size_t count)
