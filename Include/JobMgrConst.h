@@ -43,7 +43,7 @@ enum MEDIA_DVD_INDEX : int
     MEDIA_MAX_DVD = 5
 };
 
-/// Continues MEDIA_DVD_INDEX.
+/// The numbers continue those of MEDIA_DVD_INDEX.
 enum MEDIA_BD_INDEX : int
 {
     MEDIA_BD_R = 5,

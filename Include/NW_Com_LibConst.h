@@ -264,7 +264,7 @@ struct DeviceFatalError
     DWORD dwDevStatus; ///< an NCL_FATAL_ERR_ value
 };
 
-/// The parts that are at work.
+/// The parts in operation.
 struct DeviceActiveStatus
 {
     BOOL bALDArm;
@@ -299,7 +299,7 @@ struct NotifyStatus
     JobHindranceFactor JobFactor;
 };
 
-/// Counters since the device was made, and the life limits of its drives.
+/// Counters since manufacture, and the life limits of the drives.
 struct MaintenanceInfo
 {
     int nPrintCount;
@@ -475,7 +475,7 @@ struct JobErrorHistory
     BOOL bStacker4Open;
 };
 
-/// One job. The texts are UTF-8, whatever their prefix says.
+/// One job. The texts are UTF-8, despite their prefix "wsz".
 struct JobStatus
 {
     DWORD dwJobStatus;         ///< NCL_JOB_STATUS_

@@ -141,7 +141,7 @@ struct SECURITY_ATTRIBUTES
 using PSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
 using LPSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
 
-/// This layer neither reads nor writes the fields: all input and output ends inside the call.
+/// This layer neither reads nor writes the fields, because all input and output is synchronous.
 struct OVERLAPPED
 {
     ULONG_PTR Internal;
@@ -352,7 +352,7 @@ LSTATUS RegDeleteValueA(HKEY hKey, LPCSTR lpValueName);
 // Private profile files (ini files)
 
 /// Copies the value of a key and returns its length. `lpDefault` is used only if the file cannot be opened; a
-/// missing key gives the empty text. A value that does not fit in `nSize` bytes is cut.
+/// missing key gives the empty text. A value that does not fit in `nSize` bytes is truncated.
 DWORD GetPrivateProfileStringA(LPCSTR lpAppName, LPCSTR lpKeyName, LPCSTR lpDefault, LPSTR lpReturnedString,
                                DWORD nSize, LPCSTR lpFileName);
 UINT GetPrivateProfileIntA(LPCSTR lpAppName, LPCSTR lpKeyName, INT nDefault, LPCSTR lpFileName);

@@ -14,7 +14,7 @@ extern int g_logLebel;
 int GetLogLevel();
 void SetLogLevel(int level);
 
-/// Sends "MESSAGE=RT300API[pid]: text\nPRIORITY=n\n" to the log agent; the text is cut to 511 bytes.
+/// Sends "MESSAGE=RT300API[pid]: text\nPRIORITY=n\n" to the log agent; the text is truncated to 511 bytes.
 /// `priority` is a syslog number: 4 warning, 7 debug. If there is no agent, or its queue stays full, the line
 /// is silently dropped. Waits at most 200 ms for a full queue, and after such a timeout not at all for 5 s.
 /// Keeps errno.
