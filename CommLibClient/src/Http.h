@@ -63,7 +63,7 @@ public:
         STATUS_USE_PROXY = 15,
         STATUS_BAD_REQUEST = 16,
         STATUS_UNAUTHORIZED = 17,
-        STATUS_PAYMENT_REQUIRED = 18, ///< has no code here, so no reply has it
+        STATUS_PAYMENT_REQUIRED = 18, ///< not in the table of codes, so never parsed
         STATUS_FORBIDDEN = 19,
         STATUS_NOT_FOUND = 20,
         STATUS_METHOD_NOT_ALLOWED = 21,
@@ -97,7 +97,7 @@ public:
     CHttp& operator=(const CHttp&) = delete;
     virtual ~CHttp() = default;
 
-    /// As CInternetCon::Open. There is no network traffic before the first request.
+    /// Like CInternetCon::Open. There is no network traffic before the first request.
     int Open(const char* pszServerAddress, WORD wPort, BOOL bSSL);
     int Close();
     /// Milliseconds allowed for a connect.

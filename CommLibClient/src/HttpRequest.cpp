@@ -12,7 +12,7 @@ namespace {
 
 constexpr DWORD LARGEST_SMALL_BODY = 8192; ///< bytes; the head is held back until such a body follows
 
-/// The lines of a stage of an exchange that fails.
+/// The log lines of a failed stage of an exchange.
 struct StageLines
 {
     LogFormat<const char*, const char*, const char*> timeout; ///< method, path, added header

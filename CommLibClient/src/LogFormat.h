@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <type_traits>
 
-/// Not constexpr: the compiler names it when a format has other conversions than its type.
+/// Not constexpr: the compiler reports this name if the conversions of a format do not match its type.
 inline void FormatHasOtherConversions() {}
 
 /// A printf format with one conversion for each argument, checked at compile time: %s for const char*, %d for

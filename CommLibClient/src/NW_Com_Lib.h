@@ -90,7 +90,7 @@ DWORD GetPrnPossibilityNumber(DWORD dwHandle, DWORD* pdwNum);
 /// "en_US.utf8". The result is 0xFFFFFFFF if a job has an unknown publish mode.
 DWORD GetJobStatus(DWORD dwHandle, DWORD dwType, JobStatus* pJobStatusArrayOut, DWORD dwLength,
                    DWORD* pdwGetLengthOut);
-/// As GetJobStatus, and with NCL_JST_PROCESS_JOB_EX also the remaining times. For the other kinds the last
+/// Like GetJobStatus, and with NCL_JST_PROCESS_JOB_EX also the remaining times. For the other kinds the last
 /// 4 * `dwLength` bytes of the array are not cleared: the caller passes a cleared array.
 DWORD GetJobStatusEx(DWORD dwHandle, DWORD dwType, JobStatusEx* pJobStatusArrayOut, DWORD dwLength,
                      DWORD* pdwGetLengthOut);

@@ -95,7 +95,8 @@ enum JobRecordCheck
 /// Fills a cleared record from a job of `dwSize` bytes as the server sends it. After a failure the fields
 /// before the bad one are filled. toUTF8 converts the texts.
 JobRecordCheck UnpackJobStatus(const char* pData, DWORD dwSize, JobStatus* pJob);
-/// As UnpackJobStatus. With `dwType` NCL_JST_PROCESS_JOB_EX the job has four more bytes, its remaining time.
+/// Like UnpackJobStatus. With `dwType` NCL_JST_PROCESS_JOB_EX the job has four more bytes, its remaining
+/// time.
 JobRecordCheck UnpackJobStatusEx(const char* pData, DWORD dwSize, DWORD dwType, JobStatusEx* pJob);
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -131,7 +132,7 @@ struct ST_NCL
     std::atomic<int> m_refCount = 0;           ///< operations in progress
     std::string m_strImageFileName;            ///< of the disc image being uploaded
     std::unique_ptr<MessageDigestIF> m_pMD;    ///< of the disc image being uploaded
-    DWORD m_dwCompatiMode = 0;                 ///< 1: an old server, which takes no hashes
+    DWORD m_dwCompatiMode = 0;                 ///< 1: an old server, which accepts no digests
     std::atomic<ULONGLONG> m_ullUnclaimed = 0; ///< 0 unless unclaimed; a lower number is older
 };
 

@@ -82,10 +82,10 @@ DWORD LogInvalid(NCLNumberedLine line, int nCheck);
 /// library.
 DWORD OutOfMemory(const char* pszOperation);
 
-/// The lines of an exchange that fails.
+/// The log lines of a failed exchange.
 struct NCLExchangeLines
 {
-    NCLLine request; ///< the request got no good answer
+    NCLLine request; ///< the request failed, or the HTTP status is bad
     NCLLine reply;   ///< the reply could not be parsed
 };
 
@@ -107,7 +107,8 @@ public:
 
     /// NCL_SUCCESS if there is an object that is not being closed and the arguments of the operation are
     /// good; otherwise logs bad parameters and returns NCL_ERR_PARAMETER. The functions below require
-    /// success. (Defined here, so that the static analysis sees what it guarantees about the arguments.)
+    /// success. Defined in the header, so that static analysis can use what success implies about the
+    /// arguments.
     DWORD Enter(bool areArgumentsGood)
     {
         if (!areArgumentsGood || !MayStart()) {
@@ -123,7 +124,7 @@ public:
         return m_guard.Object();
     }
 
-    /// Sends a request and takes its reply apart into `dwItemCount` items, 0 for any number. A failure is
+    /// Sends a request and splits its reply into `dwItemCount` items, 0 for any number. A failure is
     /// logged.
     DWORD Exchange(const NCLRequest& request, DWORD dwItemCount, const NCLExchangeLines& lines);
 

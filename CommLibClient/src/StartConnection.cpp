@@ -34,8 +34,8 @@ DWORD RememberedKind(const std::string& address)
     return ReadNPType(&kind, address.c_str()) ? kind : NCL_NPTYPE_UNKNOWN;
 }
 
-/// Determines the kind by whether the server writes discs with three or more layers. An older server does not
-/// know this query.
+/// Determines the kind by whether the server writes discs with three or more layers. An older server
+/// rejects this query with NCL_ERR_SERVER_OTHER.
 DWORD LearnKind(DWORD dwHandle, ST_NCL& ncl)
 {
     if (ncl.m_dwNPType == NCL_NPTYPE_300N) {
