@@ -1,4 +1,4 @@
-// A program that opens no handle and only prints: closing its console does not end it either.
+// Closing the console does not end a program, even if it only prints and opens no handle.
 #include "Win_def.h"
 #include "Win_def_log.h"
 

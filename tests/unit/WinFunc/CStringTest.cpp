@@ -59,7 +59,7 @@ TEST(CString, ReleaseBufferTakesTheTextUpToItsNul)
     EXPECT_EQ(text, "");
 
     text.assign("kept");
-    text.ReleaseBuffer(); // no buffer any more
+    text.ReleaseBuffer(); // without a buffer, no effect
     EXPECT_EQ(text, "kept");
 }
 

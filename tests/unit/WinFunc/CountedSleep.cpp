@@ -43,7 +43,7 @@ int CountedSleep::Asked(useconds_t microseconds)
         }
     }
     if (m_timePasses) {
-        // house-rule: sleeps: this is the sleep that the code under test asked for
+        // house-rule: sleeps: the code under test requested this sleep
         std::this_thread::sleep_for(std::chrono::microseconds(microseconds));
     }
     return 0;

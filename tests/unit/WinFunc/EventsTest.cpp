@@ -96,7 +96,7 @@ TEST_F(EventsTest, AnAutoResetEventReleasesOnceForEachSet)
     EXPECT_EQ(SetEvent(event), TRUE);
     EXPECT_EQ(WaitForSingleObject(event, 7), 0u);
     EXPECT_EQ(WaitForSingleObject(event, 0), 258u);
-    EXPECT_EQ(CountedSleep::The().Count(), 0u) << "a signalled event costs no sleep";
+    EXPECT_EQ(CountedSleep::The().Count(), 0u) << "a wait for a signalled event does not sleep";
 }
 
 TEST_F(EventsTest, AManualResetEventStaysSetThroughAnyNumberOfWaits)
@@ -118,7 +118,7 @@ TEST_F(EventsTest, ResetClearsTheSignal)
     const HANDLE event = Event(FALSE, TRUE);
     EXPECT_EQ(ResetEvent(event), TRUE);
     EXPECT_EQ(WaitForSingleObject(event, 0), 258u);
-    EXPECT_EQ(ResetEvent(event), TRUE) << "an event that is not set is reset as well";
+    EXPECT_EQ(ResetEvent(event), TRUE) << "resetting an event that is not set succeeds";
 }
 
 TEST_F(EventsTest, ASignalIsSeenAtTheNextPoll)

@@ -71,7 +71,7 @@ TEST(DeleteFileTest, RemovesFilesAndLinksButNotFolders)
     WriteText("/tmp/file", "text");
     ASSERT_EQ(symlink("/tmp/file", "/tmp/link"), 0);
     EXPECT_EQ(DeleteFileA("/tmp/link"), TRUE);
-    EXPECT_EQ(ReadText("/tmp/file"), "text") << "the link went, not its target";
+    EXPECT_EQ(ReadText("/tmp/file"), "text") << "only the link was removed";
     EXPECT_EQ(DeleteFileA("/tmp/file"), TRUE);
     EXPECT_FALSE(fs::exists("/tmp/file"));
     EXPECT_EQ(DeleteFileA("/tmp/file"), FALSE);
@@ -297,7 +297,7 @@ TEST(FileAttributesTest, DependOnKindAndMode)
     EXPECT_EQ(GetFileAttributesA("/dev/null"), 0u);
     ASSERT_EQ(symlink("/tmp/folder", "/tmp/link"), 0);
     EXPECT_EQ(GetFileAttributesA("/tmp/link") & FILE_ATTRIBUTE_DIRECTORY, 0x10u)
-        << "a link counts as its target";
+        << "a link has the attributes of its target";
     EXPECT_EQ(GetFileAttributesA("/tmp/absent"), 0xFFFFFFFFu);
     EXPECT_EQ(GetFileAttributesA(""), 0xFFFFFFFFu);
     EXPECT_EQ(GetFileAttributesA(nullptr), 0xFFFFFFFFu);
@@ -346,10 +346,10 @@ TEST(ModuleFileNameTest, IsThePathOfTheProgram)
     buffer.fill('x');
     EXPECT_EQ(GetModuleFileNameA(nullptr, buffer.data(), buffer.size()), program.size());
     EXPECT_EQ(buffer.data(), program);
-    EXPECT_EQ(buffer.back(), '\0') << "zeroed to its end";
+    EXPECT_EQ(buffer.back(), '\0') << "the rest of the buffer is zeroed";
 
     buffer.fill('x');
-    EXPECT_EQ(GetModuleFileNameA(nullptr, buffer.data(), 6), 5u) << "cut, and ended by NUL";
+    EXPECT_EQ(GetModuleFileNameA(nullptr, buffer.data(), 6), 5u) << "truncated and terminated by NUL";
     EXPECT_EQ(buffer.data(), program.substr(0, 5));
     EXPECT_EQ(buffer[6], 'x');
 
@@ -357,8 +357,7 @@ TEST(ModuleFileNameTest, IsThePathOfTheProgram)
     EXPECT_EQ(GetModuleFileNameA(nullptr, buffer.data(), 0), 0u);
     EXPECT_EQ(buffer[0], 'x');
     EXPECT_EQ(GetModuleFileNameA(nullptr, nullptr, 10), 0u);
-    EXPECT_EQ(GetModuleFileNameA(nullptr, buffer.data(), 1), 0xFFFFFFFFu)
-        << "readlink's answer to a size of 0";
+    EXPECT_EQ(GetModuleFileNameA(nullptr, buffer.data(), 1), 0xFFFFFFFFu) << "readlink fails for a size of 0";
     EXPECT_EQ(buffer[0], '\0');
 }
 

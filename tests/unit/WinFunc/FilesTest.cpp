@@ -174,14 +174,14 @@ TEST(CreateFileTest, InvalidNamesFail)
     EXPECT_EQ(CreateFileA(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
               INVALID_HANDLE_VALUE);
     EXPECT_EQ(Open("", GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE);
-    EXPECT_EQ(GetLastError(), 2u) << "an empty name fails in open";
+    EXPECT_EQ(GetLastError(), 2u) << "open rejects an empty name";
 
     fs::current_path("/tmp");
     WriteText("\nname", "text");
-    EXPECT_EQ(Open("\nname", GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE) << "a line feed in front";
+    EXPECT_EQ(Open("\nname", GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE) << "a leading line feed";
     WriteText("name\n", "text");
     const HANDLE handle = Open("name\n", GENERIC_READ, OPEN_EXISTING);
-    EXPECT_NE(handle, INVALID_HANDLE_VALUE) << "a line feed further on";
+    EXPECT_NE(handle, INVALID_HANDLE_VALUE) << "a trailing line feed";
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 
@@ -276,10 +276,10 @@ TEST(FileHandleTest, ClosesItsDescriptorOnce)
         EXPECT_EQ(file.fd, 0);
         EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
         other = open("/dev/null", O_RDONLY | O_CLOEXEC);
-        ASSERT_EQ(other, descriptor) << "the number is another's now";
+        ASSERT_EQ(other, descriptor) << "the new file has the same number";
         EXPECT_TRUE(file.Close()) << "nothing left to close";
     }
-    EXPECT_NE(fcntl(other, F_GETFD), -1) << "and stays open";
+    EXPECT_NE(fcntl(other, F_GETFD), -1) << "the second Close does not close the new file";
     close(other);
 }
 
@@ -303,7 +303,7 @@ TEST(FileHandleTest, AFailedCloseReturnsFalseAndIsNotRepeated)
     const int other = open("/dev/null", O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(other, descriptor);
     EXPECT_TRUE(file.Close());
-    EXPECT_NE(fcntl(other, F_GETFD), -1) << "a number that is another's by now stays open";
+    EXPECT_NE(fcntl(other, F_GETFD), -1) << "the second Close does not close the new file";
     close(other);
 }
 

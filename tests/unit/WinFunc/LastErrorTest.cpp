@@ -21,7 +21,7 @@ TEST(LastErrorTest, MapsEveryErrno)
         const DWORD code = GetLastError();
         const auto row = table.find(number);
         EXPECT_EQ(code, row == table.end() ? 1u : row->second) << "errno " << number;
-        EXPECT_EQ(errno, number) << "asking changes nothing";
+        EXPECT_EQ(errno, number) << "GetLastError does not change errno";
     }
 }
 

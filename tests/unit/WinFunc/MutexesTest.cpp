@@ -1,4 +1,4 @@
-// Mutexes, which nothing releases, and critical sections.
+// Mutexes, which cannot be released, and critical sections.
 #include "CountedSleep.h"
 #include "WinFunc.h"
 
@@ -24,7 +24,7 @@ TEST(MutexesTest, AZeroTimeoutNeverTakesAFreeMutex)
     CountedSleep::The().Start();
     const HANDLE mutex = CreateMutexA(nullptr, FALSE, nullptr);
     EXPECT_EQ(WaitForSingleObject(mutex, 0), 258u);
-    EXPECT_EQ(WaitElsewhere(mutex, 1), 0u) << "it was left free";
+    EXPECT_EQ(WaitElsewhere(mutex, 1), 0u) << "the mutex is still free";
     EXPECT_EQ(CountedSleep::The().Count(), 0u);
     EXPECT_EQ(CloseHandle(mutex), TRUE);
 }
@@ -36,7 +36,7 @@ TEST(MutexesTest, OneMillisecondTakesAFreeMutex)
     EXPECT_EQ(WaitForSingleObject(mutex, 1), 0u);
     EXPECT_EQ(CountedSleep::The().Counted(), Runs{});
     EXPECT_EQ(WaitElsewhere(mutex, 3), 258u);
-    EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 3}})) << "one sleep behind each failed attempt";
+    EXPECT_EQ(CountedSleep::The().Counted(), (Runs{{1000, 3}})) << "one sleep after each failed attempt";
     EXPECT_EQ(CloseHandle(mutex), TRUE);
 }
 
@@ -53,7 +53,7 @@ TEST(MutexesTest, AnInitialOwnerKeepsTheMutex)
     for (const BOOL initialOwner : {TRUE, 5}) {
         const HANDLE mutex = CreateMutexA(nullptr, initialOwner, nullptr);
         EXPECT_EQ(WaitElsewhere(mutex, 2), 258u);
-        EXPECT_EQ(WaitForSingleObject(mutex, 2), 258u) << "not recursive: its owner times out as well";
+        EXPECT_EQ(WaitForSingleObject(mutex, 2), 258u) << "not recursive: a wait by the owner times out too";
         EXPECT_EQ(CloseHandle(mutex), TRUE);
     }
 }
@@ -117,7 +117,7 @@ TEST(CriticalSectionTest, TheOwnerMayEnterAgain)
     EXPECT_EQ(TryElsewhere(&section), FALSE);
     LeaveCriticalSection(&section);
     LeaveCriticalSection(&section);
-    EXPECT_EQ(TryElsewhere(&section), FALSE) << "left twice of three times";
+    EXPECT_EQ(TryElsewhere(&section), FALSE) << "entered three times, left twice";
     LeaveCriticalSection(&section);
     EXPECT_EQ(TryElsewhere(&section), TRUE);
     DeleteCriticalSection(&section);

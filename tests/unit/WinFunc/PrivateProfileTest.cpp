@@ -232,7 +232,7 @@ TEST_P(PrivateProfileReader, TheLocaleHasNoEffect)
     EXPECT_EQ(ReadKey("common", "publisherid"), Found("p"));
 }
 
-TEST_P(PrivateProfileReader, RandomBytesDoNoHarm)
+TEST_P(PrivateProfileReader, RandomBytesDoNotAffectEarlierLines)
 {
     std::mt19937 random(4711);
     const std::string marks = "[]=; \t\n\nKeyCommon";

@@ -182,7 +182,7 @@ TEST(ReadPassTest, DeletingAKeyCausesANewLoad)
     EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, "b"), 0);
     EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, "a"), 0);
     CountedLocks::Take();
-    EXPECT_EQ(RegistryValue(), 1U); // the map keeps what it holds
+    EXPECT_EQ(RegistryValue(), 1U); // the map keeps deleted keys
     EXPECT_THAT(CountedLocks::Take(), ElementsAre("registry.txt"));
 }
 

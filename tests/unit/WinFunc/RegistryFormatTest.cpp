@@ -318,7 +318,7 @@ TEST_F(RegistryFormat, AFileLargerThanAnyBufferIsReadInFull)
     }
 }
 
-TEST_F(RegistryFormat, RandomBytesDoNoHarm)
+TEST_F(RegistryFormat, RandomBytesDoNotAffectLaterSections)
 {
     std::mt19937 random(4711);
     const std::string marks = "[]\"=\n\ndword:"; // bytes that the reader searches for

@@ -65,7 +65,7 @@ void WaitUntilSettled()
         }
         std::this_thread::yield();
     }
-    FAIL() << "the clock stands still";
+    FAIL() << "the clock does not advance";
 }
 
 /// True to simulate a file system that stores whole seconds only.

@@ -83,7 +83,7 @@ std::vector<std::string> Children(HKEY key)
             EXPECT_EQ(result, 259);
             return names;
         }
-        EXPECT_EQ(size, sizeof name) << "the size stays as it was";
+        EXPECT_EQ(size, sizeof name) << "the size is not changed";
         names.emplace_back(name);
     }
 }
@@ -392,7 +392,7 @@ TEST_F(RegistryStore, AQueryReturnsTheValueLoadedByTheLastOpen)
     };
     EXPECT_EQ(value(), 1U);
     RegCloseKey(Open("b"));
-    EXPECT_EQ(value(), 2U) << "opening any key takes the file in";
+    EXPECT_EQ(value(), 2U) << "opening any key loads the file";
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -413,7 +413,7 @@ TEST_F(RegistryStore, AGrandchildIsCountedButNotEnumerated)
     WriteRegistry("[HKLM/a]\n\n[HKLM/a/child/grandchild]\n\n");
     const Key key(Open("a"));
     EXPECT_EQ(Children(key), Names{});
-    EXPECT_EQ(Info(key), (KeyInfo{1, 5})) << "the longest first component: child";
+    EXPECT_EQ(Info(key), (KeyInfo{1, 5})) << "the longest first component is child";
 }
 
 TEST_F(RegistryStore, AKeyWithoutSubKeysEnumeratesNone)

@@ -94,10 +94,10 @@ TEST(ServicePipeTest, CarriesARequestAndItsReply)
     EXPECT_EQ(peer.ReadExactly(18), request);
 
     EXPECT_TRUE(peer.Write("reply"));
-    EXPECT_EQ(Read(handle, 3), "rep") << "one read, no more than was asked for";
-    EXPECT_EQ(Read(handle, 100), "ly") << "one read, not more than has come";
+    EXPECT_EQ(Read(handle, 3), "rep") << "one read of at most the requested size";
+    EXPECT_EQ(Read(handle, 100), "ly") << "one read of the bytes that have arrived";
     EXPECT_EQ(CloseHandle(handle), TRUE);
-    EXPECT_TRUE(peer.WaitForClose()) << "the connection lives as long as the handle";
+    EXPECT_TRUE(peer.WaitForClose()) << "closing the handle closes the connection";
 }
 
 TEST(ServicePipeTest, ConnectsWithAnAddressZeroedToItsEnd)
@@ -174,7 +174,7 @@ TEST(ServicePipeTest, AnyOtherFailureIsLoggedWithItsNumber)
     {
         StdoutCapture console;
         EXPECT_EQ(Connect(), INVALID_HANDLE_VALUE);
-        EXPECT_EQ(errno, ECONNREFUSED) << "the system's answer for what is no socket";
+        EXPECT_EQ(errno, ECONNREFUSED) << "the path is not a socket";
     }
 }
 
@@ -215,7 +215,7 @@ TEST(ServicePipeTest, DescriptorsDoNotLeak)
     for (int i = 0; i < 20; ++i) {
         EXPECT_EQ(CloseHandle(Connect()), TRUE);
     }
-    EXPECT_EQ(OpenDescriptors(), before + 1) << "the listener's";
+    EXPECT_EQ(OpenDescriptors(), before + 1) << "the descriptor of the listener";
 }
 
 TEST(ServicePipeTest, NeverUsesTheDescriptorOfAStandardStream)
@@ -306,7 +306,7 @@ TEST(DescriptorsTest, AreNotInheritedByOtherPrograms)
     EXPECT_EQ(DescriptorsOfAChild(), before);
 
     const int inherited = fcntl(DescriptorOf(file), F_DUPFD, 100);
-    EXPECT_NE(DescriptorsOfAChild(), before) << "one that is inherited would be seen";
+    EXPECT_NE(DescriptorsOfAChild(), before) << "an inherited descriptor is detected";
     close(inherited);
     for (FILE* stream : streams) {
         std::fclose(stream);
@@ -386,7 +386,7 @@ TEST_F(InterruptedCallTest, ReadContinues)
         done = true;
     });
     Interrupt(reader, done, 100);
-    EXPECT_FALSE(done) << "it still waits";
+    EXPECT_FALSE(done) << "the call still waits";
     EXPECT_TRUE(peer.Write("reply"));
     reader.join();
     EXPECT_EQ(read, "reply");
@@ -420,7 +420,7 @@ TEST_F(InterruptedCallTest, WriteContinues)
         done = true;
     });
     Interrupt(writer, done, 100);
-    EXPECT_FALSE(done) << "it still waits";
+    EXPECT_FALSE(done) << "the call still waits";
     EXPECT_EQ(peer.ReadExactly(filled).size(), filled);
     writer.join();
     EXPECT_EQ(result, TRUE);
@@ -441,7 +441,7 @@ TEST_F(InterruptedCallTest, ConnectContinues)
         done = true;
     });
     Interrupt(connector, done, 100);
-    EXPECT_FALSE(done) << "it still waits";
+    EXPECT_FALSE(done) << "the call still waits";
     EXPECT_TRUE(service.Accept().IsOpen());
     connector.join();
     ASSERT_NE(handle, INVALID_HANDLE_VALUE);

@@ -73,7 +73,7 @@ TEST_F(WaitAnyTest, TheFirstOfTwoSetEventsWins)
     WinEvent two(false, true);
     EXPECT_EQ(WaitAny({ToHandle(&one), ToHandle(&two)}, 0), 0u);
     EXPECT_FALSE(one.signal);
-    EXPECT_TRUE(two.signal) << "only what is answered for is consumed";
+    EXPECT_TRUE(two.signal) << "only the reported event is consumed";
     one.SetEvent();
     EXPECT_EQ(WaitAny({ToHandle(&one), ToHandle(&two)}, INFINITE), 0u);
     EXPECT_TRUE(two.signal);
@@ -127,7 +127,7 @@ TEST_F(WaitAnyTest, TheLongestTimeoutsDoNotExpireAtOnce)
     }
 }
 
-TEST_F(WaitAnyTest, AnEventInFrontSleepsTenFineStepsPerRound)
+TEST_F(WaitAnyTest, AnEventAsTheFirstHandleSleepsTenFineStepsPerRound)
 {
     WinEvent first(false, false);
     EXPECT_EQ(WaitAny({ToHandle(&first)}, 25), 258u);
@@ -159,7 +159,8 @@ TEST_F(WaitAnyTest, TheOthersArePolledOnlyAfterATimeoutOfTheFirst)
     }
     Scripted first({WAIT_ABANDONED});
     Scripted second({0});
-    EXPECT_EQ(WaitAny({ToHandle(&first), ToHandle(&second)}, 30), 258u) << "each round counts all the same";
+    EXPECT_EQ(WaitAny({ToHandle(&first), ToHandle(&second)}, 30), 258u)
+        << "each round counts towards the timeout";
     EXPECT_EQ(first.timeouts.size(), 3u);
 }
 
@@ -241,7 +242,7 @@ TEST_F(WaitAllTest, AFiniteTimeoutIsSharedByTheHandles)
     EXPECT_THAT(first.timeouts, ElementsAre(timeout));
     ASSERT_EQ(second.timeouts.size(), 1u);
     ASSERT_EQ(third.timeouts.size(), 1u);
-    EXPECT_LE(second.timeouts[0], timeout - (takes - 1)) << "the first began a tick ahead at most";
+    EXPECT_LE(second.timeouts[0], timeout - (takes - 1)) << "the measured time may be 1 ms short";
     EXPECT_GE(second.timeouts[0], timeout - passed);
     EXPECT_LE(third.timeouts[0], second.timeouts[0]);
     EXPECT_GE(third.timeouts[0], timeout - passed);
@@ -256,7 +257,7 @@ TEST_F(WaitAllTest, AnExpiredTimeoutOverridesASignalledHandle)
     EXPECT_THAT(unasked.timeouts, ElementsAre());
     Scripted slowAndAlone({0});
     slowAndAlone.takes = 40;
-    EXPECT_EQ(WaitAll({ToHandle(&slowAndAlone)}, 5), 258u) << "the last handle is no exception";
+    EXPECT_EQ(WaitAll({ToHandle(&slowAndAlone)}, 5), 258u) << "this applies to the last handle too";
 }
 
 TEST_F(WaitAllTest, AFiniteTimeoutMapsAnAbandonedObjectToItsIndex)
