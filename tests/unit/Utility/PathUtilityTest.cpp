@@ -218,7 +218,7 @@ TEST_F(CheckPathTest, PathsThatAreReadOnlyForEveryoneReturn6009)
     }
     ASSERT_EQ(chmod("/tmp/folder", 0444), 0);
     EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder", CUtility::ACCESS_EXECUTE), 6009)
-        << "a status stands above an error";
+        << "a status takes precedence over an error";
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ), 6009);
     EXPECT_DEATH(CUtility::CheckFilePath("/tmp/folder", CUtility::ACCESS_READ_WRITE), "Assertion ");
     EXPECT_DEATH(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_EXECUTE), "Assertion ");
@@ -233,7 +233,7 @@ TEST_F(CheckPathTest, DeniedPathsReturn5)
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ), 5);
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ_WRITE), 5);
     for (const CUtility::enAccessMode mode : allModes) {
-        EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder/below", mode), 5) << "stat itself is denied";
+        EXPECT_EQ(CUtility::CheckFilePath("/tmp/folder/below", mode), 5) << "stat fails with EACCES";
         EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder/below", mode), 5);
     }
 }

@@ -248,7 +248,7 @@ TEST_F(RegUtility, SetValuesAreWrittenToTheFile)
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, ROOT, FALSE, TRUE), 0);
     EXPECT_EQ(reg.SetRegNumValue("n", 0xDEADBEEF), 0);
     EXPECT_EQ(reg.SetRegStrValue("whole", "text", -1), 0);
-    EXPECT_EQ(reg.SetRegStrValue("sized", "text", 3), 0); // the whole text is stored all the same
+    EXPECT_EQ(reg.SetRegStrValue("sized", "text", 3), 0); // the size does not truncate the text
     EXPECT_EQ(reg.SetRegStrValue("nothing", "text", 0), 0);
     EXPECT_EQ(reg.SetRegStrValue("empty", "", -1), 0);
     EXPECT_EQ(reg.CloseReg(), 0);
@@ -394,7 +394,8 @@ TEST_F(RegUtility, AGrandchildWithoutItsParentDoesNotHang)
     WriteRegistry("[HKLM/k]\n\n[HKLM/k/a]\n\n[HKLM/k/a/b/c]\n\n");
     ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
     EXPECT_EQ(reg.DeleteRegKey("a"), 0);
-    EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\n[HKLM/k/a/b/c]\n\n") << "nobody enumerates it";
+    EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\n[HKLM/k/a/b/c]\n\n")
+        << "the enumeration does not list it";
 }
 
 TEST_F(RegUtility, DeletingAnAbsentSubKeyReturnsTheStatusOfOpening)

@@ -99,7 +99,7 @@ TEST(RegUtilityThread, AnOpenKeyExcludesOtherThreadsUntilItIsClosed)
         return number;
     });
     EXPECT_EQ(reg.CloseReg(), 0);
-    EXPECT_EQ(other.get(), 1U) << "the value was not taken back before it was written";
+    EXPECT_EQ(other.get(), 1U) << "the value was not reverted before it was written";
 }
 
 TEST(RegUtilityThread, OneThreadMayHoldSeveralKeys)
