@@ -124,8 +124,8 @@ std::vector<Operation> Operations()
     };
 }
 
-/// Makes the call while all its allocations after the first `allocation` fail. `hasFailed` tells whether one
-/// failed.
+/// Makes the call while all its allocations after the first `allocation` fail. Sets `hasFailed` to whether
+/// one failed.
 DWORD CallWithout(size_t allocation, const std::function<DWORD()>& call, bool& hasFailed)
 {
     const FailingMemory memory(1, allocation, FailingMemory::ALL);
@@ -133,7 +133,7 @@ DWORD CallWithout(size_t allocation, const std::function<DWORD()>& call, bool& h
     try {
         result = call();
     } catch (const std::bad_alloc&) {
-        ADD_FAILURE() << "an exception left the library";
+        ADD_FAILURE() << "the library threw an exception";
     }
     hasFailed = memory.HasFailed();
     return result;

@@ -160,7 +160,7 @@ TEST(DeviceStatus, EachOperationReportsErrorsOfTheServer)
                                               Line("<3>\t## trace ## * GetDeviceStatus() Invalid Comm Spec",
                                                    operation.name)));
         EXPECT_TRUE(memory.IsUntouched());
-        EXPECT_EQ(server.Object().m_dwNPType, 0U); // the kind is not learned here
+        EXPECT_EQ(server.Object().m_dwNPType, 0U); // these operations do not determine the kind
     }
 }
 

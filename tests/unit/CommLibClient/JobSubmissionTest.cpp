@@ -417,7 +417,7 @@ TEST(SendSpecialJobData, TheHashFollowsAFailedUpload)
     FakePublisher publisher(
         {GoodReply(WireWord(ID)), GoodReply("secret"), BAD, HttpResponse("", "507 Full"), OK});
     int id = 5;
-    EXPECT_EQ(SubmitSpecial(publisher, &id), NCL_ERR_HARD_DISC_CAPACITY); // and is not committed
+    EXPECT_EQ(SubmitSpecial(publisher, &id), NCL_ERR_HARD_DISC_CAPACITY); // the job is not committed
     EXPECT_EQ(publisher.Lines().back(), "POST /webapp2/FileHashSetter");
     EXPECT_EQ(publisher.Unread(), "");
     EXPECT_EQ(id, 5);

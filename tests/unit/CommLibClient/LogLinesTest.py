@@ -1,9 +1,9 @@
-"""Every line that the network client logs can be found by a search of its sources, for a line of a log has to lead to
-the code that wrote it.
+"""Checks that a search of the sources finds every line that the network client logs, so that a log line leads to the
+code that wrote it.
 
 LogLinesTest.py SOURCES
 
-The lines are typed as they stand in the code: printf conversions, and escapes of C.
+The lines are typed as in the code, with printf conversions and C escapes.
 """
 import sys
 import unittest
@@ -84,7 +84,7 @@ SendPrnDataBase, %s ret %d\n
 
 STATUS_QUERIES = """GetALDStatus GetStackerStatus GetDrvStatus GetDrvStatusEx GetPrnStatus GetInkStatus GetDeviceFatalError
     GetNotifyStatus GetASBStatus GetPrnStStatus GetMaintenanceInfo GetMaintenanceInfoEx""".split()
-# Of these the number of the check is a variable part as well.
+# In these lines the number of the check is also variable.
 NUMBERED_CHECKS = [name for name in STATUS_QUERIES if name not in ("GetASBStatus", "GetPrnStStatus")] + [
     "GetJobStatus", "GetJobStatusEx"]
 EXCHANGES = """GetServerMode GetDeviceInfo GetDeviceInfoInt GetJobNumber GetPrnPossibilityNumber GetPublishID GetJobStatus
@@ -115,7 +115,7 @@ def all_lines() -> list[str]:
 
 
 class LogLines(unittest.TestCase):
-    def test_each_stands_in_one_piece_in_the_sources(self):
+    def test_each_line_is_one_literal_in_the_sources(self):
         sources = "".join(path.read_text() for path in sorted(SOURCES.glob("*.cpp")))
         self.assertTrue(sources)
         for line in all_lines():

@@ -11,7 +11,7 @@ using testing::ElementsAre;
 TEST(StartConnectionTime, TimesOutAfterFiveSecondsIfTheServerDoesNotAnswer)
 {
     const TcpListener listener("127.0.0.1", 80, 0);
-    std::vector<CSocket> waiting(8); // more than the backlog: the kernel answers no more
+    std::vector<CSocket> waiting(8); // more than the backlog: later connects do not complete
     for (CSocket& socket : waiting) {
         ASSERT_EQ(socket.Open(AF_INET, SOCK_STREAM), 0);
         socket.Connect(listener.Address(), listener.Port(), 0);

@@ -43,8 +43,9 @@ std::string Utf8(const std::u16string& text)
 TEST(Utf8, RequiresItsLocale)
 {
     ASSERT_NE(setlocale(LC_ALL, "en_US.utf8"), nullptr)
-        << "This system has no locale en_US.utf8: \"./check --install\" makes it, or \"localedef -i en_US -f "
-           "UTF-8 en_US.UTF-8\" as root. Without it every text that comes from a server loses all but ASCII.";
+        << "This system has no locale en_US.utf8. Create it with \"./check --install\", or as root with "
+           "\"localedef -i en_US -f UTF-8 en_US.UTF-8\". Without it, texts from servers lose all non-ASCII "
+           "characters.";
 }
 
 TEST(Utf8, KeepsTheText)
