@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// The linker's option --wrap gives every other object the second function in the place of the first.
+// The linker option --wrap redirects calls of the first function in other objects to the second.
 std::span<const PublisherModel> ProductModels() asm("__real__Z15PublisherModelsv");
 std::span<const PublisherModel> ModelsWithOneMore() asm("__wrap__Z15PublisherModelsv");
 

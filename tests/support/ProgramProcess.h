@@ -53,7 +53,7 @@ public:
             pollfd entry{m_output, POLLIN, 0};
             char piece[4096];
             if (::poll(&entry, 1, PATIENCE) <= 0) {
-                ADD_FAILURE() << "waited in vain for \"" << text << "\" behind: " << m_read;
+                ADD_FAILURE() << "timed out waiting for \"" << text << "\" after: " << m_read;
                 break;
             }
             const ssize_t count = ::read(m_output, piece, sizeof piece);
