@@ -1,4 +1,5 @@
-// Two DVD drives; the base of all models with two drives and of the one without.
+// The model with two DVD drives. Base class of the other models with two drives and of the model without
+// drives.
 #pragma once
 
 #include "BasicPublisherMgr.h"
@@ -11,12 +12,11 @@ public:
 
     UINT GetPublisherMgrType() override;
 
-    /// A percentage, or a value ARV_PC_MAINTENANCEBOX_*. A service that answers in another size stops the
+    /// A percentage, or an ARV_PC_MAINTENANCEBOX_* value. A successful reply of another size stops the
     /// process.
     virtual bool GetServiceMaintenanceboxStatus(LPCTSTR szPublisherRegistID, ULONG* pulMaintenanceBox,
                                                 long* pResultCode);
-    /// The counts as the service tells them, uncorrected. A service that answers in another size stops the
-    /// process.
+    /// The counts from the service, uncorrected. A successful reply of another size stops the process.
     virtual bool GetPublisherMaintenanceInfo(LPCTSTR szPublisherRegistID,
                                              ST_PC_MAINTENANCE_INFO* pMaintenanceInfo, long* pResultCode);
 };

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Brings stackers 2 to 4 in line with the mode; whether that changed anything.
+/// Adjusts stackers 2 to 4 to the mode. Returns whether any of them changed.
 bool FitStackers(PUBLISHERINFO& info)
 {
     const PUBLISHERINFO before = info;
@@ -46,7 +46,7 @@ bool CAPPublisherMgr::GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINF
     if (szPublisherRegistID[0] == '\0') {
         return false;
     }
-    const CString strRegistID = szPublisherRegistID; // may be the record's own text
+    const CString strRegistID = szPublisherRegistID; // may point into the record
     psPublisherInfo->Clear();
     const SettingRecord record = FileOf(strRegistID.c_str()).Read();
     if (!record.Exists()) {

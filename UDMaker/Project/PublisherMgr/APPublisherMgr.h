@@ -1,4 +1,4 @@
-// The model without drives of its own.
+// The model without drives.
 #pragma once
 
 #include "300MODPublisherMgr.h"
@@ -10,13 +10,13 @@ public:
 
     UINT GetPublisherMgrType() override;
     bool UpdatePublisherInfo(PUBLISHERINFO sPublisherInfo) override;
-    /// Takes no field of `psPublisherInfo` but mode and output stackers.
+    /// Uses only the mode and the output stackers of `psPublisherInfo`.
     bool UpdatePublishMode(LPCTSTR szPublisherRegistID, const PUBLISHERINFO* psPublisherInfo,
                            bool bResetDefault, bool* pbSetDefault) override;
-    /// The fields of drives and retries keep their defaults.
+    /// Drive and retry fields get the values of a cleared record.
     bool GetPublisherInfo(LPCTSTR szPublisherRegistID, PUBLISHERINFO* psPublisherInfo,
                           BOOL bConnectionError) override;
-    /// The fields of drives stay as they were.
+    /// Does not change the drive fields.
     bool GetPublisherVersionInfo(LPCTSTR szPublisherRegistID, PUBLISHERVERSIONINFO* psPublisherVersionInfo,
                                  long* pResultCode) override;
 };

@@ -1,4 +1,4 @@
-// The classes of models that differ from their base in their row of the table only.
+// The classes of models that differ from their base class only in their row of the model table.
 #pragma once
 
 #include "300MODPublisherMgr.h"
@@ -6,7 +6,7 @@
 
 #include <memory>
 
-/// `Base` with the row of another model.
+/// `Base` with the row of `uiType`.
 template <class Base, UINT uiType>
 class CModelPublisherMgr : public Base
 {
@@ -19,7 +19,7 @@ public:
     }
 };
 
-/// The factory of a row.
+/// The factory function for a row of the model table.
 template <class Model>
 std::unique_ptr<IPublisherMgr> CreateModel(bool bPublisherIDMode, const CString& strPath)
 {

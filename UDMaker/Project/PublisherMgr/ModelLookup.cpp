@@ -1,4 +1,4 @@
-// Finds rows in the table of models.
+// Finds rows of the model table.
 #include "ModelTable.h"
 
 #include <algorithm>

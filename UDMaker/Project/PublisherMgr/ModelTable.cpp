@@ -22,12 +22,12 @@ constexpr NumberSet BDXL_DISCS = {PUBMGR_STACKERDISCTYPE_CDR,    PUBMGR_STACKERD
                                   PUBMGR_STACKERDISCTYPE_BDRQL};
 
 constexpr PublisherModel PUBLISHER_MODELS[] = {
-    // Serves every local publisher of no known model.
+    // Serves every local publisher whose model is unknown.
     {.uiType = PUBMGR_PUBLISHERTYPE_BASIC,
      .publishModes = {PUBMGR_PUBLISHMODE_NORMAL, PUBMGR_PUBLISHMODE_BATCH, PUBMGR_PUBLISHMODE_OUTPUT},
      .discTypes = DVD_DISCS,
      .pCreate = CreateModel<CBasicPublisherMgr>},
-    // Its name is that of its server, and its settings come from there.
+    // The displayed name comes from NETWORK_MODELS, the settings from the server.
     {.uiType = PUBMGR_PUBLISHERTYPE_NETWORK,
      .family = ModelFamily::network,
      .bDriveSettings = false,

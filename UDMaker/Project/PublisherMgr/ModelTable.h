@@ -1,4 +1,4 @@
-// The table of publisher models. Everything that depends on the model is decided by its row.
+// The model table. All behaviour that depends on the model is determined by its row.
 #pragma once
 
 #include "PubMgrConst.h"
@@ -11,7 +11,7 @@
 
 class IPublisherMgr;
 
-/// Models that are set up alike.
+/// Groups the models that share their settings in the property dialog.
 enum class ModelFamily
 {
     rt300,   ///< two drives, stacker 3
@@ -43,12 +43,12 @@ private:
 struct PublisherModel
 {
     UINT uiType; ///< enPublisherType
-    /// Values of REG_PUB_CTRL_DEVICETYPE that mean this model; 0 is no value. The number of a family that has
-    /// a DVD and a Blu-ray model means the latter.
+    /// Values of REG_PUB_CTRL_DEVICETYPE that identify this model; 0 marks an unused element. If a family has
+    /// a DVD and a Blu-ray model, the bare family number identifies the Blu-ray model.
     std::array<DWORD, 2> deviceCodes = {};
     ModelFamily family = ModelFamily::unknown;
-    const char* szName = "N/A";      ///< as the windows show it, in every language
-    UINT uiSetUpAs = uiType;         ///< model that the property dialog shows in its place
+    const char* szName = "N/A";      ///< displayed name, not translated
+    UINT uiSetUpAs = uiType;         ///< model that the property dialog shows instead
     bool bShowsDrive2Version = true; ///< the property dialog fills in the version of drive 2
 
     int nDrives = 2;
@@ -58,10 +58,10 @@ struct PublisherModel
     NumberSet publishModes = {}; ///< enPublishMode
     NumberSet discTypes = {};    ///< enOrlaStackerDiscType
 
-    /// Makes the object that serves the model.
+    /// Creates the object that serves the model.
     std::unique_ptr<IPublisherMgr> (*pCreate)(bool bPublisherIDMode, const CString& strPath);
 
-    /// The model without drives has the choice, too.
+    /// Also true for the model without drives.
     constexpr bool HasDriveChoice() const
     {
         return nDrives != 1;
@@ -76,20 +76,20 @@ struct PublisherModel
     }
 };
 
-/// What a publisher server is.
+/// One kind of network publisher.
 struct NetworkModel
 {
     UINT uiNetPublisherType; ///< enNetworkPublisherType
-    const char* szName;      ///< as the windows show it, in every language
+    const char* szName;      ///< displayed name, not translated
     bool bWritesBDXL;
 };
 
 /// All models, in the order in which CPublisherMgr holds their objects.
 std::span<const PublisherModel> PublisherModels();
-/// The servers that have a name.
+/// The kinds of network publishers that have a name.
 std::span<const NetworkModel> NetworkModels();
 
-// Each returns null without such a row.
+// Each returns null if there is no such row.
 
 /// `uiType` is an enPublisherType.
 const PublisherModel* FindModel(UINT uiType);

@@ -1,4 +1,4 @@
-// One DVD drive, three stackers; the base of all models with a single drive.
+// The model with one DVD drive and three stackers. Base class of the other models with one drive.
 #pragma once
 
 #include "BasicPublisherMgr.h"
@@ -9,6 +9,6 @@ public:
     using CBasicPublisherMgr::CBasicPublisherMgr;
 
     UINT GetPublisherMgrType() override;
-    /// Answers for drive 1 alone.
+    /// Empty for any drive other than drive 1.
     CString GetSupportWriteSpeedString(LPCTSTR szPublisherRegistID, UINT uiDrive) override;
 };
