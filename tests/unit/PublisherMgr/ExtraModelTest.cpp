@@ -1,4 +1,5 @@
-// A row added to the table of models is all that publisher management needs to serve a new model.
+// Publisher management serves a new model after a row has been added to the model table, without other
+// changes.
 #include "ExtraModel.h"
 
 #include "PublisherFiles.h"
@@ -32,7 +33,7 @@ protected:
     CPublisherMgr m_mgr{true};
 };
 
-TEST_F(ExtraModel, IsFoundByItsDevice)
+TEST_F(ExtraModel, IsFoundByDeviceCode)
 {
     for (const char* code : {"0000000b", "3000000b"}) {
         WriteLocalPublisher("R", code);
@@ -43,7 +44,7 @@ TEST_F(ExtraModel, IsFoundByItsDevice)
     }
 }
 
-TEST_F(ExtraModel, LeavesTheOthersAsTheyAre)
+TEST_F(ExtraModel, DoesNotChangeOtherModels)
 {
     WriteLocalPublisher("R", "20000009");
     EXPECT_EQ(m_mgr.GetPublisherDevType("R"), 0x20000009u);
@@ -51,7 +52,7 @@ TEST_F(ExtraModel, LeavesTheOthersAsTheyAre)
     EXPECT_EQ(m_mgr.GetPublisherDevType("R"), 0u);
 }
 
-TEST_F(ExtraModel, AnswersByItsRow)
+TEST_F(ExtraModel, HasTheCapabilitiesOfItsRow)
 {
     auto* model = dynamic_cast<CBasicPublisherMgr*>(m_mgr.GetPublisherMgrIFFromID("R"));
     ASSERT_NE(model, nullptr);
@@ -66,7 +67,7 @@ TEST_F(ExtraModel, AnswersByItsRow)
     }
 }
 
-TEST_F(ExtraModel, KeepsItsDriveAndRetriesOnSaving)
+TEST_F(ExtraModel, SavesDriveAndRetries)
 {
     PUBLISHERINFO info;
     ASSERT_TRUE(m_mgr.GetPublisherInfo("R", &info, FALSE));
@@ -81,14 +82,14 @@ TEST_F(ExtraModel, KeepsItsDriveAndRetriesOnSaving)
                                               "ReadBackContinue=0\nAddErrorMark=0\n"));
 }
 
-TEST_F(ExtraModel, BehavesAsItsBase)
+TEST_F(ExtraModel, BehavesLikeItsBaseClass)
 {
     EXPECT_EQ(m_mgr.GetSupportWriteSpeedString("R", 1), "BD-R TL:4");
     EXPECT_EQ(m_mgr.GetSupportWriteSpeedString("R", 2), "");
     EXPECT_EQ(m_mgr.GetCopiesMax("R", false), 50u);
 }
 
-TEST_F(ExtraModel, MeasuresErrorRatesAndArchivesNothing)
+TEST_F(ExtraModel, MeasuresErrorRatesButDoesNotArchive)
 {
     EXPECT_TRUE(m_mgr.IsExistErrorRateFunctionPublisher());
     EXPECT_FALSE(m_mgr.IsExistArchiveDiscFunctionPublisher());

@@ -164,7 +164,7 @@ TEST(Forwards, OnlyACancelOfAnUnknownPublisherIsLogged)
                                            "found\nPRIORITY=4\n"});
 }
 
-/// Without a setting file there is no address, whatever is on the network.
+/// Without a setting file there is no address, so the result does not depend on the network.
 TEST(Forwards, ConnectionsUseTheNetworkImplementationForEveryPublisher)
 {
     CPublisherMgr mgr(true);
@@ -175,8 +175,7 @@ TEST(Forwards, ConnectionsUseTheNetworkImplementationForEveryPublisher)
     EXPECT_EQ(code, 88u);
 
     WriteLocalPublisher("R", "00000005");
-    EXPECT_FALSE(mgr.StartConnection("R", &handle, &code))
-        << "it has no address: the file opens, and reads empty";
+    EXPECT_FALSE(mgr.StartConnection("R", &handle, &code)) << "the setting file contains no address";
     EXPECT_EQ(handle, 77u);
     EXPECT_EQ(code, 88u);
 }
@@ -201,7 +200,7 @@ TEST(Forwards, JobSubmissionGoesToTheLibrary)
     EXPECT_EQ(job, 99);
 }
 
-/// Unsupported operations show that the network publisher is served: they return true, without it false.
+/// Unsupported operations return true if the network publisher is served, and false otherwise.
 TEST(Forwards, ANetworkPublisherIsServed)
 {
     WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");
@@ -212,7 +211,7 @@ TEST(Forwards, ANetworkPublisherIsServed)
     EXPECT_FALSE(mgr.SetServiceJobStop("R", "J", &code));
     EXPECT_EQ(code, 77);
     EXPECT_EQ(mgr.GetPublisherGUID("R"), "");
-    EXPECT_FALSE(mgr.IsPossibleCommunicate("R", &code)) << "it has no address";
+    EXPECT_FALSE(mgr.IsPossibleCommunicate("R", &code)) << "no address";
     EXPECT_EQ(code, 0);
     EXPECT_EQ(mgr.GetJobCount("R", &code), -1);
     EXPECT_EQ(code, -1);

@@ -208,7 +208,7 @@ TEST(ConnectType, ComesFromTheFile)
     }
 }
 
-TEST(ConnectType, ANetworkPublisherIsServedAsSuchWhateverItsGUID)
+TEST(ConnectType, ANetworkPublisherIsServedAsSuchWithAnyGUID)
 {
     WriteLocalPublisher("R", "00000007");
     WritePublisher("R", "[Common]\nGUID={G}\nPublisherConnectionType=1\n");

@@ -1,4 +1,4 @@
-// Every row of the table of models.
+// Every row of the model table.
 #include "ModelTable.h"
 
 #include "Models.h"
@@ -37,7 +37,7 @@ struct Capabilities
     bool stacker4;
 };
 
-/// In the order in which the facade holds them.
+/// In the order of the table.
 const Capabilities capabilities[] = {
     {typeid(CBasicPublisherMgr), 0, {0, 1, 2}, dvd, yes, yes},
     {typeid(CNetworkPublisherMgr), 1, {}, {}, yes, yes},
@@ -101,7 +101,7 @@ Numbers Codes(const PublisherModel& model)
     return codes;
 }
 
-TEST(ModelTable, WhatEachModelCanDo)
+TEST(ModelTable, CapabilitiesOfEachModel)
 {
     ASSERT_EQ(PublisherModels().size(), std::size(capabilities));
     for (size_t i = 0; i < std::size(capabilities); ++i) {
@@ -119,7 +119,7 @@ TEST(ModelTable, WhatEachModelCanDo)
     }
 }
 
-TEST(ModelTable, HowEachModelIsKnownAndShown)
+TEST(ModelTable, CodesDrivesAndNamesOfEachModel)
 {
     ASSERT_EQ(PublisherModels().size(), std::size(identities));
     for (size_t i = 0; i < std::size(identities); ++i) {
@@ -137,7 +137,7 @@ TEST(ModelTable, HowEachModelIsKnownAndShown)
     }
 }
 
-TEST(ModelTable, EveryFactoryMakesTheClassOfItsType)
+TEST(ModelTable, EveryFactoryCreatesTheClassOfItsType)
 {
     ASSERT_EQ(PublisherModels().size(), std::size(capabilities));
     for (size_t i = 0; i < std::size(capabilities); ++i) {
@@ -148,8 +148,8 @@ TEST(ModelTable, EveryFactoryMakesTheClassOfItsType)
     }
 }
 
-/// The low four bits of a model value are its family, and a family has one number of drives.
-TEST(ModelTable, DrivesFollowTheFamily)
+/// The low four bits of a model value are its family. All models of a family have the same number of drives.
+TEST(ModelTable, NumberOfDrivesDependsOnTheFamily)
 {
     const int drivesOfFamily[] = {2, 2, 0, 1, 1, 2, 1, 2, 1, 2};
     for (const PublisherModel& model : PublisherModels()) {
@@ -159,7 +159,7 @@ TEST(ModelTable, DrivesFollowTheFamily)
     }
 }
 
-TEST(ModelTable, EveryTypeFindsItsRowAndNoOtherNumberDoes)
+TEST(ModelTable, FindModelReturnsTheRowOfKnownTypesOnly)
 {
     for (const PublisherModel& model : PublisherModels()) {
         EXPECT_EQ(FindModel(model.uiType), &model);
@@ -169,7 +169,7 @@ TEST(ModelTable, EveryTypeFindsItsRowAndNoOtherNumberDoes)
     }
 }
 
-TEST(ModelTable, EveryDeviceCodeFindsItsRowAndNoOtherNumberDoes)
+TEST(ModelTable, FindModelOfDeviceReturnsTheRowOfKnownCodesOnly)
 {
     for (const PublisherModel& model : PublisherModels()) {
         for (const UINT code : Codes(model)) {
@@ -181,7 +181,7 @@ TEST(ModelTable, EveryDeviceCodeFindsItsRowAndNoOtherNumberDoes)
     }
 }
 
-TEST(ModelTable, Servers)
+TEST(ModelTable, NetworkModels)
 {
     const struct
     {
@@ -202,7 +202,7 @@ TEST(ModelTable, Servers)
     }
 }
 
-TEST(NumberSet, HoldsWhatItWasMadeOf)
+TEST(NumberSet, ContainsExactlyItsNumbers)
 {
     EXPECT_EQ(Members({}), Numbers());
     EXPECT_EQ(Members({0, 5, 31}), (Numbers{0, 5, 31}));

@@ -166,7 +166,7 @@ TEST_F(NetworkCalls, WriteSpeedsOfEachDrive)
     EXPECT_TRUE(m_library.calls.empty());
 }
 
-TEST_F(NetworkCalls, TextsUpToTheirBuffers)
+TEST_F(NetworkCalls, TextsLongerThanTheirBuffersAreEmpty)
 {
     m_library.texts[10] = std::string(1023, 's');
     EXPECT_EQ(m_mgr.GetSupportWriteSpeedString("R", 1), std::string(1023, 's'));
@@ -278,7 +278,7 @@ TEST_F(NetworkCalls, ACancelOnAConnectionOfTheCaller)
     m_library.failAt = 1;
     m_library.failCode = NCL_ERR_NETWORK_TIMEOUT;
     EXPECT_FALSE(m_mgr.CancelJob("R", "J", 9, 42, &code));
-    EXPECT_EQ(code, 8) << "as it came";
+    EXPECT_EQ(code, 8) << "the code of the library";
     m_library.failAt = 2;
     EXPECT_FALSE(m_mgr.CancelJob("R", nullptr, 9, 42, nullptr));
 }

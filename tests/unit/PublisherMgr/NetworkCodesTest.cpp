@@ -86,7 +86,7 @@ TEST_F(NetworkCodes, EachRequestRefusedInTurn)
                              std::to_string(code));
                 if (operation.name == std::string("GetPublisherInfo") && request == 4 &&
                     code == NCL_ERR_SERVER_OTHER) {
-                    continue; // the server has no stacker 3, which is no failure
+                    continue; // the server has no stacker 3; not a failure
                 }
                 Fail(request, code);
                 const NetworkAnswer answer = Ask(operation);
@@ -95,7 +95,7 @@ TEST_F(NetworkCodes, EachRequestRefusedInTurn)
                 if (operation.keepsOutput) {
                     EXPECT_TRUE(answer.isKept);
                 }
-                EXPECT_EQ(Requests(), request + 1) << "nothing is asked behind a refusal";
+                EXPECT_EQ(Requests(), request + 1) << "no request follows a refusal";
                 EXPECT_EQ(m_library.calls.back(), "EndConnection(7)");
                 EXPECT_EQ(m_library.open, 0);
             }
@@ -121,7 +121,7 @@ TEST_F(NetworkCodes, TheResultCodeIsOptional)
     }
 }
 
-TEST_F(NetworkCodes, AListOfAllJobsSucceedsIfOneOfItsHalvesDoes)
+TEST_F(NetworkCodes, AListOfAllJobsSucceedsIfOneQueryDoes)
 {
     const NetworkOperation& operation = NetworkOperationOf("GetServiceJobStatus");
     for (const DWORD code : FailureCodes()) {
@@ -220,7 +220,7 @@ TEST_F(NetworkCodes, TheModeIsSetOnFailureToo)
         long result = 77;
         EXPECT_FALSE(m_mgr.GetServicePublishMode("R", &mode, &result));
         EXPECT_EQ(result, static_cast<long>(code));
-        EXPECT_EQ(mode, 0xFFFFFFFFU) << "as one that is not known";
+        EXPECT_EQ(mode, 0xFFFFFFFFU) << "the value for an unknown mode";
     }
 }
 

@@ -231,7 +231,7 @@ TYPED_TEST(NetworkJobConvert, NamesAreTruncatedTo255BytesAndPersonsTo64)
         SetText(job.wszJobName, std::string(length, 'n'));
         const ST_PC_JOB_STATUS result = this->Convert(job);
         EXPECT_EQ(result.acJobName, std::string(std::min<size_t>(length, 255), 'n')) << length;
-        EXPECT_EQ(result.ulJobStatus, 1U) << "the next field is whole";
+        EXPECT_EQ(result.ulJobStatus, 1U) << "the next field is intact";
     }
     for (const size_t length : {0U, 1U, 63U, 64U, 65U, 192U}) {
         TypeParam job{};

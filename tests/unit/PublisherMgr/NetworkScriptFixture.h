@@ -27,7 +27,7 @@ protected:
     }
     void TearDown() override
     {
-        EXPECT_EQ(m_library.open, 0) << "a connection that nobody ends";
+        EXPECT_EQ(m_library.open, 0) << "a connection was not ended";
     }
 
     ScriptedLibrary& m_library = ScriptedLibrary::Instance();

@@ -163,7 +163,7 @@ TEST_F(NetworkSettings, MissingKeysReadAsEmptyTexts)
     EXPECT_EQ(info.strPublisherName, "");
     EXPECT_EQ(info.strPrinterName, "");
     EXPECT_EQ(info.strHostName, "");
-    EXPECT_EQ(info.uiPublisherType, 1U) << "whatever the file says";
+    EXPECT_EQ(info.uiPublisherType, 1U) << "independent of the file";
 }
 
 TEST_F(NetworkSettings, AnUnreadableFileReadsAsNotSet)
@@ -434,7 +434,7 @@ TEST_F(NetworkSettings, NullArgumentsThatAreRefused)
 // ---------------------------------------------------------------------------------------------------------------------
 // Operations that a network publisher does not support
 
-TEST_F(NetworkSettings, WithoutAFileThereIsNothingToConnectTo)
+TEST_F(NetworkSettings, WithoutAnAddressConnectionsFail)
 {
     MakePublisherFolder();
     DWORD handle = 77;
@@ -442,7 +442,8 @@ TEST_F(NetworkSettings, WithoutAFileThereIsNothingToConnectTo)
     EXPECT_FALSE(m_mgr.StartConnection("R", &handle, &code));
     EXPECT_EQ(code, 88U);
     WritePublisher("R", "[Common]\nPublisherURL=server\\\n");
-    EXPECT_FALSE(m_mgr.StartConnection("R", &handle, &code)) << "an address that ends with a backslash";
+    EXPECT_FALSE(m_mgr.StartConnection("R", &handle, &code))
+        << "the host is empty if the address ends with a backslash";
     EXPECT_EQ(code, 88U);
     EXPECT_EQ(handle, 77U);
 }

@@ -1,7 +1,7 @@
-// A scripted network library. Its operations return what the test specifies and record their calls. Every
-// result code can thus be tested, also those that a real server hardly returns.
+// A scripted network library. Its operations return what the test specifies and record their calls. Tests
+// can thus cover every result code, including those that a real server rarely returns.
 //
-// It defines every function that publisher management calls: nothing of the library itself is linked.
+// It defines every function that publisher management calls. The library itself is not linked.
 #pragma once
 
 #include "NW_Com_Lib.h"

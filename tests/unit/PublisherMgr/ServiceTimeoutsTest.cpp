@@ -187,7 +187,7 @@ TEST_F(ServiceTimeouts, APendingWriteThatEndsShortReturnsNoCommunication)
 TEST_F(ServiceTimeouts, APendingWriteThatCompletesContinues)
 {
     g_platform.write = {FALSE, "", 0, pending};
-    g_platform.overlappedResult = TRUE; // whatever the wait returned
+    g_platform.overlappedResult = TRUE; // regardless of the result of the wait
     g_platform.overlappedCount = 408;
     g_platform.reads = {{TRUE, Header(13, 0, 0), 0, 0}};
     EXPECT_EQ(Run(), 0);
