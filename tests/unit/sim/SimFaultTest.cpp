@@ -74,10 +74,10 @@ TEST_F(SimFault, StallNeverAnswers)
     const RawClient stalled;
     ASSERT_TRUE(stalled.send(requestFrame(22, "a")));
     ASSERT_TRUE(m_open.room.waitForRequests(22, 1));
-    EXPECT_EQ(ask(18, "a").payload, ZERO) << "other connections are served meanwhile";
+    EXPECT_EQ(ask(18, "a").payload, ZERO) << "other connections are still served";
     EXPECT_FALSE(stalled.isReadable(0));
     m_open.room.stop();
-    EXPECT_EQ(stalled.readOnce(1), "") << "only the end of the room ends it";
+    EXPECT_EQ(stalled.readOnce(1), "") << "only stopping the room ends the connection";
 }
 
 TEST_F(SimFault, WrongId)

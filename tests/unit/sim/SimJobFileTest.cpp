@@ -178,7 +178,7 @@ TEST(SimJobFile, EveryRefusal)
         EXPECT_EQ(refusalIn(open, with(NOZZLE_CHECK, row.piece, row.other)), row.refusal);
     }
     EXPECT_TRUE(open.room.jobs("A").empty());
-    EXPECT_EQ(refusalIn(open, HEAD_CLEANING), "") << "after all this";
+    EXPECT_EQ(refusalIn(open, HEAD_CLEANING), "") << "valid after the refusals";
     EXPECT_EQ(refusalIn(open, HEAD_CLEANING), "a job of this ID came before");
     EXPECT_EQ(open.room.jobs("A").size(), 1U);
 }

@@ -103,10 +103,10 @@ TEST_F(SimJobInbox, AWriterHasThreeSecondsToFinish)
     EXPECT_EQ(taken(milliseconds(2999)), Names{});
     put("a.epj");
     EXPECT_EQ(taken(milliseconds(2999)), Names{"a.epj"});
-    EXPECT_EQ(taken(milliseconds(3000)), (Names{"b.epj", "c.epj"})) << "whatever there is of them";
+    EXPECT_EQ(taken(milliseconds(3000)), (Names{"b.epj", "c.epj"})) << "even if incomplete";
     EXPECT_TRUE(std::filesystem::is_empty("/tmp/jobs"));
     put("b.epj", "");
-    EXPECT_EQ(taken(milliseconds(3001)), Names{}) << "another file of that name has its own time";
+    EXPECT_EQ(taken(milliseconds(3001)), Names{}) << "a new file with this name has its own time limit";
 }
 
 TEST_F(SimJobInbox, SizeIsBounded)
@@ -239,12 +239,12 @@ TEST(SimJobFolderOfARoom, ADanglingLinkIsIgnored)
     EXPECT_EQ(std::filesystem::read_symlink(FOLDER), "/tmp/none");
 }
 
-TEST(SimJobFolderOfARoom, IsPolledWhileTheClockStands)
+TEST(SimJobFolderOfARoom, IsPolledWhileTheClockIsStopped)
 {
     OpenRoom open(PUBLISHER);
     putFile(JOBS + std::string("a.epj"), HEAD_CLEANING);
     ASSERT_TRUE(open.room.waitForTakenFiles(1));
-    EXPECT_EQ(open.room.jobs("A").at(0).status, 1U) << "it waits for time to pass";
+    EXPECT_EQ(open.room.jobs("A").at(0).status, 1U) << "waiting until time advances";
     putFile(JOBS + std::string("b.epj"), "");
     ASSERT_TRUE(open.room.waitForTakenFiles(2));
     EXPECT_EQ(open.room.takenFiles()[1].refusal, "the file is empty");

@@ -116,7 +116,7 @@ TEST_F(SimJobs, PrintsUseUpDiscsAndInk)
     tell("stacker 1 10");
     m_world.advance(30'050);
     EXPECT_EQ(machine().state().stackers[0].discs, 7U);
-    EXPECT_EQ(machine().state().stackers[1].discs, 3U) << "the output of the standard mode";
+    EXPECT_EQ(machine().state().stackers[1].discs, 3U) << "the output stacker of the standard mode";
     EXPECT_EQ(machine().printedDiscs(), 3U);
     uint32_t ink = 0;
     for (const uint32_t percent : machine().state().ink) {
@@ -162,7 +162,7 @@ TEST_F(SimJobs, MissingInkStopsPrintJobs)
     EXPECT_EQ(job(0).factor, 19U);
     tell("ink yellow 50");
     m_world.advance(1000);
-    EXPECT_EQ(machine().hindrance(), 19U) << "the error stands until it is cleared";
+    EXPECT_EQ(machine().hindrance(), 19U) << "the error remains until it is cleared";
     tell("clear");
     m_world.advance(1000);
     EXPECT_EQ(job(0).status, RUNNING);
@@ -225,7 +225,7 @@ TEST_F(SimJobs, StopTakesEffectAfterTheDisc)
     EXPECT_EQ(job(0).status, STOPPED);
     EXPECT_EQ(job(0).completed, 1U);
     m_world.advance(50);
-    EXPECT_EQ(job(1).status, RUNNING) << "a stopped job lets others pass";
+    EXPECT_EQ(job(1).status, RUNNING) << "a stopped job does not block others";
     EXPECT_EQ(machine().continueJob(job(0).id), 0U);
     EXPECT_EQ(job(0).status, WAITING);
     m_world.advance(30'000);
@@ -258,7 +258,7 @@ TEST_F(SimJobs, OldJobsAreRemoved)
         ASSERT_NE(machine().addJob({.name = "Job " + std::to_string(i)}), "");
         ASSERT_EQ(machine().cancelJob(machine().jobs().back().id), 0U);
     }
-    EXPECT_EQ(machine().jobs().size(), 22U) << "the two of the beginning, and the last twenty that ended";
+    EXPECT_EQ(machine().jobs().size(), 22U) << "the two initial jobs and the last twenty that ended";
     EXPECT_EQ(machine().jobs().back().name, "Job 59");
     EXPECT_EQ(machine().jobs().back().id, "LOCALHOST_S_0062");
 }

@@ -51,8 +51,8 @@ TEST(SimMaintenance, RunsAHeadCleaning)
     EXPECT_EQ(ask(4, ID, "", 1).payload,
               jobPayload(CLEANING_ID, "Head Cleaning", 2).u64(544, 5).u64(552, 3).u64(720, 0x80000003).str());
     EXPECT_EQ(number(8), 0x10U) << "cleaning";
-    EXPECT_EQ(number(5), 0U) << "the loader rests";
-    EXPECT_EQ(number(24), 8U) << "only the printer is at work";
+    EXPECT_EQ(number(5), 0U) << "the loader is idle";
+    EXPECT_EQ(number(24), 8U) << "only the printer is busy";
     EXPECT_EQ(machine(open).phase(), udsim::Phase::cleaning);
     EXPECT_EQ(machine(open).progressPercent(), 40U);
     open.room.advance(2950);

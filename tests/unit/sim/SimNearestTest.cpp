@@ -38,7 +38,7 @@ TEST(SimNearest, Suggestions)
     }
     EXPECT_EQ(suggestion("online", {}), "");
     EXPECT_EQ(suggestion("RT-300III", {"RT-30II", "RT-300III DVD"}), " (did you mean \"RT-300III DVD\"?)")
-        << "whole words are nearer than a slip";
+        << "a matching word ranks above a typo";
 }
 
 TEST(SimNearest, Lists)

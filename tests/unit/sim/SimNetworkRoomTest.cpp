@@ -143,18 +143,18 @@ TEST_F(SimNetworkRoom, AServerCanStopAndRestart)
     ASSERT_EQ(bodyOf(open.ask(MODE)), MODE_BODY);
     ASSERT_TRUE(m_room.tell("A", "server off"));
     EXPECT_EQ(HttpClient().error(), ECONNREFUSED);
-    EXPECT_EQ(open.ask(MODE), "") << "connections are cut";
-    EXPECT_EQ(bodyOf(HttpClient("127.0.0.12").ask(MODE)), MODE_BODY) << "the other one goes on";
+    EXPECT_EQ(open.ask(MODE), "") << "open connections are closed";
+    EXPECT_EQ(bodyOf(HttpClient("127.0.0.12").ask(MODE)), MODE_BODY) << "the other server still replies";
     ASSERT_TRUE(m_room.tell("A", "server on"));
     EXPECT_EQ(bodyOf(HttpClient().ask(MODE)), MODE_BODY);
-    EXPECT_FALSE(m_room.tell("L", "server off")) << "a local machine has none";
+    EXPECT_FALSE(m_room.tell("L", "server off")) << "a local publisher has no server";
     EXPECT_TRUE(m_room.tell("A", "offline"));
     EXPECT_EQ(bodyOf(HttpClient().ask("GET /webapp2/DevStatusGetter?ifversion=02000000&type=0 HTTP/1.1\r\n"
                                       "Host:localhost\r\n\r\n")),
               hex("02 00 00"));
 }
 
-TEST_F(SimNetworkRoom, AServerGoesAndComesBackOftenWithConnectionsThatStall)
+TEST_F(SimNetworkRoom, AServerRestartsRepeatedlyWithStalledConnections)
 {
     befall("stall", "/stalled");
     for (int i = 0; i < 50; ++i) {
@@ -201,7 +201,7 @@ TEST_F(SimNetworkRoom, AnAddressInUseIsRefused)
     std::string error;
     m_room.tell("", "service off");
     EXPECT_FALSE(second.start(error));
-    EXPECT_EQ(bodyOf(HttpClient().ask(MODE)), MODE_BODY) << "the first one goes on";
+    EXPECT_EQ(bodyOf(HttpClient().ask(MODE)), MODE_BODY) << "the first room still replies";
 }
 
 TEST_F(SimNetworkRoom, ManyConnectionsAtOnce)
@@ -294,19 +294,19 @@ TEST_F(SimNetworkRoom, AContentLengthLargerThanTheBody)
     const std::string expected = "HTTP/1.1 200 OK\r\nContent-Length: 4294967296\r\n\r\n" + MODE_BODY;
     EXPECT_EQ(client.readUntil(MODE_BODY, ended), expected);
     EXPECT_FALSE(ended);
-    EXPECT_FALSE(client.isReadable(50)) << "silence, and no end";
+    EXPECT_FALSE(client.isReadable(50)) << "no further bytes, and the connection stays open";
 }
 
 TEST_F(SimNetworkRoom, FaultsApplyToMatchingRequests)
 {
     const HttpClient client;
     befall("status 12", "/webapp2/Server", 2, 1);
-    EXPECT_EQ(bodyOf(client.ask(MODE)), MODE_BODY) << "one passes first";
+    EXPECT_EQ(bodyOf(client.ask(MODE)), MODE_BODY) << "the first match is skipped";
     EXPECT_EQ(bodyOf(client.ask(MODE)), hex("0c 00 00"));
     EXPECT_EQ(bodyOf(client.ask("GET /webapp2/JobNumGetter?type=0 HTTP/1.1\r\nHost:localhost\r\n\r\n")),
               hex("00 00 02 00 00"));
     EXPECT_EQ(bodyOf(client.ask(MODE)), hex("0c 00 00"));
-    EXPECT_EQ(bodyOf(client.ask(MODE)), MODE_BODY) << "twice was all";
+    EXPECT_EQ(bodyOf(client.ask(MODE)), MODE_BODY) << "the fault applies twice";
 }
 
 TEST_F(SimNetworkRoom, ARefusedRequestChangesNothing)

@@ -37,7 +37,7 @@ TEST(SimNetworkServlet, InterfaceVersion)
     EXPECT_EQ(server.post("/webapp2/IFVersionChecker", "ifversion=02000000"), DONE);
     EXPECT_EQ(server.post("/webapp2/IFVersionChecker", "ifversion=01000000"), WRONG_VERSION);
     EXPECT_EQ(server.ask("POST", "/webapp2/IFVersionChecker", "ifversion=02000000").body, WRONG_VERSION)
-        << "a body that is not said to be a form carries no parameters";
+        << "without a form content type, the body has no parameters";
     EXPECT_EQ(server.get("/webapp2/DevInfoGetter?ifversion=01000000&type=5"), WRONG_VERSION);
     EXPECT_EQ(server.get("/webapp2/DevInfoIntGetter?type=5"), WRONG_VERSION);
     EXPECT_EQ(server.get("/webapp2/DevStatusGetter?type=0"), WRONG_VERSION);
@@ -77,7 +77,7 @@ TEST(SimNetworkServlet, TextInformation)
     server.server.machine().setConnected(false);
     EXPECT_EQ(server.get(INFO + "0"), OFFLINE);
     EXPECT_EQ(server.get(INFO + "14"), OFFLINE);
-    EXPECT_EQ(server.get(INFO + "5"), item("3.31")) << "the server itself is there";
+    EXPECT_EQ(server.get(INFO + "5"), item("3.31")) << "the server itself is available";
 }
 
 TEST(SimNetworkServlet, NumericInformation)
@@ -157,7 +157,7 @@ TEST(SimNetworkServlet, ErrorsInTheStatusWords)
         EXPECT_EQ(server.get(STATUS + "5"), item(hex(row.fatal))) << row.code;
     }
     NetworkServer pad("error = 28");
-    EXPECT_EQ(pad.get(STATUS + "3"), item(hex("00 00 02 00"))) << "the ink pad's warning";
+    EXPECT_EQ(pad.get(STATUS + "3"), item(hex("00 00 02 00"))) << "the warning of the ink pad";
     NetworkServer ink("error = 19");
     EXPECT_EQ(bigEndianAt(ink.get(STATUS + "6"), 3 + 24, 4), 0x40U);
 }
@@ -183,7 +183,7 @@ TEST(SimNetworkServlet, StatusWhileWriting)
     EXPECT_EQ(bigEndianAt(drives, 3, 4), 0x6U);
     EXPECT_EQ(bigEndianAt(drives, 7, 4), 0x1U);
     EXPECT_GT(bigEndianAt(drives, 11, 4), 0U);
-    EXPECT_EQ(bigEndianAt(server.get(STATUS + "6"), 3, 4), 0x12U) << "drive 1, and a disc in work";
+    EXPECT_EQ(bigEndianAt(server.get(STATUS + "6"), 3, 4), 0x12U) << "drive 1, and a disc in process";
     EXPECT_EQ(server.get("/webapp2/JobNumGetter?type=0"), hex("00 00 02 00 01"));
 }
 
@@ -280,11 +280,11 @@ TEST(SimNetworkServlet, StatusBytesOfJobs)
     EXPECT_EQ(server.control("3", "00000004"), 0) << "restart";
     EXPECT_EQ(server.control("6", "00000004"), 0) << "to the front";
     EXPECT_EQ(bigEndianAt(server.get(JOBS + "1"), 1181 + 3 + 1174, 4), 4U);
-    EXPECT_EQ(server.control("3", "00000002"), 9) << "it was never stopped";
+    EXPECT_EQ(server.control("3", "00000002"), 9) << "the job was not stopped";
     EXPECT_EQ(server.control("1", "000000ff"), 7);
     EXPECT_EQ(server.control("1", "2"), 7) << "the id has eight digits";
     EXPECT_EQ(server.control("7", "00000002"), 9);
-    EXPECT_EQ(server.control("0", "00000002"), 7) << "it is committed already";
+    EXPECT_EQ(server.control("0", "00000002"), 7) << "already committed";
 }
 
 TEST(SimNetworkServlet, AnOpenedCoverIsRecordedInTheJob)

@@ -47,16 +47,16 @@ TEST(SimNetworkUpload, ANormalJobFromEndToEnd)
     const std::string folder = "/uploads/" + id + "/";
     EXPECT_EQ(net.get("/webapp2/JobNumGetter?type=1"), hex("00 00 02 00 01"));
     EXPECT_EQ(net.ask("MKCOL", folder, "", credentials).status, 201U);
-    EXPECT_EQ(net.ask("MKCOL", folder, "", credentials).status, 405U) << "it is there";
+    EXPECT_EQ(net.ask("MKCOL", folder, "", credentials).status, 405U) << "the folder exists";
     EXPECT_EQ(net.control("5", id), 0);
-    EXPECT_EQ(net.control("4", id), 8) << "there is no disc information yet";
+    EXPECT_EQ(net.control("4", id), 8) << "no disc information yet";
     EXPECT_EQ(net.put(folder + "DiscInfo.xml", "abc", credentials, "0-2/3"), 201U);
-    EXPECT_EQ(net.control("4", id), 8) << "its hash has not come";
+    EXPECT_EQ(net.control("4", id), 8) << "its hash is missing";
     EXPECT_EQ(net.hash(id, "DiscInfo.xml", ABC_SHA1), 200U);
-    EXPECT_EQ(net.control("0", id), 8) << "the disc information is open";
+    EXPECT_EQ(net.control("0", id), 8) << "the disc information is not committed";
     EXPECT_EQ(net.control("4", id), 0);
     EXPECT_EQ(net.put(folder + "DiscImage_a.iso", "ab", credentials, "0-1/3"), 201U);
-    EXPECT_EQ(net.control("0", id), 8) << "the image is not whole";
+    EXPECT_EQ(net.control("0", id), 8) << "the image is incomplete";
     EXPECT_EQ(net.put(folder + "DiscImage_a.iso", "c", credentials, "2-2/3"), 204U);
     EXPECT_EQ(net.hash(id, "DiscImage_a.iso", ABC_SHA1), 200U);
     EXPECT_EQ(net.put(folder + "PrnData_000.prn", "abc", credentials), 201U);
@@ -70,13 +70,13 @@ TEST(SimNetworkUpload, ANormalJobFromEndToEnd)
     EXPECT_EQ(job->reference, "J1");
     EXPECT_EQ(job->person, "Ann");
     EXPECT_EQ(job->type, 3U);
-    EXPECT_EQ(net.put(folder + "More", "abc", credentials), 403U) << "the sending is over";
+    EXPECT_EQ(net.put(folder + "More", "abc", credentials), 403U) << "the upload is committed";
     EXPECT_EQ(net.hash(id, "DiscInfo.xml", ABC_SHA1), 403U);
     EXPECT_EQ(net.server.uploads().jobs().at(0).files.at("DiscImage_a.iso").contents, "abc");
     for (int i = 0; i < 60; ++i) {
         net.server.step(50);
     }
-    EXPECT_TRUE(net.server.uploads().jobs().empty()) << "the files go when the job has ended";
+    EXPECT_TRUE(net.server.uploads().jobs().empty()) << "the files are deleted when the job has ended";
 }
 
 TEST(SimNetworkUpload, CredentialsBelongToOneJob)
@@ -90,11 +90,13 @@ TEST(SimNetworkUpload, CredentialsBelongToOneJob)
     const std::string folder = "/uploads/" + id + "/";
     EXPECT_EQ(net.ask("MKCOL", folder).status, 401U);
     EXPECT_EQ(net.server.takeNotes().back(), "MKCOL /uploads/00000001/ refused with 401");
-    EXPECT_EQ(net.ask("MKCOL", "/uploads/00000001", "", first).status, 404U) << "a folder's name ends so";
+    EXPECT_EQ(net.ask("MKCOL", "/uploads/00000001", "", first).status, 404U)
+        << "a folder path ends with a slash";
     EXPECT_EQ(net.ask("MKCOL", folder, "", second).status, 401U);
     EXPECT_EQ(net.ask("MKCOL", "/uploads/000000ff/", "", first).status, 401U);
     EXPECT_EQ(net.ask("MKCOL", "/uploads/1/", "", first).status, 404U);
-    EXPECT_EQ(net.ask("MKCOL", "/uploads/0000000A/", "", first).status, 404U) << "digits are lower case";
+    EXPECT_EQ(net.ask("MKCOL", "/uploads/0000000A/", "", first).status, 404U)
+        << "hexadecimal digits are lower case";
     EXPECT_EQ(net.ask("GET", folder + "x", "", first).status, 405U);
     EXPECT_EQ(net.put(folder + "a/b", "x", first), 405U);
     EXPECT_EQ(net.ask("MKCOL", folder, "", first).status, 201U);
@@ -124,7 +126,7 @@ TEST(SimNetworkUpload, Ranges)
     const UploadedFile& file = net.server.uploads().jobs().at(0).files.at("f");
     EXPECT_EQ(file.contents, "abcd");
     EXPECT_TRUE(file.isWhole());
-    EXPECT_EQ(net.put(path, "", credentials), 400U) << "nothing to put";
+    EXPECT_EQ(net.put(path, "", credentials), 400U) << "an empty body";
 }
 
 TEST(SimNetworkUpload, Hashes)
@@ -150,10 +152,10 @@ TEST(SimNetworkUpload, Hashes)
     for (const Row& row : table) {
         EXPECT_EQ(net.hash(id, "f", row.hash, row.type), row.status) << row.type << " " << row.hash;
     }
-    EXPECT_EQ(net.control("0", id), 8) << "the last proper hash was wrong";
+    EXPECT_EQ(net.control("0", id), 8) << "the last well-formed hash was wrong";
     EXPECT_EQ(net.hash(id, "f", ABC_SHA1), 200U);
     ASSERT_EQ(net.put("/uploads/" + id + "/f", "abc", credentials), 204U);
-    EXPECT_EQ(net.control("0", id), 8) << "the hash was that of the file before";
+    EXPECT_EQ(net.control("0", id), 8) << "an upload discards the hash of the previous content";
     EXPECT_EQ(net.hash(id, "g", ABC_SHA1), 404U);
     EXPECT_EQ(net.hash("000000ff", "f", ABC_SHA1), 404U);
     EXPECT_EQ(net.ask("POST", "/webapp2/FileHashSetter", "serverjobid=" + id).status, 400U);
@@ -200,12 +202,13 @@ TEST(SimNetworkUpload, AFullDisc)
     const std::string path = "/uploads/" + id + "/f";
     EXPECT_EQ(net.put(path, std::string(1'048'577, 'x'), credentials), 507U);
     EXPECT_EQ(net.put(path, std::string(1'048'576, 'x'), credentials), 201U);
-    EXPECT_EQ(net.put(path, std::string(1'048'576, 'y'), credentials), 204U) << "it takes its own place";
+    EXPECT_EQ(net.put(path, std::string(1'048'576, 'y'), credentials), 204U)
+        << "it replaces the previous content";
     EXPECT_EQ(net.get("/webapp2/DevInfoGetter?ifversion=02000000&type=8"), item("0"));
     EXPECT_EQ(net.ask("POST", "/webapp2/NormalJobSetter", "x").body, hex("06 00 00"));
     EXPECT_EQ(net.control("1", id), 0);
     EXPECT_EQ(net.get("/webapp2/DevInfoGetter?ifversion=02000000&type=8"), item("1048576"));
-    EXPECT_EQ(net.control("1", id), 7) << "it is gone";
+    EXPECT_EQ(net.control("1", id), 7) << "the job no longer exists";
 }
 
 TEST(SimNetworkUpload, AFullJobList)

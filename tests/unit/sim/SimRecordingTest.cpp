@@ -61,7 +61,7 @@ TEST(SimRecording, InvalidTextsAreRefused)
                                    R"("\0{-1}")", R"("\0{5")", "\"\x01\"", "\"\xC3\xA9\""}) {
         EXPECT_FALSE(udsim::unquotedBytes(text, MOST)) << text;
     }
-    EXPECT_FALSE(udsim::unquotedBytes(R"("\0{1048577}")", MOST)) << "more than may be";
+    EXPECT_FALSE(udsim::unquotedBytes(R"("\0{1048577}")", MOST)) << "above the limit";
     EXPECT_FALSE(udsim::unquotedBytes(R"("\0{1048576}\0{4}")", MOST));
     EXPECT_FALSE(udsim::unquotedBytes(R"("\0{18446744073709551615}\0{2}")", MOST));
     EXPECT_FALSE(udsim::unquotedBytes(R"("abc")", 2));

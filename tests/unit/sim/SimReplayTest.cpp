@@ -136,7 +136,7 @@ TEST(SimReplay, AnswersComeInOrderAndTheLastOneRepeats)
     EXPECT_EQ(answers.next("GET /b").answer->bytes, "b");
     EXPECT_EQ(answers.left(), 1U);
     EXPECT_EQ(answers.next("PUT /c").answer->bytes, "HTTP/1.1 100 Continue\r\n\r\ndone")
-        << "what came in between";
+        << "both parts of the answer, without the request body between them";
 }
 
 TEST(SimReplay, RepliesToAClient)
@@ -175,8 +175,8 @@ TEST(SimReplay, SilenceAndDisconnectsAreReplayed)
     EXPECT_EQ(ask(gone, "GET /gone HTTP/1.1\r\n\r\n", 1), "");
     TcpPeer half = Played::client();
     EXPECT_EQ(ask(half, "GET /half HTTP/1.1\r\n\r\n", 1000), "HTTP/1.1 200");
-    EXPECT_EQ(silent.ReadExactly(1, 50), "") << "nothing comes";
-    EXPECT_TRUE(silent.Write("x")) << "and nothing ends";
+    EXPECT_EQ(silent.ReadExactly(1, 50), "") << "no reply";
+    EXPECT_TRUE(silent.Write("x")) << "the connection stays open";
     played.replay.stop();
     EXPECT_TRUE(silent.WaitForClose());
 }

@@ -72,7 +72,7 @@ TEST(SimRoom, StartsAndStopsCleanly)
         std::string error;
         ASSERT_TRUE(room.start(error)) << error;
         EXPECT_EQ(ask(13, "a").payload, Bytes(4).u32(0, 1).str());
-        EXPECT_FALSE(room.start(error)) << "it is open already";
+        EXPECT_FALSE(room.start(error)) << "the room is already running";
         EXPECT_NE(error, "");
         room.stop();
         room.stop();
@@ -125,7 +125,7 @@ TEST(SimRoom, TwoRoomsAtOnceAreRefused)
     std::string error;
     EXPECT_FALSE(second.start(error));
     EXPECT_NE(error.find("another service is running"), std::string::npos) << error;
-    EXPECT_EQ(ask(13, "a").result, 0U) << "the first one is unharmed";
+    EXPECT_EQ(ask(13, "a").result, 0U) << "the first room still replies";
 }
 
 TEST(SimRoom, AStaleSocketIsReplaced)

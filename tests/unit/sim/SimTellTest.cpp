@@ -100,7 +100,8 @@ TEST(SimTell, EveryCommand)
         EXPECT_EQ(answer->text, "") << command;
     }
     EXPECT_EQ(taking.open.room.jobs("Studio A").size(), 1U);
-    EXPECT_EQ(taking.open.room.look("Studio A")->state().stackers[0].discs, 100U) << "refilled last";
+    EXPECT_EQ(taking.open.room.look("Studio A")->state().stackers[0].discs, 100U)
+        << "the last command refills it";
 }
 
 TEST(SimTell, AFullJobListRefusesAJob)
@@ -122,8 +123,8 @@ TEST(SimTell, InvalidRequestsAreRefused)
     EXPECT_EQ(rawAnswer("sing\n"), "refused\nnot understood");
     EXPECT_EQ(rawAnswer("\n"), "refused\nnot understood");
     EXPECT_EQ(rawAnswer(std::string("list\0\n", 6)), "refused\nnot understood");
-    EXPECT_EQ(rawAnswer("list\nlist\n").find("done\nStudio A"), 0U) << "one order a connection";
-    EXPECT_EQ(rawAnswer(std::string(5000, 'x')), "") << "an endless line";
+    EXPECT_EQ(rawAnswer("list\nlist\n").find("done\nStudio A"), 0U) << "one command per connection";
+    EXPECT_EQ(rawAnswer(std::string(5000, 'x')), "") << "a line above the length limit";
 }
 
 TEST(SimTell, SilentPeersAreDisconnected)
@@ -133,8 +134,8 @@ TEST(SimTell, SilentPeersAreDisconnected)
     for (size_t i = 0; i < udsim::Conversations::MOST; ++i) {
         silent.push_back(connection());
     }
-    EXPECT_EQ(rawAnswer("list\n"), "") << "one too many is turned away at once";
-    EXPECT_TRUE(silent.front().WaitForClose()) << "it has five seconds";
+    EXPECT_EQ(rawAnswer("list\n"), "") << "a connection above the limit is closed at once";
+    EXPECT_TRUE(silent.front().WaitForClose()) << "closed after five seconds";
     silent.clear();
     // The room takes commands again after the other peers have disconnected.
     std::string answer;

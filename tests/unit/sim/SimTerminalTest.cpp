@@ -57,10 +57,10 @@ TEST(SimTerminal, JobsAreRedrawnInPlace)
     const std::string output = terminal.process->readUntil("udsim: ended");
     EXPECT_NE(output.find("udsim: ready\r\n"), std::string::npos);
     EXPECT_NE(output.find("A  Concert  disc 1 of 2  ["), std::string::npos) << output;
-    EXPECT_NE(output.find("\x1b[1A"), std::string::npos) << "it goes up to where the line stands";
+    EXPECT_NE(output.find("\x1b[1A"), std::string::npos) << "the cursor moves up to the line";
     const size_t frames = count(output, "Concert  disc");
     EXPECT_GE(frames, 3U);
-    EXPECT_LE(static_cast<double>(frames), took.count() * 4 + 3) << "four times a second at most";
+    EXPECT_LE(static_cast<double>(frames), took.count() * 4 + 3) << "at most four frames per second";
     EXPECT_EQ(terminal.process->wait(), 0);
 }
 

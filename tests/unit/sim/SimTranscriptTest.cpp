@@ -1,4 +1,4 @@
-// What a recorder writes, and the secrets that it masks.
+// The recording that a recorder writes, and the masking of secrets.
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -77,7 +77,7 @@ TEST(SimBlanker, UploadPasswordsAreMasked)
     const std::string interim = "HTTP/1.1 100 Continue\r\nA: chunked\r\n\r\n";
     EXPECT_EQ(udsim::withoutTheWord(interim + interim + head + item + word),
               interim + interim + head + item + stars);
-    EXPECT_EQ(udsim::withoutTheWord(word), stars) << "the rest of an answer whose head came before";
+    EXPECT_EQ(udsim::withoutTheWord(word), stars) << "the rest of an answer whose header was recorded before";
     for (const char* const broken :
          {"", "HTTP", "HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.1 200 OK\r\nchunked\r\n\r\n",
           "HTTP/1.1 100 Continue\r\n\r\n", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}) {
