@@ -53,7 +53,7 @@ TEST(EnvArguments, AnEmptyNameIsPrintedAndNotSet)
     EXPECT_EQ(apply({"-env=bar"}), ": \"(null)\"\n");
 }
 
-TEST(EnvArguments, AnyNumberIsAcceptedAnywhere)
+TEST(EnvArguments, AnyNumberOfArgumentsIsAcceptedAnywhere)
 {
     ::unsetenv("ONE");
     ::unsetenv("TWO");

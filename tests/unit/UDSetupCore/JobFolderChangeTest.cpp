@@ -128,7 +128,7 @@ TEST_F(JobFolder, AnotherCustomFolderMovesTheLink)
     useA();
     EXPECT_EQ(changeJobFolder("/tmp/b").result, 0);
     EXPECT_EQ(fs::read_symlink(job), "/tmp/b/UlmarDiscMakerWork");
-    EXPECT_TRUE(isRealFolder("/tmp/a/UlmarDiscMakerWork")) << "the old one stays";
+    EXPECT_TRUE(isRealFolder("/tmp/a/UlmarDiscMakerWork")) << "the old folder remains";
 }
 
 TEST_F(JobFolder, ACustomFolderIsResolvedToItsRealPath)
@@ -177,7 +177,7 @@ TEST_F(JobFolder, TheDefaultAgainChangesNothing)
     WriteText(job + "/1.epj", "");
     for (const char* folder : {"", "/opt/arven/Ulmar Disc Maker"}) {
         const JobFolderChange change = changeJobFolder(folder);
-        EXPECT_EQ(change.result, 0) << "no job check: nothing moves";
+        EXPECT_EQ(change.result, 0) << "no job check if the folder does not change";
         EXPECT_EQ(change.folder, base);
         EXPECT_EQ(modeOf(job), mode_t{S_IFDIR | 0700});
     }
@@ -238,8 +238,8 @@ TEST_F(JobFolder, TheSameFolderAgainNeedsNoJobCheck)
     ASSERT_EQ(chmod("/tmp/a/UlmarDiscMakerWork", 0700), 0);
     const JobFolderChange change = changeJobFolder("/tmp/a/");
     EXPECT_EQ(change.result, 0);
-    EXPECT_EQ(change.folder, "") << "nothing new is in force";
-    EXPECT_EQ(modeOf("/tmp/a/UlmarDiscMakerWork"), mode_t{S_IFDIR | 0700}) << "left as it is";
+    EXPECT_EQ(change.folder, "") << "the folder did not change";
+    EXPECT_EQ(modeOf("/tmp/a/UlmarDiscMakerWork"), mode_t{S_IFDIR | 0700}) << "unchanged";
 }
 
 TEST_F(JobFolder, TheSameFolderAgainCreatesItsMissingWorkFolder)
@@ -344,7 +344,7 @@ TEST_F(JobFolder, AFolderThatTheCallerCannotOpenIsReportedAndUsed)
         EXPECT_EQ(errorsOf([&] { change = changeJobFolder("/tmp/a"); }), row.errors)
             << (row.pkexec != nullptr ? row.pkexec : "unset") << " "
             << (row.sudo != nullptr ? row.sudo : "unset");
-        EXPECT_EQ(change.result, 0) << "the report decides nothing";
+        EXPECT_EQ(change.result, 0) << "the report does not affect the result";
         EXPECT_EQ(fs::read_symlink(job), "/tmp/a/UlmarDiscMakerWork");
         EXPECT_EQ(geteuid(), getuid());
     }

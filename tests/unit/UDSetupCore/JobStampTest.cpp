@@ -1,4 +1,4 @@
-// Time stamps of maintenance jobs, which increase whatever the clock does.
+// Time stamps of maintenance jobs. They always increase, even if the clock does not.
 #include "FerroJob.h"
 
 #include <gtest/gtest.h>

@@ -46,7 +46,7 @@ TEST(LogCollection, ABlankInALogNameBreaksTheLine)
               (QStringList{"tar", "czvf", "/mnt/a.tgz", "/var/log/arvenUlmarDiscControl.log", "old"}));
 }
 
-TEST(LogCollection, CollectsEverythingThatBeginsLikeALogOfTheService)
+TEST(LogCollection, CollectsEveryEntryWithThePrefixOfTheServiceLog)
 {
     EXPECT_EQ(serviceLogNames(), QStringList());
     WriteText("/var/log/arvenUlmarDiscControl.log.b", "");

@@ -159,7 +159,7 @@ TEST(AddUnderFreeID, GivesUpAfterAThousand)
     EXPECT_TRUE(added);
 }
 
-TEST(AddUnderFreeID, EveryTryHasANewRecord)
+TEST(AddUnderFreeID, EveryAttemptHasANewRecord)
 {
     int tries = 0;
     addUnderFreeID({}, day(2026, 11, 21), "B\xC3\xBCro", "host", [&](const PUBLISHERINFO& info) {

@@ -109,7 +109,7 @@ bool CPublisherMgr::IsPossibleCommunicate(LPCTSTR id, long* pResultCode)
 
 bool CPublisherMgr::IsFatalErrorInPublisher(LPCTSTR id, long* pResultCode)
 {
-    EXPECT_EQ(*pResultCode, 0) << "the code is cleared first";
+    EXPECT_EQ(*pResultCode, 0) << "the caller clears the code";
     Script::the().note(std::string("IsFatalErrorInPublisher ") + id);
     Script::the().waitWhileStalled(id);
     *pResultCode = Script::the().find(id).fatalCode;

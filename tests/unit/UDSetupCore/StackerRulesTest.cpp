@@ -71,7 +71,7 @@ TEST(ModelSetUpAs, TheDvdModelIsSetUpAsTheBluRayModelOfItsFamily)
     }
 }
 
-TEST(Drive2Version, OneModelAloneLeavesItOut)
+TEST(Drive2Version, IsHiddenForOneModelOnly)
 {
     EXPECT_FALSE(showsDrive2Version(8));
     for (const UINT modelType : {0u, 1u, 2u, 0x20000009u, 0x30000008u, 0x30000009u, 9u}) {
@@ -105,7 +105,7 @@ TEST(StackerPicture, EveryModeHasItsPicture)
     }
 }
 
-TEST(StackerPicture, AModeThatCannotBeChosenHasNone)
+TEST(StackerPicture, AModeThatCannotBeChosenHasNoPicture)
 {
     for (const UINT mode : {3u, 4u, 5u, 6u, 7u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
         for (const ModelFamily family : {rt300, rt30, network, unknown}) {

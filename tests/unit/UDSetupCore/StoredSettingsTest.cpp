@@ -10,7 +10,7 @@ namespace {
 
 using enum ModelFamily;
 
-/// Every value with a meaning, the adjacent numbers, and the ends of the range.
+/// Every defined value, the adjacent numbers, and the ends of the range.
 constexpr UINT numbers[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,   9,          10,         11,        12,
                             13, 14, 15, 16, 17, 31, 32, 33, 255, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
 
@@ -138,7 +138,7 @@ TEST(StoreChoices, RetriesAndErrorMarkAreStoredForEveryModel)
             storeChoices(choices, family, info);
             EXPECT_EQ(info.uiRetryCount, 7u);
             EXPECT_EQ(info.uiRetryCountW, 7u);
-            EXPECT_EQ(info.uiRetryCountR, 5u) << "retries for reading are no choice of this dialog";
+            EXPECT_EQ(info.uiRetryCountR, 5u) << "the dialog does not change the read retries";
             EXPECT_EQ(info.bAddErrorMark, errorMark);
         }
     }
