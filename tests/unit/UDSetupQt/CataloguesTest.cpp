@@ -1,4 +1,4 @@
-// The catalogue that the program finds for the locale of a desktop.
+// The catalogue that the program loads for a desktop locale.
 #include <QLocale>
 #include <QRegularExpression>
 #include <QString>
@@ -74,7 +74,7 @@ TEST_P(CataloguesTestFound, translatesEveryContext)
     }
 }
 
-/// The name of a menu or entry in a sentence: without mnemonic and dots.
+/// The label as it appears in a sentence: without mnemonic and ellipsis.
 QString spoken(QString label)
 {
     return label.remove(QRegularExpression("\\(&.\\)|&|\\.\\.\\.|…"));
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Locales, CataloguesTestNone,
                          testing::Values(Row{"C", ""}, Row{"en_GB", ""}, Row{"en_US", ""}, Row{"sv_SE", ""}),
                          nameOf);
 
-TEST(CataloguesLocaleTest, qtNamesChineseByItsCountry)
+TEST(CataloguesLocaleTest, qtAddsTheCountryAndDropsTheScript)
 {
     EXPECT_EQ(QLocale("zh_Hant_HK").name().toStdString(), "zh_HK");
     EXPECT_EQ(QLocale("zh").name().toStdString(), "zh_CN");

@@ -1,4 +1,4 @@
-// The wear figures under the names that the properties dialog has for them.
+// The wear functions of propertyDialogEx.
 #include "propertyDialog.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ namespace {
 
 constexpr UINT notKnown = 0xFFFFFFFF;
 
-TEST(DialogProductLife, IsTheUsedShareCutToTwoDecimals)
+TEST(DialogProductLife, IsTheUsedShareTruncatedToTwoDecimals)
 {
     double life = -1;
     EXPECT_TRUE(propertyDialogEx::CalcProductLife(1, 3, &life));
@@ -38,7 +38,7 @@ TEST(DialogDriveLife, IsThatOfTheMostWornPart)
     EXPECT_DOUBLE_EQ(life, 90.0);
 }
 
-TEST(DialogWearDeathTest, NowhereToWriteStopsTheProcess)
+TEST(DialogWearDeathTest, ANullOutputStopsTheProcess)
 {
     EXPECT_DEATH(propertyDialogEx::CalcProductLife(1, 2, nullptr), "Assertion");
     EXPECT_DEATH(propertyDialogEx::CalcDriveLifeValue(PUBMAINTINFODRIVE(), nullptr), "Assertion");
