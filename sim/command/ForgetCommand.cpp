@@ -1,4 +1,4 @@
-// udsim forget SCENARIO: removes the publishers that a room of this scenario registered.
+// udsim forget SCENARIO: removes the publishers that udsim registered for this scenario.
 #include <sys/socket.h>
 
 #include "InstallationFiles.h"

@@ -1,4 +1,4 @@
-// udsim record and udsim replay: sessions with a real service or server, kept and played back.
+// udsim record and udsim replay: record sessions with a real service or server, and replay them.
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -21,7 +21,7 @@ namespace {
 constexpr unsigned RIGHTS = 0666;
 constexpr char DEFAULT_LISTEN[] = "127.0.0.1";
 
-/// Stands in the place of the service's socket, which is reached under another name meanwhile.
+/// Replaces the service's socket by one of its own. Meanwhile the service's socket has another name.
 class ServicePlace
 {
 public:
@@ -33,7 +33,7 @@ public:
         leave();
     }
 
-    /// A socket in the service's place; not open, with the reason, when it cannot be taken.
+    /// Returns a socket at the service's path; not open, with the reason in `error`, on failure.
     Descriptor take(std::string& error)
     {
         if (isServed(SOCK_STREAM, SERVICE_SOCKET)) {
@@ -41,7 +41,7 @@ public:
                 error = std::string(SERVICE_SOCKET) + ": " + std::strerror(errno);
                 return {};
             }
-        } else if (!isServed(SOCK_STREAM, aside())) { // a recorder that was killed leaves it there
+        } else if (!isServed(SOCK_STREAM, aside())) { // left by a recorder that was killed
             error = "no service listens at " + std::string(SERVICE_SOCKET);
             return {};
         }
@@ -51,7 +51,7 @@ public:
         return bound;
     }
 
-    /// Gives the place back, unless a service that was started anew has taken it.
+    /// Restores the service's socket, unless a restarted service has created a new one.
     void leave()
     {
         if (!m_taken) {
@@ -80,7 +80,7 @@ public:
 private:
     using File = std::pair<dev_t, ino_t>;
 
-    /// Which file stands in the place.
+    /// Identifies the file at the service's path.
     static std::optional<File> whatIsThere()
     {
         struct stat found{};
@@ -92,10 +92,10 @@ private:
     std::optional<File> m_ours;
 };
 
-/// What a recording is made of.
+/// The other side of a recording.
 struct Source
 {
-    std::optional<Address> server; ///< left out: the service
+    std::optional<Address> server; ///< empty: the service
     Address listen;
 };
 

@@ -1,4 +1,4 @@
-// udsim SCENARIO: the room, until it is told to end.
+// udsim SCENARIO: runs the room until a signal ends it.
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -27,7 +27,7 @@ bool parseSpeed(const std::string& text, double& speed)
     return failure == std::errc() && stopped == end && speed > 0 && speed <= HIGHEST_SPEED;
 }
 
-/// Where the room's lines go. On a terminal they wait for the next redraw of the jobs below them.
+/// Prints the room's lines. On a terminal they wait for the next redraw of the jobs below them.
 class Display
 {
 public:
@@ -41,7 +41,7 @@ public:
         m_lines.push_back(line);
     }
 
-    /// On a terminal: brings out what has waited, and the jobs.
+    /// On a terminal: prints the waiting lines, and the jobs.
     void redraw(const std::vector<JobProgress>& jobs)
     {
         std::vector<std::string> lines;
@@ -51,7 +51,7 @@ public:
         }
         const TerminalSize size = sizeOf(STDOUT_FILENO);
         for (std::string& line : lines) {
-            line = fit(line, columnsOf(line)); // names come from clients: no control characters
+            line = fit(line, columnsOf(line)); // names come from clients: removes control characters
         }
         const std::string bytes = m_screen.frame(lines, progressLines(jobs, size.columns, size.rows - 1));
         std::fwrite(bytes.data(), 1, bytes.size(), stdout);
@@ -66,7 +66,7 @@ public:
 private:
     const bool m_live = isLiveTerminal(STDOUT_FILENO);
     Screen m_screen;
-    std::mutex m_mutex; ///< guards what follows
+    std::mutex m_mutex; ///< guards the members below
     std::vector<std::string> m_lines;
 };
 
@@ -102,7 +102,7 @@ bool registersAny(const Scenario& scenario)
                        [](const ServerSetup& setup) { return setup.machine.registered; });
 }
 
-/// A word as a shell takes it.
+/// Quotes a word for the shell if necessary.
 std::string quotedForShell(const std::string& word)
 {
     constexpr char PLAIN[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789/._-+:@%,=";

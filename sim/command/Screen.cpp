@@ -11,7 +11,7 @@ namespace udsim {
 namespace {
 
 constexpr char CLEAR_BELOW[] = "\x1b[J";
-constexpr char CLEAR_LINE[] = "\x1b[K"; ///< from here on
+constexpr char CLEAR_LINE[] = "\x1b[K"; ///< from the cursor on
 
 std::string up(size_t lines)
 {
@@ -27,13 +27,13 @@ std::string Screen::frame(const std::vector<std::string>& lines, const std::vect
     }
     std::string bytes = "\r" + up(m_block.size());
     if (!lines.empty()) {
-        bytes += CLEAR_BELOW; // a long one may take several rows
+        bytes += CLEAR_BELOW; // a long line may take several rows
     }
     for (const std::string& line : lines) {
         bytes += line + "\n";
     }
     for (const std::string& line : block) {
-        bytes += line + CLEAR_LINE + "\n"; // written over: what stays the same does not flicker
+        bytes += line + CLEAR_LINE + "\n"; // overwritten, so that unchanged text does not flicker
     }
     if (block.size() < m_block.size()) {
         bytes += CLEAR_BELOW;

@@ -1,4 +1,4 @@
-// A terminal whose last lines show how things stand, below the lines of what happened.
+// A terminal whose last lines show the present state, below a log of lines.
 #pragma once
 
 #include <cstddef>
@@ -7,16 +7,16 @@
 
 namespace udsim {
 
-/// Composes what is written to the terminal; writes nothing itself.
+/// Composes the output for the terminal; writes nothing itself.
 class Screen
 {
 public:
-    /// The bytes that put the new lines above and this block at the bottom; none when nothing has changed.
-    /// The block's lines have to be shorter than the terminal is wide, and fewer than it is high.
+    /// Returns the bytes that print the new lines above and this block at the bottom; empty if nothing
+    /// changed. The block's lines must be shorter than the terminal's width, and fewer than its height.
     std::string frame(const std::vector<std::string>& lines, const std::vector<std::string>& block);
 
 private:
-    std::vector<std::string> m_block; ///< as it stands there now
+    std::vector<std::string> m_block; ///< as displayed
 };
 
 struct TerminalSize
@@ -25,9 +25,9 @@ struct TerminalSize
     size_t rows = 24;
 };
 
-/// Lines can be redrawn on this descriptor: it is a terminal, and one that can.
+/// Returns whether lines can be redrawn on this descriptor: it is a terminal, and not a dumb one.
 bool isLiveTerminal(int fd);
-/// 80 by 24 when it cannot be had.
+/// Returns 80 by 24 if the size is unknown.
 TerminalSize sizeOf(int fd);
 
 } // namespace udsim

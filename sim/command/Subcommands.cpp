@@ -14,7 +14,8 @@ namespace udsim {
 
 namespace {
 
-// What getopt_long() returns; ':' for an option without its value, '?' for any other mistake.
+// Return values of getopt_long(); it also returns ':' for an option without its value, '?' for any other
+// mistake.
 constexpr int END = -1;
 constexpr int WORD = 1;
 constexpr int OPTION = 2;
@@ -60,13 +61,13 @@ CommandLine::CommandLine(const Arguments& arguments, const std::vector<std::stri
     std::vector<char*> words{program.data()};
     for (const std::string& argument : arguments) {
         words.push_back(
-            const_cast<char*>(argument.c_str())); // getopt_long() changes none, and their order stays
+            const_cast<char*>(argument.c_str())); // getopt_long() neither changes nor reorders them
     }
     words.push_back(nullptr);
     const auto count = static_cast<int>(words.size() - 1);
     // A word is returned in its place ("-"), or ends the options ("+").
     const char* const mode = wordsEnd ? "+:" : "-:";
-    optind = 0; // glibc: begins a new command line
+    optind = 0; // glibc: starts a new command line
     int at = 1;
     for (int code = 0; m_mistake.empty(); at = optind) {
         code = ::getopt_long(count, words.data(), mode, options.data(), nullptr);
@@ -82,11 +83,11 @@ CommandLine::CommandLine(const Arguments& arguments, const std::vector<std::stri
     m_words.insert(m_words.end(), words.begin() + optind, words.end() - 1);
 }
 
-/// `text` is the argument with the option, `code` what getopt_long() made of it.
+/// `text` is the argument with the option, `code` the return value of getopt_long() for it.
 void CommandLine::takeOption(const std::string& text, int code, const std::vector<std::string>& known)
 {
     const std::string name = text.substr(0, text.find('='));
-    if (std::find(known.begin(), known.end(), name) == known.end()) { // abbreviations are no options either
+    if (std::find(known.begin(), known.end(), name) == known.end()) { // rejects abbreviations, too
         m_mistake = "unknown option \"" + name + "\"" + suggestion(name, known);
     } else if (code == OPTION) {
         m_options.emplace_back(name, optarg == nullptr ? "" : optarg);

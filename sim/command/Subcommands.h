@@ -1,5 +1,5 @@
-// What the program udsim can be told to do: one function a subcommand, with the arguments behind it. Each
-// prints for a person and yields the exit status.
+// The subcommands of udsim: one function each, which takes the arguments that follow the subcommand, prints
+// its output and returns the exit status.
 #pragma once
 
 #include <csignal>
@@ -26,25 +26,26 @@ int replaySession(const Arguments& arguments);
 int showHelp(const Arguments& arguments);
 int showVersion(const Arguments& arguments);
 
-/// Says on the error channel what is wrong with the command line, and how it is to be.
+/// Prints a mistake in the command line and a hint on standard error. Returns EXIT_USAGE.
 int wrongUsage(const std::string& what);
-/// Says on the error channel what went wrong; EXIT_FAILED.
+/// Prints the reason of a failure on standard error. Returns EXIT_FAILED.
 int failure(const std::string& what);
-/// The same for what only root may do: names root if the reason is a missing permission.
+/// The same for operations that require root: mentions root if the reason is a missing permission.
 int failureOfRights(const std::string& what);
-/// A line on the output, at once, also when several threads print.
+/// Prints a line on standard output and flushes it. Any thread.
 void printLine(const std::string& line);
 
 /// A command line: options with a value or without one, and the other words in their order.
 class CommandLine
 {
 public:
-    /// Both are lists of "--name". A value follows its option, or "=" in the same word. Options end with the
-    /// first word when `wordsEnd`, so that what follows may look like one. One thread at a time.
+    /// `valued` and `flags` are lists of "--name". A value is the next argument, or follows "=" in the same
+    /// one. With `wordsEnd`, the first word ends the options, so that later words may begin with "--". One
+    /// thread at a time.
     CommandLine(const Arguments& arguments, const std::vector<std::string>& valued,
                 const std::vector<std::string>& flags, bool wordsEnd = false);
 
-    /// What is wrong with it; empty when nothing is.
+    /// Describes the first mistake; empty if there is none.
     const std::string& mistake() const
     {
         return m_mistake;
@@ -64,7 +65,8 @@ private:
     Arguments m_words;
 };
 
-/// Blocks the signals that end the program, in every thread to come, and yields them for sigwait().
+/// Blocks the signals that end the program in this thread and every thread it starts. Returns them for
+/// sigwait().
 sigset_t holdSignals();
 
 } // namespace udsim

@@ -1,4 +1,4 @@
-// udsim tell: commands for a room that runs.
+// udsim tell: sends commands to a running udsim.
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -12,7 +12,7 @@ namespace udsim {
 
 namespace {
 
-/// "service off" concerns no publisher; all others do.
+/// "service on" and "service off" name no publisher; all other commands do.
 TellRequest tellRequestOf(const Arguments& words)
 {
     const bool forService =

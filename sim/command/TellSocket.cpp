@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr unsigned RIGHTS = 0600; ///< whoever runs the room
+constexpr unsigned RIGHTS = 0600; ///< only the user who runs the room
 constexpr size_t LONGEST_LINE = 4096;
 constexpr size_t LONGEST_REPLY = 1U << 20;
 constexpr std::chrono::seconds LINE_TIME{5};
@@ -23,7 +23,8 @@ constexpr char TELL[] = "tell\t";
 constexpr char DONE[] = "done\n";
 constexpr char REFUSED[] = "refused\n";
 
-/// Reads until `isWhole`, the end, the time or the size; whether it is whole.
+/// Reads until `isWhole` returns true, the end of the data, the timeout, or the maximum size. Returns whether
+/// the bytes are complete.
 template <class IsWhole>
 bool receiveWhole(int socket, std::chrono::milliseconds time, size_t longest, std::string& bytes,
                   IsWhole&& isWhole)

@@ -1,4 +1,4 @@
-// The socket of `udsim tell`, at which a running udsim takes commands. A connection carries one request line
+// The socket at which a running udsim accepts commands of `udsim tell`. A connection carries one request line
 // and one reply.
 #pragma once
 
@@ -12,14 +12,14 @@ namespace udsim {
 
 inline constexpr char DEFAULT_TELL_SOCKET[] = "/var/run/udsim.socket";
 
-/// A command for a running udsim, or the question how its publishers stand.
+/// A command for a running udsim, or a query for the state of its publishers.
 struct TellRequest
 {
-    bool list = false;     ///< the publishers with their states; or else
+    bool list = false;     ///< queries the states; the other members are unused
     std::string publisher; ///< the machine that `command` is for; empty: the service
     std::string command;
 
-    /// As a line, without its line feed.
+    /// Returns the request as a line, without the line feed.
     std::string line() const;
     static std::optional<TellRequest> parse(const std::string& line);
 };
@@ -27,13 +27,13 @@ struct TellRequest
 struct TellReply
 {
     bool done = false;
-    std::string text; ///< lines to print; on failure the reason
+    std::string text; ///< lines to print; the reason on failure
 };
 
 /// Carries out a request in the room.
 TellReply carryOut(Room& room, const TellRequest& request);
 
-/// Serves requests for a room at a path, until it is destroyed or stopped. A connection is closed after five
+/// Serves requests for a room at a path until it is stopped or destroyed. A connection is closed after five
 /// seconds or four kilobytes without the end of a line.
 class TellSocket
 {
@@ -43,7 +43,8 @@ public:
     TellSocket& operator=(const TellSocket&) = delete;
     ~TellSocket();
 
-    /// False, with the reason, when the socket cannot be made, or another udsim listens there.
+    /// Returns false, with the reason in `error`, if the socket cannot be created or another udsim listens
+    /// there.
     bool start(const std::string& path, std::string& error);
     void stop();
 
@@ -55,7 +56,8 @@ private:
     Conversations m_conversations;
 };
 
-/// Sends a request to the udsim at the path. Nothing, with the reason, when none replies within ten seconds.
+/// Sends a request to the udsim at the path. Returns nothing, with the reason in `error`, if there is no
+/// reply within ten seconds.
 std::optional<TellReply> sendTellRequest(const std::string& path, const TellRequest& request,
                                          std::string& error);
 

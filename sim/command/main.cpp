@@ -1,4 +1,4 @@
-// udsim: a room of simulated machines, commands for it, and recordings of real ones.
+// udsim: simulates publishers, sends commands to a running udsim, records and replays sessions.
 #include <csignal>
 #include <filesystem>
 #include <string>
@@ -42,7 +42,7 @@ int run(const Arguments& arguments)
 
 int main(int argc, char** argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a lost terminal ends nothing
-    ::umask(022);                  // as a service's: other users read its log and the setting files
+    std::signal(SIGPIPE, SIG_IGN); // a closed terminal does not end udsim
+    ::umask(022);                  // like a service: other users read its log and the setting files
     return udsim::run(udsim::Arguments(argv + 1, argv + argc));
 }

@@ -13,7 +13,7 @@ namespace udsim {
 
 namespace {
 
-constexpr int PAUSE = 100; // milliseconds, when the process is out of descriptors
+constexpr int PAUSE = 100; // milliseconds before the next accept when the process is out of descriptors
 constexpr size_t PIECE = 16'384;
 
 } // namespace
@@ -62,7 +62,7 @@ void Conversations::stop()
             }
         }
     }
-    for (One& talk : m_list) { // nobody adds or removes any more
+    for (One& talk : m_list) { // no lock: no other thread changes the list any more
         talk.thread.join();
     }
     m_list.clear();
@@ -100,7 +100,7 @@ void Conversations::take()
     }
 }
 
-/// False when there are too many.
+/// Returns false if there are too many connections.
 bool Conversations::serve(Descriptor socket)
 {
     const std::lock_guard lock(m_mutex);

@@ -1,4 +1,4 @@
-// Whoever connects to a listening socket, each served on a thread of its own.
+// Accepts connections on a listening socket and serves each on its own thread.
 #pragma once
 
 #include <functional>
@@ -14,23 +14,23 @@ namespace udsim {
 class Conversations
 {
 public:
-    /// More at a time are turned away: their connection ends at once.
+    /// Maximum number of open connections; further ones are closed at once.
     static constexpr size_t MOST = 64;
 
-    /// Called for each connection, with its socket, which does not block, and its number, from 1. The
-    /// connection ends when it returns. A read that fails or ends means that it has to return soon.
+    /// Called on the connection's thread with its non-blocking socket and its number, counted from 1. The
+    /// connection is closed when it returns. It must return soon after a read fails or reaches the end.
     using Talk = std::function<void(int socket, unsigned number)>;
 
-    /// `turnedAway`, if there is one, is called for each that is.
+    /// `turnedAway`, if set, is called for each connection above the maximum.
     explicit Conversations(Talk talk, std::function<void()> turnedAway = {});
     Conversations(const Conversations&) = delete;
     Conversations& operator=(const Conversations&) = delete;
     ~Conversations(); ///< stops
 
-    /// False, with the reason, when it cannot be started. `listener` does not block.
+    /// `listener` must be non-blocking. Returns false, with the reason in `error`, on failure.
     bool start(Descriptor listener, std::string& error);
-    /// Takes no more, cuts those there are, and waits until the last one has returned. Safe to call twice;
-    /// not to be called by a talk.
+    /// Stops accepting, shuts down all connections and joins their threads. Safe to call twice; must not be
+    /// called by a talk.
     void stop();
 
 private:
@@ -52,13 +52,13 @@ private:
     std::thread m_thread;
     unsigned m_count = 0;
 
-    std::mutex m_mutex; ///< guards what follows
+    std::mutex m_mutex; ///< guards the members below
     std::list<One> m_list;
     bool m_running = false;
 };
 
-/// Reads once what has come, waiting up to `milliseconds` (-1: for ever) for it, and appends it. False when
-/// the other side sends no more, the connection failed, or nothing came in time.
+/// Reads once, waiting up to `milliseconds` (-1: no limit) for data, and appends the data to `bytes`. Returns
+/// false on end of data, on failure and on timeout.
 bool receiveMore(int socket, int milliseconds, std::string& bytes);
 
 } // namespace udsim

@@ -34,7 +34,7 @@ public:
         return m_fd >= 0;
     }
 
-    /// For an owner who closes it.
+    /// Transfers ownership to the caller, who closes it.
     int release()
     {
         return std::exchange(m_fd, -1);

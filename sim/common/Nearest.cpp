@@ -10,14 +10,14 @@ namespace {
 
 constexpr size_t SHORTEST_BEGINNING = 3;
 constexpr size_t LETTERS_A_SLIP = 3;
-constexpr size_t LONGEST = 64; ///< what is longer is no slip of the pen
+constexpr size_t LONGEST = 64; ///< longer words get no suggestion
 
 char lower(char c)
 {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// Letters that are missing, too many, wrong, or swapped with their neighbour.
+/// Counts the letters that are missing, extra, wrong, or swapped with their neighbour.
 size_t slips(const std::string& left, const std::string& right)
 {
     std::vector<size_t> before;
@@ -49,7 +49,7 @@ size_t commonBeginning(const std::string& left, const std::string& right)
     return static_cast<size_t>(differ.first - left.begin());
 }
 
-/// How far apart they are, the nearest 0; `none` when nobody confuses them.
+/// Returns the distance between the words, 0 if they are equal but for case; `none` if they are unrelated.
 size_t distance(const std::string& word, const std::string& known, size_t none)
 {
     if (::strcasecmp(word.c_str(), known.c_str()) == 0) {

@@ -1,4 +1,4 @@
-// The known word that somebody who wrote another one may have meant.
+// Suggests the known word closest to a mistyped one.
 #pragma once
 
 #include <string>
@@ -6,9 +6,9 @@
 
 namespace udsim {
 
-/// ` (did you mean "disc-time"?)`, or nothing when no known word is near. Near is: the same but for capitals,
-/// a part of it between hyphens and dots, its beginning (three letters or more), or one slip for every three
-/// letters.
+/// Returns ` (did you mean "disc-time"?)`, or an empty text if no known word is close. A known word is close
+/// if `word` differs only in case, is its end after a hyphen or dot or its beginning (three letters or more),
+/// or has at most one typing error per three letters.
 std::string suggestion(const std::string& word, const std::vector<std::string>& known);
 
 /// `"A", "B", "C"`.

@@ -41,12 +41,12 @@ bool fits(const std::string& path, std::string& error)
     return true;
 }
 
-/// Nothing, or a socket that was left behind and goes.
+/// Removes a socket left behind at the path. Fails if another kind of file exists there.
 bool makeRoom(const std::string& path, std::string& error)
 {
     struct stat found{};
     if (::lstat(path.c_str(), &found) != 0) {
-        return true; // what else is wrong with the path, bind tells
+        return true; // bind() reports any other problem with the path
     }
     if (!S_ISSOCK(found.st_mode)) {
         error = path + ": is there already, and is no socket";
@@ -56,7 +56,7 @@ bool makeRoom(const std::string& path, std::string& error)
     return true;
 }
 
-/// Whoever is connected to this socket came to the address.
+/// Returns whether the client on this socket connected to the address.
 bool cameTo(int client, const addrinfo& address)
 {
     sockaddr_in here{};
@@ -68,7 +68,7 @@ bool cameTo(int client, const addrinfo& address)
            here.sin_addr.s_addr == there.sin_addr.s_addr;
 }
 
-/// Waits for a connection that is on its way; its error, 0 when it stands.
+/// Waits for a pending connection. Returns its error code, 0 on success.
 int awaitConnection(int socket, int watched)
 {
     std::array<pollfd, 2> entries{{{socket, POLLOUT, 0}, {watched, 0, 0}}};

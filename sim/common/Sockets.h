@@ -1,5 +1,4 @@
-// Sockets at a path and at an address: what is listened on and connected to, with errors as a person reads
-// them.
+// Unix-domain and TCP sockets: listens and connects, and reports errors as text for users.
 #pragma once
 
 #include <cstdint>
@@ -18,29 +17,30 @@ struct Address
     std::string host;
     uint16_t port = 0;
 
-    /// "10.0.0.5" or "10.0.0.5:8080"; nothing for anything else. Whether the host exists is not looked at.
+    /// Parses "10.0.0.5" or "10.0.0.5:8080"; returns nothing for any other text. Does not resolve the host.
     static std::optional<Address> parse(const std::string& text, uint16_t defaultPort);
     std::string text() const; ///< "10.0.0.5:8080"
 };
 
-/// Somebody listens on the socket of this type (`SOCK_STREAM`, `SOCK_DGRAM`) at the path, if only with so
-/// many waiting that no more are let in.
+/// Returns whether a process listens on the socket of this type (`SOCK_STREAM`, `SOCK_DGRAM`) at the path,
+/// even if its backlog is full.
 bool isServed(int type, const std::string& path);
-/// A socket bound to the path, with these access rights; a stream socket listens. What a process that did not
-/// end in good order left at the path goes, if it is a socket. Not open, with the reason, when it cannot be
-/// made, or when another process listens there.
+/// Returns a socket bound to the path, with these access rights; a stream socket listens. A socket file that
+/// a killed process left at the path is removed. Not open, with the reason in `error`, if it cannot be
+/// created or another process listens there.
 Descriptor bindUnix(int type, const std::string& path, unsigned rights, std::string& error);
-/// A stream socket connected to the path; not open, with the reason, when nobody listens.
+/// Returns a stream socket connected to the path; not open, with the reason in `error`, if no process
+/// listens.
 Descriptor connectUnix(const std::string& path, std::string& error);
 
-/// A socket that listens at a numeric IPv4 address; not open, with the reason, when it cannot be had.
+/// Returns a socket that listens at a numeric IPv4 address; not open, with the reason in `error`, on failure.
 Descriptor listenTcp(const Address& address, std::string& error);
-/// A socket connected to the address, which may be a name, for a client on the socket `watched`; not open,
-/// with the reason, when that fails or takes more than ten seconds, when `watched` ends meanwhile, or when
-/// the client came to this very address, so that its connection would go round in a circle.
+/// Returns a socket connected to the address, whose host may be a name, for a client on the socket `watched`.
+/// Not open, with the reason in `error`, on failure, after ten seconds, if `watched` closes meanwhile, or if
+/// the client connected to this same address, which would be a loop.
 Descriptor connectTcp(const Address& address, int watched, std::string& error);
 
-/// Sends everything, waiting for room if need be; false when the connection has ended.
+/// Sends all bytes, waiting while the socket's buffer is full. Returns false if the connection has ended.
 bool sendAll(int socket, std::string_view bytes);
 
 } // namespace udsim

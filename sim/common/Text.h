@@ -1,4 +1,4 @@
-// Words and numbers of the text files and commands.
+// Parses words and numbers of text files and commands.
 #pragma once
 
 #include <cstdint>
@@ -10,19 +10,20 @@
 
 namespace udsim {
 
-/// Without the blanks, tabs and carriage returns at both ends.
+/// Removes blanks, tabs and carriage returns at both ends.
 std::string trim(std::string_view text);
-/// The first word, and the rest without the blanks around it.
+/// Returns the first word, and the trimmed rest.
 std::pair<std::string, std::string> splitFirstWord(std::string_view text);
-/// The pieces between the separators, trimmed; a text without any is one piece.
+/// Returns the trimmed pieces between the separators; a text without a separator is one piece.
 std::vector<std::string> split(std::string_view text, char separator);
-/// The lines, without their line feeds; a line feed at the end opens no further line.
+/// Returns the lines without their line feeds; a line feed at the end adds no empty line.
 std::vector<std::string> splitLines(std::string_view text);
-/// A whole decimal number ("19") or a hexadecimal one ("0x13") up to `highest`; nothing for anything else.
+/// Parses a decimal ("19") or hexadecimal ("0x13") integer up to `highest`; nothing for any other text.
 std::optional<uint64_t> parseNumber(std::string_view text, uint64_t highest);
-/// A time with its unit, in milliseconds: "250ms", "8s", "2m", at most a day; nothing for anything else.
+/// Parses a time with its unit ("250ms", "8s", "2m"), at most a day, to milliseconds; nothing for any other
+/// text.
 std::optional<uint64_t> parseDuration(std::string_view text);
-/// "yes" or "no"; nothing for anything else.
+/// Parses "yes" or "no"; nothing for any other text.
 std::optional<bool> parseYesNo(std::string_view text);
 
 } // namespace udsim
