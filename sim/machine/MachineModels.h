@@ -1,4 +1,4 @@
-// The models of local publishers, and what differs between them.
+// The models of local publishers and their differences.
 #pragma once
 
 #include <cstdint>
@@ -9,26 +9,26 @@ namespace udsim {
 
 struct Model
 {
-    const char* name;    ///< as a scenario names it
+    const char* name;    ///< the "model" of a scenario
     uint32_t deviceType; ///< "DPType" of the device key
     unsigned drives;
     unsigned stackers;       ///< 4, or 3 for the models without an external one
     bool bluRay;             ///< takes BD-R
     bool bluRayXl;           ///< takes BD-R TL and QL as well
-    bool maintenanceBox;     ///< has one that can be changed
+    bool maintenanceBox;     ///< has a replaceable one
     bool highPrecision;      ///< counts printable discs in high precision
-    const char* modes;       ///< digits of the publish modes it knows
-    const char* printerName; ///< of its printer's driver
+    const char* modes;       ///< digits of the supported publish modes
+    const char* printerName; ///< name of the printer driver
     const char* driveName;
 
     bool supportsMode(uint64_t mode) const;
-    /// Write speeds as the device key keeps them: "CD-R:40,32;DVD-R:12,8".
+    /// Write speeds in the format of the device key: "CD-R:40,32;DVD-R:12,8".
     std::string writeSpeeds() const;
 };
 
-/// Every model, the oldest first.
+/// All models, the oldest first.
 std::span<const Model> models();
-/// The model of this name; null when there is none.
+/// Returns the model of this name, or null.
 const Model* findModel(const std::string& name);
 
 } // namespace udsim

@@ -67,7 +67,7 @@ size_t widthOf(gunichar c)
     return g_unichar_iszerowidth(c) != 0 ? 0 : g_unichar_iswide(c) != 0 ? 2 : 1;
 }
 
-/// Valid UTF-8 without control characters.
+/// Returns the text as valid UTF-8, with each control character replaced by '?'.
 std::string shown(const std::string& text)
 {
     gchar* const valid = g_utf8_make_valid(text.c_str(), -1);
@@ -83,7 +83,7 @@ std::string shown(const std::string& text)
     return result;
 }
 
-/// The beginning that takes up to so many columns; `taken` is how many it does.
+/// Returns the beginning that fits into `columns`; `taken` receives the columns that it occupies.
 std::string beginning(const std::string& text, size_t columns, size_t& taken)
 {
     taken = 0;
@@ -144,7 +144,7 @@ std::vector<std::string> progressLines(const std::vector<JobProgress>& jobs, siz
         title = std::max(title, std::min(WIDEST_JOB, columnsOf(job.job)));
         disc = std::max(disc, discText(job).size());
     }
-    const size_t columns = width > 0 ? width - 1 : 0; // the last one makes some terminals go on to a new line
+    const size_t columns = width > 0 ? width - 1 : 0; // some terminals wrap after the last column
     const size_t texts = name + title + disc + PERCENT + WIDEST_STATE + 5 * GAP_WIDTH;
     const size_t barWidth = columns > texts ? std::min(WIDEST_BAR, columns - texts) : 0;
     const size_t shownJobs = jobs.size() <= height ? jobs.size() : std::max<size_t>(height, 1) - 1;

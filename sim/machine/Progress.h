@@ -1,4 +1,4 @@
-// How far the jobs in the room have come, as lines for a person to watch.
+// The progress of the running jobs, as lines for the terminal.
 #pragma once
 
 #include <cstdint>
@@ -10,27 +10,27 @@
 
 namespace udsim {
 
-/// The job that a machine is at.
+/// The active job of a machine.
 struct JobProgress
 {
     std::string publisher; ///< as users see it
     std::string job;
-    uint32_t disc = 0;    ///< the present one, from 1
-    uint32_t discs = 0;   ///< of the job; 0: it counts none
+    uint32_t disc = 0;    ///< the current one, counted from 1
+    uint32_t discs = 0;   ///< of the job; 0: the job counts no discs
     uint32_t percent = 0; ///< of the whole job
     std::string state;    ///< "writing", "paused", "error 19"
 };
 
-/// Nothing when no job is under way.
+/// Returns nothing if no job is active.
 std::optional<JobProgress> progressOf(const Publisher& publisher);
 
-/// One line a job, in columns: publisher, job, disc, bar, percent and state. Each is shorter than `width`
-/// columns; of more than `height` jobs the last line tells how many there are besides.
+/// Returns one line per job, in columns: publisher, job, disc, bar, percent and state. Each line is shorter
+/// than `width` columns. With more than `height` jobs, the last line is the number of the remaining ones.
 std::vector<std::string> progressLines(const std::vector<JobProgress>& jobs, size_t width, size_t height);
 
-/// How many columns a UTF-8 text takes on a terminal.
+/// Returns how many columns a UTF-8 text occupies on a terminal.
 size_t columnsOf(const std::string& text);
-/// The text without control characters and broken UTF-8, cut or filled with blanks to so many columns.
+/// Replaces control characters and invalid UTF-8, and cuts or pads the text to this number of columns.
 std::string fit(const std::string& text, size_t columns);
 
 } // namespace udsim

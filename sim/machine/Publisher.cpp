@@ -9,12 +9,12 @@ namespace udsim {
 
 namespace {
 
-constexpr uint32_t DISCS_PER_INK_PERCENT = 2; ///< every second print costs one cartridge one percent
+constexpr uint32_t DISCS_PER_INK_PERCENT = 2; ///< every second print uses one percent of one cartridge
 constexpr uint32_t PRINTS_PER_PERCENT = 12;
 constexpr uint32_t CLEANING_INK = 3; ///< percent of every cartridge
 constexpr size_t MOST_ENDED_KEPT = 100;
 
-/// Where in the work on one disc a phase begins, in percent, and where the next one does.
+/// The part of the work on one disc that a phase takes, in percent; `to` is the start of the next phase.
 struct PhaseSpan
 {
     Phase phase;
@@ -22,7 +22,7 @@ struct PhaseSpan
     uint64_t to;
 };
 
-/// How far the present disc, or the cleaning, has come.
+/// Returns the progress of the current disc, or of the cleaning.
 uint64_t percentOf(const Job& job)
 {
     return std::min<uint64_t>(99, job.discTime * 100 / job.roundTime);
@@ -56,7 +56,7 @@ PhaseSpan phaseOf(const Job& job)
     }
 }
 
-/// What a job that meets this code remembers of it.
+/// Returns the `history` bits that a job gets from this error code.
 uint32_t historyOf(uint32_t code)
 {
     switch (code) {
@@ -198,7 +198,7 @@ void Publisher::startNext()
     }
 }
 
-/// Where the job's discs come from: a nozzle check takes those of stacker 1 only.
+/// Returns the stacker that the job takes discs from; a nozzle check uses stacker 1 only.
 Stacker* Publisher::input(const Job& job)
 {
     const auto end = job.isNozzleCheck() ? m_state.stackers.begin() + 1 : m_state.stackers.end();
@@ -207,8 +207,8 @@ Stacker* Publisher::input(const Job& job)
     return found == end ? nullptr : &*found;
 }
 
-/// Where they go: the first stacker with room, of those that a nozzle check names if the machine ejects to
-/// any of them.
+/// Returns the first output stacker with room. A nozzle check is limited to its destinations, if the machine
+/// ejects to any of them.
 Stacker* Publisher::output(const Job& job)
 {
     uint64_t outputs = 0;
@@ -224,7 +224,7 @@ Stacker* Publisher::output(const Job& job)
     return nullptr;
 }
 
-/// Why the next disc, or the cleaning, cannot be begun; 0: it can.
+/// Returns the error code that prevents the next disc, or the cleaning; 0 if there is none.
 uint32_t Publisher::obstacle(const Job& job)
 {
     if (!job.isCleaning() && input(job) == nullptr) {
@@ -236,7 +236,8 @@ uint32_t Publisher::obstacle(const Job& job)
     return (job.prints() || job.isCleaning()) && printableDiscs() == 0 ? result::INK_EMPTY : 0;
 }
 
-/// Takes a disc from a stacker, unless it is a cleaning; or stops with the reason why that cannot be.
+/// Takes a disc from a stacker, except for a cleaning. If the work cannot begin, sets the error, pauses the
+/// job and returns false.
 bool Publisher::begin(Job& job)
 {
     if (const uint32_t reason = obstacle(job); reason != 0) {
@@ -284,8 +285,8 @@ void Publisher::useInk(const Job& job)
     }
 }
 
-/// What was pending becomes so; a job that runs into a hindrance pauses. The disc that was in work, if any,
-/// is taken up again when the job goes on.
+/// Completes a pending state change; a job that meets an error pauses. The current disc, if any, continues
+/// when the job does.
 void Publisher::settle(Job& job)
 {
     switch (job.status) {
@@ -302,7 +303,7 @@ void Publisher::settle(Job& job)
     }
 }
 
-/// The job ends so, and jobs that ended long ago are forgotten. `job` is not to be used behind this call.
+/// Ends the job with this status and removes the oldest ended jobs. `job` is invalid after this call.
 void Publisher::end(Job& job, uint64_t status)
 {
     job.status = status;

@@ -1,4 +1,4 @@
-// One simulated machine: its state, its jobs, and what time does to them. No sockets, no files, no clock.
+// One simulated machine: its state, its jobs, and their progress over time. No sockets, no files, no clock.
 #pragma once
 
 #include <array>
@@ -15,16 +15,16 @@ struct JobSetup
 {
     std::string name = "Disc";
     uint32_t copies = 1;
-    uint64_t type = 3;                         ///< 1 write, 2 print, 3 both; or one of the maintenance jobs
-    std::string id = {};                       ///< empty: the machine counts one up
-    uint64_t destinations = 0;                 ///< stackers that a nozzle check may be ejected to, a sum
-    uint32_t number = 0;                       ///< by which a server calls it; 0: the machine counts one up
-    std::optional<std::string> reference = {}; ///< the submitter's own id, which may be none; left out: `id`
+    uint64_t type = 3;         ///< 1 write, 2 print, 3 both; or a maintenance job type
+    std::string id = {};       ///< empty: the machine assigns the next one
+    uint64_t destinations = 0; ///< stackers that a nozzle check may eject to, a sum of bits
+    uint32_t number = 0;       ///< the server's job number; 0: the machine assigns the next one
+    std::optional<std::string> reference = {}; ///< the submitter's id, possibly empty; nothing: same as `id`
     std::string person = "udsim";
 
-    /// The printer's head is cleaned; no disc is moved.
+    /// A head cleaning, which moves no disc.
     static JobSetup cleaning(std::string id);
-    /// One disc of stacker 1 is printed with the pattern.
+    /// A nozzle check, which prints the pattern on one disc of stacker 1.
     static JobSetup nozzleCheck(std::string id, uint64_t destinations);
 };
 
@@ -35,22 +35,22 @@ struct Job
     uint64_t type = 0;
     uint32_t copies = 0;
     uint64_t status = 0;
-    uint64_t factor = 0;       ///< why it stands still; 0 when it does not, or stands on demand
+    uint64_t factor = 0;       ///< the error that stopped it; 0: it is not stopped, or stopped on request
     uint32_t completed = 0;    ///< discs
-    uint64_t discTime = 0;     ///< milliseconds spent on the present disc, or on the cleaning
+    uint64_t discTime = 0;     ///< milliseconds spent on the current disc, or on the cleaning
     uint64_t roundTime = 0;    ///< milliseconds that a disc, or the cleaning, takes
     uint64_t destinations = 0; ///< of a nozzle check
-    uint32_t number = 0;       ///< by which a server calls it
-    std::string reference;     ///< the submitter's own id; empty when he gave none
+    uint32_t number = 0;       ///< the server's job number
+    std::string reference;     ///< the submitter's id; empty if none was given
     std::string person;        ///< the submitter
-    uint32_t history = 0;      ///< what it went through, a sum of `history` bits
+    uint32_t history = 0;      ///< errors so far, a sum of `history` bits
 
     bool isCleaning() const;
     bool isNozzleCheck() const;
     bool prints() const;
     bool isEnded() const;
-    bool isUnderWay() const; ///< on its way through the machine, also when its end is near
-    /// How often the work is done: once for a cleaning, which counts no discs.
+    bool isUnderWay() const; ///< running, also while a pause, stop or cancellation is pending
+    /// Returns how often the work is repeated: once for a cleaning, which counts no discs.
     uint32_t rounds() const;
 };
 
@@ -63,10 +63,10 @@ struct Stacker
     bool isOutput() const;
 };
 
-/// How a machine stands at the beginning.
+/// The initial state of a machine.
 struct PublisherSetup
 {
-    std::string name;      ///< as the scenario calls it
+    std::string name;      ///< in the scenario
     std::string shownName; ///< as users see it
     const Model* model = nullptr;
     std::string guid;
@@ -77,22 +77,22 @@ struct PublisherSetup
     uint32_t error = 0;
     uint32_t mode = 0;
     uint32_t usbMode = 0;
-    uint32_t maintenanceBox = 0; ///< percent that is free
-    uint32_t printCount = 0;     ///< printed before
+    uint32_t maintenanceBox = 0; ///< free percentage
+    uint32_t printCount = 0;     ///< discs printed before
     uint64_t discTime = 0;       ///< milliseconds a disc takes
     uint64_t cleaningTime = 0;   ///< milliseconds a head cleaning takes
-    size_t mostJobs = 0;         ///< that the list takes
+    size_t mostJobs = 0;         ///< maximum length of the job list
     std::array<uint32_t, 6> ink{};
     std::array<Stacker, 4> stackers{};
     std::vector<JobSetup> jobs;
 
-    /// A machine of this model as it leaves the works, with the stackers of its publish mode 0.
+    /// Returns a machine of this model with factory settings and the stackers of publish mode 0.
     static PublisherSetup ofModel(const Model& model);
-    /// Sets the mode, and the stackers as that mode wants them.
+    /// Sets the mode, and the stackers as that mode requires.
     void setMode(uint32_t newMode);
 };
 
-/// What the machine is doing with the present disc.
+/// What the machine does with the current disc.
 enum class Phase
 {
     idle,
@@ -108,10 +108,10 @@ class Publisher
 public:
     static constexpr uint32_t STACKER_CAPACITY = 100;
     static constexpr uint32_t FULL_INK = 100; ///< percent
-    /// Of a local machine. The system passes 36 KB on in one piece on a stream socket, which is a list this
-    /// long with its header; a reader may be there between the pieces of a longer one.
+    /// Maximum for a local machine. The kernel passes 36 KB in one piece on a stream socket, which is the
+    /// size of this list with its header. A longer list could arrive at the reader in pieces.
     static constexpr size_t MAX_JOBS = 33;
-    static constexpr size_t MAX_ENDED_JOBS = 20; ///< older ones are forgotten
+    static constexpr size_t MAX_ENDED_JOBS = 20; ///< older ones are removed
 
     explicit Publisher(const PublisherSetup& setup);
 
@@ -132,16 +132,16 @@ public:
         return m_state.connected;
     }
 
-    /// The code with which the device stands still: 11 when it is not connected; 0: it works.
+    /// Returns the error code that stops the device: 11 if it is not connected, 0 if it works.
     uint32_t hindrance() const;
     Phase phase() const;
-    /// The drive, from 0, that the present disc goes to.
+    /// Returns the drive, counted from 0, of the current disc.
     unsigned activeDrive() const;
-    uint64_t progressPercent() const; ///< of the present phase
+    uint64_t progressPercent() const; ///< of the current phase
     size_t unfinishedJobs() const;
-    bool isWorking() const; ///< a job is under way, or pausing, stopping, cancelling
+    bool isWorking() const; ///< a job is running, pausing, stopping, cancelling or paused
     uint64_t remainingSeconds(const Job& job) const;
-    uint32_t printableDiscs() const; ///< by the emptiest cartridge
+    uint32_t printableDiscs() const; ///< limited by the emptiest cartridge
     uint32_t publishedDiscs() const
     {
         return m_published;
@@ -151,7 +151,7 @@ public:
         return m_state.printCount + m_printed;
     }
 
-    /// Lets one moment pass.
+    /// Advances the simulated time.
     void step(uint64_t milliseconds);
 
     void setConnected(bool connected);
@@ -161,25 +161,25 @@ public:
     void refill();
     void pause();
     void resume();
-    /// The new job's id; empty when the list is full.
+    /// Returns the new job's id; empty if the list is full.
     std::string addJob(const JobSetup& setup);
-    /// The next number of a job on a server; none comes twice.
+    /// Returns the next job number of a server; each number is unique.
     uint32_t nextNumber();
-    /// By its number; null when there is none.
+    /// Returns the job of this number, or null.
     const Job* byNumber(uint32_t number) const;
-    /// The first one that its submitter calls so; null when there is none, and for no id.
+    /// Returns the first job with this submitter's id; null if there is none or the id is empty.
     const Job* byReference(const std::string& reference) const;
-    /// The jobs that have finished or were cancelled since the last call (the last 100 of them).
+    /// Returns the jobs that were finished or cancelled since the last call (the last 100 of them).
     std::vector<Job> takeEndedJobs();
 
-    /// What a client may do; each yields a result code of the service.
+    /// Client operations; each returns a result code of the service.
     uint64_t stopJob(const std::string& id);
     uint64_t continueJob(const std::string& id);
     uint64_t cancelJob(const std::string& id);
     uint64_t cancelFailedJob(const std::string& id);
     uint64_t moveJobToFront(const std::string& id);
     uint64_t setMode(uint64_t mode);
-    /// The name and the stackers' media as the settings say now.
+    /// Applies the name and the stackers' media of the setting file.
     void applySettings(const std::string& shownName, const std::array<uint32_t, 4>& media);
 
 private:

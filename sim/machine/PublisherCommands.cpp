@@ -1,4 +1,4 @@
-// What befalls a machine from outside, and what its clients may ask of its jobs.
+// External events of a machine, and the operations of clients on its jobs.
 #include <algorithm>
 
 #include "Protocol.h"

@@ -1,4 +1,4 @@
-// How machines and their jobs stand at the beginning, and what a job and a stacker are.
+// The initial state of machines and jobs, and the properties of jobs and stackers.
 #include <utility>
 
 #include "Protocol.h"

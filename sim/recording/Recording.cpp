@@ -17,7 +17,7 @@ namespace udsim {
 namespace {
 
 constexpr char FIRST_WORDS[] = "udsim-recording 1 ";
-constexpr size_t SHORTEST_RUN = 4; ///< of zero bytes that are counted
+constexpr size_t SHORTEST_RUN = 4; ///< minimum number of zero bytes that are written as a count
 constexpr size_t LARGEST_MESSAGE = 64U << 20;
 constexpr std::array<std::pair<char, char>, 5> ESCAPES{
     {{'r', '\r'}, {'n', '\n'}, {'t', '\t'}, {'\\', '\\'}, {'"', '"'}}};
@@ -46,7 +46,8 @@ void appendQuoted(char byte, std::string& text)
     text += DIGITS[value % 16];
 }
 
-/// Takes one escape, whose backslash is gone, off `text`, and appends what it means; false when it is none.
+/// Removes one escape, without its backslash, from the start of `text` and appends its bytes. Returns false
+/// if it is invalid.
 bool takeEscape(std::string_view& text, size_t most, std::string& bytes)
 {
     if (text.starts_with("x") && text.size() >= 3) {
@@ -92,7 +93,7 @@ std::optional<uint64_t> parseSeconds(const std::string& text)
     return whole && rest ? std::optional(*whole * 1000 + *rest) : std::nullopt;
 }
 
-/// What is wrong with the line; empty when it was taken.
+/// Returns the mistake in the line; empty if it is valid.
 std::string parseLine(const std::string& line, Message& message)
 {
     const auto [time, behindTime] = splitFirstWord(line);

@@ -16,10 +16,10 @@ namespace udsim {
 namespace {
 
 constexpr size_t PIECE = 65'536;
-constexpr size_t MOST_WAITING = 256U << 10; ///< bytes of one direction that the receiver has not taken yet
-constexpr size_t MOST_HELD = 1U << 20;      ///< of a reply that is not whole
+constexpr size_t MOST_WAITING = 256U << 10; ///< bytes of one direction that the receiver has not read yet
+constexpr size_t MOST_HELD = 1U << 20;      ///< bytes of an incomplete reply
 constexpr int LONGEST_HOLD = 500;           ///< milliseconds for the next piece of a reply
-constexpr int LONGEST_SILENCE = 60'000; ///< milliseconds, behind a client that sends no more: it may wait yet
+constexpr int LONGEST_SILENCE = 60'000; ///< milliseconds after the client's end of data; it may still read
 
 /// One direction.
 struct Stream
@@ -28,17 +28,18 @@ struct Stream
     int to;
     Message::Kind kind;
     std::string waiting = {};
-    bool ended = false;  ///< nothing more comes
-    bool passed = false; ///< the receiver knows
+    bool ended = false;  ///< the sender has ended
+    bool passed = false; ///< the end was forwarded to the receiver
 };
 
-/// A header of the service with its payload: its client takes each in one read, so they go on in one piece.
+/// Returns whether a reply of the service is complete: header and payload are forwarded in one piece, because
+/// the client reads each with a single call.
 bool isWholeReply(const std::string& bytes)
 {
     return bytes.size() >= HEADER_SIZE && bytes.size() - HEADER_SIZE >= readU64(bytes, PAYLOAD_LENGTH_AT);
 }
 
-/// False when the connection has failed.
+/// Returns false if the connection has failed.
 bool receive(Stream& stream, Transcript& transcript)
 {
     std::array<char, PIECE> piece{};
@@ -65,7 +66,7 @@ bool transmit(Stream& stream)
     return true;
 }
 
-/// Carries both ways until one side is done.
+/// Forwards in both directions until one side ends.
 class Exchange
 {
 public:
@@ -88,7 +89,7 @@ private:
                m_back.waiting.size() < MOST_HELD && !isWholeReply(m_back.waiting);
     }
 
-    /// False at the end.
+    /// Returns false at the end.
     bool step()
     {
         const bool held = isHeld();
@@ -104,7 +105,7 @@ private:
              {m_there.to,
               static_cast<short>(reads(m_back, mostBack) | (m_there.waiting.empty() ? 0 : POLLOUT)), 0}}};
         if (m_back.ended && m_there.waiting.empty()) {
-            entries[1].fd = -1; // its end would be told over and over
+            entries[1].fd = -1; // poll() would report its end repeatedly
         }
         const int timeout = held ? LONGEST_HOLD : m_there.ended ? LONGEST_SILENCE : -1;
         const int ready = ::poll(entries.data(), entries.size(), timeout);
@@ -112,7 +113,7 @@ private:
             return errno == EINTR;
         }
         if (ready == 0) {
-            m_released = held; // what has come of the reply goes on
+            m_released = held; // forwards the incomplete reply
             return held;
         }
         return serve(entries[0].revents, entries[1].revents);
@@ -121,7 +122,7 @@ private:
     bool serve(short client, short other)
     {
         if ((client & (POLLERR | POLLNVAL)) != 0 || ((client & POLLHUP) != 0 && (client & POLLIN) == 0)) {
-            return false; // nobody is there to answer
+            return false; // the client is gone
         }
         if ((client & POLLIN) != 0 && !receive(m_there, m_transcript)) {
             return false;
@@ -144,7 +145,7 @@ private:
             ::shutdown(m_there.to, SHUT_WR);
         }
         if (m_back.ended && m_back.waiting.empty()) {
-            if (!m_there.ended) { // else it only follows the client
+            if (!m_there.ended) { // else the close is only a consequence of the client's
                 m_transcript.closed();
             }
             return false;
@@ -195,7 +196,8 @@ void Relay::carry(int client, unsigned number)
     }
     for (const int socket : {client, other.get()}) {
         const int on = 1;
-        ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on); // one that is not TCP's does without
+        ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on,
+                     sizeof on); // fails harmlessly on a Unix-domain socket
     }
     Transcript transcript(m_recorder, number);
     Exchange(client, other.get(), m_recorder.of() == Recording::Of::service, transcript).run();

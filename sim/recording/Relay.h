@@ -1,5 +1,4 @@
-// What stands between a client and the other side of a recording: bytes go through as they are, both ways at
-// once.
+// Forwards bytes unchanged between clients and the other side of a recording, in both directions at once.
 #pragma once
 
 #include <functional>
@@ -14,15 +13,15 @@ namespace udsim {
 class Relay
 {
 public:
-    /// Connects to the other side for a client; not open, with the reason, when that fails.
+    /// Connects to the other side for a client; not open, with the reason in `error`, on failure.
     using Connect = std::function<Descriptor(int client, std::string& error)>;
 
-    /// `note` is told what a person should know, on several threads at once.
+    /// `note` is called with messages for the user, on several threads at once.
     Relay(Recorder& recorder, Connect connect, std::function<void(const std::string&)> note);
 
-    /// Takes clients; see Conversations::start.
+    /// Accepts clients; see Conversations::start.
     bool start(Descriptor listener, std::string& error);
-    /// Cuts all connections, and writes down what they carried.
+    /// Closes all connections and writes their last messages to the recording.
     void stop();
 
 private:

@@ -16,13 +16,13 @@ namespace udsim {
 namespace {
 
 constexpr size_t LONGEST_HEAD = 64U << 10;
-constexpr size_t LONGEST_CHUNKED = 4U << 20; ///< it is kept until its end is found
+constexpr size_t LONGEST_CHUNKED = 4U << 20; ///< a chunked body is kept until its end is found
 constexpr char HEAD_END[] = "\r\n\r\n";
 constexpr char LINE_END[] = "\r\n";
-constexpr char LAST_CHUNK[] = "\r\n0\r\n\r\n"; ///< with the end of the line before it
+constexpr char LAST_CHUNK[] = "\r\n0\r\n\r\n"; ///< including the preceding line end
 constexpr char NOT_RECORDED[] = "HTTP/1.1 404 Not Recorded\r\nContent-Length: 0\r\n\r\n";
 
-/// The value of a header in a head; empty when it has none.
+/// Returns the value of a header; empty if the head does not contain it.
 std::string headerOf(const std::string& head, std::string_view name)
 {
     for (size_t at = head.find(LINE_END); at != std::string::npos; at = head.find(LINE_END, at)) {
@@ -35,7 +35,7 @@ std::string headerOf(const std::string& head, std::string_view name)
     return {};
 }
 
-/// "GET /webapp/x" of a request line; empty when it is none.
+/// Returns "GET /webapp/x" of a request line; empty if it is invalid.
 std::string methodAndTarget(const std::string& request)
 {
     const std::string line = request.substr(0, request.find(LINE_END));
@@ -96,7 +96,7 @@ RecordedAnswers::RecordedAnswers(const Recording& recording)
             last[message.connection] = exchanges.size();
             exchanges.emplace_back(question, Answered{});
         }
-        // What begins no request goes on with the one before: the rest of its body.
+        // Bytes that do not begin a request are the rest of the previous request's body.
         const auto place = last.find(message.connection);
         if (place == last.end() || message.kind == Message::Kind::ask) {
             continue;
@@ -176,7 +176,7 @@ void Replay::talk(int client)
             m_note("what came is no request");
             return;
         }
-        // Of a large body only as much is kept as is not yet known to belong to the request.
+        // The bytes of a large body are discarded as they arrive.
         size = *whole;
         if (size > 0) {
             question = questionOf(m_of, bytes);
@@ -197,7 +197,7 @@ void Replay::talk(int client)
     }
 }
 
-/// False when the connection ends with it.
+/// Returns false if the connection ends after the answer.
 bool Replay::answerOne(int client, const std::string& question)
 {
     Answered answer;
@@ -221,7 +221,7 @@ bool Replay::answerOne(int client, const std::string& question)
     if (!known) {
         return m_of == Recording::Of::server && sendAll(client, NOT_RECORDED);
     }
-    if (answer.bytes.empty() && !answer.closed) { // it kept silent then, and does again
+    if (answer.bytes.empty() && !answer.closed) { // the recorded side stayed silent, too
         std::string ignored;
         while (receiveMore(client, -1, ignored)) {
             ignored.clear();

@@ -1,4 +1,4 @@
-// The other side of a recording, played back: what was answered then is answered again.
+// Replays the other side of a recording: sends the recorded answers again.
 #pragma once
 
 #include <functional>
@@ -13,16 +13,16 @@
 
 namespace udsim {
 
-/// What the other side did about one request.
+/// The recorded answer to one request.
 struct Answered
 {
-    std::string bytes;   ///< its answer, as far as it was recorded; empty: there was none
-    bool whole = true;   ///< all of it was recorded
-    bool closed = false; ///< it ended the connection then
+    std::string bytes;   ///< as far as recorded; empty: there was no answer
+    bool whole = true;   ///< recorded completely
+    bool closed = false; ///< the other side ended the connection afterwards
 };
 
-/// The answers of a recording by what they were asked. Equal questions get theirs in the order of the
-/// recording; when they are used up, the last one again.
+/// The answers of a recording by question. Equal questions get their answers in the order of the recording;
+/// when these are used up, the last one is repeated.
 class RecordedAnswers
 {
 public:
@@ -30,11 +30,11 @@ public:
 
     struct Found
     {
-        const Answered* answer = nullptr; ///< null: this was never asked
-        bool again = false;               ///< the last one, once more
+        const Answered* answer = nullptr; ///< null: the question is not in the recording
+        bool again = false;               ///< the last answer, repeated
     };
     Found next(const std::string& question);
-    /// How many were recorded, and how many of these nobody has asked for.
+    /// The number of recorded answers, and of those not yet used.
     size_t size() const;
     size_t left() const;
 
@@ -48,26 +48,26 @@ private:
     std::map<std::string, Queue> m_queues;
 };
 
-/// What a request asks, as the key of its answers and in words: "control 13 of \"R\"", "GET /webapp/x".
-/// Of the service the whole frame counts, of a server the method and the target. Empty when the bytes begin
-/// no request.
+/// Returns the question of a request in words, which is the key of its answers: "control 13 of \"R\"",
+/// "GET /webapp/x". It covers the whole frame of a service request, and the method and target of a server
+/// request. Empty if the bytes do not begin a request.
 std::string questionOf(Recording::Of of, const std::string& request);
 
-/// How many bytes the first request in `bytes` has, its body included; 0: it is not whole yet; nothing: it is
-/// none, or its head is longer than 64 KiB, or its body has chunks and more than 4 MiB.
+/// Returns the size of the first request in `bytes`, including its body; 0 if it is not known yet; nothing if
+/// the request is invalid, its head is longer than 64 KiB, or its chunked body is longer than 4 MiB.
 std::optional<uint64_t> sizeOfRequest(Recording::Of of, const std::string& bytes);
 
 class Replay
 {
 public:
-    /// `note` gets a line for each request, on several threads at once.
+    /// `note` is called with a line for each request, on several threads at once.
     Replay(const Recording& recording, std::function<void(const std::string&)> note);
 
-    /// Takes clients; see Conversations::start.
+    /// Accepts clients; see Conversations::start.
     bool start(Descriptor listener, std::string& error);
-    /// Ends all connections.
+    /// Closes all connections.
     void stop();
-    /// How it went: so many answered, so many not in the recording, so much not asked for.
+    /// Returns a line with the numbers of answered requests, unknown requests and unused answers.
     std::string summary() const;
 
 private:
@@ -76,11 +76,11 @@ private:
 
     const Recording::Of m_of;
     std::function<void(const std::string&)> m_note;
-    mutable std::mutex m_mutex; ///< guards what follows
+    mutable std::mutex m_mutex; ///< guards the members below, except the last one
     RecordedAnswers m_answers;
     size_t m_answered = 0;
     size_t m_unknown = 0;
-    Conversations m_conversations; ///< last: its threads use all of the above
+    Conversations m_conversations; ///< the last member, because its threads use all others
 };
 
 } // namespace udsim

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::array<const char*, 4> SECRET_HEADERS{"authorization", "proxy-authorization", "cookie",
                                                     "set-cookie"};
-constexpr size_t LONGEST_NAME_KEPT = 24; ///< longer than every one of them
+constexpr size_t LONGEST_NAME_KEPT = 24; ///< longer than each of them
 constexpr char WORD_GETTER[] = "/UploadInfoGetter";
 constexpr char ANSWER[] = "HTTP";
 constexpr char INTERIM[] = "HTTP/1.1 1";
@@ -35,7 +35,7 @@ bool isGraphic(char c)
     return c > ' ' && c < 0x7F;
 }
 
-/// Blanks the words of the text from a place on.
+/// Blanks the words of the text from this position on.
 void blankWords(std::string& text, size_t from)
 {
     for (size_t at = from; at < text.size();) {
@@ -58,7 +58,7 @@ std::string utc()
     return text.data();
 }
 
-/// What a frame of the service says, for the reader.
+/// Describes a frame of the service for the comment in the recording.
 std::string meaningOf(const Message& message)
 {
     if (message.kind == Message::Kind::ask && message.bytes.size() == REQUEST_SIZE) {
@@ -128,7 +128,8 @@ std::string withoutTheWord(std::string answer)
     if (head == std::string::npos) {
         return answer;
     }
-    // An item of the reply is a status, its length and the word; in a chunked one a size line stands ahead.
+    // An item of the reply consists of a status, a length and the word. In a chunked reply, a size line
+    // precedes it.
     size_t body = head + sizeof HEAD_END - 1;
     if (const size_t chunked = answer.find("chunked", start); chunked < head) {
         body = std::min(answer.find(LINE_END, body), answer.size()) + sizeof LINE_END - 1;

@@ -1,4 +1,4 @@
-// What a recorder writes down, and what it keeps to itself.
+// Writes recordings, without passwords.
 #pragma once
 
 #include <chrono>
@@ -14,8 +14,8 @@
 
 namespace udsim {
 
-/// Passes bytes of one direction on with the values of "Authorization", "Proxy-Authorization", "Cookie" and
-/// "Set-Cookie" lines replaced by as many "*", however they are cut into pieces.
+/// Returns the bytes of one direction with the values of "Authorization", "Proxy-Authorization", "Cookie" and
+/// "Set-Cookie" lines replaced by the same number of "*". Lines may be split between calls.
 class Blanker
 {
 public:
@@ -24,41 +24,42 @@ public:
 private:
     char passOne(char byte);
 
-    std::string m_name;      ///< of the line at hand, in small letters, as far as it may matter
-    bool m_inName = true;    ///< no colon has come yet
-    bool m_secret = false;   ///< this line's value is one
+    std::string m_name;      ///< of the current line, in lower case, cut to the length of the known names
+    bool m_inName = true;    ///< no colon was read yet
+    bool m_secret = false;   ///< the value of this line is secret
     bool m_lineEnded = true; ///< the next byte begins a line
 };
 
-/// The request, or one of several in a row, is for the word that opens uploads.
+/// Returns whether one of the requests in `ask` queries the upload password.
 bool asksForTheWord(std::string_view ask);
-/// An answer in which that word is replaced by as many "*": every word of its body that is long enough to be
-/// it. What does not begin an answer is the rest of a body.
+/// Returns the answer with the upload password replaced by the same number of "*". This affects every word of
+/// the body that is long enough. Bytes that do not begin an answer are the rest of a body.
 std::string withoutTheWord(std::string answer);
 
-/// The file of a recording. Any thread.
+/// The file of a recording. All members except open() may be called from any thread.
 class Recorder
 {
 public:
     static constexpr uint64_t LARGEST_RECORDING = 256U << 20; ///< bytes of the file
-    static constexpr size_t MOST_OF_ASK = 64U << 10;          ///< kept of one
-    static constexpr size_t MOST_OF_ANSWER = 16U << 20;
+    static constexpr size_t MOST_OF_ASK = 64U << 10;          ///< bytes kept of one request
+    static constexpr size_t MOST_OF_ANSWER = 16U << 20;       ///< bytes kept of one answer
 
-    /// `note` is told, once, when nothing more can be written; `largest` is how many bytes the file may have.
+    /// `note` is called once when nothing more can be written. `largest` is the maximum size of the file in
+    /// bytes.
     explicit Recorder(std::function<void(const std::string&)> note, uint64_t largest = LARGEST_RECORDING);
 
-    /// Makes the file, which must not be there, readable for its owner alone. False, with the reason, when it
-    /// cannot be made.
+    /// Creates the file, which must not exist, readable only for its owner. Returns false, with the reason in
+    /// `error`, on failure.
     bool open(const std::string& path, Recording::Of of, std::string& error);
-    /// Its line, and ahead of it a comment for the reader, unless it is empty.
+    /// Writes the line of a message, preceded by the comment unless it is empty.
     void write(const Message& message, const std::string& comment);
-    /// A comment with the time and the connection.
+    /// Writes a comment with the time and the connection.
     void remark(unsigned connection, const std::string& text);
     Recording::Of of() const
     {
         return m_of;
     }
-    /// Nothing had to be left out.
+    /// Returns whether everything was written.
     bool isComplete() const;
     uint64_t now() const; ///< milliseconds since the beginning
 
@@ -77,13 +78,13 @@ private:
     const uint64_t m_largest;
     Recording::Of m_of = Recording::Of::service;
     std::chrono::steady_clock::time_point m_begun;
-    mutable std::mutex m_mutex; ///< guards what follows
+    mutable std::mutex m_mutex; ///< guards the members below
     std::unique_ptr<std::FILE, Close> m_file;
     uint64_t m_size = 0;
     bool m_full = false;
 };
 
-/// One connection's part of it: what comes from one side without a word of the other is one message.
+/// One connection's part of a recording. Consecutive bytes from one side are one message.
 class Transcript
 {
 public:
@@ -102,8 +103,8 @@ private:
     Recorder& m_recorder;
     Blanker m_askBlanker;
     Blanker m_answerBlanker;
-    std::string m_askEnd;     ///< of all that was asked, as long as a name may be cut
-    bool m_wordAsked = false; ///< and may come in any answer from here on: requests may run ahead of them
+    std::string m_askEnd;     ///< the end of the requests so far, where the servlet's name may be cut
+    bool m_wordAsked = false; ///< any later answer may contain the password: requests may be pipelined
     Message m_message;
 };
 
