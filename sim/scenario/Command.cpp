@@ -29,7 +29,8 @@ constexpr std::array<std::pair<const char*, Kind>, 6> PLAIN{{
     {"refill", Kind::refill},
 }};
 
-/// "cyan 40": which cartridge and how full, or the reason why it is neither.
+/// Parses "cyan 40", a cartridge and its level in percent. Returns nothing, with the reason in `error`, on a
+/// mistake.
 std::optional<Command> parseInk(const std::string& argument, std::string& error)
 {
     const auto [colour, percent] = splitFirstWord(argument);

@@ -1,4 +1,4 @@
-// What can befall a machine: the commands of events and of a test.
+// The commands for a machine, used by events, `udsim tell` and tests.
 #pragma once
 
 #include <cstdint>
@@ -17,15 +17,15 @@ struct Command
         online,
         offline,
         error,   ///< the device stops with error `number`
-        clear,   ///< the error is gone
+        clear,   ///< the error is cleared
         addJob,  ///< `job`
-        pause,   ///< the running job pauses behind its disc
-        resume,  ///< a paused job goes on
-        refill,  ///< input stackers full, output stackers empty, ink full, and an error about these is gone
-        ink,     ///< cartridge `index` at `number` percent
+        pause,   ///< the running job pauses after its disc
+        resume,  ///< a paused job continues
+        refill,  ///< fills input stackers and ink, empties output stackers, and clears an error about these
+        ink,     ///< cartridge `index` contains `number` percent
         stacker, ///< stacker `index` holds `number` discs
         service, ///< the service itself listens (`number` 1) or not (0)
-        server,  ///< the server of a network publisher listens (`number` 1) or is gone (0)
+        server,  ///< the server of a network publisher listens (`number` 1) or not (0)
     };
 
     Kind kind = Kind::clear;
@@ -40,11 +40,11 @@ struct Command
 
     /// The first words of all commands.
     static std::vector<std::string> words();
-    /// Reads a command's text; nothing, and the reason in `error`, when it is none.
+    /// Parses a command. Returns nothing, with the reason in `error`, on a mistake.
     static std::optional<Command> parse(const std::string& text, std::string& error);
 };
 
-/// Reads "Holiday photos, copies=5, type=print"; every part may be missing.
+/// Parses "Holiday photos, copies=5, type=print"; every part is optional.
 std::optional<JobSetup> parseJob(const std::string& text, std::string& error);
 
 } // namespace udsim

@@ -20,9 +20,9 @@ namespace udsim {
 namespace {
 
 constexpr size_t MOST_KEPT = 10'000;
-constexpr std::chrono::milliseconds LOOK{100}; ///< between two looks into the job folder
+constexpr std::chrono::milliseconds LOOK{100}; ///< real time between two scans of the job folder
 
-/// Appends to the latest ones.
+/// Appends an item and keeps only the latest ones.
 template <class Item>
 void keep(std::deque<Item>& latest, Item item)
 {
@@ -32,7 +32,7 @@ void keep(std::deque<Item>& latest, Item item)
     latest.push_back(std::move(item));
 }
 
-/// The fault, for one request; it is removed after its last one.
+/// Returns the fault for one request and removes it from the list after its last one.
 template <class AnyFault>
 AnyFault takeOnce(std::vector<AnyFault>& faults, typename std::vector<AnyFault>::iterator found)
 {
@@ -55,8 +55,7 @@ struct Room::State
     HttpDelivery takeHttpRequest(const HttpRequest& request);
     void takeDatagram(std::string_view datagram);
     void tick(std::chrono::milliseconds realTime);
-    /// Carries out `change` under the lock, and then everything that follows from it outside the machines
-    /// themselves.
+    /// Carries out `change` under the lock, and then updates files, sockets, log and notes accordingly.
     template <class Change>
     void alter(Change&& change);
 
@@ -67,7 +66,7 @@ struct Room::State
     bool listens() const;
     void settle(std::vector<std::string>& notes);
     void lookForJobs();
-    /// Hands the job to its machine; why not, if it cannot.
+    /// Adds the job to its machine. Returns the reason if that is not possible.
     std::string takeJob(const FoundFile& found, TakenFile& taken);
 
     const double speed;
@@ -81,22 +80,22 @@ struct Room::State
     mutable std::condition_variable changed;
     World world;
     std::vector<Fault> faults;
-    std::vector<bool> connected; ///< as the registry file says
+    std::vector<bool> connected; ///< as written to the registry file
     std::vector<HttpFault> networkFaults;
     std::deque<Request> requests;
     std::deque<HttpRequest> httpRequests;
     std::deque<LogEntry> logEntries;
     std::deque<TakenFile> takenFiles;
     JobInbox jobInbox{JOB_FOLDER};
-    std::set<std::string> jobIds; ///< of all job files so far
+    std::set<std::string> jobIds; ///< of all accepted job files
     std::chrono::milliseconds sinceLook{0};
     Diary diary;
-    bool serving = false; ///< the log says that the service runs
+    bool serving = false; ///< the service runs according to the log
     uint64_t uniqueNumber = 0;
-    double timeLeft = 0; ///< simulated milliseconds that make no whole one yet
+    double timeLeft = 0; ///< fraction of a simulated millisecond
     bool open = false;   ///< between start and stop
 
-    HttpServer httpServer; ///< both last: their threads use all of the above
+    HttpServer httpServer; ///< this and the next member are the last, because their threads use all others
     ControlService controlService;
 };
 
@@ -249,7 +248,7 @@ std::optional<HttpFault> Room::State::faultFor(const HttpRequest& request, const
     return std::nullopt;
 }
 
-/// The setting file says which device an id stands for. An id without one is looked up in the scenario.
+/// The setting file maps an id to a device. An id without a setting file is looked up in the scenario.
 Publisher* Room::State::publisherOf(const Request& request)
 {
     if (const auto setting = readSetting(request.publisher)) {

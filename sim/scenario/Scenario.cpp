@@ -26,7 +26,7 @@ constexpr std::array<std::pair<const char*, uint32_t>, 8> MEDIA{{
 }};
 
 constexpr uint64_t LARGEST_SCENARIO = 16U << 20;
-// Only what an unknown key may have been meant for.
+// Used only for suggestions for an unknown key.
 const std::vector<std::string> MACHINE_KEYS{"model",
                                             "name",
                                             "guid",
@@ -90,7 +90,7 @@ std::string addJobs(const Entry& entry, PublisherSetup& setup)
     return error;
 }
 
-/// "ink.cyan = 80" and "stacker1 = 50" mean what the commands "ink cyan 80" and "stacker 1 50" mean.
+/// "ink.cyan = 80" and "stacker1 = 50" are equivalent to the commands "ink cyan 80" and "stacker 1 50".
 std::string setSupply(const Entry& entry, PublisherSetup& setup)
 {
     std::string error;
@@ -113,7 +113,7 @@ std::string applyToMachine(const Entry& entry, PublisherSetup& setup, const std:
 {
     const std::string& key = entry.key;
     if (key == "model" || key == "mode") {
-        return {}; // taken before: the others build on them
+        return {}; // read before all other keys, which depend on these two
     }
     if (key == "name") {
         return setText(entry, LONGEST_NAME, setup.shownName);
@@ -168,7 +168,7 @@ std::string applyToMachine(const Entry& entry, PublisherSetup& setup, const std:
 
 namespace {
 
-/// What is wrong, with its line; empty when the publisher was added.
+/// Returns the mistake and its line; empty if the publisher was added.
 std::string addPublisher(const Section& section, Scenario& scenario)
 {
     const Entry* const model = find(section, "model");
@@ -301,7 +301,7 @@ std::optional<Scenario> Scenario::parse(const std::string& text, std::string& er
     }
     Scenario scenario;
     using Add = std::string (*)(const Section&, Scenario&);
-    // Publishers first: events and faults name them, wherever they stand in the text.
+    // Publishers first: events and faults may name publishers that follow in the text.
     constexpr std::array<std::pair<const char*, Add>, 5> KINDS{{
         {"publisher", addPublisher},
         {"network", addNetwork},

@@ -1,4 +1,4 @@
-// A scenario: which machines stand in the room, what happens to them when, and what goes wrong on the wire.
+// A scenario: the machines of a room, the events and their times, and the faults of connections.
 #pragma once
 
 #include <cstdint>
@@ -30,9 +30,10 @@ struct Scenario
     std::vector<ServerSetup> servers;
     std::vector<HttpFault> networkFaults;
 
-    /// Reads a scenario. Nothing on a mistake, which `error` names with its line: "line 7: ...".
+    /// Parses a scenario. Returns nothing on a mistake, with the mistake and its line in `error`: "line 7:
+    /// ...".
     static std::optional<Scenario> parse(const std::string& text, std::string& error);
-    /// The same of a file, whose name stands ahead of the line.
+    /// The same for a file; its path precedes the line in `error`.
     static std::optional<Scenario> load(const std::string& path, std::string& error);
 };
 

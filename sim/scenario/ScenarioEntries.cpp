@@ -31,7 +31,7 @@ std::string atLineOf(const std::string& path, const std::string& mistake)
 std::optional<std::string> readFile(const std::string& path, uint64_t most, std::string& error)
 {
     std::ifstream file(path, std::ios::binary);
-    file.peek(); // a folder opens, and fails here
+    file.peek(); // opening a folder succeeds, and reading it fails here
     if (!file.is_open() || file.bad()) {
         error = path + ": " + std::strerror(errno);
         return std::nullopt;

@@ -1,4 +1,4 @@
-// The pieces that a scenario's text is read by: sections, entries, and values of the usual kinds.
+// The elements of a scenario's text: sections, entries, and values of common types.
 #pragma once
 
 #include <cstdint>
@@ -32,27 +32,28 @@ inline constexpr size_t LONGEST_SERIAL = 31;
 
 /// "line 7: ..."
 std::string at(size_t line, const std::string& what);
-/// The same of a file, as editors and terminals open it: "room.udsim:7: ..."
+/// The same for a file, in the format that editors and terminals recognise: "room.udsim:7: ..."
 std::string atLineOf(const std::string& path, const std::string& mistake);
-/// All of a file; nothing, with the reason, when it cannot be read or is larger than `most` bytes.
+/// Returns the contents of a file; nothing, with the reason in `error`, if it cannot be read or is larger
+/// than `most` bytes.
 std::optional<std::string> readFile(const std::string& path, uint64_t most, std::string& error);
-/// A text that can stand in a setting file and in the registry file, and as a file name.
+/// Returns whether the text is valid in a setting file, in the registry file, and as a file name.
 bool isPlainText(const std::string& text, size_t longest);
-/// With leading zeros.
+/// Formats a number with leading zeros.
 std::string decimal(size_t number, size_t digits);
 
-/// Nothing on a mistake, which `error` names with its line.
+/// Returns nothing on a mistake, with the mistake and its line in `error`.
 std::optional<std::vector<Section>> readSections(const std::string& text, std::string& error);
-/// Null when the section has no such key.
+/// Returns null if the section does not contain the key.
 const Entry* find(const Section& section, const std::string& key);
 
-/// A publisher of this name stands in the room, local or not.
+/// Returns whether the scenario has a publisher of this name, local or network.
 bool isKnownPublisher(const Scenario& scenario, const std::string& name);
 bool isNetworkPublisher(const Scenario& scenario, const std::string& name);
-/// Another one has this name, GUID or regist id.
+/// Returns whether another publisher has this name, GUID or regist id.
 bool isTaken(const Scenario& scenario, const PublisherSetup& setup);
 
-// Each sets `target`, or says what is wrong with the entry.
+// Each sets `target`, or returns the mistake in the entry.
 std::string setYesNo(const Entry& entry, bool& target);
 std::string setTime(const Entry& entry, uint64_t& target);
 std::string setText(const Entry& entry, size_t longest, std::string& target);
@@ -70,13 +71,14 @@ std::string setNumber(const Entry& entry, uint64_t highest, Number& target)
 /// `unknown key "disk-time" of a publisher (did you mean "disc-time"?)`
 std::string unknownKey(const std::string& key, const std::string& owner,
                        const std::vector<std::string>& known);
-/// That the section, "the publisher", has no model, or the key that was meant to be it; with the line.
+/// Returns the mistake, with its line, that the section (`owner`: "the publisher") has no model, or the
+/// mistyped key.
 std::string modelIsMissing(const Section& section, const std::string& owner);
-/// `unknown publisher "Stdio A" (did you mean "Studio A"?)`; empty when the room has it.
+/// `unknown publisher "Stdio A" (did you mean "Studio A"?)`; empty if the scenario has this publisher.
 std::string unknownPublisher(const Scenario& scenario, const std::string& name);
 
-/// What is wrong with an entry about the machine itself; empty when it was taken. `others` are the keys that
-/// its section may have besides.
+/// Applies an entry about the machine itself. Returns the mistake in it; empty on success. `others` are the
+/// further keys of its section, for suggestions.
 std::string applyToMachine(const Entry& entry, PublisherSetup& setup,
                            const std::vector<std::string>& others = {});
 

@@ -13,12 +13,12 @@ namespace {
 constexpr uint64_t MOST_SPACE = 1'000'000; // MiB
 constexpr size_t FIRST_ADDRESS = 11;       // 127.0.0.11
 constexpr size_t LONGEST_VERSION = 31;
-// Only what an unknown key may have been meant for.
+// Used only for suggestions for an unknown key.
 const std::vector<std::string> NETWORK_KEYS{
     "host",       "listening",     "server-mode", "server-version", "web-version", "interface-version",
     "disc-space", "third-stacker", "drives-used", "retries",        "error-mark",  "known-kind"};
 
-/// An address of the loopback network.
+/// Accepts only an address of the loopback network.
 std::string setHost(const Entry& entry, std::string& target)
 {
     in_addr address{};
@@ -37,12 +37,12 @@ std::string setSpace(const Entry& entry, uint64_t& target)
     return mistake;
 }
 
-/// What is wrong with the entry; empty when it was taken.
+/// Returns the mistake in the entry; empty on success.
 std::string apply(const Entry& entry, ServerSetup& setup)
 {
     const std::string& key = entry.key;
     if (key == "model" || key == "server-mode") {
-        return {}; // taken before: the others build on them
+        return {}; // read before all other keys, which depend on these two
     }
     if (key == "host") {
         return setHost(entry, setup.host);

@@ -1,4 +1,4 @@
-// The sections of a scenario about network publishers.
+// The sections of a scenario for network publishers.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace udsim {
 
-/// What is wrong, with its line; empty when the network publisher, or the fault, was added.
+/// Returns the mistake and its line; empty if the network publisher, or the fault, was added.
 std::string addNetwork(const Section& section, Scenario& scenario);
 std::string addNetworkFault(const Section& section, Scenario& scenario);
 

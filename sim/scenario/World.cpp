@@ -11,7 +11,7 @@ namespace {
 
 constexpr uint64_t STEP = 50;
 
-/// A machine's state as a person would put it; progress of a disc is no change.
+/// Describes a machine's state in words. The progress of a disc is not included.
 std::string describe(const Publisher& publisher)
 {
     std::string text;

@@ -1,5 +1,4 @@
-// The room without its doors: machines, events and simulated time. Deterministic; no sockets, no files, no
-// clock.
+// The machines, events and simulated time of a room. Deterministic; no sockets, no files, no clock.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +10,10 @@
 
 namespace udsim {
 
-/// How a machine stands, as a person would put it.
+/// The state of a machine, in words.
 struct MachineState
 {
-    std::string name;      ///< as the scenario calls it
+    std::string name;      ///< in the scenario
     std::string shownName; ///< as users see it
     std::string state;     ///< "ready, 2 waiting"
 };
@@ -24,17 +23,18 @@ class World
 public:
     explicit World(const Scenario& scenario);
 
-    /// Lets time pass in steps of 50 ms; a rest waits for the next call. Events that are due befall their
-    /// machines.
+    /// Advances the time in steps of 50 ms, keeping the remainder for the next call, and carries out the
+    /// events that are due.
     void advance(uint64_t milliseconds);
-    /// Befalls the named machine, or the service. False when it is refused, or the job list is full.
+    /// Applies the command to the named machine, or to the service. Returns false if it is refused or the job
+    /// list is full.
     bool apply(const std::string& publisher, const Command& command);
-    /// Why the command does not go with this publisher: there is none of that name, or it has no server.
-    /// Empty when it does.
+    /// Returns why the command does not apply to this publisher: the name is unknown, or it has no server.
+    /// Empty if it applies.
     std::string refusalOf(const std::string& publisher, const Command& command) const;
-    /// Of every machine: the publishers, and then the servers.
+    /// Returns the states of all machines: the publishers, and then the servers.
     std::vector<MachineState> states() const;
-    /// The jobs under way, one a machine at most.
+    /// Returns the active jobs, at most one per machine.
     std::vector<JobProgress> progress() const;
 
     std::vector<Publisher>& publishers()
@@ -53,16 +53,15 @@ public:
     {
         return m_servers;
     }
-    /// The network publisher of this scenario name, or at this address; null when there is none.
+    /// Returns the network publisher of this scenario name, or at this address; null if there is none.
     PublisherServer* serverByName(const std::string& name);
     PublisherServer* serverByHost(const std::string& host);
-    /// By scenario name, regist id and GUID; null when there is none. By its name also the machine of a
-    /// network publisher.
+    /// Returns the publisher of this scenario name, regist id or GUID; null if there is none. byName() also
+    /// finds the machine of a network publisher.
     Publisher* byName(const std::string& name);
     Publisher* byRegistId(const std::string& registId);
     Publisher* byGuid(const std::string& guid);
 
-    /// The service listens.
     bool serviceOn() const
     {
         return m_serviceOn;
@@ -71,9 +70,9 @@ public:
     {
         return m_now;
     }
-    /// Simulated time as notes give it, in minutes and seconds: "1:05".
+    /// Returns the simulated time in the format of notes, minutes and seconds: "1:05".
     std::string clock() const;
-    /// One line for each machine whose state has changed since the last call, and for the service.
+    /// Returns one line for each machine, and for the service, whose state has changed since the last call.
     std::vector<std::string> takeNotes();
 
 private:
@@ -81,7 +80,7 @@ private:
 
     std::vector<Publisher> m_publishers;
     std::vector<PublisherServer> m_servers;
-    std::vector<Event> m_events; ///< `at` is when it happens next
+    std::vector<Event> m_events; ///< `at` is the time of the next occurrence
     uint64_t m_now = 0;
     uint64_t m_rest = 0;
     bool m_serviceOn = true;
