@@ -34,7 +34,7 @@ MHD_Result keepHeader(void* exchange, MHD_ValueKind /*kind*/, const char* key, c
     return MHD_YES;
 }
 
-/// Waits, `milliseconds` or, below 0, until the connection ends; false when it did.
+/// Waits for `milliseconds`, or without limit if negative. Returns false as soon as the connection ends.
 bool waitOn(int socket, int milliseconds)
 {
     pollfd entry{socket, POLLRDHUP, 0};
@@ -108,7 +108,7 @@ void* beginExchange(void* /*server*/, const char* target, MHD_Connection* /*conn
 {
     auto exchange = std::make_unique<Exchange>();
     exchange->request.target = target;
-    return exchange.release(); // endExchange() takes it back
+    return exchange.release(); // endExchange() deletes it
 }
 
 MHD_Result answerExchange(void* server, MHD_Connection* connection, const char* /*path*/, const char* method,

@@ -1,4 +1,4 @@
-// One request and its reply, as the HTTP library hands them over piece by piece.
+// One request and its reply: the callbacks through which the HTTP library passes them in pieces.
 #pragma once
 
 #include <cstddef>
@@ -7,8 +7,9 @@
 
 namespace udsim {
 
-/// Callbacks of the library; the first context of each is an HttpServer. A request's target begins an
-/// exchange, which is what the connection's context points to until it ends.
+/// Callbacks of the library. `server` is the HttpServer of answerExchange(); the other two do not use it.
+/// beginExchange() creates an exchange for a request's target; the library keeps the pointer as the context
+/// of the request until endExchange().
 void* beginExchange(void* server, const char* target, MHD_Connection* connection);
 MHD_Result answerExchange(void* server, MHD_Connection* connection, const char* path, const char* method,
                           const char* version, const char* piece, size_t* size, void** exchange);

@@ -20,7 +20,7 @@ struct Word
 {
     const char* name;
     Kind kind;
-    uint64_t highest; ///< of its number; 0: it takes none
+    uint64_t highest; ///< maximum of its number; 0: it takes no number
 };
 
 constexpr uint64_t LONGEST_DELAY = 3'600'000;
@@ -67,7 +67,7 @@ std::string hexadecimal(size_t number)
     return text;
 }
 
-/// The body with its first item changed; a body without one stays.
+/// Returns the body with its first item changed; a body without an item is unchanged.
 std::string changedItem(const std::string& body, const HttpFault& fault)
 {
     if (body.size() < ITEM_HEAD) {
@@ -108,7 +108,7 @@ std::optional<HttpFault> HttpFault::parse(const std::string& text, std::string& 
     }
     if (known->highest > 0) {
         const auto number = parseNumber(argument, known->highest);
-        // The library that writes the heads knows statuses of three digits, and none below 200 ends a reply.
+        // The HTTP library supports statuses of three digits, and a status below 200 does not end a reply.
         if (!number || (fault.kind == Kind::http && *number < 200)) {
             error = "the fault \"" + word + "\" needs a number" +
                     (fault.kind == Kind::http ? " from 200" : "") + " up to " +
@@ -150,7 +150,7 @@ HttpDelivery deliver(const HttpReply& reply, const HttpFault* fault)
     case Kind::delay:
         delivery.delay = std::chrono::milliseconds(fault->number);
         break;
-    case Kind::status: // the reply is the refusal already
+    case Kind::status: // `reply` is already the result of refusal()
     case Kind::http:
         break;
     case Kind::empty:

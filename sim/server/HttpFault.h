@@ -1,4 +1,4 @@
-// What can go wrong between a publisher server and its client, on demand.
+// Simulated faults between a publisher server and its client.
 #pragma once
 
 #include <chrono>
@@ -15,50 +15,50 @@ struct HttpFault
     enum class Kind
     {
         stall,          ///< the request is read and never answered
-        close,          ///< the connection ends without an answer
-        delay,          ///< a proper answer, `number` real milliseconds late
+        close,          ///< the connection ends without a reply
+        delay,          ///< a correct reply, `number` real milliseconds late
         status,         ///< the servlet refuses with status byte `number`, and does nothing
-        http,           ///< HTTP status `number` without a body, and nothing is done
+        http,           ///< HTTP status `number` without a body; the request has no effect
         empty,          ///< a reply without a body
-        size,           ///< the first item's data is cut or filled up to `number` bytes
-        length,         ///< the first item claims `number` bytes of data
-        extraItem,      ///< an item without data stands behind the others
-        cut,            ///< the first `number` bytes of the reply, head included, then the end
-        chunked,        ///< a proper answer in chunks
+        size,           ///< the first item's data is cut or padded to `number` bytes
+        length,         ///< the length field of the first item is `number`
+        extraItem,      ///< an item without data follows the others
+        cut,            ///< the first `number` bytes of the reply, including the head, then the end
+        chunked,        ///< a correct reply in chunks
         chunkExtension, ///< the same with an extension on the size line, then the end
-        interim,        ///< `number` interim replies 100 ahead of a proper answer
-        contentLength,  ///< the head promises `number` bytes; behind the body nothing comes
-        drip,           ///< a proper answer, byte by byte, `number` milliseconds apart, then the end
+        interim,        ///< `number` interim replies 100 before a correct reply
+        contentLength,  ///< the head announces `number` bytes; after the body the connection stalls
+        drip,           ///< a correct reply, byte by byte, `number` milliseconds apart, then the end
     };
 
     Kind kind = Kind::stall;
     uint64_t number = 0;
     std::string method;    ///< only requests of this method; empty: all
-    std::string path;      ///< only requests whose target begins so; empty: all
+    std::string path;      ///< only requests whose target begins with it; empty: all
     std::string publisher; ///< only requests to the server with this scenario name; empty: all
-    uint64_t after = 0;    ///< so many requests that fit pass first
-    uint64_t times = 0;    ///< how many requests it befalls; 0: all that fit
+    uint64_t after = 0;    ///< number of matching requests that pass first
+    uint64_t times = 0;    ///< number of requests it affects; 0: all that match
 
-    /// Reads "stall", "status 3", "cut 20" ...; nothing, and the reason in `error`, when it is none of these.
+    /// Parses "stall", "status 3", "cut 20" ...; returns nothing, with the reason in `error`, on a mistake.
     static std::optional<HttpFault> parse(const std::string& text, std::string& error);
 
     bool fits(const HttpRequest& request, const std::string& publisherName) const;
-    /// The server answers without doing anything: this is its reply.
+    /// Returns the reply if the server must refuse the request without carrying it out.
     std::optional<HttpReply> refusal() const;
 };
 
 /// What the server does with one request.
 struct HttpDelivery
 {
-    std::string raw;                       ///< bytes that go ahead of everything
+    std::string raw;                       ///< bytes that are sent first
     std::chrono::milliseconds dripTime{0}; ///< real time between two of these bytes; 0: all at once
-    std::optional<HttpReply> reply;        ///< behind them; nothing: the connection ends, or stalls
+    std::optional<HttpReply> reply;        ///< sent after them; nothing: the connection ends, or stalls
     std::chrono::milliseconds delay{0};    ///< real time before anything is sent
     bool stall = false;                    ///< without a reply the connection stays open and silent
-    bool chunked = false;                  ///< the reply's body goes in chunks
+    bool chunked = false;                  ///< the reply's body is sent in chunks
 };
 
-/// The reply as it should be, or as `fault`, which may be null, spoils it.
+/// Returns the delivery of the reply, changed by `fault` unless it is null.
 HttpDelivery deliver(const HttpReply& reply, const HttpFault* fault);
 
 } // namespace udsim

@@ -9,7 +9,7 @@ namespace udsim {
 
 namespace {
 
-/// A text that GLib made, as one that frees itself.
+/// Copies a text allocated by GLib and frees it.
 std::string taken(gchar* text)
 {
     std::string copy = text == nullptr ? "" : text;

@@ -1,4 +1,4 @@
-// A request to a publisher server and its reply, before and behind the wire.
+// A request to a publisher server, after parsing, and its reply, before encoding.
 #pragma once
 
 #include <cstdint>
@@ -14,23 +14,22 @@ using HttpHeaders = std::vector<std::pair<std::string, std::string>>;
 
 struct HttpRequest
 {
-    std::string host; ///< the address that it came to
+    std::string host; ///< the server's address
     std::string method;
-    std::string target; ///< as it stood in the request line
+    std::string target; ///< as received in the request line
     std::string version;
-    HttpHeaders headers; ///< in the order of their arrival
-    std::string body;    ///< in what a room keeps only its first `MOST_BODY_KEPT` bytes
-    uint64_t bodySize = 0;
-    std::string bodySha1; ///< in what a room keeps; hexadecimal digits
+    HttpHeaders headers;   ///< in the order received
+    std::string body;      ///< a request kept by a Room has only the first `MOST_BODY_KEPT` bytes
+    uint64_t bodySize = 0; ///< set only in a request kept by a Room
+    std::string bodySha1;  ///< set only in a request kept by a Room; hexadecimal digits
 
     static constexpr size_t MOST_BODY_KEPT = 65'536;
 
-    /// The target up to the "?".
+    /// Returns the target up to the "?".
     std::string path() const;
-    /// The value of the first header of this name, in whatever case; empty when there is none.
+    /// Returns the value of the first header of this name, ignoring case; empty if there is none.
     std::string header(std::string_view name) const;
-    /// The keys and values behind the "?"; of a form that was posted, of its body. As they came: nothing is
-    /// unescaped.
+    /// Returns the keys and values after the "?", or in the body of a posted form. They are not unescaped.
     std::map<std::string, std::string> parameters() const;
 };
 
@@ -42,11 +41,11 @@ struct HttpReply
 
 inline constexpr char FORM_TYPE[] = "application/x-www-form-urlencoded";
 
-/// The words of a status line for a code that the server gives.
+/// Returns the reason phrase of a status line.
 const char* reasonOf(unsigned status);
-/// SHA-1 in hexadecimal digits.
+/// Returns the SHA-1 in hexadecimal digits.
 std::string sha1Of(std::string_view bytes);
-/// The value of an "Authorization" header.
+/// Returns the value of an "Authorization" header.
 std::string basicCredentials(const std::string& user, const std::string& password);
 
 } // namespace udsim

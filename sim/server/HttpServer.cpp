@@ -18,7 +18,7 @@ namespace udsim {
 
 namespace {
 
-constexpr size_t HEAD_MEMORY = 64U << 10; ///< of a connection, for the request's head and a piece of its body
+constexpr size_t HEAD_MEMORY = 64U << 10; ///< per connection, for the request's head and a piece of its body
 
 void onConnection(void* server, MHD_Connection* connection, void** /*context*/,
                   MHD_ConnectionNotificationCode code)
@@ -82,7 +82,7 @@ void HttpServer::stop()
         stopping.swap(m_stopping);
         cut({});
     }
-    // All daemons end here, without the lock.
+    // The destructors end all daemons here, without the lock.
 }
 
 bool HttpServer::listenAt(const std::string& address, std::string& error)
@@ -105,7 +105,7 @@ bool HttpServer::listenAt(const std::string& address, std::string& error)
     return true;
 }
 
-/// The connections of this address end, also those that stall; of all addresses when it is empty.
+/// Shuts down the connections to this address, including stalled ones; to all addresses if it is empty.
 void HttpServer::cut(const std::string& address)
 {
     for (const auto& [socket, to] : m_connections) {
@@ -129,7 +129,7 @@ void HttpServer::setListening(const std::string& address, bool listening)
     }
     Daemon daemon = std::move(found->second);
     m_daemons.erase(found);
-    Descriptor listener(MHD_quiesce_daemon(daemon.get())); // ours again, but the daemon may still wait on it
+    Descriptor listener(MHD_quiesce_daemon(daemon.get())); // owned again, but the daemon may still wait on it
     ::shutdown(listener.get(), SHUT_RDWR);
     cut(address);
     std::erase_if(m_stopping, [](const std::future<void>& stopped) {
@@ -153,7 +153,7 @@ void HttpServer::connectionOpened(int socket)
     const std::lock_guard lock(m_mutex);
     m_connections[socket] = address;
     if (!m_running || !m_daemons.contains(address)) {
-        ::shutdown(socket, SHUT_RDWR); // it was on its way when the listening ended
+        ::shutdown(socket, SHUT_RDWR); // accepted while the listening ended
     }
 }
 

@@ -1,5 +1,5 @@
-// The addresses at which publisher servers listen, each with a daemon of the HTTP library, and every
-// connection to them, each on a thread of its own.
+// The HTTP side of the publisher servers: one daemon of the HTTP library per listening address, and one
+// thread per connection.
 #pragma once
 
 #include <cstddef>
@@ -20,26 +20,26 @@ namespace udsim {
 class HttpServer
 {
 public:
-    /// A body beyond it is answered with 413.
+    /// Maximum size of a body; a larger one gets status 413.
     static constexpr size_t LARGEST_BODY = 64U << 20;
 
     using Handler = std::function<HttpDelivery(const HttpRequest&)>;
 
-    /// The handler is called with each request that arrived whole, on several threads at once.
+    /// The handler is called with each completely received request, on several threads at once.
     explicit HttpServer(Handler handler);
     HttpServer(const HttpServer&) = delete;
     HttpServer& operator=(const HttpServer&) = delete;
     ~HttpServer();
 
-    /// Listens on port 80 of these IPv4 addresses. False, with the reason in `error`, when one of them cannot
-    /// be had.
+    /// Listens on port 80 of these IPv4 addresses. Returns false, with the reason in `error`, if one of them
+    /// is not available.
     bool start(const std::vector<std::string>& addresses, std::string& error);
-    /// Cuts all connections and ends all threads. Not to be called on a handler.
+    /// Closes all connections and ends all threads. Must not be called by a handler.
     void stop();
-    /// From the return of this call on connections to this address are refused, and those there are get cut;
-    /// or they are taken again. Nothing before start() and behind stop(). Any thread.
+    /// Accepts connections to this address, or refuses them and closes the open ones. Takes effect before it
+    /// returns. Does nothing before start() and after stop(). Any thread.
     void setListening(const std::string& address, bool listening);
-    /// How many are open.
+    /// Returns the number of open connections.
     size_t connections() const;
 
     /// For the library's callbacks.
@@ -55,7 +55,7 @@ private:
     {
         void operator()(MHD_Daemon* daemon) const;
     };
-    /// Its end closes its connections and joins their threads.
+    /// The deleter closes the daemon's connections and joins their threads.
     using Daemon = std::unique_ptr<MHD_Daemon, Stop>;
 
     bool listenAt(const std::string& address, std::string& error);
@@ -63,14 +63,15 @@ private:
 
     Handler m_handler;
 
-    mutable std::mutex m_mutex; ///< guards what follows; not held while a daemon ends, whose threads take it
-    std::map<std::string, Daemon> m_daemons;   ///< by the address that each listens at
-    std::vector<std::future<void>> m_stopping; ///< daemons that listen no more
-    std::map<int, std::string> m_connections;  ///< sockets, and the addresses that they came to
+    mutable std::mutex
+        m_mutex; ///< guards the members below; not held while a daemon ends: its threads lock it
+    std::map<std::string, Daemon> m_daemons;   ///< by listening address
+    std::vector<std::future<void>> m_stopping; ///< daemons that no longer listen
+    std::map<int, std::string> m_connections;  ///< local addresses by socket
     bool m_running = false;
 };
 
-/// The local address of a connection, as "127.0.0.11".
+/// Returns the local address of a connection, such as "127.0.0.11".
 std::string localAddressOf(int socket);
 
 } // namespace udsim

@@ -42,7 +42,7 @@ constexpr std::array<NetworkModel, 3> MODELS{{
      "3.30"},
 }};
 
-/// Modes as the machine numbers them, in the order of the server's numbers.
+/// The machine's mode for each mode number of the server.
 constexpr std::array<uint32_t, 5> MACHINE_MODES{mode::SECURITY, mode::OUTPUT_CONTROL, mode::NORMAL,
                                                 mode::OUTPUT, mode::BATCH};
 
@@ -97,7 +97,8 @@ void ServerSetup::setServerMode(uint32_t serverMode)
 
 bool ServerSetup::isOld() const
 {
-    constexpr int NEWER_FROM = 30; // 2.30 and 3.30 take hashes, and so does all before 2 and from 4 on
+    // Versions 2.00 to 2.29 and 3.00 to 3.29 do not accept hashes.
+    constexpr int NEWER_FROM = 30;
     const int major = std::atoi(serverVersion.c_str());
     const size_t point = serverVersion.find('.');
     const int minor = point == std::string::npos ? 0 : std::atoi(serverVersion.c_str() + point + 1);
@@ -212,7 +213,7 @@ uint8_t PublisherServer::applyToQueued(const Job& job, uint32_t action)
         return statusOf(m_machine.continueJob(job.id));
     case action::PRIORITY:
         return statusOf(m_machine.moveJobToFront(job.id));
-    default: // what belongs to the sending is over
+    default: // the other actions apply only before the commit
         return servlet_status::JOB_ID;
     }
 }

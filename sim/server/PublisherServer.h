@@ -1,5 +1,4 @@
-// A network publisher: a machine, and the server in front of it that clients talk to. No sockets, no files,
-// no clock.
+// A network publisher: a machine and its server. No sockets, no files, no clock.
 #pragma once
 
 #include <cstdint>
@@ -11,47 +10,47 @@
 
 namespace udsim {
 
-/// The models of network publishers, and what differs between their servers.
+/// A model of network publishers and the properties of its server.
 struct NetworkModel
 {
     Model machine;
     bool bluRayFigures;        ///< its maintenance information counts BD
-    bool tellsXl;              ///< it says whether it takes BD-R TL and QL
+    bool tellsXl;              ///< it reports whether it supports BD-R TL and QL
     bool thirdStacker;         ///< it has a setting for stacker 3
-    const char* hashPath;      ///< of the servlet that takes the hashes of files
-    const char* serverVersion; ///< as it leaves the works
+    const char* hashPath;      ///< path of the servlet for the hashes of files
+    const char* serverVersion; ///< factory version
 };
 
-/// Every model, the oldest first.
+/// All models, the oldest first.
 std::span<const NetworkModel> networkModels();
-/// The model of this name; null when there is none.
+/// Returns the model of this name, or null.
 const NetworkModel* findNetworkModel(const std::string& name);
 
-/// How a network publisher stands at the beginning.
+/// The initial state of a network publisher.
 struct ServerSetup
 {
     static constexpr uint64_t MIB = 1'048'576;
 
     const NetworkModel* model = nullptr;
     PublisherSetup machine;
-    std::string host;      ///< the loopback address that it listens at
-    bool listening = true; ///< at the beginning
+    std::string host;      ///< the loopback address at which it listens
+    bool listening = true; ///< initially
     std::string serverVersion;
     std::string webVersion = "2.10";
-    std::string interfaceVersion;    ///< that clients have to speak
+    std::string interfaceVersion;    ///< required of clients
     uint64_t discSpace = 2048 * MIB; ///< bytes
     bool thirdStacker = false;
-    uint32_t knownKind = 0;  ///< kind that the setting file knows from the beginning; 0: none
+    uint32_t knownKind = 0;  ///< kind in the initial setting file; 0: none
     uint32_t drivesUsed = 0; ///< 0 both, or one of them
     uint32_t retries = 3;
     bool errorMark = true;
 
     static ServerSetup ofModel(const NetworkModel& model);
-    /// The mode as the server numbers it.
+    /// Returns the server's number of the mode.
     uint32_t serverMode() const;
-    /// Sets it, from 0 to 4, and the stackers as it wants them.
+    /// Sets the mode, from 0 to 4, and the stackers as it requires.
     void setServerMode(uint32_t serverMode);
-    /// Its version is one of those that took no hashes.
+    /// Returns whether its version does not accept hashes.
     bool isOld() const;
 };
 
@@ -91,21 +90,22 @@ public:
         m_listening = listening;
     }
 
-    /// Lets one moment pass. The files of jobs that have ended go.
+    /// Advances the simulated time and removes the files of ended jobs.
     void step(uint64_t milliseconds);
-    /// Does what a request asks for, and answers it.
+    /// Carries out a request and returns the reply.
     HttpReply answer(const HttpRequest& request);
 
-    /// Jobs that are registered and not committed.
+    /// Returns the number of jobs that are registered and not committed.
     size_t jobsInSending() const;
-    /// What the server has refused and why, and the jobs it took, since the last call (the last 100).
+    /// Returns notes about refused requests and accepted jobs since the last call (the last 100).
     std::vector<std::string> takeNotes();
     void note(const std::string& text);
-    /// An id for a job, which none had before.
+    /// Returns a unique id for a job.
     std::string nextPublishId();
-    /// Registers a job; 0: the list is full. `special`: its text has been looked at.
+    /// Registers a job and returns its number, or 0 if the list is full. The text of a `special` job must be
+    /// valid.
     uint32_t registerJob(const std::string& data, bool special);
-    /// Carries out an action on a job, whatever state it is in; a status of the servlets.
+    /// Carries out an action on a job in any state. Returns a status of the servlets.
     uint8_t applyAction(uint32_t number, uint32_t action);
 
 private:

@@ -1,4 +1,4 @@
-// What a publisher server reads in the data that registers a job.
+// Reads the data that registers a job on a publisher server.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@ namespace udsim {
 
 struct ServerSetup;
 
-/// Any data will do. Of lines "key = value" it takes "JobName", "Count", "ID" and "Publisher"; whether the
-/// job writes or prints, its files tell.
+/// Accepts any data. It reads "JobName", "Count", "ID" and "Publisher" from "key = value" lines; the job's
+/// files determine whether it writes or prints.
 JobSetup normalJobOf(const ServerJob& job);
-/// Of data that refusalOfSpecial() found no fault with.
+/// The job's data must be accepted by refusalOfSpecial().
 JobSetup specialJobOf(const ServerJob& job);
-/// Why the server does not take this text for a maintenance job; empty when it does.
+/// Returns why the server refuses this text as a maintenance job; empty if it accepts it.
 std::string refusalOfSpecial(const std::string& data, const ServerSetup& server);
 
 } // namespace udsim

@@ -1,4 +1,4 @@
-// The numbers of the publisher server's servlets, as the server knows them.
+// The numbers in the protocol of the publisher server's servlets.
 #pragma once
 
 #include <cstdint>
@@ -6,9 +6,9 @@
 namespace udsim {
 
 inline constexpr uint16_t HTTP_PORT = 80;
-inline constexpr char INTERFACE_VERSION[] = "02000000"; ///< that clients have to speak
+inline constexpr char INTERFACE_VERSION[] = "02000000"; ///< required of clients
 
-/// The first byte of a reply's item.
+/// Status: the first byte of a reply item.
 namespace servlet_status {
 inline constexpr uint8_t SUCCESS = 0;
 inline constexpr uint8_t VERSION = 1;
@@ -76,7 +76,7 @@ inline constexpr uint32_t MAINTENANCE = 10;
 inline constexpr uint32_t DRIVES_EX = 11;
 } // namespace device_status
 
-/// What the job controller is asked for.
+/// Actions of the job controller.
 namespace action {
 inline constexpr uint32_t COMMIT = 0;
 inline constexpr uint32_t CANCEL = 1;
@@ -87,7 +87,7 @@ inline constexpr uint32_t OPEN_DISC_INFO = 5;
 inline constexpr uint32_t PRIORITY = 6;
 } // namespace action
 
-/// Which jobs a list holds.
+/// Which jobs a list contains.
 namespace job_list {
 inline constexpr uint32_t ALL = 0;
 inline constexpr uint32_t UNFINISHED = 1;

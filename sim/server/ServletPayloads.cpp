@@ -19,14 +19,14 @@ constexpr size_t NAME_FIELD = 510;
 constexpr uint64_t NO_STACKER = 0xFFFF;
 constexpr char SECURITY_VERSION[] = "1.00";
 
-/// Words of four bytes each.
+/// Encodes words of four bytes each.
 template <class... Words>
 std::string words(Words... values)
 {
     return (std::string() + ... + bigEndian(values, 4));
 }
 
-/// UTF-16 with the low byte first, cut to whole characters within `longest` bytes.
+/// Converts to little-endian UTF-16, cut to whole characters within `longest` bytes.
 std::string utf16(const std::string& text, size_t longest)
 {
     gchar* const valid = g_utf8_make_valid(text.data(), static_cast<gssize>(text.size()));
@@ -111,7 +111,7 @@ std::string noticeWords(const PublisherServer& server)
             stackers[i].isOutput() && stackers[i].discs >= Publisher::STACKER_CAPACITY ? uint64_t{1} << i : 0;
     }
     const auto bit = [code](uint32_t when, uint64_t value) { return code == when ? value : 0; };
-    // Batch mode has a bit of its own for stacker 3.
+    // Batch mode uses another bit for stacker 3.
     const bool batch = machine.state().mode == mode::BATCH;
     const uint64_t third = batch && (full & STACKER3) != 0 ? 0x4 : 0;
     return words(activity(machine), empty, batch ? full & ~STACKER3 : full, uint64_t{0}, uint64_t{0},
@@ -137,7 +137,7 @@ std::string maintenanceWords(const PublisherServer& server)
     return data;
 }
 
-/// A block of bytes that means nothing: what a device of its own kind says.
+/// Returns arbitrary bytes in place of a vendor-specific block of the device.
 std::string block(size_t size)
 {
     std::string bytes;
@@ -149,7 +149,8 @@ std::string block(size_t size)
 
 uint8_t statusOf(const Job& job)
 {
-    // Waiting, running, about to be cancelled, paused, paused; stopping, stopped, cancelled, finished.
+    // By job_status: unused, waiting, running, cancelling, pausing, paused, stopping, stopped, cancelled,
+    // finished.
     constexpr std::array<uint8_t, 10> STATUS{0, 0, 1, 2, 5, 6, 3, 4, 9, 8};
     return STATUS.at(job.status);
 }
@@ -181,7 +182,7 @@ uint64_t ejectOf(uint64_t destinations)
     return NO_STACKER;
 }
 
-/// 0 writes and prints, 1 writes, 2 prints.
+/// Returns 0 for writing and printing, 1 for writing, 2 for printing.
 uint64_t typeOf(const Job& job)
 {
     if (job.type == JOB_TYPE_WRITE) {

@@ -1,4 +1,4 @@
-// The data of the servlets' replies: structures and status words of one publisher server.
+// The data in the servlets' replies: structures and status words of one publisher server.
 #pragma once
 
 #include <cstdint>
@@ -10,19 +10,19 @@
 
 namespace udsim {
 
-/// One item of a reply. Of data beyond 65,535 bytes the rest is left out.
+/// Returns one item of a reply. Data is cut after 65,535 bytes.
 std::string replyItem(uint8_t status, std::string_view data = {});
-/// Big-endian.
+/// Encodes the value in `size` bytes, most significant byte first.
 std::string bigEndian(uint64_t value, size_t size);
 
-/// Text and numeric information; nothing for a type that the server does not know, or not now.
+/// Returns text or numeric information; nothing for a type that is unknown or not available now.
 std::optional<std::string> textInfo(const PublisherServer& server, uint32_t type);
 std::optional<uint32_t> numberInfo(const PublisherServer& server, uint32_t type);
-/// Only the machine itself knows this text: nobody does while it is not connected.
+/// Returns whether this text comes from the machine and is not available while the machine is disconnected.
 bool isOfMachine(uint32_t textType);
-/// The data of a device status; nothing for a type that there is not.
+/// Returns the data of a device status; nothing for an unknown type.
 std::optional<std::string> deviceStatus(const PublisherServer& server, uint32_t type);
-/// One job of a list. `extended`: with its remaining time.
+/// Returns one job of a list. `extended`: with its remaining time.
 std::string jobPayload(const PublisherServer& server, const Job& job, bool extended);
 
 } // namespace udsim

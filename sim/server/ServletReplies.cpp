@@ -21,7 +21,7 @@ struct Call
     PublisherServer& server;
 };
 
-/// An item without data: a failure, or how a command ended.
+/// Returns an item without data: a failure, or the result of a command.
 std::string outcome(uint8_t status)
 {
     return replyItem(status);
@@ -38,7 +38,7 @@ std::string valueOf(const Call& call, const std::string& key)
     return found == call.parameters.end() ? "" : found->second;
 }
 
-/// A decimal number; nothing when it is none.
+/// Returns a decimal number; nothing if the value is not one.
 std::optional<uint32_t> numberOf(const Call& call, const std::string& key)
 {
     const std::string text = valueOf(call, key);
@@ -159,7 +159,7 @@ std::string controlJob(const Call& call)
     return outcome(number ? call.server.applyAction(*number, *what) : servlet_status::JOB_ID);
 }
 
-/// By the submitter's id.
+/// Identifies the job by the submitter's id.
 std::string controlByReference(const Call& call)
 {
     constexpr uint32_t CANCEL = 0;

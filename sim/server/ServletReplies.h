@@ -6,8 +6,8 @@
 
 namespace udsim {
 
-/// Carries out a request to "/webapp2/..." or "/webapp/...": 404 for a servlet that the server does not have,
-/// 405 for a method that it does not take.
+/// Carries out a request to "/webapp2/..." or "/webapp/...". Returns 404 for an unknown servlet, 405 for a
+/// method that the servlet does not support.
 HttpReply answerServlet(const HttpRequest& request, PublisherServer& server);
 
 } // namespace udsim

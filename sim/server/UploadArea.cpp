@@ -22,7 +22,8 @@ struct Range
     uint64_t total = 0;
 };
 
-/// The range of the body within its file; all of it when the request names none.
+/// Returns the range of the body within its file; the whole body without a "Content-Range"; nothing if it is
+/// invalid.
 std::optional<Range> rangeOf(const HttpRequest& request)
 {
     const std::string text = request.header("Content-Range");
@@ -115,7 +116,7 @@ HttpReply UploadArea::answer(const HttpRequest& request)
         return {404, {}};
     }
     ServerJob* const job = find(*number);
-    // A job that is not there has no password either.
+    // An unknown job gets the same reply as a wrong password.
     if (job == nullptr || request.header("Authorization") != basicCredentials(job->user(), job->password)) {
         return {401, {}};
     }
@@ -154,7 +155,7 @@ unsigned UploadArea::put(ServerJob& job, const std::string& name, const HttpRequ
         (range->from > 0 && there->second.total != range->total)) {
         return 400;
     }
-    const uint64_t kept = range->from; // a piece that comes again replaces itself and what was behind it
+    const uint64_t kept = range->from; // a repeated piece replaces itself and all that followed
     if (kept + request.body.size() > size + freeSpace()) {
         return 507;
     }

@@ -1,5 +1,5 @@
-// The jobs that a publisher server is being sent, and the area under "/uploads/" where their files arrive.
-// Everything lies in memory.
+// The jobs registered on a publisher server, and the area under "/uploads/" for their files. Everything is
+// kept in memory.
 #pragma once
 
 #include <cstdint>
@@ -16,13 +16,13 @@ struct UploadedFile
 {
     enum class Hash
     {
-        none, ///< of what lies there now
+        none, ///< no hash was sent for the present contents
         right,
         wrong,
     };
 
-    std::string contents; ///< as far as they have come
-    uint64_t total = 0;   ///< that the ranges promise
+    std::string contents; ///< received so far
+    uint64_t total = 0;   ///< size according to the ranges
     Hash hash = Hash::none;
 
     bool isWhole() const
@@ -31,7 +31,7 @@ struct UploadedFile
     }
 };
 
-/// A job from its registration on; its files go when it has ended.
+/// A registered job. It is removed, with its files, when it has ended.
 struct ServerJob
 {
     enum class DiscInfo
@@ -42,9 +42,9 @@ struct ServerJob
     };
 
     uint32_t number = 0;
-    std::string password; ///< its user name is the number in eight hexadecimal digits
-    bool special = false; ///< for maintenance
-    std::string data;     ///< that registered it
+    std::string password; ///< for uploads; the user name is the number in eight hexadecimal digits
+    bool special = false; ///< a maintenance job
+    std::string data;     ///< of its registration
     bool folder = false;
     bool committed = false;
     DiscInfo discInfo = DiscInfo::none;
@@ -56,8 +56,8 @@ struct ServerJob
 class UploadArea
 {
 public:
-    /// `capacity` in bytes. `takesHashes`: a file counts only with its hash, and a folder that nobody made is
-    /// made with the first file.
+    /// `capacity` is in bytes. With `takesHashes`, a file is complete only with its hash, and the first file
+    /// creates a missing folder.
     UploadArea(uint64_t capacity, bool takesHashes);
 
     uint64_t capacity() const
@@ -69,19 +69,19 @@ public:
     {
         return m_jobs;
     }
-    /// Null when there is none.
+    /// Returns null if there is no such job.
     ServerJob* find(uint32_t number);
-    /// The number of a text of eight lower-case hexadecimal digits.
+    /// Parses eight lower-case hexadecimal digits; nothing for any other text.
     static std::optional<uint32_t> parseNumber(const std::string& text);
 
     ServerJob& add(uint32_t number, const std::string& data, bool special);
     void remove(uint32_t number);
 
-    /// MKCOL and PUT under "/uploads/".
+    /// Carries out MKCOL and PUT under "/uploads/".
     HttpReply answer(const HttpRequest& request);
-    /// A hash that a client has sent; the status of its reply.
+    /// Checks the hash that a client has sent. Returns the reply, which has only a status.
     HttpReply takeHash(const std::map<std::string, std::string>& form);
-    /// Every file of the job is whole, with its hash where hashes are taken.
+    /// Returns whether every file of the job is complete, with a correct hash if the server accepts hashes.
     bool isComplete(const ServerJob& job) const;
     bool isComplete(const ServerJob& job, const std::string& file) const;
 
