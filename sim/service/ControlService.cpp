@@ -18,8 +18,8 @@ namespace {
 constexpr std::chrono::milliseconds TICK{50};
 constexpr std::chrono::milliseconds ACCEPT_PAUSE{100};
 constexpr size_t MOST_CONNECTIONS = 512;
-constexpr size_t MOST_INPUT = 16 * REQUEST_SIZE; ///< of one connection, unanswered
-constexpr unsigned RIGHTS = 0666;                ///< of the sockets: every user may reach them
+constexpr size_t MOST_INPUT = 16 * REQUEST_SIZE; ///< unanswered bytes of one connection
+constexpr unsigned RIGHTS = 0666;                ///< of the sockets: every user may connect
 
 } // namespace
 
@@ -87,7 +87,7 @@ void ControlService::setListening(bool listening)
         std::string error;
         openListener(error);
     } else {
-        // The thread may be waiting on the descriptor: it is shut down here and closed there.
+        // The thread may be waiting on the descriptor, so it is only shut down here; the thread closes it.
         ::shutdown(m_listener.get(), SHUT_RDWR);
         m_retired.push_back(std::move(m_listener));
         m_listening = false;
@@ -210,7 +210,7 @@ void ControlService::serve(Connection& connection, short events, Clock::time_poi
     if ((events & POLLIN) != 0) {
         receive(connection);
     }
-    // Several requests may stand in the input already.
+    // The input may already contain several requests.
     while (!connection.dead && !connection.stalled) {
         if (connection.output.empty() && !connection.closing && connection.input.size() >= REQUEST_SIZE) {
             takeRequest(connection, now);

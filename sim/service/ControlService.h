@@ -1,4 +1,4 @@
-// The two sockets of the control service, and every connection to it, on one thread.
+// Serves the two sockets of the control service and all its connections on one thread.
 #pragma once
 
 #include <chrono>
@@ -23,7 +23,7 @@ public:
     {
         std::function<Delivery(const Request&)> request;
         std::function<void(std::string_view)> datagram;
-        std::function<void(std::chrono::milliseconds)> tick; ///< real time since the last one; may be empty
+        std::function<void(std::chrono::milliseconds)> tick; ///< real time since the last call; may be empty
     };
 
     /// The handlers are called on the service's thread, one at a time.
@@ -32,12 +32,13 @@ public:
     ControlService& operator=(const ControlService&) = delete;
     ~ControlService();
 
-    /// False, with the reason in `error`, when a socket cannot be made or another process listens there.
+    /// Returns false, with the reason in `error`, if a socket cannot be created or another process listens
+    /// there.
     bool start(bool listening, std::string& error);
-    /// Ends the thread and closes everything, in whatever state connections are. Not to be called on a
+    /// Ends the thread and closes all sockets and connections, whatever their state. Must not be called by a
     /// handler.
     void stop();
-    /// Connections are refused from the return of this call on, or taken again. Any thread.
+    /// Accepts connections, or refuses them. Takes effect before it returns. Any thread.
     void setListening(bool listening);
     size_t connections() const;
 
@@ -49,10 +50,10 @@ private:
         Descriptor socket;
         std::string input;
         std::string output;
-        Clock::time_point due{}; ///< when `output` may go
+        Clock::time_point due{}; ///< `output` is not sent earlier
         bool stalled = false;
-        bool closing = false;  ///< ends when `output` is gone
-        bool finished = false; ///< the client sends no more
+        bool closing = false;  ///< closed once `output` is sent
+        bool finished = false; ///< the client has ended its data
         bool dead = false;
     };
 
@@ -73,17 +74,17 @@ private:
     Descriptor m_agent;
     std::thread m_thread;
 
-    mutable std::mutex m_mutex; ///< guards what follows
+    mutable std::mutex m_mutex; ///< guards the members up to `m_listening`
     Descriptor m_listener;
-    std::vector<Descriptor> m_retired; ///< listeners that are shut down, for the thread to close
+    std::vector<Descriptor> m_retired; ///< listeners that are shut down; the thread closes them
     size_t m_count = 0;
     bool m_running = false;
     bool m_listening = false;
 
-    // The thread's own.
+    // Used only by the thread.
     std::list<Connection> m_connections;
     Clock::time_point m_nextTick;
-    Clock::time_point m_acceptFrom; ///< no sooner, after the process ran out of descriptors
+    Clock::time_point m_acceptFrom; ///< next accept after the process ran out of descriptors
 };
 
 } // namespace udsim

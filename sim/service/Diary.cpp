@@ -8,7 +8,7 @@ namespace udsim {
 
 namespace {
 
-/// What a command asks for; empty when it changes nothing.
+/// Returns the request of a command in words; empty if it changes nothing.
 std::string wish(const Request& command)
 {
     switch (command.control) {

@@ -1,4 +1,4 @@
-// What the service writes down: its log file, and the notes for whoever watches the room.
+// Writes the service's log file, and the notes for the user of the room.
 #pragma once
 
 #include <string>
@@ -10,21 +10,21 @@
 
 namespace udsim {
 
-/// A command that changes something, and how it ended: "publish mode 2 set". Empty for one that only asks.
+/// Describes a command that changes something, with its result: "publish mode 2 set". Empty for a query.
 std::string describe(const Request& command, uint64_t result);
 
 class Diary
 {
 public:
-    /// A line in the log. A log that cannot be written yields one note, and the room goes on.
+    /// Writes a line to the log. When writing begins to fail, adds one note; a failure has no other effect.
     void log(const std::string& text);
-    /// The same, and a note.
+    /// Writes a line to the log and adds it as a note.
     void say(const std::string& text);
-    /// Logs what has become of the machines since the last call: connections, errors, jobs that ended.
+    /// Logs the changes of the machines since the last call: connections, errors, ended jobs.
     void follow(std::vector<Publisher>& publishers);
-    /// Begins anew: the next follow() logs every machine.
+    /// Discards the known states, so that the next follow() logs every machine.
     void forget();
-    /// The notes since the last call.
+    /// Returns the notes since the last call.
     std::vector<std::string> takeNotes();
 
 private:
@@ -35,7 +35,7 @@ private:
     };
 
     ServiceLog m_log;
-    bool m_broken = false; ///< the log could not be written, and a note has said so
+    bool m_broken = false; ///< the log could not be written, and a note was added
     std::vector<std::string> m_notes;
     std::vector<Known> m_known;
 };

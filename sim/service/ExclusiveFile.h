@@ -11,20 +11,21 @@ namespace udsim {
 class ExclusiveFile
 {
 public:
-    /// Opens with the flags of open() and takes the lock; nothing, with the reason in `error`, when either
-    /// fails.
+    /// Opens the file with the flags of open() and waits for the lock. Returns nothing, with the reason in
+    /// `error`, on failure.
     static std::optional<ExclusiveFile> acquire(const std::string& path, int flags, std::string& error);
 
-    /// All of it; nothing when it cannot be read or is larger than 64 MiB.
+    /// Returns the whole file; nothing, with the reason in `error`, if it cannot be read or is larger than 64
+    /// MiB.
     std::optional<std::string> read(std::string& error) const;
-    /// Overwrites it. The old end goes only after the new text stands.
+    /// Overwrites the file. It is cut to the new length only after the new text is written.
     bool write(const std::string& text, std::string& error) const;
 
 private:
     ExclusiveFile(std::string path, Descriptor file);
 
     std::string m_path;
-    Descriptor m_file; ///< closing it gives the lock back
+    Descriptor m_file; ///< closing it releases the lock
 };
 
 } // namespace udsim

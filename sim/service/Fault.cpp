@@ -75,7 +75,8 @@ Delivery deliver(const Reply& reply, const Fault* fault)
     }
     ByteWriter header;
     switch (fault->kind) {
-    case Fault::Kind::refuse: // the listening socket is closed; a connection from before is treated as cut
+    case Fault::Kind::refuse: // the listening socket is closed; an older connection is closed like with
+                              // `close`
     case Fault::Kind::close:
         delivery.bytes.clear();
         delivery.close = true;

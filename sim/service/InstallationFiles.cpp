@@ -43,7 +43,7 @@ std::string settingText(const PublisherSetup& publisher)
     return text;
 }
 
-/// Everyone may leave jobs there, and take away none but his own.
+/// Every user may create jobs in the folder, but remove only their own.
 bool makeJobFolder(std::string& error)
 {
     constexpr mode_t MODE = 01777;
@@ -58,7 +58,7 @@ bool makeJobFolder(std::string& error)
     return true;
 }
 
-/// What stands in for the printer's own data, which no simulated machine prints.
+/// Creates a placeholder for the printer's data, which a simulated machine does not print.
 bool makePrintData(const std::string& name, std::string& error)
 {
     constexpr size_t REPETITIONS = 8;
@@ -75,7 +75,7 @@ bool makePrintData(const std::string& name, std::string& error)
     return file && file->write(text, error);
 }
 
-/// Unless it is there.
+/// Does nothing if the file exists.
 bool makeSettingFile(const std::string& registId, const std::string& text, std::string& error)
 {
     const std::string path = settingPath(registId);
@@ -123,7 +123,7 @@ bool makeFolders(std::string& error)
 bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error)
 {
     RegistryKeys keys;
-    keys[DEVICE_ROOT]; // whoever enumerates the devices opens this key
+    keys[DEVICE_ROOT]; // clients open this key to enumerate the devices
     for (const Publisher& publisher : publishers) {
         keys[std::string(DEVICE_ROOT) + "/" + publisher.state().guid] = deviceValues(publisher);
     }

@@ -1,5 +1,4 @@
-// What the service keeps in the installation's folder: device keys, setting files, and the folders
-// themselves.
+// The service's files in the installation folder: device keys, setting files, and the folders themselves.
 #pragma once
 
 #include <array>
@@ -19,7 +18,7 @@ inline constexpr char SETTING_FOLDER[] = "/opt/arven/Ulmar Disc Maker/conf/RegPu
 inline constexpr char JOB_FOLDER[] = "/opt/arven/Ulmar Disc Maker/JOB";
 inline constexpr char PRINT_DATA_FOLDER[] = "/opt/arven/Ulmar Disc Maker/res/prnfile";
 
-/// What the service reads of a setting file.
+/// The values that the service reads from a setting file.
 struct Setting
 {
     std::string guid;    ///< of a local publisher
@@ -29,24 +28,25 @@ struct Setting
     std::array<uint32_t, 4> media{};
 };
 
-/// Makes the folders that are missing, and the print data of the maintenance jobs. Whatever stands in the
-/// job folder's place stays: a link, above all, even one that leads nowhere. False, with the reason, when
-/// something cannot be made.
+/// Creates missing folders, and the print data of the maintenance jobs. An existing file at the job folder's
+/// path is kept, in particular a link, even a dangling one. Returns false, with the reason in `error`, on
+/// failure.
 bool makeFolders(std::string& error);
-/// Brings the device keys up to date, all in one pass over the registry file.
+/// Updates the device keys in one pass over the registry file.
 bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error);
-/// Makes the setting file of a registered publisher, unless it is there.
+/// Creates the setting file of a registered publisher, unless it exists.
 bool makeSetting(const PublisherSetup& publisher, std::string& error);
 /// The same for a network publisher.
 bool makeNetworkSetting(const ServerSetup& server, std::string& error);
-/// Removes what the above made for these publishers: their setting files, if they still belong to this device
-/// or address, and all keys of their devices. `removed` gets the names of those that had a setting file.
-/// False, with the reason, when a file cannot be removed or written; what was removed before stays so.
+/// Removes what the functions above created for these publishers: their setting files, if they still belong
+/// to this device or address, and all keys of their devices. `removed` receives the names of those that had a
+/// setting file. Returns false, with the reason in `error`, if a file cannot be removed or written; earlier
+/// removals are kept.
 bool removeRegistration(const std::vector<PublisherSetup>& publishers,
                         const std::vector<ServerSetup>& servers, std::vector<std::string>& removed,
                         std::string& error);
-/// Reads a setting file; nothing when it does not exist, or when the id, which comes from a client, is no
-/// file name.
+/// Reads a setting file. Returns nothing if it does not exist, or if the id, which comes from a client, is
+/// not a valid file name.
 std::optional<Setting> readSetting(const std::string& registId);
 
 } // namespace udsim

@@ -19,9 +19,9 @@ constexpr char NOZZLE_CHECK_MODE[] = "4";
 
 struct FormLine
 {
-    std::string_view text; ///< the whole line, or the key when it takes a value
+    std::string_view text; ///< the whole line, or the key if it has a value
     bool hasValue = false;
-    std::string_view value{}; ///< the only one that is taken; null: looked at apart
+    std::string_view value{}; ///< the only valid value; null: checked separately
 };
 
 constexpr FormLine heading(std::string_view text)
@@ -39,7 +39,7 @@ constexpr FormLine only(std::string_view key, std::string_view value)
     return {key, true, value};
 }
 
-/// Where the lines stand whose values differ from job to job.
+/// The lines whose values differ between jobs.
 enum LineNumber : size_t
 {
     ID = 2,
@@ -79,7 +79,7 @@ constexpr std::array<FormLine, 20> FORM{{
 using Form = std::array<FormLine, 20>;
 using Values = std::array<std::string, FORM.size()>;
 
-/// The text by which a server is told of a maintenance job: it is not named, and neither is the publisher.
+/// The text that registers a maintenance job on a server: the ids of the job and of the publisher are empty.
 constexpr Form SERVER_FORM = [] {
     Form form = FORM;
     form[1] = only("Version", "0x01030000");
@@ -105,7 +105,7 @@ bool isControl(char c)
     return static_cast<unsigned char>(c) < ' ' || c == 0x7F;
 }
 
-/// What is wrong with one line; empty, and its value, when nothing is.
+/// Returns the mistake in a line. If there is none, returns an empty text and sets `value`.
 std::string readLine(const FormLine& form, const std::string& line, std::string& value)
 {
     if (std::any_of(line.begin(), line.end(), isControl)) {
@@ -146,7 +146,7 @@ std::optional<Values> readValues(const Form& form, std::string_view text, std::s
     return values;
 }
 
-/// The time that an id carries, in seconds as if its place were at zero meridian; nothing when it is no id.
+/// Returns the local time in an id, in seconds as if it were UTC; nothing if the id is invalid.
 std::optional<int64_t> timeOfId(std::string_view id)
 {
     constexpr std::string_view PREFIX = "LOCALHOST_";
@@ -173,14 +173,14 @@ std::optional<int64_t> timeOfId(std::string_view id)
     date.tm_sec = part(12, 2);
     const std::tm written = date;
     const int64_t seconds = ::timegm(&date);
-    // A date that the calendar does not have comes back as another one.
+    // timegm() normalises a date that does not exist to another date.
     const bool exists = date.tm_year == written.tm_year && date.tm_mon == written.tm_mon &&
                         date.tm_mday == written.tm_mday && date.tm_hour == written.tm_hour &&
                         date.tm_min == written.tm_min && date.tm_sec == written.tm_sec;
     return exists ? std::optional(seconds) : std::nullopt;
 }
 
-/// "Create" is the moment of the id, but for the time zone that the id was written in.
+/// Returns whether "Create" is the time of the id, within a day, because the time zone of the id is unknown.
 bool isCreatedAt(std::string_view value, int64_t idTime)
 {
     constexpr int64_t A_DAY = 86'400;
@@ -197,7 +197,7 @@ std::string wrongValue(size_t line, const Values& values, const std::string& wan
     return atLine(line, std::string(FORM[line].text) + " is " + quoted(values[line]) + ", not " + wanted);
 }
 
-/// The stacker number of "Load" or "Eject"; nothing when there is none of that number.
+/// Returns the stacker number of "Load" or "Eject"; nothing if it is invalid.
 std::optional<int> stackerOf(const std::string& value)
 {
     if (value == "-1") {
@@ -207,8 +207,8 @@ std::optional<int> stackerOf(const std::string& value)
                                                                    : std::nullopt;
 }
 
-/// "Eject" of a nozzle check as the settings want it. In the output mode of a machine without a fourth
-/// stacker there is one way out, which the settings call now the third and now the fourth.
+/// Returns whether "Eject" of a nozzle check matches the settings. In the output mode, a machine without a
+/// fourth stacker has one output, which the settings call either the third or the fourth stacker.
 bool fitsEject(int eject, const Setting& setting, const Model& model)
 {
     constexpr int STACKERS_2_AND_3 = 0;

@@ -1,4 +1,4 @@
-// The job files that programs leave in the job folder: maintenance jobs of a printer.
+// The job files that programs write to the job folder: maintenance jobs of a printer.
 #pragma once
 
 #include <cstdint>
@@ -11,37 +11,39 @@
 
 namespace udsim {
 
-/// What a proper job file says.
+/// The contents of a valid job file.
 struct JobFile
 {
     std::string id;
     std::string publisher; ///< regist id
     std::string dataPath;  ///< of the print data
-    bool cleaning = false; ///< or else a nozzle check
-    int load = 0;          ///< as the file numbers the stackers; -1: none
+    bool cleaning = false; ///< head cleaning; else nozzle check
+    int load = 0;          ///< the file's stacker number; -1: none
     int eject = 0;
     std::string name;
 };
 
-/// The writer has come to the last line's end.
+/// Returns whether the last line of the file is written completely.
 bool isWholeJobFile(std::string_view text);
 
-/// Reads a job file. It has one form, down to the order of its lines; any other text yields nothing, and in
-/// `error` what is wrong with it, with its line. Never more than a line of it, whatever the bytes.
+/// Parses a job file. The format is fixed, including the order of the lines. Returns nothing for any other
+/// text, with the mistake and its line in `error`, as a single line for any input.
 std::optional<JobFile> parseJobFile(std::string_view text, std::string& error);
 
-/// Reads the text by which a network publisher is told of a maintenance job; likewise.
+/// The same for the text that registers a maintenance job on a network publisher.
 std::optional<JobFile> parseServerJob(std::string_view text, std::string& error);
 
-/// Why a publisher that is set so cannot move the job's discs as it wants; empty when it can.
+/// Returns why a publisher with these settings cannot move the discs of the job; empty if it can.
 std::string routeRefusalOf(const JobFile& job, const Setting& setting, const Model& model);
-/// Why a publisher that is set so cannot carry out the job; empty when it can. Looks for the print data.
+/// Returns why a publisher with these settings cannot carry out the job; empty if it can. Checks the print
+/// data file.
 std::string refusalOf(const JobFile& job, const Setting& setting, const Model& model);
 
-/// The job as the machine's list takes it.
+/// Returns the job for the machine's list.
 JobSetup setupOf(const JobFile& job);
 
-/// A text from outside for a line of output: control characters and all beyond ASCII as '?', cut to 80 bytes.
+/// Makes external text safe for output: replaces control and non-ASCII characters by '?', cuts it to 80
+/// bytes.
 std::string printable(std::string_view text);
 
 } // namespace udsim

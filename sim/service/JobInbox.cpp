@@ -26,7 +26,7 @@ struct CloseFolder
     }
 };
 
-/// ".epj" alone is a hidden file without a name.
+/// Hidden files are no job files, so ".epj" alone is none.
 bool isJobFile(std::string_view name)
 {
     return !name.starts_with(".") && name.ends_with(".epj");
@@ -44,7 +44,7 @@ std::vector<std::string> jobFileNames(DIR* folder)
     return names;
 }
 
-/// The file's text, or why there is none.
+/// Sets the file's text, or the reason why it cannot be read.
 void read(int folder, FoundFile& found)
 {
     const Descriptor file(

@@ -1,4 +1,4 @@
-// Job files that programs leave in the job folder for the service.
+// Takes the job files that programs write to the job folder.
 #pragma once
 
 #include <chrono>
@@ -10,12 +10,12 @@
 
 namespace udsim {
 
-/// A file that was taken out of the folder.
+/// A file that was taken from the folder.
 struct FoundFile
 {
     std::string name;
-    std::string text;    ///< not whole when its writer's time was over
-    std::string refusal; ///< why it could not be read or removed; else empty
+    std::string text;    ///< incomplete if the writer exceeded `PATIENCE`
+    std::string refusal; ///< the reason if it could not be read or removed; else empty
 };
 
 class JobInbox
@@ -23,17 +23,16 @@ class JobInbox
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// The service reads no more of a file than this: a job is some hundred bytes.
+    /// Maximum size of a file in bytes; a job has a few hundred.
     static constexpr size_t LARGEST = 65'536;
-    /// How long a writer may take between the file's creation and its last line.
+    /// Maximum time between the first sight of a file and its last line.
     static constexpr std::chrono::seconds PATIENCE{3};
 
     explicit JobInbox(std::string path) : m_path(std::move(path)) {}
 
-    /// Takes out the job files that are there, in the order of their names, through a link that stands in the
-    /// folder's place. A file that is not whole stays until its writer's time is over; one that cannot be
-    /// removed is left alone for good, or it would be taken over and over. A folder that cannot be opened
-    /// has no files.
+    /// Takes the job files from the folder, which may be a link, in the order of their names. An incomplete
+    /// file stays for `PATIENCE`. A file that cannot be removed is ignored from then on, because it would be
+    /// taken repeatedly. A folder that cannot be opened counts as empty.
     std::vector<FoundFile> take(Clock::time_point now);
 
 private:
@@ -45,7 +44,7 @@ private:
     };
 
     std::string m_path;
-    std::map<std::string, Sight> m_seen; ///< what stayed in the folder
+    std::map<std::string, Sight> m_seen; ///< the files that stayed in the folder
 };
 
 } // namespace udsim

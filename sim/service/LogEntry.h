@@ -11,12 +11,11 @@ struct LogEntry
 {
     std::string message;
     int priority = 0;     ///< a syslog number
-    std::string datagram; ///< the bytes as they came
+    std::string datagram; ///< the bytes as received
 };
 
-/// Reads "MESSAGE=...\nPRIORITY=n\n". The message may itself hold line feeds; what stands behind the last
-/// PRIORITY line is not looked at. Nothing when either key is missing or the priority is no number from 0
-/// to 7.
+/// Parses "MESSAGE=...\nPRIORITY=n\n". The message may contain line feeds; text after the last PRIORITY line
+/// is ignored. Returns nothing if either key is missing or the priority is not a number from 0 to 7.
 std::optional<LogEntry> parseLogEntry(std::string_view datagram);
 
 } // namespace udsim

@@ -1,4 +1,4 @@
-// The numbers of the control service's protocol, as the service knows them.
+// The numbers in the control service's protocol.
 #pragma once
 
 #include <cstddef>
@@ -89,7 +89,7 @@ inline constexpr uint64_t CANCELLED = 8;
 inline constexpr uint64_t FINISHED = 9;
 } // namespace job_status
 
-/// Parameter of GET_JOB_STATUS, a sum.
+/// Parameter of GET_JOB_STATUS, a sum of bits.
 inline constexpr uint64_t PROCESSING_JOBS = 1;
 inline constexpr uint64_t COMPLETE_JOBS = 2;
 /// Parameter of JOB_MOVE.
@@ -100,13 +100,13 @@ inline constexpr uint64_t JOB_TYPE_PRINT = 2;
 inline constexpr uint64_t JOB_TYPE_NOZZLE_CHECK = 4;
 inline constexpr uint64_t JOB_TYPE_CLEANING = 0x80000003;
 
-/// Sources and destinations of a job, a sum.
+/// Sources and destinations of a job, a sum of bits.
 inline constexpr uint64_t STACKER1 = 1;
 inline constexpr uint64_t STACKER2 = 2;
 inline constexpr uint64_t STACKER3 = 4;
 inline constexpr uint64_t STACKER4 = 8;
 
-/// What a job went through.
+/// Errors that a job met, a sum of bits.
 namespace history {
 inline constexpr uint32_t WRITE_ERROR = 1;
 inline constexpr uint32_t COVER_OPEN = 2;

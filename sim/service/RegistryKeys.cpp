@@ -12,7 +12,7 @@ namespace udsim {
 
 namespace {
 
-/// The key path of a section line.
+/// Returns the key path of a section line.
 std::string_view sectionOf(std::string_view line)
 {
     const size_t end = line.find(']');
@@ -20,7 +20,7 @@ std::string_view sectionOf(std::string_view line)
                                                                   : std::string_view();
 }
 
-/// The name of a value line; empty for any other line.
+/// Returns the name of a value line; empty for any other line.
 std::string_view valueNameOf(std::string_view line)
 {
     const size_t end = line.find('"', 1);
@@ -60,7 +60,7 @@ std::string withRegistryKeys(std::string_view fileText, const RegistryKeys& keys
 {
     std::string text;
     std::set<std::string> written;
-    const RegistryValues* present = nullptr; // what is set in the section at hand
+    const RegistryValues* present = nullptr; // values to set in the current section
     for (size_t start = 0; start < fileText.size();) {
         const size_t feed = fileText.find('\n', start);
         const size_t next = feed == std::string_view::npos ? fileText.size() : feed + 1;
@@ -91,7 +91,8 @@ std::string withRegistryKeys(std::string_view fileText, const RegistryKeys& keys
 
 namespace {
 
-/// The sections of a text, each with its lines; the first one holds the lines ahead of any section.
+/// Returns the sections of a text, each with its lines. Lines before the first section are an element of
+/// their own.
 std::vector<std::string_view> sectionsOf(std::string_view text)
 {
     std::vector<std::string_view> sections;

@@ -36,7 +36,7 @@ bool ServiceLog::write(const std::string& text, std::string& error) const
         static_cast<uint64_t>(status.st_size) + line.size() > m_largest) {
         rotate();
     }
-    // Opened for each line, since whoever clears the logs away asks nobody.
+    // Opened for each line, because the log may be removed at any time.
     const Descriptor file(
         ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC, 0644));
     if (!file.isOpen() ||

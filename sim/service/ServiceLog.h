@@ -1,4 +1,4 @@
-// The service's log file: dated lines, and older files beside it.
+// The service's log file: lines with date and time, and rotated older files.
 #pragma once
 
 #include <cstdint>
@@ -11,15 +11,15 @@ inline constexpr char SERVICE_LOG[] = "/var/log/arvenUlmarDiscControl.log";
 class ServiceLog
 {
 public:
-    /// A file ends before it would grow beyond `largest` bytes; `older` of them stay, as PATH.1 (the
-    /// youngest) and so on.
+    /// The file is rotated before it would exceed `largest` bytes; `older` files are kept, as PATH.1 (the
+    /// newest) and so on.
     explicit ServiceLog(std::string path = SERVICE_LOG, uint64_t largest = 262'144, unsigned older = 4)
         : m_path(std::move(path)), m_largest(largest), m_older(older)
     {
     }
 
-    /// Appends a line with the present date and local time. False, with the reason in `error`, when it cannot
-    /// be written.
+    /// Appends a line with the current date and local time. Returns false, with the reason in `error`, if it
+    /// cannot be written.
     bool write(const std::string& text, std::string& error) const;
 
 private:

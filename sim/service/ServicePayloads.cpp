@@ -14,7 +14,7 @@ constexpr char DRIVE_RELEASE_DATE[] = "2025/06/12";
 constexpr size_t INFO_FIELD = 32;
 constexpr uint64_t MOST_PRINTS = 100'000;
 
-/// How an error of the device shows in the status words of its parts.
+/// The status bits of the device's parts for an error code.
 struct ErrorBits
 {
     uint32_t code;
@@ -60,7 +60,7 @@ void appendJob(ByteWriter& out, const Publisher& publisher, const Job& job, size
         .u64(job.copies)
         .u64(0) // discs that failed
         .text(job.person, 65)
-        .text("", 65) // who approves
+        .text("", 65) // approver
         .zeros(6)
         .u64(job.type)
         .u64(sources)
@@ -99,7 +99,7 @@ uint64_t oneDriveStatus(const Publisher& publisher, unsigned which)
 
 namespace {
 
-/// The drive of this number is writing or verifying.
+/// Returns whether this drive is writing or verifying.
 bool isBurning(const Publisher& publisher, unsigned which)
 {
     const Phase phase = publisher.phase();
@@ -284,7 +284,7 @@ std::string maintenanceInfo(const Publisher& publisher)
     ByteWriter out;
     out.u64(printed).u64(MOST_PRINTS);
     if (model.maintenanceBox) {
-        constexpr uint64_t FULL = 100; // percent, of which the payload counts what is used
+        constexpr uint64_t FULL = 100; // percent; the payload contains the used part
         out.u64(FULL - publisher.state().maintenanceBox).u64(FULL);
     } else {
         out.u64(MAINTENANCE_FIGURE_UNKNOWN).u64(MAINTENANCE_FIGURE_UNKNOWN);

@@ -7,7 +7,7 @@ namespace udsim {
 
 namespace {
 
-/// A success with this payload.
+/// Returns a successful reply with this payload.
 Reply success(const Request& request, std::string payload = {})
 {
     return {request.control, result::SUCCESS, std::move(payload)};
@@ -37,7 +37,7 @@ size_t unfinishedJobs(const std::vector<Publisher>& all)
     return count;
 }
 
-/// Commands that a client may send without naming a publisher.
+/// Returns whether the command may be sent without a publisher.
 bool needsNoPublisher(const Request& request)
 {
     return request.control == control::GET_JOB_NUM || request.control == control::UPDATE_WORKING_FOLDER ||
@@ -56,7 +56,7 @@ Reply replyForAll(const Request& request, const std::vector<Publisher>& all, uin
     }
 }
 
-/// What only the device itself knows, and so nobody while it is not connected.
+/// Replies with data of the device itself, which is not available while it is disconnected.
 Reply replyOfDevice(const Request& request, const Publisher& publisher)
 {
     if (!publisher.connected()) {
@@ -76,7 +76,7 @@ Reply replyOfDevice(const Request& request, const Publisher& publisher)
 
 Reply precisionReply(const Request& request, const Publisher& publisher)
 {
-    // The oldest models cannot tell.
+    // The oldest models do not report the precision.
     return publisher.model().maintenanceBox ? number(request, publisher.model().highPrecision ? 1 : 0)
                                             : failure(request, result::FAILURE);
 }
@@ -99,7 +99,7 @@ uint64_t carryOut(const Request& request, Publisher& publisher)
         return publisher.setMode(request.parameter);
     case control::NOTIFY_CHANGE:
         return publisher.isWorking() ? result::BUSY : result::SUCCESS;
-    default: // NOTIFY_READ, UPDATE_WORKING_FOLDER, NOTIFY_CHANGE_ERRORRATE_TIMES: there is nothing to do
+    default: // NOTIFY_READ, UPDATE_WORKING_FOLDER, NOTIFY_CHANGE_ERRORRATE_TIMES: no effect
         return result::SUCCESS;
     }
 }

@@ -1,4 +1,4 @@
-// The reply of the control service to each control, from the state of the machines.
+// The reply of the control service to each control id, from the state of the machines.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace udsim {
 
-/// Carries out one request. `publisher` is the machine that it names, null when it names none or an unknown
-/// one; `all` are the machines of the room; `uniqueNumber` is one that no other request was given.
+/// Carries out one request. `publisher` is the machine that it names; null if it names none or an unknown
+/// one. `all` are the machines of the room. `uniqueNumber` differs in every request.
 Reply replyTo(const Request& request, Publisher* publisher, const std::vector<Publisher>& all,
               uint64_t uniqueNumber);
 

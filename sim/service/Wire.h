@@ -1,4 +1,4 @@
-// The frames of the control service: what bytes a request and a reply are.
+// The frames of the control service: encodes replies and decodes requests.
 #pragma once
 
 #include <cstdint>
@@ -7,18 +7,18 @@
 
 namespace udsim {
 
-/// A request, read from its frame.
+/// A decoded request.
 struct Request
 {
     uint64_t control = 0;
-    std::string publisher; ///< regist id; empty when the command names none
+    std::string publisher; ///< regist id; empty if the command names none
     std::string job;
     uint64_t parameter = 0;
 
     bool operator==(const Request&) const = default;
 };
 
-/// A reply before it becomes a frame.
+/// A reply before encoding.
 struct Reply
 {
     uint64_t control = 0;
@@ -26,14 +26,13 @@ struct Reply
     std::string payload;
 };
 
-/// The little-endian number at a place; its eight bytes have to be there.
+/// Reads the little-endian number at this position; the frame must contain its eight bytes.
 uint64_t readU64(std::string_view frame, size_t at);
-/// Reads a frame of exactly `REQUEST_SIZE` bytes. A text that fills its field without a NUL ends with the
-/// field.
+/// Decodes a frame of exactly `REQUEST_SIZE` bytes. A text without a NUL ends with its field.
 Request decodeRequest(std::string_view frame);
-/// `control 3 of "R", job "J"`, with all that a request says.
+/// Describes all parts of a request: `control 3 of "R", job "J"`.
 std::string inWords(const Request& request);
-/// The header, and the payload behind it.
+/// Returns the header followed by the payload.
 std::string encodeReply(const Reply& reply);
 
 /// Writes a payload field by field, little-endian, padding included.
