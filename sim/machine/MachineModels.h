@@ -13,8 +13,8 @@ struct Model
     uint32_t deviceType; ///< "DPType" of the device key
     unsigned drives;
     unsigned stackers;       ///< 4, or 3 for the models without an external one
-    bool bluRay;             ///< takes BD-R
-    bool bluRayXl;           ///< takes BD-R TL and QL as well
+    bool bluRay;             ///< supports BD-R
+    bool bluRayXl;           ///< also supports BD-R TL and QL
     bool maintenanceBox;     ///< has a replaceable one
     bool highPrecision;      ///< counts printable discs in high precision
     const char* modes;       ///< digits of the supported publish modes
