@@ -108,7 +108,7 @@ TEST_F(ServerJobs, AnUnfinishedImage)
     ASSERT_TRUE(job.files.contains("DiscImage_a.iso"));
     EXPECT_EQ(job.files.at("DiscImage_a.iso").contents.size(), 400U);
     EXPECT_EQ(job.files.at("DiscImage_a.iso").hash, udsim::UploadedFile::Hash::right)
-        << "the end of the connection sends the hash of what there is";
+        << "closing the connection sends the hash of the bytes sent so far";
 }
 
 TEST_F(ServerJobs, RefusedUploads)

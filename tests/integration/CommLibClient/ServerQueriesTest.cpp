@@ -135,6 +135,5 @@ TEST(ServerQueries, StatusDuringAJob)
     open.room.tell("A", "server off");
     EXPECT_EQ(GetALDStatus(connection.handle, &loader), NCL_ERR_CONNECTION_CLOSE);
     open.room.tell("A", "server on");
-    EXPECT_EQ(GetALDStatus(connection.handle, &loader), NCL_ERR_DEVICE_OFFLINE)
-        << "it connects anew by itself";
+    EXPECT_EQ(GetALDStatus(connection.handle, &loader), NCL_ERR_DEVICE_OFFLINE) << "the library reconnects";
 }

@@ -30,7 +30,7 @@ inline void ExpectSuccess(const NetworkOperation& operation, const NetworkAnswer
 {
     const std::string name = operation.name;
     if (name == "IsFatalErrorInPublisher") {
-        EXPECT_EQ(answer.result, 0) << "there is none";
+        EXPECT_EQ(answer.result, 0) << "there is no fatal error";
     } else {
         EXPECT_NE(answer.result, operation.resultWhenRefused);
     }

@@ -101,7 +101,7 @@ TEST_P(NetworkFailureOf, EachRequestOfEachOperationInTurn)
                 EXPECT_EQ(m_exchanges, requests + failure.exchanges - 1);
             } else {
                 ExpectFailure(operation, request, failure.code, answer);
-                EXPECT_EQ(m_exchanges, request + failure.exchanges) << "nothing is asked behind it";
+                EXPECT_EQ(m_exchanges, request + failure.exchanges) << "no request follows the failure";
             }
         }
     }
@@ -153,7 +153,7 @@ TEST_F(NetworkFailures, ACancelFailsIfItsListOrCommandFails)
         PrepareJob();
         m_open.Befall(failure.fault, OF_CONNECTION, failure.exchanges);
         EXPECT_EQ(Ask(operation).result, 0);
-        EXPECT_EQ(m_exchanges, OF_CONNECTION + failure.exchanges) << "without a list nothing is cancelled";
+        EXPECT_EQ(m_exchanges, OF_CONNECTION + failure.exchanges) << "no cancel without a list";
         PrepareJob();
         m_open.Befall(failure.fault, OF_CONNECTION + 1, failure.exchanges);
         const NetworkAnswer answer = Ask(operation);
@@ -229,7 +229,8 @@ TEST_F(NetworkFailures, RepliesOfTheWrongSize)
                       Ask(NetworkOperationOf(name)));
     }
     m_open.Befall("size 1178", OF_CONNECTION, 1);
-    EXPECT_EQ(Ask(NetworkOperationOf("GetServiceJobStatusFinish")).result, 1) << "an empty job, all zero";
+    EXPECT_EQ(Ask(NetworkOperationOf("GetServiceJobStatusFinish")).result, 1)
+        << "the padded item is a job of zeros";
 }
 
 TEST_F(NetworkFailures, TextsTooLongForTheirBuffers)

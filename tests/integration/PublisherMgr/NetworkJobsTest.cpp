@@ -105,7 +105,7 @@ TEST_F(NetworkJobs, AListContainsEachValue)
     EXPECT_EQ(job.ulErrorNumber, 0U);
     EXPECT_EQ(job.ulJobType, 3U);
     EXPECT_EQ(job.ulSource, 1U);
-    EXPECT_EQ(job.ulDestination, 2U) << "the first of the stackers that take it";
+    EXPECT_EQ(job.ulDestination, 2U) << "the first possible output stacker";
     EXPECT_EQ(job.ulPubMode, 0U);
     EXPECT_EQ(job.ulHistory, 0U);
 }
@@ -215,7 +215,7 @@ TEST_F(NetworkJobs, ACancelAffectsTheJobWithThatId)
     EXPECT_EQ(StateOf(1), 1U);
     EXPECT_EQ(StateOf(2), 8U);
     EXPECT_EQ(StateOf(3), 1U);
-    EXPECT_FALSE(m_mgr.SetServiceJobCancel("R", "B", nullptr)) << "it is no longer among the unfinished";
+    EXPECT_FALSE(m_mgr.SetServiceJobCancel("R", "B", nullptr)) << "the job has ended";
     EXPECT_FALSE(m_mgr.SetServiceJobCancel("R", "D", nullptr));
     EXPECT_FALSE(m_mgr.SetServiceJobCancel("R", "R.1", nullptr)) << "only ids of submitters count";
     EXPECT_TRUE(m_open.AllClosed());
@@ -231,7 +231,7 @@ TEST_F(NetworkJobs, ACancelOfASharedIdCancelsTheFirstJob)
     m_open.Befall("status 9", 0, 1, "/webapp2/JobController");
     Add("D");
     long code = 77;
-    EXPECT_TRUE(m_mgr.SetServiceJobCancel("R", "D", &code)) << "the one behind the refused one";
+    EXPECT_TRUE(m_mgr.SetServiceJobCancel("R", "D", &code)) << "the next job with this id";
     EXPECT_EQ(code, 0);
     EXPECT_EQ(StateOf(2), 1U);
     EXPECT_EQ(StateOf(3), 8U);
@@ -263,7 +263,7 @@ TEST_F(NetworkJobs, EveryStepOfASubmission)
         ASSERT_TRUE(m_mgr.SendJobData(connection.handle, BytesOf(JOB_DATA), SizeOf(JOB_DATA), &job, &code));
         EXPECT_EQ(code, 0U);
         EXPECT_EQ(job, 1);
-        EXPECT_EQ(m_mgr.GetCommunicateJobCount("R"), 1) << "on a connection beside";
+        EXPECT_EQ(m_mgr.GetCommunicateJobCount("R"), 1) << "queried on another connection";
         EXPECT_EQ(m_mgr.GetJobCount("R", nullptr), 0);
         code = 77;
         EXPECT_TRUE(m_mgr.SendDiscInfo(connection.handle, job, BytesOf(TEXT), SizeOf(TEXT), &code));
@@ -310,7 +310,7 @@ TEST_F(NetworkJobs, ACancelledSubmission)
     ASSERT_TRUE(m_mgr.SendJobData(connection.handle, BytesOf(JOB_DATA), SizeOf(JOB_DATA), &job, &code));
     long result = 77;
     EXPECT_TRUE(m_mgr.CancelJob("R", "whatever", connection.handle, job, &result));
-    EXPECT_EQ(result, 77) << "left alone on success";
+    EXPECT_EQ(result, 77) << "unchanged on success";
     EXPECT_EQ(m_mgr.GetCommunicateJobCount("R"), 0);
     EXPECT_FALSE(m_mgr.CancelJob("R", "whatever", connection.handle, job, &result));
     EXPECT_EQ(result, 8007);

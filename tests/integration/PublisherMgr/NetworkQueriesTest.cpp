@@ -106,7 +106,7 @@ TEST(NetworkQueries, TheKindIsStoredAgainAfterTheFileIsWritten)
     EXPECT_EQ(ReadPublisher("R"), "[Common]\nPublisherName=Lab\nPrinterName=NotSet\n"
                                   "PublisherConnectionType=1\nPublisherURL=127.0.0.11\n");
     ASSERT_TRUE(open.mgr.GetPublisherInfo("R", &info, FALSE));
-    EXPECT_EQ(info.uiNetPublisherType, 0U) << "the file is read before the server is asked";
+    EXPECT_EQ(info.uiNetPublisherType, 0U) << "the file is read before the server is queried";
     ASSERT_TRUE(open.mgr.GetPublisherInfo("R", &info, TRUE));
     EXPECT_EQ(info.uiNetPublisherType, 2U);
     EXPECT_EQ(info.strPublisherName, "Lab");
@@ -228,7 +228,8 @@ TEST(NetworkQueries, TheOldestModelWithAnotherKindHasNoFigures)
 {
     NetworkRoom open(Scenario("", "RT-300N"));
     PUBLISHERMAINTENANCEINFO info;
-    EXPECT_FALSE(open.mgr.GetPublisherMaintenanceInfo("R", &info, nullptr)) << "the record is a short one";
+    EXPECT_FALSE(open.mgr.GetPublisherMaintenanceInfo("R", &info, nullptr))
+        << "the reply is the short record";
     EXPECT_TRUE(open.AllClosed());
 }
 
@@ -280,7 +281,7 @@ TEST(NetworkQueries, StatusWithoutAJob)
     EXPECT_EQ(stackers[0], 0x8000003CU);
     EXPECT_EQ(stackers[1], 3U);
     EXPECT_EQ(stackers[2], 7U);
-    EXPECT_EQ(stackers[3], 7U) << "that of stacker 3";
+    EXPECT_EQ(stackers[3], 7U) << "reported as for stacker 3";
 
     ST_PC_DRV_STATUS drives[2] = {};
     code = 77;
@@ -383,7 +384,8 @@ TEST(NetworkQueries, TheNumberOfPrintsThatTheInkAllows)
     EXPECT_EQ(code, 0);
     open.room.tell("A", "offline");
     code = 77;
-    EXPECT_EQ(open.mgr.GetServiceEstimateCirculation("R", &code), -1) << "the server does not know it";
+    EXPECT_EQ(open.mgr.GetServiceEstimateCirculation("R", &code), -1)
+        << "unknown while the machine is offline";
     EXPECT_EQ(code, 0);
 }
 

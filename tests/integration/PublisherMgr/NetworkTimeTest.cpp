@@ -27,11 +27,11 @@ protected:
         const auto seconds =
             std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count();
         EXPECT_GE(seconds, 4.9);
-        EXPECT_LT(seconds, 9.0) << "one attempt, and no other";
+        EXPECT_LT(seconds, 9.0) << "only one attempt";
     }
 
     TcpListener m_listener{"127.0.0.1", 80, 0};
-    std::vector<CSocket> m_waiting{8}; ///< more than the backlog: the kernel answers no more
+    std::vector<CSocket> m_waiting{8}; ///< more than the backlog: the kernel stops answering
     std::chrono::steady_clock::time_point m_start;
     CNetworkPublisherMgr m_mgr{true, PUBLISHER_SETTING_DIR};
 };

@@ -54,7 +54,7 @@ TEST(NetworkVanishing, AfterEachRequestOfEachOperation)
     WritePublisher("R", "[Common]\nPublisherURL=127.0.0.1\n");
     for (const NetworkOperation& operation : NetworkOperations()) {
         for (size_t answered = 0; answered < OF_CONNECTION + operation.requests; ++answered) {
-            SCOPED_TRACE(std::string(operation.name) + " behind " + std::to_string(answered));
+            SCOPED_TRACE(std::string(operation.name) + " after " + std::to_string(answered));
             CNetworkPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
             TcpServer server({Answering(answered)}, "127.0.0.1", 80);
             const NetworkAnswer answer = operation.call(mgr, "R", true);
@@ -62,7 +62,7 @@ TEST(NetworkVanishing, AfterEachRequestOfEachOperation)
             if (operation.requests == 0 && lost == OF_CONNECTION) {
                 ExpectSuccess(operation, answer);
             } else if (operation.name == std::string("GetServiceJobStatus") && lost > OF_CONNECTION) {
-                EXPECT_EQ(answer.result, 1) << "one of the two lists came";
+                EXPECT_EQ(answer.result, 1) << "one of the two lists was received";
             } else if (operation.name == std::string("SetServiceJobCancel") && lost == OF_CONNECTION) {
                 EXPECT_EQ(answer.result, 0);
             } else {

@@ -31,7 +31,7 @@ protected:
             }
             m_program.waitForFinished(50); // or for a moment
         }
-        ADD_FAILURE() << "no properties; the program said: "
+        ADD_FAILURE() << "no properties; the program printed: "
                       << m_program.readAllStandardError().toStdString();
         return QString();
     }

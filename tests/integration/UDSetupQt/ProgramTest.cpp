@@ -129,8 +129,8 @@ TEST_F(ProgramTest, EndsAlthoughTheServiceNeverAnswers)
     choose(id, "f", "x");
     const qint64 closing = time.elapsed();
     expectEnd(60000);
-    EXPECT_GE(time.elapsed(), 10000) << "the wait for the query";
-    EXPECT_LE(time.elapsed() - closing, 15000) << "the wait and five seconds";
+    EXPECT_GE(time.elapsed(), 10000) << "it waits for the query";
+    EXPECT_LE(time.elapsed() - closing, 15000) << "at most five seconds more than the wait";
 }
 
 } // namespace

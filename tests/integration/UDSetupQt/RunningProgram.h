@@ -87,7 +87,7 @@ protected:
             m_program.waitForFinished(50); // or for a moment
         }
         m_program.waitForReadyRead(0);
-        ADD_FAILURE() << "no window; the program said: " << m_program.readAllStandardError().toStdString();
+        ADD_FAILURE() << "no window; the program printed: " << m_program.readAllStandardError().toStdString();
         return QString();
     }
 

@@ -92,7 +92,7 @@ TEST_F(RecordServer, PasswordsAreNotRecorded)
             authorization = request.header("Authorization");
         }
     }
-    ASSERT_EQ(authorization.find("Basic "), 0U) << "the server did get it";
+    ASSERT_EQ(authorization.find("Basic "), 0U) << "the server receives it";
     const std::string text = ReadText(FILE_NAME);
     EXPECT_NE(text.find("Authorization:**"), std::string::npos);
     EXPECT_EQ(text.find(authorization.substr(6)), std::string::npos);
@@ -152,7 +152,7 @@ TEST_F(RecordServer, TheRecorderDoesNotConnectToItself)
     const std::string told = "udsim: cannot be connected: 127.0.0.99:8080: leads back here\n";
     const size_t first = output.find(told);
     EXPECT_NE(first, std::string::npos) << output;
-    EXPECT_EQ(output.find(told, first + 1), std::string::npos) << "not over and over: " << output;
+    EXPECT_EQ(output.find(told, first + 1), std::string::npos) << "reported only once: " << output;
 }
 
 TEST_F(RecordServer, AnExcessClientIsReported)
@@ -176,7 +176,7 @@ TEST_F(RecordServer, ItEndsDespiteOpenConnectionsAndSilentServers)
     TcpPeer peer = silent.Accept();
     EXPECT_NE(peer.ReadHead().find("GET /webapp"), std::string::npos);
     recorder.end();
-    EXPECT_NE(ReadText(FILE_NAME).find(" 1 ask "), std::string::npos) << "the last message is in it";
+    EXPECT_NE(ReadText(FILE_NAME).find(" 1 ask "), std::string::npos) << "the last message is recorded";
 }
 
 TEST(Replay, InvalidFiles)

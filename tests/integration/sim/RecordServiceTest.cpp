@@ -80,7 +80,7 @@ TEST(RecordService, TheClientGetsTheSameAnswers)
     EXPECT_NE(live.find("jobs 1 2 0\n  One 2\n  Two 1\n"), std::string::npos) << live;
     EXPECT_NE(live.find("stop 0 22\n"), std::string::npos) << live;
     recorder.end();
-    EXPECT_EQ(WholeSession(), direct) << "the service has its place again";
+    EXPECT_EQ(WholeSession(), direct) << "the service's socket is restored";
     room.reset();
     const std::string text = ReadText(FILE_NAME);
     EXPECT_NE(text.find("\n# asks control 13 of \"A\"\n"), std::string::npos) << text;
@@ -89,7 +89,7 @@ TEST(RecordService, TheClientGetsTheSameAnswers)
     ProgramProcess player(UDSIM, {"replay", FILE_NAME});
     player.readUntil("udsim: replaying at /var/run/arvenUlmarDiscControl.socket; Ctrl-C ends it\n");
     EXPECT_EQ(WholeSession(), direct);
-    EXPECT_EQ(WholeSession(), direct) << "and the last answers once more";
+    EXPECT_EQ(WholeSession(), direct) << "the last answers are repeated";
     long code = 0;
     EXPECT_FALSE(CPublisherMgr(true).SetServiceNotifyChange("A", &code));
     EXPECT_EQ(code, -1);
@@ -160,7 +160,7 @@ TEST(RecordService, AReplyInPiecesIsForwardedAsOne)
     const std::string reply = Bytes(28).u64(0, 13).u64(16, 4).u32(24, 7).str();
     for (const size_t place : {0, 12}) {
         EXPECT_TRUE(peer.Write(reply.substr(place, 12)));
-        EXPECT_FALSE(client.isReadable(50)) << "half a reply is kept back";
+        EXPECT_FALSE(client.isReadable(50)) << "half a reply is not forwarded";
     }
     EXPECT_TRUE(peer.Write(reply.substr(24)));
     EXPECT_EQ(client.readOnce(4096), reply);
@@ -172,7 +172,7 @@ TEST(RecordService, AReplyInPiecesIsForwardedAsOne)
     peer.Close();
     service.reset();
     recorder.end();
-    EXPECT_FALSE(std::filesystem::exists(SERVICE_SOCKET)) << "the service has ended meanwhile";
+    EXPECT_FALSE(std::filesystem::exists(SERVICE_SOCKET)) << "the socket of an ended service is not restored";
 }
 
 TEST(RecordService, ARestartedServiceKeepsItsPlace)
@@ -185,7 +185,7 @@ TEST(RecordService, ARestartedServiceKeepsItsPlace)
     recorder.end();
     const RawClient client;
     EXPECT_TRUE(client.send("x"));
-    EXPECT_EQ(again.Accept().ReadExactly(1), "x") << "it is still reached";
+    EXPECT_EQ(again.Accept().ReadExactly(1), "x") << "it still receives connections";
     EXPECT_FALSE(std::filesystem::exists(std::string(SERVICE_SOCKET) + ".recorded"));
 }
 
