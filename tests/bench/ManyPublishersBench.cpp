@@ -208,7 +208,7 @@ bool measureLost()
         Installation::addNetwork("lost" + std::to_string(i), "Lost " + std::to_string(i), address);
     }
 
-    std::vector<double> refreshes; // of the living publisher: seconds since the previous one, or the start
+    std::vector<double> refreshes; // of the reachable publisher: seconds since the previous one, or the start
     int ready = 0;
     int lostAnswers = 0;
     auto last = Clock::now();
