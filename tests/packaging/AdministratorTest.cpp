@@ -108,7 +108,7 @@ TEST_F(AdministratorTest, UsesTheUsersDisplayLanguageAndScale)
     launch({"--administrator"});
     const QString id = window(mainTitle);
     ASSERT_FALSE(id.isEmpty());
-    EXPECT_TRUE(xdotool({"getwindowgeometry", id}).contains("Geometry: 1000x375")) << "800 by 300, scaled";
+    EXPECT_TRUE(xdotool({"getwindowgeometry", id}).contains("Geometry: 1000x375")) << "800 x 300, scaled";
     choose(id, "d", "b"); // "Datei", "Beenden"
     expectEnd();
     EXPECT_EQ(m_program.readAllStandardOutput(),
