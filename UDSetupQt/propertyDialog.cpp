@@ -33,9 +33,8 @@ void hideAll(std::initializer_list<QWidget*> widgets)
     }
 }
 
-/// A box keeps the size that it worked out before it had its items until it is shown; setting its policy lets
-/// it forget. The policy that follows the contents would do so by itself, but it resizes a box past its
-/// layout.
+/// Until it is shown, a box caches the size hint that it computed before it had its items. Setting the policy
+/// clears the cache. AdjustToContents alone would do so too, but it resizes a box beyond its layout.
 void forgetSizeHint(QComboBox* box)
 {
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -67,7 +66,7 @@ void propertyDialogEx::setUpItemValues()
     setValues(selectPublishMode,
               {PUBMGR_PUBLISHMODE_NORMAL, PUBMGR_PUBLISHMODE_OUTPUT, PUBMGR_PUBLISHMODE_BATCH});
     for (QComboBox* box : {selectStacker1, selectStacker2}) {
-        // The last is the output stacker, which the first box does not offer.
+        // The last value is the output stacker, which selectStacker1 does not have.
         setValues(box,
                   {PUBMGR_STACKERDISCTYPE_CDR, PUBMGR_STACKERDISCTYPE_DVDR, PUBMGR_STACKERDISCTYPE_DVDRDL,
                    PUBMGR_STACKERDISCTYPE_BDR, PUBMGR_STACKERDISCTYPE_BDRDL, PUBMGR_STACKERDISCTYPE_BDRTL,
@@ -85,7 +84,7 @@ void propertyDialogEx::connectAll()
     connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::setChanged);
     connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::noteListedName);
     connect(selectPublishMode, indexChanged, this, &propertyDialogEx::changeStackerPub);
-    // The index is no argument of the slot.
+    // The slot does not take the index.
     connect(selectStacker1, indexChanged, this, [this] { changeStacker(); });
     connect(selectStacker2, indexChanged, this, &propertyDialogEx::setChanged);
     connect(selectStacker3, indexChanged, this, &propertyDialogEx::changeStacker3);
@@ -104,8 +103,9 @@ void propertyDialogEx::noteListedName()
     }
 }
 
-/// The labels of all groups are as wide as the widest, so that what they name stands in one column. A page
-/// tells the tabs of a change of its size only through the event loop, which is too late for a first showing.
+/// Gives the labels of all groups the same width, so that the controls are aligned in one column. A page
+/// reports a new size to the tabs through the event loop, which is too late for the first showing; therefore
+/// the layouts are activated here.
 void propertyDialogEx::settleSize()
 {
     int widest = 0;
@@ -195,7 +195,7 @@ void propertyDialogEx::fillIdentity()
     setWindowTitle(tr("Properties - ") + name + QLatin1Char('(') +
                    modelText(m_modelType, m_info.uiNetPublisherType) + QLatin1Char(')'));
     textPublisherName->setMaxLength(
-        std::max(textPublisherName->maxLength(), static_cast<int>(name.size()))); // cuts nothing stored
+        std::max(textPublisherName->maxLength(), static_cast<int>(name.size()))); // never cuts a stored name
     textPublisherName->setText(name);
     const bool known = m_info.uiUseDrive <= PUBMGR_USEDRIVE_DRIVE2;
     selectUseDrive->setCurrentIndex(known ? static_cast<int>(m_info.uiUseDrive) : -1);
@@ -321,7 +321,7 @@ void propertyDialogEx::updateVersion(bool bMaint, const PUBLISHERMAINTENANCEINFO
     }
 }
 
-/// A network publisher: everything but its name is set at its server, and only looked at here.
+/// A network publisher is configured at its server. Only its name can be edited here.
 void propertyDialogEx::showAsTexts()
 {
     cancelButton->setEnabled(false);
@@ -354,7 +354,7 @@ void propertyDialogEx::headCleaningSequence()
 bool propertyDialogEx::event(QEvent* e)
 {
     if (e->type() == QEvent::ApplicationPaletteChange) {
-        propertyTab->setStyleSheet(propertyTab->styleSheet()); // works out palette(base) afresh
+        propertyTab->setStyleSheet(propertyTab->styleSheet()); // evaluates palette(base) again
         setFrameColours(*propertyTab);
     }
     return QWidget::event(e);

@@ -9,15 +9,15 @@
 #include <QDialog>
 #include <QGraphicsScene>
 
-/// Lives on the stack of its caller for one showing: fillContent(), then exec(), which gives 1 when the
-/// dialog was left by OK. User-interface thread only; filling and saving block while the service or the
-/// device answers.
+/// The caller keeps it on the stack for one showing: fillContent(), then exec(), which returns 1 if the
+/// dialog was closed with OK. User-interface thread only. Filling and saving block until the service or the
+/// device replies.
 class propertyDialogEx : public QDialog, public Ui::propertyDialog
 {
     Q_OBJECT
 
 public:
-    /// What was changed, as told to changeStacker().
+    /// What the user changed; the argument of changeStacker().
     enum
     {
         STACKER_1_2 = 0,
@@ -28,35 +28,36 @@ public:
     explicit propertyDialogEx(QDialog* parent);
     ~propertyDialogEx() override = default;
 
-    /// To be called once, before show(). Asks the service or the device for wear and versions unless
-    /// `bConnection` is 0. A model that is none of the RT-300 family, the RT-30 family and the network
-    /// publishers stops the process.
+    /// Call once, before show(). Queries wear and versions from the service or the device unless
+    /// `bConnection` is 0. A model outside the RT-300 family, the RT-30 family and the network publishers is
+    /// a failed assertion.
     void fillContent(const PUBLISHERINFO& info, BOOL bConnection);
-    /// Shows the wear figures, or hides them when `bMaint` is false.
+    /// Shows the wear figures, or hides them if `bMaint` is false.
     void updateMaintenance(bool bMaint, const PUBLISHERMAINTENANCEINFO& infoMaint);
-    /// Shows the serial number, which comes with the wear figures, and the versions; hides what is not known.
+    /// Shows the serial number, which is part of `infoMaint`, and the versions. Hides what is unknown.
     void updateVersion(bool bMaint, const PUBLISHERMAINTENANCEINFO& infoMaint, bool bVersion,
                        const PUBLISHERVERSIONINFO& infoVersion);
-    /// Lays the picture of the resource `path` over the earlier ones; null takes all of them away.
+    /// Adds the picture of the resource `path` on top of the earlier ones; null removes all of them.
     void setStackerSequenceImage(const char* path);
 
-    /// The wear of a drive's most worn part in percent. `*pdProductLife` is written in any case; false when
-    /// nothing is known of the drive.
+    /// The wear of a drive's most worn part in percent. `*pdProductLife` is always written. Returns false if
+    /// no count of the drive is known.
     static bool CalcDriveLifeValue(PUBMAINTINFODRIVE miDrive, double* pdProductLife);
-    /// The used share of a limit in percent, cut to two decimals, at most 100. False, with nothing written,
-    /// when the share is not known.
+    /// The used share of a limit in percent, cut to two decimals, at most 100. Returns false and writes
+    /// nothing if the share is unknown.
     static bool CalcProductLife(UINT uiPresentValue, UINT uiUpperLimit, double* pdProductLife);
 
     bool event(QEvent* e) override;
 
 public slots: // NOLINT(readability-redundant-access-specifiers): names the slots
-    /// True when the dialog may go on as saved; otherwise a box has told why not.
+    /// Returns true if everything is saved or nothing was changed; otherwise a message box has shown the
+    /// reason.
     bool savePublisherInfo();
     void saveAndExit();
     void saveAndContinue();
     void setChanged();
     void changeStackerPub();
-    /// Brings the stackers and the picture in line with the publish mode. Can re-enter itself.
+    /// Adjusts the stackers and the picture to the publish mode. Can re-enter itself.
     void changeStacker(int combNum = STACKER_1_2);
     void changeStacker3();
     void nozzleCheckSequence();
@@ -78,7 +79,7 @@ private:
     void arrangeStacker2(Stacker2Rule rule, bool modeChanged);
     void showSequence();
 
-    /// Why something was not saved; without a text it was.
+    /// The reason why something was not saved. Success has an empty text.
     struct Refusal
     {
         QString why;

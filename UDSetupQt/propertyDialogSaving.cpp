@@ -1,5 +1,5 @@
-// Saving: the device takes the publish mode first, the stored settings follow, and the service is told last.
-// What was done before a failure stays done.
+// Saves the settings: first the publish mode in the device, then the setting file, then a notice to the
+// service. A failure does not undo the earlier steps.
 #include "ComboValues.h"
 #include "OneLine.h"
 #include "StoredSettings.h"
@@ -71,8 +71,8 @@ propertyDialogEx::Refusal propertyDialogEx::save()
     return saveSettings();
 }
 
-/// The names are compared as they are shown: a stored one with bytes that no text has stays as it is unless
-/// it is edited.
+/// Compares the names as they are displayed. A stored name that is not valid UTF-8 is kept unless the user
+/// edits it.
 propertyDialogEx::Refusal propertyDialogEx::saveName()
 {
     const QString shown = oneLine(textPublisherName->text());
@@ -110,7 +110,7 @@ propertyDialogEx::Refusal propertyDialogEx::saveSettings()
     choices.stacker1 = selectedValue(selectStacker1);
     choices.stacker2 = selectedValue(selectStacker2);
     choices.stacker3 = selectedValue(selectStacker3);
-    choices.useDrive = static_cast<UINT>(selectUseDrive->currentIndex()); // none is PUBMGR_USEDRIVE_ERROR
+    choices.useDrive = static_cast<UINT>(selectUseDrive->currentIndex()); // no item: PUBMGR_USEDRIVE_ERROR
     choices.retryCount = static_cast<UINT>(spinRetryCount->value());
     choices.errorMark = checkErrorMark->isChecked();
     storeChoices(choices, modelFamily(m_modelType), m_info);

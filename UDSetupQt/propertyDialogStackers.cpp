@@ -1,4 +1,4 @@
-// The rules that tie the stackers to the publish mode, at work on the controls.
+// Applies the rules for publish mode and stackers to the controls.
 #include "ComboValues.h"
 #include "PubMgrConst.h"
 #include "propertyDialog.h"
@@ -16,14 +16,14 @@ void propertyDialogEx::changeStacker3()
 void propertyDialogEx::changeStacker(int combNum)
 {
     if (selectPublishMode->currentIndex() == -1) {
-        return; // a publisher whose settings are not known
+        return; // the settings of the publisher are unknown
     }
     setChanged();
     const UINT mode = selectedValue(selectPublishMode);
     const StackerDemand demand = stackerDemand(mode, modelFamily(m_modelType), combNum == STACKER_3);
     arrangeStacker2(demand.stacker2, combNum == PUB_MODE);
     if (demand.stacker3) {
-        selectValue(selectStacker3, *demand.stacker3); // a change comes back here, as one of stacker 3
+        selectValue(selectStacker3, *demand.stacker3); // a change re-enters this function with STACKER_3
     }
     if (demand.stacker3Enabled) {
         selectStacker3->setEnabled(*demand.stacker3Enabled);
@@ -45,7 +45,7 @@ void propertyDialogEx::arrangeStacker2(Stacker2Rule rule, bool modeChanged)
         selectValue(selectStacker2, PUBMGR_STACKERDISCTYPE_OUTPUT);
         break;
     case Stacker2Rule::followsStacker1:
-        // The same media stand in both boxes in the same order.
+        // Both boxes have the same media in the same order.
         selectStacker2->setCurrentIndex(selectStacker1->currentIndex());
         break;
     case Stacker2Rule::freeMedia:

@@ -11,7 +11,7 @@ inline void selectValue(QComboBox* box, UINT value)
     box->setCurrentIndex(box->findData(value));
 }
 
-/// The number of the selected item; 0 when none is selected.
+/// The number of the selected item; 0 if none is selected.
 inline UINT selectedValue(const QComboBox* box)
 {
     return box->currentData().toUInt();
