@@ -43,42 +43,6 @@ void storeForRt30(const SettingChoices& choices, PUBLISHERINFO& info)
 
 } // namespace
 
-UINT correctedMedia(UINT discType)
-{
-    switch (discType) {
-    case PUBMGR_STACKERDISCTYPE_OUTPUT:
-    case PUBMGR_STACKERDISCTYPE_CDR:
-    case PUBMGR_STACKERDISCTYPE_DVDR:
-    case PUBMGR_STACKERDISCTYPE_DVDRDL:
-    case PUBMGR_STACKERDISCTYPE_BDR:
-    case PUBMGR_STACKERDISCTYPE_BDRDL:
-    case PUBMGR_STACKERDISCTYPE_BDRTL:
-    case PUBMGR_STACKERDISCTYPE_BDRQL:
-        return discType;
-    case PUBMGR_STACKERDISCTYPE_DVDMINUSR:
-    case PUBMGR_STACKERDISCTYPE_DVDPLUSR:
-        return PUBMGR_STACKERDISCTYPE_DVDR;
-    case PUBMGR_STACKERDISCTYPE_DVDMINUSRDL:
-    case PUBMGR_STACKERDISCTYPE_DVDPLUSRDL:
-        return PUBMGR_STACKERDISCTYPE_DVDRDL;
-    default:
-        return PUBMGR_STACKERDISCTYPE_CDR;
-    }
-}
-
-UINT correctedStacker3(UINT discType)
-{
-    const bool inUse = discType <= PUBMGR_STACKERDISCTYPE_BDRDL || discType == PUBMGR_STACKERDISCTYPE_INPUT;
-    return inUse ? PUBMGR_STACKERDISCTYPE_OUTPUT : PUBMGR_STACKERDISCTYPE_NOTUSE;
-}
-
-UINT correctedPublishMode(UINT publishMode)
-{
-    const bool setElsewhere =
-        publishMode == PUBMGR_PUBLISHMODE_SECURITY || publishMode == PUBMGR_PUBLISHMODE_EJECTCONTROL;
-    return setElsewhere ? PUBMGR_PUBLISHMODE_NORMAL : publishMode;
-}
-
 void storeChoices(const SettingChoices& choices, ModelFamily family, PUBLISHERINFO& info)
 {
     ASSERT(family == ModelFamily::rt300 || family == ModelFamily::rt30);

@@ -1,18 +1,8 @@
-// Converts the settings of a publisher between the stored record and the controls of a dialog.
+// What the property dialog saves: the user's choices in the record of a local publisher.
 #pragma once
 
 #include "PublisherMgrIF.h"
 #include "StackerRules.h"
-
-/// The media shown for stacker 1 or 2: DVD-R and DVD+R are one choice; an unknown value shows as CD-R.
-UINT correctedMedia(UINT discType);
-
-/// The value shown for stacker 3: PUBMGR_STACKERDISCTYPE_OUTPUT if it is in use, otherwise ..._NOTUSE.
-UINT correctedStacker3(UINT discType);
-
-/// Modes that are set elsewhere show as normal mode. Any other mode is returned unchanged, even if it cannot
-/// be chosen.
-UINT correctedPublishMode(UINT publishMode);
 
 /// The user's choices.
 struct SettingChoices

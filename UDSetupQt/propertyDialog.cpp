@@ -1,11 +1,11 @@
 #include "propertyDialog.h"
 
 #include "ComboValues.h"
+#include "CorrectedSettings.h"
 #include "FrameColours.h"
 #include "MaintenanceSequences.h"
 #include "PubMgrConst.h"
 #include "RowTexts.h"
-#include "StoredSettings.h"
 #include "TitleRoom.h"
 #include "WaitCursor.h"
 #include "WearFigures.h"
@@ -73,6 +73,7 @@ void propertyDialogEx::setUpItemValues()
                    PUBMGR_STACKERDISCTYPE_BDRQL, PUBMGR_STACKERDISCTYPE_OUTPUT});
     }
     setValues(selectStacker3, {PUBMGR_STACKERDISCTYPE_OUTPUT, PUBMGR_STACKERDISCTYPE_NOTUSE});
+    spinRetryCount->setMaximum(maxRetryCount);
 }
 
 void propertyDialogEx::connectAll()
@@ -141,12 +142,7 @@ void propertyDialogEx::fillContent(const PUBLISHERINFO& info, BOOL bConnection)
     m_modelType = static_cast<int>(modelSetUpAs(modelType));
     adaptToModel();
     fillIdentity();
-    selectStoredStackers();
-    selectStoredPublishMode();
-    spinRetryCount->setValue(m_info.uiRetryCount);
-    textRetryCount->setText(spinRetryCount->text());
-    checkErrorMark->setChecked(m_info.bAddErrorMark);
-    textErrorMark->setText(m_info.bAddErrorMark ? tr("Print") : tr("Do not print"));
+    fillSettings();
     fillDeviceFigures(bConnection);
 
     m_isChanged = false;
@@ -173,13 +169,9 @@ void propertyDialogEx::adaptToModel()
         hideAll({labelStacker3, selectStacker3, labelUseDrive, selectUseDrive, textUseDrive,
                  labelDrive2LifeName, labelDrive2Life, labelDrive2LifeUnit, labelDrive2VersionLabel,
                  labelDrive2VersionValue});
-        m_info.uiStacker3DiscType = PUBMGR_STACKERDISCTYPE_NOTUSE;
         labelDrive1LifeName->setText(tr("Service life of Drive:"));
         labelDrive1VersionLabel->setText(tr("Drive:"));
         removeValue(selectPublishMode, PUBMGR_PUBLISHMODE_BATCH);
-        if (m_info.uiPublishMode == PUBMGR_PUBLISHMODE_BATCH) {
-            m_info.uiPublishMode = PUBMGR_PUBLISHMODE_NORMAL;
-        }
     }
     if (!writesBdXl(m_modelType, m_info.uiNetPublisherType)) {
         for (QComboBox* box : {selectStacker1, selectStacker2}) {
@@ -197,58 +189,31 @@ void propertyDialogEx::fillIdentity()
     textPublisherName->setMaxLength(
         std::max(textPublisherName->maxLength(), static_cast<int>(name.size()))); // never cuts a stored name
     textPublisherName->setText(name);
-    const bool known = m_info.uiUseDrive <= PUBMGR_USEDRIVE_DRIVE2;
-    selectUseDrive->setCurrentIndex(known ? static_cast<int>(m_info.uiUseDrive) : -1);
 }
 
-void propertyDialogEx::selectStoredStackers()
-{
-    m_info.uiStacker1DiscType = correctedMedia(m_info.uiStacker1DiscType);
-    selectValue(selectStacker1, m_info.uiStacker1DiscType);
-    m_info.uiStacker2DiscType = correctedMedia(m_info.uiStacker2DiscType);
-    selectValue(selectStacker2, m_info.uiStacker2DiscType);
-    m_info.uiStacker3DiscType = correctedStacker3(m_info.uiStacker3DiscType);
-    selectValue(selectStacker3, m_info.uiStacker3DiscType);
-}
-
-/// The boxes stand at the stored stackers already; choosing the mode has rearranged them by the rules for a
-/// user who chooses it. What is stored wins where the mode leaves a choice.
-void propertyDialogEx::selectStoredPublishMode()
+/// The slots are connected, so each selection applies the rules for a user's choice. Stackers 1 and 3 are
+/// selected before the mode, because its rules depend on them, and again after it.
+void propertyDialogEx::fillSettings()
 {
     const ModelFamily family = modelFamily(m_modelType);
-    ASSERT(family != ModelFamily::unknown);
-    m_info.uiPublishMode = correctedPublishMode(m_info.uiPublishMode);
+    correctSettings(family, m_info);
+    selectValue(selectStacker1, m_info.uiStacker1DiscType);
+    selectValue(selectStacker3, m_info.uiStacker3DiscType);
     selectValue(selectPublishMode, m_info.uiPublishMode);
-    switch (m_info.uiPublishMode) {
-    case PUBMGR_PUBLISHMODE_NORMAL:
-        m_info.uiStacker2DiscType = PUBMGR_STACKERDISCTYPE_OUTPUT;
-        selectValue(selectStacker2, PUBMGR_STACKERDISCTYPE_OUTPUT);
-        selectStacker2->setEnabled(false);
-        selectStacker3->setEnabled(family != ModelFamily::rt30);
-        if (family == ModelFamily::rt30) {
-            selectValue(selectStacker3, PUBMGR_STACKERDISCTYPE_NOTUSE);
-        }
-        break;
-    case PUBMGR_PUBLISHMODE_BATCH:
-        selectStacker2->setEnabled(false);
-        m_info.uiStacker3DiscType = PUBMGR_STACKERDISCTYPE_OUTPUT;
-        selectValue(selectStacker3, PUBMGR_STACKERDISCTYPE_OUTPUT);
-        selectStacker3->setEnabled(false);
-        break;
-    case PUBMGR_PUBLISHMODE_OUTPUT:
-        selectValue(selectStacker1, m_info.uiStacker1DiscType);
-        selectValue(selectStacker2, m_info.uiStacker2DiscType);
-        if (family != ModelFamily::rt30) {
-            selectValue(selectStacker3, m_info.uiStacker3DiscType); // in use or not, by its correction
-        }
-        break;
-    default:
-        for (QComboBox* box : {selectStacker1, selectStacker2, selectStacker3}) {
-            box->setCurrentIndex(-1);
-        }
-        break;
-    }
+
+    const ShownStackers shown = settleStackers(family, m_info);
+    selectValue(selectStacker1, shown.stacker1);
+    selectValue(selectStacker2, shown.stacker2);
+    selectValue(selectStacker3, shown.stacker3);
+    selectStacker2->setEnabled(shown.stacker2Enabled);
+    selectStacker3->setEnabled(shown.stacker3Enabled.value_or(selectStacker3->isEnabled()));
     showSequence();
+
+    selectUseDrive->setCurrentIndex(static_cast<int>(correctedUseDrive(m_info.uiUseDrive)));
+    spinRetryCount->setValue(correctedRetryCount(m_info.uiRetryCount));
+    textRetryCount->setText(spinRetryCount->text());
+    checkErrorMark->setChecked(m_info.bAddErrorMark);
+    textErrorMark->setText(m_info.bAddErrorMark ? tr("Print") : tr("Do not print"));
 }
 
 void propertyDialogEx::setStackerSequenceImage(const char* path)

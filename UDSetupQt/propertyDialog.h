@@ -70,8 +70,7 @@ private:
     void settleSize();
     void adaptToModel();
     void fillIdentity();
-    void selectStoredStackers();
-    void selectStoredPublishMode();
+    void fillSettings();
     void fillDeviceFigures(BOOL bConnection);
     void showAsTexts();
     void hideTexts();

@@ -5,10 +5,12 @@
 
 #include <QComboBox>
 
-/// Selects the item with `value`, or none.
-inline void selectValue(QComboBox* box, UINT value)
+#include <optional>
+
+/// Selects the item with `value`, or none if it is empty or there is no such item.
+inline void selectValue(QComboBox* box, std::optional<UINT> value)
 {
-    box->setCurrentIndex(box->findData(value));
+    box->setCurrentIndex(value ? box->findData(*value) : -1);
 }
 
 /// The number of the selected item; 0 if none is selected.

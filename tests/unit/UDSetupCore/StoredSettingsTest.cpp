@@ -1,58 +1,14 @@
 #include "StoredSettings.h"
 
+#include "CorrectedSettings.h"
+
 #include <gtest/gtest.h>
 
-#include <map>
 #include <random>
-#include <string>
 
 namespace {
 
 using enum ModelFamily;
-
-/// Every defined value, the adjacent numbers, and the ends of the range.
-constexpr UINT numbers[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,   9,          10,         11,        12,
-                            13, 14, 15, 16, 17, 31, 32, 33, 255, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
-
-TEST(CorrectedMedia, EveryStoredValueIsShownAsAChoice)
-{
-    const std::map<UINT, UINT> notCdr = {{0, 0}, {2, 6}, {3, 7}, {4, 6},   {5, 7},  {6, 6},
-                                         {7, 7}, {8, 8}, {9, 9}, {10, 10}, {11, 11}};
-    for (const UINT stored : numbers) {
-        SCOPED_TRACE(stored);
-        EXPECT_EQ(correctedMedia(stored), notCdr.contains(stored) ? notCdr.at(stored) : 1);
-    }
-}
-
-TEST(CorrectedStacker3, EveryStoredValueIsInUseOrNot)
-{
-    const std::map<UINT, UINT> inUse = {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {4, 0}, {5, 0},
-                                        {6, 0}, {7, 0}, {8, 0}, {9, 0}, {16, 0}};
-    for (const UINT stored : numbers) {
-        SCOPED_TRACE(stored);
-        EXPECT_EQ(correctedStacker3(stored), inUse.contains(stored) ? inUse.at(stored) : 32);
-    }
-}
-
-TEST(CorrectedPublishMode, ModesThatAreSetElsewhereAreShownAsNormal)
-{
-    for (const UINT stored : numbers) {
-        SCOPED_TRACE(stored);
-        EXPECT_EQ(correctedPublishMode(stored), stored == 3 || stored == 4 ? 0 : stored);
-    }
-}
-
-TEST(Corrections, DoNotChangeCorrectValues)
-{
-    std::mt19937 random(21);
-    std::uniform_int_distribution<UINT> number;
-    for (int i = 0; i < 10000; ++i) {
-        const UINT stored = i % 2 == 0 ? number(random) % 64 : number(random);
-        ASSERT_EQ(correctedMedia(correctedMedia(stored)), correctedMedia(stored)) << stored;
-        ASSERT_EQ(correctedStacker3(correctedStacker3(stored)), correctedStacker3(stored)) << stored;
-        ASSERT_EQ(correctedPublishMode(correctedPublishMode(stored)), correctedPublishMode(stored)) << stored;
-    }
-}
 
 struct SavingCase
 {
