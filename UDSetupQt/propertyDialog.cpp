@@ -4,6 +4,7 @@
 #include "CorrectedSettings.h"
 #include "FrameColours.h"
 #include "MaintenanceSequences.h"
+#include "PropertyRows.h"
 #include "PubMgrConst.h"
 #include "RowTexts.h"
 #include "TitleRoom.h"
@@ -157,20 +158,24 @@ void propertyDialogEx::fillContent(const PUBLISHERINFO& info, BOOL bConnection)
 
 void propertyDialogEx::adaptToModel()
 {
-    const ModelFamily family = modelFamily(m_modelType);
-    if (family != ModelFamily::network) {
+    const PropertyRows rows = propertyRows(modelFamily(m_modelType));
+    if (!rows.serverVersions) {
         hideAll({labelSSSVersionLabel, labelSSSVersionValue, labelUDNAVersionLabel, labelUDNAVersionValue});
     }
-    if (family == ModelFamily::network || family == ModelFamily::rt30) {
+    if (!rows.discAndBoxFigures) {
         hideAll({labelCompleteDiscNumName, labelCompleteDiscNum, labelCompleteDiscNumUnit,
                  labelMainteBoxLifeName, labelMainteBoxLife, labelMainteBoxLifeUnit});
     }
-    if (family == ModelFamily::rt30) {
-        hideAll({labelStacker3, selectStacker3, labelUseDrive, selectUseDrive, textUseDrive,
-                 labelDrive2LifeName, labelDrive2Life, labelDrive2LifeUnit, labelDrive2VersionLabel,
-                 labelDrive2VersionValue});
+    if (!rows.stacker3) {
+        hideAll({labelStacker3, selectStacker3});
+    }
+    if (!rows.secondDrive) {
+        hideAll({labelUseDrive, selectUseDrive, textUseDrive, labelDrive2LifeName, labelDrive2Life,
+                 labelDrive2LifeUnit, labelDrive2VersionLabel, labelDrive2VersionValue});
         labelDrive1LifeName->setText(tr("Service life of Drive:"));
         labelDrive1VersionLabel->setText(tr("Drive:"));
+    }
+    if (!rows.batchMode) {
         removeValue(selectPublishMode, PUBMGR_PUBLISHMODE_BATCH);
     }
     if (!writesBdXl(m_modelType, m_info.uiNetPublisherType)) {
