@@ -20,7 +20,7 @@ enum ChangeWorkingFolderResult
 struct JobFolderChange
 {
     ChangeWorkingFolderResult result;
-    std::string folder; ///< the working folder now in force; empty if none was set
+    std::string folder; ///< the new working folder; empty on failure or if a custom folder is kept
 };
 
 /// The path without links, "." and "..". Empty if it cannot be resolved; errno holds the reason.

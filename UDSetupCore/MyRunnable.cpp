@@ -50,7 +50,7 @@ void MyRunnable::run()
     try {
         functionToRun();
     } catch (const std::bad_alloc&) {
-        // The row of the task keeps its contents until the next poll.
+        // After a failed status query, the row keeps its contents until the next poll.
         std::fputs("Out of memory: a task was given up\n", stderr);
     }
 }

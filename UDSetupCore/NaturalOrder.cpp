@@ -17,7 +17,7 @@ bool naturalLess(const QString& a, const QString& b)
             if (j < a.size() && a[j].isNumber()) {
                 return false;
             }
-            // A run too long for an int counts as 0 on both sides.
+            // toInt() returns 0 for a value that does not fit in an int.
             const int valueA = a.mid(i, j - i).toInt();
             const int valueB = b.mid(i, j - i).toInt();
             if (valueA != valueB) {

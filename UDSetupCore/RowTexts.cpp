@@ -72,7 +72,7 @@ QString spaceText(const CString& bytes)
         return QStringLiteral("-");
     }
     constexpr long long bytesPerMiB = 1048576;
-    const ErrnoKeeper keeper; // strtoll sets errno on overflow; the next server reply must not fail for it
+    const ErrnoKeeper keeper; // strtoll sets errno on overflow, which would fail the next server reply
     const long long wholeMiB = std::strtoll(bytes.c_str(), nullptr, 10) / bytesPerMiB;
     return QString::asprintf("%.1lf GB", static_cast<double>(wholeMiB) / 1024.0);
 }
