@@ -303,8 +303,8 @@ void PubSetup::updateList()
 
     const ReadPass pass;
     for (const CString& id : ids) {
-        // An existing row takes nothing from the settings. Its file is read only if it is missing, because
-        // that read writes to the log.
+        // Existing rows are not updated from the setting files. A missing file is still read, because the
+        // failed read is logged.
         const QString key = keyFromRegistID(id);
         if (shown.contains(key) && m_cPubMgr.IsExistSettingFile(id.c_str())) {
             continue;

@@ -27,10 +27,10 @@ public:
     /// Calls readPublisher with the window's publisher manager. Any thread.
     static bool getPublisherInfo(const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                                  long& lResultCommLib);
-    /// Runs `f` on its own thread while a busy indicator keeps the interface responsive. Returns up to a
-    /// tenth of a second after `f` has ended. `f` must not throw or use widgets; it returns its results in
-    /// variables of the caller. `parent` may be null; it accepts no input meanwhile. User-interface thread.
-    /// There is no timeout.
+    /// Runs `f` on a new thread while a busy indicator keeps the interface responsive, or on the calling
+    /// thread if no thread can be started. Returns up to a tenth of a second after `f` has ended. `f` must
+    /// not throw or use widgets; it returns its results in variables of the caller. `parent` may be null; it
+    /// accepts no input meanwhile. User-interface thread. There is no timeout.
     static void doWithProgress(std::function<void()> f, QWidget* parent);
     /// The same, with this window as parent.
     void doWithProgress(std::function<void()> f);

@@ -43,9 +43,9 @@ bool hasDisplay(int argc, char** argv)
     return chosen || hasValue("DISPLAY") || hasValue("WAYLAND_DISPLAY") || hasValue("QT_QPA_PLATFORM");
 }
 
-/// Ends the process at once if a task still hangs in a service that accepts a connection but never replies.
-/// The thread pool would wait for it forever, and the static objects must not be destroyed while the task
-/// uses them.
+/// Exits without cleanup if a task has not ended after taskPatience, for example because a service accepts a
+/// connection but never replies. The thread pool would wait for it forever, and the static objects must not
+/// be destroyed while the task uses them.
 void endDespiteHangingTasks(int result)
 {
     if (!waitForTasks(taskPatience)) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int widestBox = 900; // pixels: with its margins it fits a screen 1024 pixels wide
 
-/// Breaks the text in the middle: a label wraps its text, a check box does not.
+/// Breaks a text wider than widestBox near its middle, because a check box does not wrap its text.
 void breakLongText(QCheckBox* box)
 {
     QString text = box->text();

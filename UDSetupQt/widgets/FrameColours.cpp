@@ -21,7 +21,8 @@ bool hasFrame(const QWidget* widget)
            qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget);
 }
 
-/// Three fifths of the way. Half would do, but some screens draw a frame across parts of pixels.
+/// Three fifths of the way. Half would suffice if frames always covered whole pixels; on some screens they do
+/// not.
 int between(int one, int other)
 {
     return one + (other - one) * 3 / 5;
