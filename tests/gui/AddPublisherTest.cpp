@@ -42,7 +42,7 @@ private slots:
     void keys();
     void registeringBlocksTheEventLoop();
     void allIdsAreInUse();
-    void unwritableFolder(); // last: it drops the privileges of root
+    void unwritableFolder(); // last: it drops root privileges
 };
 
 void AddPublisherTest::init()
@@ -259,8 +259,8 @@ void AddPublisherTest::secureServersAreOutOfReach_data()
     QTest::newRow("output control") << outputControlServer;
 }
 
-/// The library keeps the connection, which leaks. The test calls the slot directly: the recorded stack of the
-/// allocation then contains the name of this test, which cmake/lsan.supp suppresses.
+/// The library keeps the connection, which leaks; cmake/lsan.supp suppresses the leak by the name of this
+/// test. The test calls the slot directly, so that the recorded stack of the allocation contains that name.
 void AddPublisherTest::secureServersAreOutOfReach()
 {
     QFETCH(QString, host);

@@ -134,7 +134,7 @@ void ElidedLabelTest::drawingTimeIsIndependentOfTheLength()
     QElapsedTimer timer;
     timer.start();
     m_label.grab();
-    const qint64 some = timer.nsecsElapsed() + 1000000; // 1 ms more, so that a short delay does not decide
+    const qint64 some = timer.nsecsElapsed() + 1000000; // plus 1 ms: tolerates a short delay
     m_label.setText(QString(10000000, 'W'));
     timer.restart();
     m_label.grab();
