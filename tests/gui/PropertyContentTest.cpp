@@ -155,7 +155,7 @@ void PropertyContentTest::correctedMedia_data()
     for (const uint stored : rowsOfUInt) {
         QString shown = "1";
         if (stored == 0) {
-            shown = "none"; // no such item: stacker 1 never offers it, stacker 2 not in this mode
+            shown = "none"; // stacker 1 never has this item, stacker 2 not in this mode
         } else if (stored == 2 || stored == 4) {
             shown = "6";
         } else if (stored == 3 || stored == 5) {

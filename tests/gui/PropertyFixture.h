@@ -15,7 +15,7 @@
 #include <initializer_list>
 #include <memory>
 
-/// A model of local publishers that the dialog knows. Data-driven tests have a row for each.
+/// A model of local publishers that the dialog supports. Data-driven tests have a row for each.
 struct LocalModel
 {
     const char* row;
@@ -34,7 +34,7 @@ inline constexpr LocalModel localModels[] = {
     {"RT-30II BDXL", 0x30000008, "RT-30II (BD-XL)", true, true},
 };
 
-/// One model of each kind, for tests in which the others would add nothing.
+/// One model of each kind, for tests whose results are equal for all models of a kind.
 constexpr uint32_t rt300 = 0x20000009;
 constexpr uint32_t rt300xl = 0x30000009;
 constexpr uint32_t rt30 = 8;

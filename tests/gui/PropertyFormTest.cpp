@@ -219,7 +219,7 @@ void PropertyFormTest::sizeIsFixed()
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     const QSize size = dialog.size();
     QVERIFY2(size.width() >= dialog.sizeHint().width() && size.height() >= dialog.sizeHint().height(),
-             "everything has its place");
+             "the dialog is too small for its widgets");
     dialog.resize(size + QSize(50, 50));
     QCOMPARE(dialog.size(), size);
     dialog.resize(size - QSize(50, 50));
@@ -266,7 +266,7 @@ void PropertyFormTest::changesEnableApply()
     QVERIFY(marks([](propertyDialogEx& dialog) { dialog.spinRetryCount->setValue(4); }));
     QVERIFY(marks([](propertyDialogEx& dialog) { dialog.checkErrorMark->click(); }));
     QVERIFY2(!marks([](propertyDialogEx& dialog) { dialog.checkErrorMark->setChecked(true); }),
-             "only a click counts");
+             "a programmatic change marks the dialog as changed");
 }
 
 void PropertyFormTest::picturesAreStacked()

@@ -214,7 +214,7 @@ void PropertyNetworkTest::cancelIsDisabled()
     m_stage.open(serverRecord(), 0);
     QVERIFY(!m_stage->cancelButton->isEnabled());
     QVERIFY(m_stage->okButton->isEnabled());
-    QVERIFY2(m_stage->close(), "the window frame");
+    QVERIFY2(m_stage->close(), "closing through the window frame is ignored");
     QCOMPARE(m_stage->result(), 0);
 }
 

@@ -212,7 +212,7 @@ void PublisherListTest::rowDisappearsWhileMessageBoxIsOpen()
     };
     m_window->deletePublisher->trigger();
     QVERIFY(boxes.allAnswered());
-    QVERIFY2(ticked, "the timer goes on behind the box");
+    QVERIFY2(ticked, "the timer stops while a message box is open");
     QCOMPARE(behindTheBox, QStringList{"Staying"});
     QCOMPARE(names(), QStringList{"Staying"});
     QVERIFY(std::filesystem::exists(Installation::settingFile("staying")));
@@ -333,7 +333,7 @@ void PublisherListTest::twoSelectedRowsLeaveRemoveEnabled()
     click(row("S1"));
     Installation::remove("s1");
     m_window->updateList();
-    QVERIFY2(!m_window->deletePublisher->isEnabled(), "the selected row is gone");
+    QVERIFY2(!m_window->deletePublisher->isEnabled(), "Remove is enabled without a selected row");
 }
 
 void PublisherListTest::findsRowByExactKey()
@@ -381,7 +381,7 @@ void PublisherListTest::readingWithoutCurrentRowAborts()
     }
     int status = 0;
     QCOMPARE(waitpid(child, &status, 0), child);
-    QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT, "an assertion stops the process");
+    QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT, "no assertion aborted the process");
 }
 
 void PublisherListTest::unusualFileNames_data()
@@ -426,7 +426,7 @@ void PublisherListTest::entriesWithoutPublisher()
     WriteText(folder + "readme.txt", "[Common]\nPublisherName=Readme\n");
     std::filesystem::create_directories(folder + "folder.ini");
     m_installation.addLocal("twice", "Twice");
-    WriteText(folder + "twice.ini~", "[Common]\nPublisherName=Copy\n"); // the same id once more
+    WriteText(folder + "twice.ini~", "[Common]\nPublisherName=Copy\n"); // duplicates the id "twice"
     m_window->updateList();
     m_window->updateList();
     // A folder with this name can be opened and contains no keys, so it counts as a publisher without a name.

@@ -141,7 +141,8 @@ void PublisherStatusTest::timerUpdatesRows()
     m_service.emplace(std::vector<std::string>{"A", "X"});
     m_installation.addLocal("X", "Studio");
     m_window = std::make_unique<PubSetup>(nullptr);
-    QVERIFY2(m_service->waitFor("22 X", 1), "asked at once: no event loop runs, so the timer cannot tick");
+    // No event loop runs, so the timer cannot fire.
+    QVERIFY2(m_service->waitFor("22 X", 1), "the first query is not sent at once");
     QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Ready", 20000);
     (*m_service)->tell("X", "error 19");
     QTRY_COMPARE_WITH_TIMEOUT(texts("X")[3], "Error", 20000);

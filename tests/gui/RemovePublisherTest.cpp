@@ -111,7 +111,7 @@ void RemovePublisherTest::asksOnceForAllRows()
     QCOMPARE(box.defaultButton, nullptr);
     QCOMPARE(names(), QStringList{"B"});
     QVERIFY(!registered("a") && registered("b") && !registered("c"));
-    QVERIFY2(!m_window->deletePublisher->isEnabled(), "nothing is selected any more");
+    QVERIFY2(!m_window->deletePublisher->isEnabled(), "Remove is enabled without a selection");
 }
 
 void RemovePublisherTest::noKeepsEverything()
@@ -298,9 +298,9 @@ void RemovePublisherTest::deviceKeyIsRemovedWithLastPublisherOfAbsentDevice()
     m_window->deletePublisher->trigger();
     QVERIFY(boxes.allAnswered());
     const std::string registry = ReadText(REGISTRY_FILE);
-    QVERIFY2(registry.find("/{a}]") == std::string::npos, "absent and unused: forgotten");
-    QVERIFY2(registry.find("/{b}]") != std::string::npos, "unused, but connected");
-    QVERIFY2(registry.find("/{c}]") != std::string::npos, "in use");
+    QVERIFY2(registry.find("/{a}]") == std::string::npos, "the key of an absent, unused device is kept");
+    QVERIFY2(registry.find("/{b}]") != std::string::npos, "the key of a connected device is removed");
+    QVERIFY2(registry.find("/{c}]") != std::string::npos, "the key of a device in use is removed");
 }
 
 void RemovePublisherTest::undeletableFileIsReported()

@@ -114,11 +114,11 @@ void RenameServerTest::runningJobRefusesTheName()
             const std::string before = file();
             m_room->forget();
             rename(shown, "Studio 2");
-            QVERIFY2(shown.isVisible(), "the job waits");
+            QVERIFY2(shown.isVisible(), "the dialog closed although a job is waiting");
             QCOMPARE(m_room->asked(), askingForJobs);
             (*m_room)->advance(200);
             QTest::mouseClick(shown.okButton, Qt::LeftButton);
-            QVERIFY2(shown.isVisible(), "the job is under way");
+            QVERIFY2(shown.isVisible(), "the dialog closed although a job is running");
             QCOMPARE(file(), before);
             QVERIFY(shown.applyButton->isEnabled());
             (*m_room)->advance(60000);

@@ -35,7 +35,7 @@ private slots:
         startAnew();
     }
 
-    void showsDefaultsWithoutStoredValues(); // must be first: a value stays in the process once it is read
+    void showsDefaultsWithoutStoredValues(); // must be first: values that were read stay in memory
     void titleIconAndButtons();
     void widgetsAndTextsOfEachTab();
     void groupTitlesEndInABlank();

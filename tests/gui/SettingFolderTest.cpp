@@ -237,7 +237,7 @@ void SettingFolderTest::folderNameMayBeInvalidUtf8()
     QVERIFY(m_dialog->textWorkingFolder->text().startsWith("/tmp/"));
     tick(2, m_dialog->checkCompatMode);
     QTest::mouseClick(m_dialog->applyButton, Qt::LeftButton);
-    QVERIFY2(!m_dialog->applyButton->isEnabled(), "other settings can be changed all the same");
+    QVERIFY2(!m_dialog->applyButton->isEnabled(), "the other settings are not applied");
     QCOMPARE(m_dialog->getCurrentJobFolder(), std::string("/tmp/\xFF\xE4/UlmarDiscMakerWork"));
 }
 

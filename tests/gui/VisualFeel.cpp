@@ -155,7 +155,7 @@ QStringList cutPart(const QWidget* widget)
         return cutItems(box) + cutBelow(box, QSize(0, box->sizeHint().height()));
     }
     if (qobject_cast<const QLineEdit*>(widget)) {
-        return cutBelow(widget, QSize(0, widget->sizeHint().height())); // it scrolls
+        return cutBelow(widget, QSize(0, widget->sizeHint().height())); // long texts scroll
     }
     if (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget)) {
         return cutBelow(widget, widget->sizeHint());

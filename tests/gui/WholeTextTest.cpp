@@ -108,7 +108,7 @@ void WholeTextTest::narrowedColumnHasTip()
 void WholeTextTest::iconReducesSpaceForName()
 {
     setText(0, "Room on the third floor");
-    m_window->treePublisherList->header()->resizeSection(0, neededWidth(0) + 15); // of the 22 of the icon
+    m_window->treePublisherList->header()->resizeSection(0, neededWidth(0) + 15); // the icon needs 22
     restOn(0);
     QTRY_VERIFY(QToolTip::isVisible());
     QCOMPARE(QToolTip::text(), "<span>Room on the third floor</span>");
