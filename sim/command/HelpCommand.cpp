@@ -20,25 +20,25 @@ constexpr char HELP[] = R"(usage: udsim SCENARIO [--speed N] [--requests] [--con
 
 Simulates the control service, its log agent, publisher servers and the publishers of a scenario file until
 SIGTERM or Ctrl-C, and prints a line for each notable change. On a terminal the running jobs are shown below,
-with their progress. It needs root. The package brings scenarios in /usr/share/udsim.
+with their progress. It requires root. The package installs scenarios in /usr/share/udsim.
 
-  --speed N       N simulated seconds pass in a real one (default 1, up to 1000)
+  --speed N       simulate N seconds in each real second (default 1, up to 1000)
   --requests      print every request, too
   --control PATH  the socket for commands (default /var/run/udsim.socket)
-  --check         read the scenario, say what is wrong with it, and run nothing
+  --check         check the scenario, print its contents or its errors, and exit
 
-forget removes the publishers that a scenario registered, which stay when udsim ends. It needs root.
+forget removes the publishers of a scenario, which stay registered when udsim ends. It requires root.
 
-tell gives a command to a running udsim:
-  --list          the publishers, and how each stands
+tell sends a command to a running udsim:
+  --list          print the state of each publisher
   COMMAND         online, offline, error N, clear, add-job NAME, copies=N, pause, resume, refill,
                   ink COLOUR PERCENT, stacker N DISCS, server on|off
 
-record keeps a session with a real service or server in FILE; passwords are blanked in it. replay answers
-from such a file:
-  --service       stand in the place of the control service of this computer (as root)
-  --server HOST   stand between clients and this publisher server
-  --listen        where clients find it (default 127.0.0.1:80)
+record writes a session with a real service or server to FILE, without passwords. replay answers from such a
+file:
+  --service       record the control service of this computer (requires root)
+  --server HOST   record this publisher server, as a proxy for its clients
+  --listen        the address at which clients connect (default 127.0.0.1:80)
 
 Examples:
   sudo udsim /usr/share/udsim/first.udsim --speed 5
@@ -47,8 +47,8 @@ Examples:
   sudo udsim forget /usr/share/udsim/first.udsim
   sudo udsim record --server 192.168.1.20 --listen 127.0.0.1 trouble.udrec
 
-Exit status: 0 done, 1 it could not be done, 64 wrong usage, 69 no udsim is running, 77 no permission to
-command it. The manual page, udsim(1), describes scenarios, commands and the format of recordings.
+Exit status: 0 success, 1 failure, 64 wrong usage, 69 no udsim is running, 77 no permission to
+send it commands. The manual page, udsim(1), describes scenarios, commands and the format of recordings.
 )";
 
 } // namespace

@@ -41,7 +41,7 @@ public:
                 error = std::string(SERVICE_SOCKET) + ": " + std::strerror(errno);
                 return {};
             }
-        } else if (!isServed(SOCK_STREAM, aside())) { // left by a recorder that was killed
+        } else if (!isServed(SOCK_STREAM, aside())) { // not left renamed by a killed recorder
             error = "no service listens at " + std::string(SERVICE_SOCKET);
             return {};
         }

@@ -25,7 +25,7 @@ struct TerminalSize
     size_t rows = 24;
 };
 
-/// Returns whether lines can be redrawn on this descriptor: it is a terminal, and not a dumb one.
+/// Returns whether lines can be redrawn on this descriptor: it is a terminal, and TERM is set and not "dumb".
 bool isLiveTerminal(int fd);
 /// Returns 80 by 24 if the size is unknown.
 TerminalSize sizeOf(int fd);
