@@ -285,8 +285,8 @@ void Publisher::useInk(const Job& job)
     }
 }
 
-/// Completes a pending state change; a job that meets an error pauses. The current disc, if any, continues
-/// when the job does.
+/// Completes a pending state change; a running job pauses because of an error. The current disc, if any,
+/// continues when the job resumes.
 void Publisher::settle(Job& job)
 {
     switch (job.status) {
