@@ -1,5 +1,5 @@
 // A recorded session between clients and a control service or a publisher server: a text file with one line
-// per message, readable for people, and the source of the replies of `udsim replay`.
+// per message, human-readable, and the source of the replies of `udsim replay`.
 //
 //     udsim-recording 1 service
 //     # begun 2026-11-21T19:46:43Z

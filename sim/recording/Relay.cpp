@@ -122,7 +122,7 @@ private:
     bool serve(short client, short other)
     {
         if ((client & (POLLERR | POLLNVAL)) != 0 || ((client & POLLHUP) != 0 && (client & POLLIN) == 0)) {
-            return false; // the client is gone
+            return false; // the client has disconnected
         }
         if ((client & POLLIN) != 0 && !receive(m_there, m_transcript)) {
             return false;
@@ -145,7 +145,7 @@ private:
             ::shutdown(m_there.to, SHUT_WR);
         }
         if (m_back.ended && m_back.waiting.empty()) {
-            if (!m_there.ended) { // else the close is only a consequence of the client's
+            if (!m_there.ended) { // else the client ended the connection first
                 m_transcript.closed();
             }
             return false;

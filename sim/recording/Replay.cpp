@@ -221,7 +221,7 @@ bool Replay::answerOne(int client, const std::string& question)
     if (!known) {
         return m_of == Recording::Of::server && sendAll(client, NOT_RECORDED);
     }
-    if (answer.bytes.empty() && !answer.closed) { // the recorded side stayed silent, too
+    if (answer.bytes.empty() && !answer.closed) { // no answer, and the connection stayed open
         std::string ignored;
         while (receiveMore(client, -1, ignored)) {
             ignored.clear();
