@@ -53,7 +53,7 @@ private:
         Clock::time_point due{}; ///< `output` is not sent earlier
         bool stalled = false;
         bool closing = false;  ///< closed once `output` is sent
-        bool finished = false; ///< the client has ended its data
+        bool finished = false; ///< the client will send no more data
         bool dead = false;
     };
 

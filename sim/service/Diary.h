@@ -1,4 +1,4 @@
-// Writes the service's log file, and the notes for the user of the room.
+// Writes the service's log file and collects notes for the user.
 #pragma once
 
 #include <string>
@@ -16,7 +16,8 @@ std::string describe(const Request& command, uint64_t result);
 class Diary
 {
 public:
-    /// Writes a line to the log. When writing begins to fail, adds one note; a failure has no other effect.
+    /// Writes a line to the log. Adds a note for the first of several consecutive write failures; a failure
+    /// has no other effect.
     void log(const std::string& text);
     /// Writes a line to the log and adds it as a note.
     void say(const std::string& text);
@@ -35,7 +36,7 @@ private:
     };
 
     ServiceLog m_log;
-    bool m_broken = false; ///< the log could not be written, and a note was added
+    bool m_broken = false; ///< the last write failed, and a note was added
     std::vector<std::string> m_notes;
     std::vector<Known> m_known;
 };

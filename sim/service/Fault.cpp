@@ -75,8 +75,7 @@ Delivery deliver(const Reply& reply, const Fault* fault)
     }
     ByteWriter header;
     switch (fault->kind) {
-    case Fault::Kind::refuse: // the listening socket is closed; an older connection is closed like with
-                              // `close`
+    case Fault::Kind::refuse: // the listening socket is closed; an open connection is closed as by `close`
     case Fault::Kind::close:
         delivery.bytes.clear();
         delivery.close = true;

@@ -28,9 +28,8 @@ struct Setting
     std::array<uint32_t, 4> media{};
 };
 
-/// Creates missing folders, and the print data of the maintenance jobs. An existing file at the job folder's
-/// path is kept, in particular a link, even a dangling one. Returns false, with the reason in `error`, on
-/// failure.
+/// Creates missing folders, and the print data of the maintenance jobs. Anything that exists at the job
+/// folder's path is kept, including a dangling link. Returns false, with the reason in `error`, on failure.
 bool makeFolders(std::string& error);
 /// Updates the device keys in one pass over the registry file.
 bool writeDeviceKeys(const std::vector<Publisher>& publishers, std::string& error);

@@ -79,7 +79,7 @@ constexpr std::array<FormLine, 20> FORM{{
 using Form = std::array<FormLine, 20>;
 using Values = std::array<std::string, FORM.size()>;
 
-/// The text that registers a maintenance job on a server: the ids of the job and of the publisher are empty.
+/// The text that registers a maintenance job on a server. The ids of the job and of the publisher are empty.
 constexpr Form SERVER_FORM = [] {
     Form form = FORM;
     form[1] = only("Version", "0x01030000");
@@ -207,8 +207,8 @@ std::optional<int> stackerOf(const std::string& value)
                                                                    : std::nullopt;
 }
 
-/// Returns whether "Eject" of a nozzle check matches the settings. In the output mode, a machine without a
-/// fourth stacker has one output, which the settings call either the third or the fourth stacker.
+/// Returns whether "Eject" of a nozzle check matches the settings. In output mode, a machine without a fourth
+/// stacker has one output, which may be the third or the fourth stacker in the settings.
 bool fitsEject(int eject, const Setting& setting, const Model& model)
 {
     constexpr int STACKERS_2_AND_3 = 0;

@@ -26,7 +26,7 @@ struct CloseFolder
     }
 };
 
-/// Hidden files are no job files, so ".epj" alone is none.
+/// Hidden files are ignored, so ".epj" alone is not a job file.
 bool isJobFile(std::string_view name)
 {
     return !name.starts_with(".") && name.ends_with(".epj");

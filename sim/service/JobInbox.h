@@ -23,16 +23,16 @@ class JobInbox
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Maximum size of a file in bytes; a job has a few hundred.
+    /// Maximum size of a file in bytes; a job file has a few hundred.
     static constexpr size_t LARGEST = 65'536;
-    /// Maximum time between the first sight of a file and its last line.
+    /// Maximum time from the first scan that finds a file until its last line is written.
     static constexpr std::chrono::seconds PATIENCE{3};
 
     explicit JobInbox(std::string path) : m_path(std::move(path)) {}
 
     /// Takes the job files from the folder, which may be a link, in the order of their names. An incomplete
-    /// file stays for `PATIENCE`. A file that cannot be removed is ignored from then on, because it would be
-    /// taken repeatedly. A folder that cannot be opened counts as empty.
+    /// file stays for `PATIENCE`. A file that cannot be removed is returned once and then ignored. A folder
+    /// that cannot be opened counts as empty.
     std::vector<FoundFile> take(Clock::time_point now);
 
 private:
@@ -44,7 +44,7 @@ private:
     };
 
     std::string m_path;
-    std::map<std::string, Sight> m_seen; ///< the files that stayed in the folder
+    std::map<std::string, Sight> m_seen; ///< the files left in the folder by the last call
 };
 
 } // namespace udsim

@@ -10,7 +10,7 @@ std::optional<LogEntry> parseLogEntry(std::string_view datagram)
     constexpr std::string_view PRIORITY = "\nPRIORITY=";
     constexpr uint64_t LOWEST_PRIORITY = 7;
 
-    // The last PRIORITY line counts: a message may hold the same words.
+    // The last PRIORITY line is the valid one: the message may contain such a line.
     const size_t at = datagram.rfind(PRIORITY);
     if (!datagram.starts_with(MESSAGE) || at == std::string_view::npos) {
         return std::nullopt;

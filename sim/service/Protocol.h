@@ -106,7 +106,7 @@ inline constexpr uint64_t STACKER2 = 2;
 inline constexpr uint64_t STACKER3 = 4;
 inline constexpr uint64_t STACKER4 = 8;
 
-/// Errors that a job met, a sum of bits.
+/// Errors that occurred during a job, a sum of bits.
 namespace history {
 inline constexpr uint32_t WRITE_ERROR = 1;
 inline constexpr uint32_t COVER_OPEN = 2;

@@ -91,8 +91,8 @@ std::string withRegistryKeys(std::string_view fileText, const RegistryKeys& keys
 
 namespace {
 
-/// Returns the sections of a text, each with its lines. Lines before the first section are an element of
-/// their own.
+/// Returns the sections of a text, each with its lines. Lines before the first section form a
+/// separate element.
 std::vector<std::string_view> sectionsOf(std::string_view text)
 {
     std::vector<std::string_view> sections;

@@ -290,7 +290,7 @@ std::string maintenanceInfo(const Publisher& publisher)
         out.u64(MAINTENANCE_FIGURE_UNKNOWN).u64(MAINTENANCE_FIGURE_UNKNOWN);
     }
     out.u64(printed).u64(0).u64(0).u64(0).u64(0).u64(0).u64(
-        0); // all of them CD; DVD in four kinds; BD in two
+        0); // CD: all discs; four kinds of DVD; two kinds of BD
     for (const unsigned which : {0U, 1U}) {
         if (which >= model.drives) {
             for (int field = 0; field < 12; ++field) {

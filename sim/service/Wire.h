@@ -28,7 +28,7 @@ struct Reply
 
 /// Reads the little-endian number at this position; the frame must contain its eight bytes.
 uint64_t readU64(std::string_view frame, size_t at);
-/// Decodes a frame of exactly `REQUEST_SIZE` bytes. A text without a NUL ends with its field.
+/// Decodes a frame of exactly `REQUEST_SIZE` bytes. A text without a NUL fills its field.
 Request decodeRequest(std::string_view frame);
 /// Describes all parts of a request: `control 3 of "R", job "J"`.
 std::string inWords(const Request& request);
