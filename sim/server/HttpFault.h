@@ -25,7 +25,7 @@ struct HttpFault
         extraItem,      ///< an item without data follows the others
         cut,            ///< the first `number` bytes of the reply, including the head, then the end
         chunked,        ///< a correct reply in chunks
-        chunkExtension, ///< the same with an extension on the size line, then the end
+        chunkExtension, ///< the same with an extension on the chunk's size line, then the end
         interim,        ///< `number` interim replies 100 before a correct reply
         contentLength,  ///< the head announces `number` bytes; after the body the connection stalls
         drip,           ///< a correct reply, byte by byte, `number` milliseconds apart, then the end

@@ -129,7 +129,8 @@ void HttpServer::setListening(const std::string& address, bool listening)
     }
     Daemon daemon = std::move(found->second);
     m_daemons.erase(found);
-    Descriptor listener(MHD_quiesce_daemon(daemon.get())); // owned again, but the daemon may still wait on it
+    // The caller of MHD_quiesce_daemon() owns the socket, but the daemon's thread may still wait on it.
+    Descriptor listener(MHD_quiesce_daemon(daemon.get()));
     ::shutdown(listener.get(), SHUT_RDWR);
     cut(address);
     std::erase_if(m_stopping, [](const std::future<void>& stopped) {
@@ -137,7 +138,7 @@ void HttpServer::setListening(const std::string& address, bool listening)
     });
     m_stopping.push_back(
         std::async(std::launch::async, [ended = std::move(daemon), last = std::move(listener)]() mutable {
-            ended.reset(); // before the listener
+            ended.reset(); // the daemon ends before its listener is closed
         }));
 }
 
@@ -153,7 +154,7 @@ void HttpServer::connectionOpened(int socket)
     const std::lock_guard lock(m_mutex);
     m_connections[socket] = address;
     if (!m_running || !m_daemons.contains(address)) {
-        ::shutdown(socket, SHUT_RDWR); // accepted while the listening ended
+        ::shutdown(socket, SHUT_RDWR); // accepted just before listening ended
     }
 }
 

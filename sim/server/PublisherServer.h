@@ -14,7 +14,7 @@ namespace udsim {
 struct NetworkModel
 {
     Model machine;
-    bool bluRayFigures;        ///< its maintenance information counts BD
+    bool bluRayFigures;        ///< its maintenance information contains figures for BD
     bool tellsXl;              ///< it reports whether it supports BD-R TL and QL
     bool thirdStacker;         ///< it has a setting for stacker 3
     const char* hashPath;      ///< path of the servlet for the hashes of files
@@ -97,7 +97,7 @@ public:
 
     /// Returns the number of jobs that are registered and not committed.
     size_t jobsInSending() const;
-    /// Returns notes about refused requests and accepted jobs since the last call (the last 100).
+    /// Returns the notes about refused requests and accepted jobs since the last call, at most the last 100.
     std::vector<std::string> takeNotes();
     void note(const std::string& text);
     /// Returns a unique id for a job.

@@ -87,7 +87,7 @@ inline constexpr uint32_t OPEN_DISC_INFO = 5;
 inline constexpr uint32_t PRIORITY = 6;
 } // namespace action
 
-/// Which jobs a list contains.
+/// Selects the jobs in a list.
 namespace job_list {
 inline constexpr uint32_t ALL = 0;
 inline constexpr uint32_t UNFINISHED = 1;

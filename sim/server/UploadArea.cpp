@@ -155,7 +155,7 @@ unsigned UploadArea::put(ServerJob& job, const std::string& name, const HttpRequ
         (range->from > 0 && there->second.total != range->total)) {
         return 400;
     }
-    const uint64_t kept = range->from; // a repeated piece replaces itself and all that followed
+    const uint64_t kept = range->from; // a repeated piece replaces everything from its start
     if (kept + request.body.size() > size + freeSpace()) {
         return 507;
     }

@@ -16,7 +16,7 @@ struct UploadedFile
 {
     enum class Hash
     {
-        none, ///< no hash was sent for the present contents
+        none, ///< no hash was received for the current contents
         right,
         wrong,
     };
