@@ -18,7 +18,7 @@
 class ProgramProcess
 {
 public:
-    static constexpr int PATIENCE = 10'000; ///< milliseconds, for any event that a test expects
+    static constexpr int PATIENCE = 30'000; ///< milliseconds, for any event that a test expects
 
     ProgramProcess(const std::string& program, std::vector<std::string> arguments)
     {

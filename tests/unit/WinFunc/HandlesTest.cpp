@@ -175,7 +175,7 @@ namespace {
 /// own.
 const char* Named([[maybe_unused]] const char* call, [[maybe_unused]] const char* caller)
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef ULMAR_SANITIZED
     return call;
 #else
     return caller;
