@@ -45,7 +45,7 @@ MyRunnable::~MyRunnable()
 void MyRunnable::run()
 {
     {
-        const std::lock_guard createdBefore(taskCount().guard);
+        const std::lock_guard afterCreation(taskCount().guard); // see TaskCount
     }
     try {
         functionToRun();

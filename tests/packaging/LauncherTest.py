@@ -101,7 +101,7 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual((ended.returncode, ended.stderr), (0, ""))
         self.assertEqual(self.record("pkexec"),
                          [str(PROGRAM)] + [f"-env{name}={values[name]}" for name in ALL_VARIABLES])
-        self.assertIsNone(self.record("UDSetup"), "only the authorisation tool may start it")
+        self.assertIsNone(self.record("UDSetup"), "only pkexec may start it")
 
     def test_omits_variables_without_a_value(self):
         self.launch("--administrator", DISPLAY=":0", LANG="", LC_TIME="C")
