@@ -39,18 +39,7 @@ protected:
     /// Presses Escape until the program ends.
     void closeByKey(const QString& window)
     {
-        QElapsedTimer time;
-        time.start();
-        while (time.elapsed() < programPatience && m_program.state() == QProcess::Running) {
-            xdotool({"windowfocus", window});
-            xdotool({"key", "Escape"});
-            m_program.waitForFinished(300); // the key arrives after a while, without a signal
-        }
-    }
-
-    bool listIsShown()
-    {
-        return !xdotool({"search", "--onlyvisible", "--name", "^" + mainTitle + "$"}).isEmpty();
+        press(window, {"Escape"}, [] { return false; });
     }
 
     LocalRoom m_service{{"a"}};
@@ -61,7 +50,7 @@ TEST_F(DirectStartTest, ShowsThePropertiesAndEndsWithThem)
     start({"Studio A"});
     const QString id = properties();
     ASSERT_FALSE(id.isEmpty());
-    EXPECT_FALSE(listIsShown());
+    EXPECT_FALSE(isShown(mainTitle));
     EXPECT_EQ(windows().size(), 1);
     closeByKey(id);
     expectEnd();
@@ -130,13 +119,7 @@ TEST_F(DirectStartTest, AnUnavailableModeIsReportedFirst)
     start({"Studio B"});
     const QString warning = window(mainTitle);
     ASSERT_FALSE(warning.isEmpty());
-    QElapsedTimer time;
-    time.start();
-    while (time.elapsed() < programPatience && windows().contains(warning)) {
-        xdotool({"windowfocus", warning});
-        xdotool({"key", "Return"});
-        m_program.waitForFinished(300); // the key arrives after a while, without a signal
-    }
+    press(warning, {"Return"}, [&] { return !windows().contains(warning); });
     const QString id = properties();
     ASSERT_FALSE(id.isEmpty());
     closeByKey(id);

@@ -46,13 +46,10 @@ TEST_F(NetworkProgramTest, OpensWindowsWhileServersAnswer)
             m_program.waitForFinished(50); // or for a moment
         }
         ASSERT_TRUE(allAskedForJobs(round));
-        xdotool({"windowfocus", "--sync", id});
-        xdotool({"key", "alt+h"});
-        m_program.waitForFinished(300); // the menu opens after a while, without a signal
-        xdotool({"key", "a"});
+        press(id, {"alt+h", "a"}, [this] { return isShown("About " + mainTitle); });
         const QString about = window("About " + mainTitle);
         ASSERT_FALSE(about.isEmpty());
-        xdotool({"windowfocus", "--sync", about, "key", "Return"});
+        press(about, {"Return"}, [this] { return !isShown("About " + mainTitle); });
     }
     choose(id, "f", "x");
     expectEnd();

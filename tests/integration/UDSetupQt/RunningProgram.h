@@ -9,6 +9,8 @@
 #include <QElapsedTimer>
 #include <QProcess>
 
+#include <functional>
+
 constexpr int programPatience = 20000; // milliseconds, for events that must happen soon
 
 /// A virtual screen without a window manager.
@@ -91,19 +93,31 @@ protected:
         return QString();
     }
 
-    /// Opens the first menu by its key and presses the key of an entry, until the main window has closed.
-    void choose(const QString& window, const QString& menuKey, const QString& entryKey)
+    /// Whether a window with this title is visible.
+    bool isShown(const QString& title)
+    {
+        return !xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"}).isEmpty();
+    }
+
+    /// Focuses a window and presses keys until their effect is seen. A key that arrives before the program
+    /// has noticed the focus is lost, and nothing shows when that is, so the keys are repeated.
+    void press(const QString& window, const QStringList& keys, const std::function<bool()>& isDone)
     {
         QElapsedTimer time;
         time.start();
-        while (time.elapsed() < programPatience &&
-               !xdotool({"search", "--onlyvisible", "--name", mainTitle}).isEmpty()) {
-            xdotool({"windowfocus", "--sync", window});
-            xdotool({"key", "alt+" + menuKey});
-            m_program.waitForFinished(300); // the menu opens after a while, without a signal
-            xdotool({"key", entryKey});
-            m_program.waitForFinished(300);
+        while (time.elapsed() < programPatience && m_program.state() == QProcess::Running && !isDone()) {
+            xdotool({"windowfocus", window});
+            for (const QString& key : keys) {
+                xdotool({"key", key});
+                m_program.waitForFinished(300); // the effect of a key takes a moment
+            }
         }
+    }
+
+    /// Chooses the entry that ends the program, by the keys of the menu and of the entry.
+    void choose(const QString& window, const QString& menuKey, const QString& entryKey)
+    {
+        press(window, {"alt+" + menuKey, entryKey}, [this] { return !isShown(mainTitle); });
     }
 
     void expectEnd(int within = programPatience)
