@@ -85,7 +85,7 @@ ShownStackers settleStackers(ModelFamily family, PUBLISHERINFO& info)
         break;
     case PUBMGR_PUBLISHMODE_BATCH:
         info.uiStacker3DiscType = PUBMGR_STACKERDISCTYPE_OUTPUT;
-        shown.stacker2 = mediaOnly(info.uiStacker1DiscType); // the record keeps what stacker 2 held
+        shown.stacker2 = mediaOnly(info.uiStacker1DiscType); // the record keeps its value
         shown.stacker3Enabled = false;
         break;
     case PUBMGR_PUBLISHMODE_OUTPUT:
@@ -94,7 +94,7 @@ ShownStackers settleStackers(ModelFamily family, PUBLISHERINFO& info)
         shown.stacker3Enabled = true;
         break;
     default:
-        return shown; // an unknown mode shows no stacker
+        return shown; // no stacker is shown for an unknown mode
     }
     shown.stacker1 = mediaOnly(info.uiStacker1DiscType);
     shown.stacker3 = info.uiStacker3DiscType;

@@ -1,5 +1,5 @@
-// What the property dialog corrects when it is filled: a stored value that the user cannot choose is shown as
-// one that can be chosen, or as none.
+// The corrections that the property dialog makes when it is filled. A stored value that the user cannot
+// choose is shown as one that the user can choose, or as none.
 #pragma once
 
 #include "PublisherMgrIF.h"
@@ -10,35 +10,37 @@
 /// The largest number of write retries that the user can choose.
 constexpr UINT maxRetryCount = 9;
 
-/// What stacker 1 or 2 is shown to hold: DVD-R and DVD+R are one choice, an unknown value is CD-R.
+/// The value shown for stacker 1 or 2. DVD-R and DVD+R are one choice, also with two layers. An unknown value
+/// becomes CD-R.
 UINT correctedMedia(UINT discType);
 
-/// What stacker 3 is shown to be: PUBMGR_STACKERDISCTYPE_OUTPUT if it is in use, else ..._NOTUSE.
+/// The value shown for stacker 3: PUBMGR_STACKERDISCTYPE_OUTPUT if it is in use, else ..._NOTUSE.
 UINT correctedStacker3(UINT discType);
 
-/// Modes that are set elsewhere are shown as normal mode. An unknown mode is returned unchanged.
+/// Security mode and eject control cannot be chosen and become normal mode. Any other mode is returned
+/// unchanged, even an unknown one.
 UINT correctedPublishMode(UINT publishMode);
 
-/// At most maxRetryCount, which is also shown for an unknown number (0xFFFFFFFF).
+/// At most maxRetryCount, also for an unknown number (0xFFFFFFFF).
 UINT correctedRetryCount(UINT retryCount);
 
-/// PUBMGR_USEDRIVE_AUTO, ..._DRIVE1 or ..._DRIVE2; any other value is ..._ERROR, which selects no drive.
+/// PUBMGR_USEDRIVE_AUTO, ..._DRIVE1 or ..._DRIVE2; any other value becomes ..._ERROR, which selects no drive.
 UINT correctedUseDrive(UINT useDrive);
 
-/// Corrects the publish mode and the stackers in the record, each value by itself and by the model.
+/// Corrects the publish mode and stackers 1 to 3 in the record, by value and by model.
 void correctSettings(ModelFamily family, PUBLISHERINFO& info);
 
-/// What the boxes of the stackers show. An empty value selects no item.
+/// What the combo boxes of the stackers show. An empty value selects no item.
 struct ShownStackers
 {
     std::optional<UINT> stacker1; ///< enOrlaStackerDiscType, as are the next two
     std::optional<UINT> stacker2;
     std::optional<UINT> stacker3;
     bool stacker2Enabled = false;
-    std::optional<bool> stacker3Enabled; ///< empty: left as it is
+    std::optional<bool> stacker3Enabled; ///< empty: unchanged
 };
 
-/// What the stackers of a record show in its publish mode, after correctSettings(). Also writes what the mode
-/// demands into the record: stacker 2 in normal mode, stacker 3 in batch mode. Stops the process for an
-/// unknown family.
+/// Returns what is shown for a record that correctSettings() has corrected. Also writes the values that the
+/// publish mode determines to the record: stacker 2 in normal mode, stacker 3 in batch mode. Aborts the
+/// process for an unknown family.
 ShownStackers settleStackers(ModelFamily family, PUBLISHERINFO& info);

@@ -1,4 +1,4 @@
-// Which rows the property dialog has for a family of models.
+// The rows of the property dialog for each family of models.
 #pragma once
 
 #include "ModelTable.h"
@@ -6,9 +6,9 @@
 struct PropertyRows
 {
     bool stacker3 = true;
-    bool batchMode = true;         ///< batch mode among the publish modes
-    bool secondDrive = true;       ///< the choice of the drives, and wear and version of drive 2
-    bool discAndBoxFigures = true; ///< the count of discs and the space of the maintenance box
+    bool batchMode = true;         ///< the publish modes include batch mode
+    bool secondDrive = true;       ///< the choice of a drive, and the wear and version of drive 2
+    bool discAndBoxFigures = true; ///< the count of completed discs and the free space of the maintenance box
     bool serverVersions = true;    ///< the versions of the server and its administration tool
 };
 

@@ -34,8 +34,8 @@ void hideAll(std::initializer_list<QWidget*> widgets)
     }
 }
 
-/// Until it is shown, a box caches the size hint that it computed before it had its items. Setting the policy
-/// clears the cache. AdjustToContents alone would do so too, but it resizes a box beyond its layout.
+/// Until it is first shown, a box keeps the size hint that it computed before its items changed. Setting the
+/// policy discards that hint. With AdjustToContents alone, Qt also resizes the box without its layout.
 void forgetSizeHint(QComboBox* box)
 {
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -86,7 +86,7 @@ void propertyDialogEx::connectAll()
     connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::setChanged);
     connect(textPublisherName, &QLineEdit::textChanged, this, &propertyDialogEx::noteListedName);
     connect(selectPublishMode, indexChanged, this, &propertyDialogEx::changeStackerPub);
-    // The slot does not take the index.
+    // changeStacker() takes the changed control, not the index.
     connect(selectStacker1, indexChanged, this, [this] { changeStacker(); });
     connect(selectStacker2, indexChanged, this, &propertyDialogEx::setChanged);
     connect(selectStacker3, indexChanged, this, &propertyDialogEx::changeStacker3);
@@ -106,8 +106,8 @@ void propertyDialogEx::noteListedName()
 }
 
 /// Gives the labels of all groups the same width, so that the controls are aligned in one column. A page
-/// reports a new size to the tabs through the event loop, which is too late for the first showing; therefore
-/// the layouts are activated here.
+/// posts its new size to the tab widget as an event, which arrives after the dialog is first shown. The
+/// layouts are therefore activated here.
 void propertyDialogEx::settleSize()
 {
     int widest = 0;
@@ -196,8 +196,9 @@ void propertyDialogEx::fillIdentity()
     textPublisherName->setText(name);
 }
 
-/// The slots are connected, so each selection applies the rules for a user's choice. Stackers 1 and 3 are
-/// selected before the mode, because its rules depend on them, and again after it.
+/// The slots are connected, so each selection applies the same rules as a choice of the user. Stackers 1
+/// and 3 are selected before the mode, because its rules depend on them, and again after it, with the values
+/// that the mode determines.
 void propertyDialogEx::fillSettings()
 {
     const ModelFamily family = modelFamily(m_modelType);
@@ -324,7 +325,7 @@ void propertyDialogEx::headCleaningSequence()
 bool propertyDialogEx::event(QEvent* e)
 {
     if (e->type() == QEvent::ApplicationPaletteChange) {
-        propertyTab->setStyleSheet(propertyTab->styleSheet()); // evaluates palette(base) again
+        propertyTab->setStyleSheet(propertyTab->styleSheet()); // re-evaluates palette(base)
         setFrameColours(*propertyTab);
     }
     return QWidget::event(e);

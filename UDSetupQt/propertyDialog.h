@@ -9,15 +9,14 @@
 #include <QDialog>
 #include <QGraphicsScene>
 
-/// The caller keeps it on the stack for one showing: fillContent(), then exec(), which returns 1 if the
-/// dialog was closed with OK. User-interface thread only. Filling and saving block until the service or the
-/// device replies.
+/// Each instance is filled with fillContent() and shown once. exec() returns 1 if the dialog was closed with
+/// OK. User-interface thread only. Filling and saving block until the service or the device replies.
 class propertyDialogEx : public QDialog, public Ui::propertyDialog
 {
     Q_OBJECT
 
 public:
-    /// What the user changed; the argument of changeStacker().
+    /// The changed control; the argument of changeStacker().
     enum
     {
         STACKER_1_2 = 0,
@@ -29,8 +28,8 @@ public:
     ~propertyDialogEx() override = default;
 
     /// Call once, before show(). Queries wear and versions from the service or the device unless
-    /// `bConnection` is 0. A model outside the RT-300 family, the RT-30 family and the network publishers is
-    /// a failed assertion.
+    /// `bConnection` is 0. Aborts the process if the model is neither of the RT-300 or RT-30 family nor a
+    /// network publisher.
     void fillContent(const PUBLISHERINFO& info, BOOL bConnection);
     /// Shows the wear figures, or hides them if `bMaint` is false.
     void updateMaintenance(bool bMaint, const PUBLISHERMAINTENANCEINFO& infoMaint);
@@ -41,16 +40,16 @@ public:
     void setStackerSequenceImage(const char* path);
 
     /// The wear of a drive's most worn part in percent. `*pdProductLife` is always written. Returns false if
-    /// no count of the drive is known.
+    /// the wear of no part is known.
     static bool CalcDriveLifeValue(PUBMAINTINFODRIVE miDrive, double* pdProductLife);
-    /// The used share of a limit in percent, cut to two decimals, at most 100. Returns false and writes
-    /// nothing if the share is unknown.
+    /// The used share of a limit in percent, rounded down to two decimals, at most 100. Returns false and
+    /// writes nothing if the count or the limit is unknown or the limit is 0.
     static bool CalcProductLife(UINT uiPresentValue, UINT uiUpperLimit, double* pdProductLife);
 
     bool event(QEvent* e) override;
 
 public slots: // NOLINT(readability-redundant-access-specifiers): names the slots
-    /// Returns true if everything is saved or nothing was changed; otherwise a message box has shown the
+    /// Returns true if everything was saved or nothing had changed. Otherwise a message box has shown the
     /// reason.
     bool savePublisherInfo();
     void saveAndExit();
@@ -78,11 +77,11 @@ private:
     void arrangeStacker2(Stacker2Rule rule, bool modeChanged);
     void showSequence();
 
-    /// The reason why something was not saved. Success has an empty text.
+    /// The reason why something was not saved. `why` is translated; it is empty on success.
     struct Refusal
     {
         QString why;
-        bool ofName = false;
+        bool ofName = false; ///< the name is invalid or already in use
     };
     Refusal save();
     Refusal saveName();

@@ -1,5 +1,5 @@
-// Saves the settings: first the publish mode in the device, then the setting file, then a notice to the
-// service. A failure does not undo the earlier steps.
+// Saves a changed name, then the settings: the publish mode in the device, the setting file, and a change
+// notice to the service. Only the name of a network publisher is saved. A failure undoes no earlier step.
 #include "ComboValues.h"
 #include "OneLine.h"
 #include "StoredSettings.h"

@@ -16,7 +16,7 @@ void propertyDialogEx::changeStacker3()
 void propertyDialogEx::changeStacker(int combNum)
 {
     if (selectPublishMode->currentIndex() == -1) {
-        return; // the settings of the publisher are unknown
+        return; // the publish mode is unknown
     }
     setChanged();
     const UINT mode = selectedValue(selectPublishMode);
