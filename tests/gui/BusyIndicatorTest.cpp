@@ -212,7 +212,7 @@ void BusyIndicatorTest::eventsAreProcessedTenTimesASecond()
     time.start();
     m_window->doWithProgress(work.function());
     const qint64 elapsed = time.elapsed();
-    QVERIFY2(work.ended(), "the interface stood still");
+    QVERIFY2(work.ended(), "the user interface was blocked");
     QVERIFY2(elapsed >= 900, qPrintable(QString::number(elapsed)));
     QVERIFY2(elapsed < 5000, qPrintable(QString::number(elapsed)));
 }
@@ -284,7 +284,7 @@ void BusyIndicatorTest::isWideAndCentresItsBar()
     QVERIFY(width >= m_window->fontMetrics().horizontalAdvance("ARVEN Ulmar Disc Setup") * 3 / 2);
     QVERIFY(barWidth > width / 2);
     QVERIFY(barTop > 0);
-    QVERIFY2(std::abs(barTop - (height - 1 - barBottom)) <= 1, "in the middle");
+    QVERIFY2(std::abs(barTop - (height - 1 - barBottom)) <= 1, "the bar is not vertically centred");
 }
 
 QTEST_MAIN(BusyIndicatorTest)

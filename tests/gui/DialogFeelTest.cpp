@@ -265,7 +265,7 @@ void DialogFeelTest::look(const std::function<QStringList(QWidget&)>& findWrong)
         visited = true;
         findings = findWrong(shown);
     });
-    QVERIFY2(visited, "the window did not come");
+    QVERIFY2(visited, "the window did not open");
     QVERIFY2(findings.isEmpty(), qPrintable("\n  " + findings.join("\n  ")));
 }
 
@@ -280,11 +280,11 @@ void DialogFeelTest::checksDetectEveryDefect()
     };
     QVERIFY(finds(badFirstFocus(window), "tabs"));
     QVERIFY(finds(namelessParts(window), "first"));
-    QVERIFY(finds(labelsThatLeadNowhere(window), "label is no buddy of first"));
+    QVERIFY(finds(labelsThatLeadNowhere(window), "first is not the buddy of label"));
     QVERIFY(finds(mnemonicClashes(window), "&Too"));
     QVERIFY(finds(tabOrderBreaks(window), "back from"));
     QVERIFY(finds(badDefaultButton(window), "default"));
-    for (const char* cut : {"cut needs", "box: ", "group: ", "covering lies on covered"}) {
+    for (const char* cut : {"cut needs", "box: ", "group: ", "covering overlaps covered"}) {
         QVERIFY2(finds(cutTexts(window), cut), cut);
     }
     QVERIFY(finds(missingPictures(window), "picture"));

@@ -138,7 +138,7 @@ QStringList namelessParts(QWidget& window)
     forEachPage(window, [&] {
         for (QWidget* widget : shown<QWidget>(window)) {
             if ((takesFocus(widget) || isPicture(widget)) && spokenName(widget).isEmpty()) {
-                findings << nameOf(widget) + " has no name for a screen reader";
+                findings << nameOf(widget) + " has no accessible name";
             }
         }
     });
@@ -153,12 +153,12 @@ QStringList labelsThatLeadNowhere(QWidget& window)
         for (const QWidget* field : shown<QWidget>(window)) {
             const QLabel* label = isField(field) ? labelAhead(window, field) : nullptr;
             if (label && label->buddy() != field) {
-                findings << QString("%1 is no buddy of %2").arg(nameOf(label), nameOf(field));
+                findings << QString("%2 is not the buddy of %1").arg(nameOf(label), nameOf(field));
             }
         }
         for (const QLabel* label : shown<QLabel>(window)) {
             if (label->buddy() && label->buddy()->isVisible() && !takesFocus(label->buddy())) {
-                findings << QString("%1 leads to %2, which takes no focus")
+                findings << QString("the buddy of %1 is %2, which does not accept the focus")
                                 .arg(nameOf(label), nameOf(label->buddy()));
             }
         }
@@ -204,17 +204,17 @@ QStringList badFirstFocus(QWidget& window)
 {
     const QWidget* first = window.focusWidget();
     if (!first) {
-        return {"nothing has the keyboard"};
+        return {"no widget has the focus"};
     }
     if (!first->isVisible() || !isTabStop(first)) {
-        return {nameOf(first) + " has the keyboard and can do nothing with it"};
+        return {nameOf(first) + " has the focus but is not a visible tab stop"};
     }
     const auto button = qobject_cast<const QPushButton*>(first);
     if (button && !button->isDefault()) {
-        return {nameOf(first) + " has the keyboard and is not the default button"};
+        return {nameOf(first) + " has the focus but is not the default button"};
     }
     if (qobject_cast<const QTabBar*>(first)) {
-        return {"the tabs have the keyboard, and not the first field"};
+        return {"the tabs have the focus instead of the first field"};
     }
     return {};
 }
@@ -238,7 +238,8 @@ QStringList tabOrderBreaks(QWidget& window)
             }
         }
         if (jumps.size() > 1) { // the one jump allowed is from the last stop to the first
-            findings << QString("back from %1, in: %2").arg(jumps.join(", from "), order.join(", "));
+            findings << QString("the tab order jumps back from %1; it is: %2")
+                            .arg(jumps.join(", from "), order.join(", "));
         }
     });
     return findings;

@@ -110,7 +110,7 @@ void LateAnswerTest::replyAfterTheWindowIsDestroyed()
     service.release("a");
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();
-    QVERIFY2(service.count("4 a") <= 1, "the jobs of the one query at most");
+    QVERIFY2(service.count("4 a") <= 1, "the jobs were queried more than once");
 }
 
 QTEST_MAIN(LateAnswerTest)

@@ -416,7 +416,7 @@ void MainWindowTest::aboutBoxShowsTheProgram()
     QCOMPARE(smallest, size);
     QCOMPARE(largest, size);
     QVERIFY(closedByOk);
-    QVERIFY2(seen.isNull(), "the box is gone once it is closed");
+    QVERIFY2(seen.isNull(), "the closed message box was not destroyed");
 }
 
 void MainWindowTest::publishModeWarningHasItsText()

@@ -192,7 +192,7 @@ void MaintenanceServerTest::jobArrives()
     QCOMPARE(jobs[0].isNozzleCheck(), !cleaning);
     QCOMPARE(QString::fromStdString(jobs[0].name), name);
     QTRY_COMPARE((*m_room)->httpConnections(), size_t{0});
-    QVERIFY2(std::filesystem::is_empty(JOB_DIR), "no file for the service of this computer");
+    QVERIFY2(std::filesystem::is_empty(JOB_DIR), "a job file was written for the local service");
 }
 
 void MaintenanceServerTest::jobNameIsTranslated()

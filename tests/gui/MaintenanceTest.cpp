@@ -276,7 +276,7 @@ void MaintenanceTest::dialogsShowTheirPictures()
         auto shown = dialog.findChild<QLabel*>(label);
         QVERIFY(shown);
         const QPixmap file(picture);
-        QVERIFY2(!file.isNull(), "the picture is not in the resource tree");
+        QVERIFY2(!file.isNull(), "the picture is not in the resources");
         QCOMPARE(pictureOf(*shown).toImage(), file.toImage());
         QVERIFY(shown->width() * file.devicePixelRatio() >= file.width());
         QVERIFY(shown->height() * file.devicePixelRatio() >= file.height());
@@ -285,7 +285,7 @@ void MaintenanceTest::dialogsShowTheirPictures()
             auto noteLabel = dialog.findChild<QLabel*>(label + "Note");
             QVERIFY(noteLabel);
             QCOMPARE(noteLabel->text(), note);
-            QVERIFY2(noteLabel->y() >= shown->geometry().bottom(), "the note stands below its figure");
+            QVERIFY2(noteLabel->y() >= shown->geometry().bottom(), "the note overlaps its figure");
             QVERIFY(dialog.findChild<QLabel*>("labelDescription")->y() > noteLabel->geometry().bottom());
         }
     });
@@ -341,7 +341,7 @@ void MaintenanceTest::nothingIsClipped()
         QVERIFY(QApplication::installTranslator(&language));
     }
     lookAt(name, [](QDialog& dialog) {
-        QVERIFY2(dialog.width() <= 800 && dialog.height() <= 560, "a small screen holds the dialog");
+        QVERIFY2(dialog.width() <= 800 && dialog.height() <= 560, "the dialog does not fit a small screen");
         for (const QLabel* label : dialog.findChildren<QLabel*>()) {
             QVERIFY2(label->width() >= label->minimumSizeHint().width(), qPrintable(label->objectName()));
             const int needed =

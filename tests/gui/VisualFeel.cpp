@@ -51,7 +51,7 @@ QStringList cutBelow(const QWidget* widget, QSize needed)
     if (needed.width() <= size.width() && needed.height() <= size.height()) {
         return {};
     }
-    return {QString("%1 needs %2 and has %3").arg(nameOf(widget), sizeText(needed), sizeText(size))};
+    return {QString("%1 needs %2 but has %3").arg(nameOf(widget), sizeText(needed), sizeText(size))};
 }
 
 QStringList cutLabel(const QLabel* label)
@@ -79,7 +79,7 @@ QStringList cutItems(const QComboBox* box)
     for (int i = 0; i < box->count(); ++i) {
         const int needed = box->fontMetrics().horizontalAdvance(box->itemText(i));
         if (needed > room) {
-            findings << QString("%1: \"%2\" needs %3 and has %4")
+            findings << QString("%1: \"%2\" needs %3 but has %4")
                             .arg(nameOf(box), box->itemText(i))
                             .arg(needed)
                             .arg(room);
@@ -116,7 +116,7 @@ QStringList cutTitle(const QGroupBox* group)
     if (place.width() >= needed && group->rect().contains(place)) {
         return {};
     }
-    return {QString("%1: the title needs %2 and has %3 of %4")
+    return {QString("%1: the title needs %2 but has %3 of %4")
                 .arg(nameOf(group))
                 .arg(needed)
                 .arg(place.width())
@@ -130,7 +130,7 @@ QStringList cutTabs(const QTabBar* tabs)
         const QRect place = tabs->tabRect(i);
         const int needed = tabs->fontMetrics().horizontalAdvance(tabs->tabText(i));
         if (!tabs->rect().contains(place) || place.width() < needed) {
-            findings << QString("tab \"%1\" needs %2 and ends at %3 of %4")
+            findings << QString("tab \"%1\" needs %2 but ends at %3 of %4")
                             .arg(tabs->tabText(i))
                             .arg(needed)
                             .arg(place.right())
@@ -180,12 +180,12 @@ QStringList covered(const QWidget& window)
             continue;
         }
         if (widget->visibleRegion().boundingRect() != widget->rect()) {
-            findings << nameOf(widget) + " does not show as a whole";
+            findings << nameOf(widget) + " is not fully visible";
         }
         for (const QWidget* other : leaves) {
             const bool related = other->isAncestorOf(widget) || widget->isAncestorOf(other);
             if (!related && placeOf(widget).intersects(placeOf(other))) {
-                findings << nameOf(widget) + " lies on " + nameOf(other);
+                findings << nameOf(widget) + " overlaps " + nameOf(other);
             }
         }
         leaves << widget;
@@ -455,7 +455,7 @@ QStringList badPicture(const QGraphicsView* view, const QWidget& window)
     }
     const QRectF seen = view->mapToScene(view->viewport()->rect()).boundingRect();
     const bool whole = seen.adjusted(-1, -1, 1, 1).contains(top->sceneBoundingRect());
-    return whole ? QStringList() : QStringList{nameOf(view) + " cuts its picture"};
+    return whole ? QStringList() : QStringList{nameOf(view) + " clips its picture"};
 }
 
 } // namespace
@@ -485,7 +485,7 @@ QStringList cutColumnHeads(QWidget& window)
                 tree->header()->fontMetrics().horizontalAdvance(tree->headerItem()->text(column)) +
                 2 * margin;
             if (needed > room) {
-                findings << QString("column \"%1\" needs %2 and has %3")
+                findings << QString("column \"%1\" needs %2 but has %3")
                                 .arg(tree->headerItem()->text(column))
                                 .arg(needed)
                                 .arg(room);
@@ -501,7 +501,7 @@ QStringList tooLarge(QWidget& window, QSize most)
     if (size.width() <= most.width() && size.height() <= most.height()) {
         return {};
     }
-    return {QString("the window is %1, and the screen %2").arg(sizeText(size), sizeText(most))};
+    return {QString("the window is %1, larger than %2").arg(sizeText(size), sizeText(most))};
 }
 
 QStringList faintTexts(QWidget& window)

@@ -125,7 +125,7 @@ TEST_F(AdministratorTest, ShowsThePropertiesOfTheNamedPublisher)
     launch({"--administrator", "Studio A"});
     const QString id = window("Eigenschaften - Studio A.*");
     ASSERT_FALSE(id.isEmpty());
-    EXPECT_FALSE(isShown(mainTitle)) << "no list";
+    EXPECT_FALSE(isShown(mainTitle)) << "the publisher list is shown";
     press(id, {"Escape"}, [] { return false; }); // until the program has ended
     expectEnd();
 }

@@ -153,7 +153,7 @@ TEST_F(NetworkFailures, ACancelFailsIfItsListOrCommandFails)
         PrepareJob();
         m_open.Befall(failure.fault, OF_CONNECTION, failure.exchanges);
         EXPECT_EQ(Ask(operation).result, 0);
-        EXPECT_EQ(m_exchanges, OF_CONNECTION + failure.exchanges) << "no cancel without a list";
+        EXPECT_EQ(m_exchanges, OF_CONNECTION + failure.exchanges) << "no cancel request without a job list";
         PrepareJob();
         m_open.Befall(failure.fault, OF_CONNECTION + 1, failure.exchanges);
         const NetworkAnswer answer = Ask(operation);

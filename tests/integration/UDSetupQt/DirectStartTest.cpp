@@ -55,7 +55,7 @@ TEST_F(DirectStartTest, ShowsThePropertiesAndEndsWithThem)
     closeByKey(id);
     expectEnd();
     EXPECT_EQ(m_service.count("18 a"), 1);
-    EXPECT_EQ(m_service.count("22 a"), 0) << "no polling without a list";
+    EXPECT_EQ(m_service.count("22 a"), 0) << "no polling without the publisher list";
 }
 
 TEST_F(DirectStartTest, QtConsumesItsOwnOptionsFirst)
@@ -105,7 +105,8 @@ TEST_F(DirectStartTest, AStalledServiceShowsTheIndicator)
     const QString indicator = window(mainTitle);
     ASSERT_FALSE(indicator.isEmpty());
     EXPECT_TRUE(m_service.waitFor("18 a", 1));
-    EXPECT_FALSE(xdotool({"getwindowgeometry", indicator}).contains("Geometry: 800x300")) << "not the list";
+    EXPECT_FALSE(xdotool({"getwindowgeometry", indicator}).contains("Geometry: 800x300"))
+        << "the publisher list is shown";
     m_service.release("a");
     const QString id = properties();
     ASSERT_FALSE(id.isEmpty());

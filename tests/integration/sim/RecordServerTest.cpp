@@ -99,7 +99,8 @@ TEST_F(RecordServer, PasswordsAreNotRecorded)
     const auto server = m_room->lookAtServer("Studio NII");
     ASSERT_TRUE(server);
     const std::string password = udsim::sha1Of("password of 00000003").substr(0, 12);
-    EXPECT_EQ(udsim::basicCredentials("00000003", password), authorization) << "this is the password";
+    EXPECT_EQ(udsim::basicCredentials("00000003", password), authorization)
+        << "the header contains this password";
     EXPECT_EQ(text.find(password), std::string::npos);
 }
 

@@ -184,7 +184,7 @@ const LoaderFlag LOADER_FLAGS[] = {
 
 TEST_F(NetworkConvert, SingleLoaderFlags)
 {
-    ASSERT_EQ(std::size(LOADER_FLAGS) * sizeof(BOOL), sizeof(ALDStatus)) << "a flag without a row";
+    ASSERT_EQ(std::size(LOADER_FLAGS) * sizeof(BOOL), sizeof(ALDStatus)) << "a flag has no row";
     EXPECT_EQ(m_mgr.ConvertComLibValueToPubMgrValue_AldStatus(ALDStatus{}), 0U);
     for (const LoaderFlag& row : LOADER_FLAGS) {
         ALDStatus loader{};

@@ -201,7 +201,7 @@ TEST_F(NetworkSettings, WithoutAFileTheRecordIsClearedAndHasItsId)
         EXPECT_EQ(info.strGUID, "");
         EXPECT_EQ(info.strPublisherName, "");
         EXPECT_EQ(info.strHostName, "");
-        EXPECT_EQ(info.uiAddErrorMark, 0U) << "a cleared record has none";
+        EXPECT_EQ(info.uiAddErrorMark, 0U) << "a cleared record has no error mark";
         EXPECT_EQ(info.uiPublishMode, 0U);
     }
 }

@@ -489,7 +489,7 @@ TEST_F(DiskSpaceTest, ClustersAreTruncatedTo32Bits)
         DWORD freeClusters = 77;
         DWORD clusters = 77;
         EXPECT_EQ(GetDiskFreeSpace("/tmp/folder", &sectors, &bytes, &freeClusters, &clusters), TRUE);
-        EXPECT_EQ(askedForSpaceOf, "/tmp/folder") << "the name itself, not its parent";
+        EXPECT_EQ(askedForSpaceOf, "/tmp/folder") << "the path itself, not its parent";
         EXPECT_EQ(sectors, 8u);
         EXPECT_EQ(bytes, row.bytesPerSector) << row.blockSize;
         EXPECT_EQ(freeClusters, row.freeClusters) << row.blockSize;

@@ -130,7 +130,7 @@ TEST(CreateFileTest, EachCombinationOfAccessAndDisposition)
             EXPECT_EQ(handle != INVALID_HANDLE_VALUE, opens);
             EXPECT_EQ(fs::exists(path), exists || creates);
             if (exists) {
-                EXPECT_EQ(ReadText(path), "old") << "opening changes no contents";
+                EXPECT_EQ(ReadText(path), "old") << "opening does not change the contents";
             }
             if (!opens) {
                 continue;
@@ -277,7 +277,7 @@ TEST(FileHandleTest, ClosesItsDescriptorOnce)
         EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
         other = open("/dev/null", O_RDONLY | O_CLOEXEC);
         ASSERT_EQ(other, descriptor) << "the new file has the same number";
-        EXPECT_TRUE(file.Close()) << "nothing left to close";
+        EXPECT_TRUE(file.Close()) << "already closed";
     }
     EXPECT_NE(fcntl(other, F_GETFD), -1) << "the second Close does not close the new file";
     close(other);
@@ -325,7 +325,7 @@ TEST(ReadFileTest, MakesOneReadPerCall)
     EXPECT_EQ(Read(handle, 4), "0123");
     EXPECT_EQ(Read(handle, 0), "");
     EXPECT_EQ(Read(handle, 100), "456789");
-    EXPECT_EQ(Read(handle, 100), "") << "the end of the file is a success with no bytes";
+    EXPECT_EQ(Read(handle, 100), "") << "reading at the end of the file succeeds with no bytes";
     EXPECT_EQ(CloseHandle(handle), TRUE);
 }
 

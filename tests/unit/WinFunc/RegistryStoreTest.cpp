@@ -150,7 +150,7 @@ TEST_F(RegistryStore, ABadHandleReturns6)
         EXPECT_EQ(RegCloseKey(bad), 6);
         EXPECT_EQ(Set(bad, "a", REG_SZ, "x", 2), 6);
     }
-    EXPECT_FALSE(std::filesystem::exists(REGISTRY_FILE)) << "a bad handle reads nothing";
+    EXPECT_FALSE(std::filesystem::exists(REGISTRY_FILE)) << "an invalid handle does not access the file";
 }
 
 TEST_F(RegistryStore, AnOpenedKeyIsWritableAndCleanWithAnyAccessMask)
@@ -298,7 +298,7 @@ TEST_F(RegistryStore, OnlyTextsAndNumbersOfFourBytesAreStored)
         EXPECT_EQ(store.dwordValues.contains(name), c.stores && c.type == REG_DWORD) << name;
     }
     EXPECT_EQ(g_Registry["HKLM/a"].stringValues["n1_6"], "text");
-    EXPECT_EQ(g_Registry["HKLM/a"].stringValues["n1_1"], "text") << "its length is that of the text";
+    EXPECT_EQ(g_Registry["HKLM/a"].stringValues["n1_1"], "text") << "the stored length is that of the text";
     EXPECT_EQ(g_Registry["HKLM/a"].dwordValues["n4_4"], 0x74786574U);
 }
 

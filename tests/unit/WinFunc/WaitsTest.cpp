@@ -257,7 +257,8 @@ TEST_F(WaitAllTest, AnExpiredTimeoutOverridesASignalledHandle)
     EXPECT_THAT(unasked.timeouts, ElementsAre());
     Scripted slowAndAlone({0});
     slowAndAlone.takes = 40;
-    EXPECT_EQ(WaitAll({ToHandle(&slowAndAlone)}, 5), 258u) << "this applies to the last handle too";
+    EXPECT_EQ(WaitAll({ToHandle(&slowAndAlone)}, 5), 258u)
+        << "an expired timeout also overrides the last handle";
 }
 
 TEST_F(WaitAllTest, AFiniteTimeoutMapsAnAbandonedObjectToItsIndex)

@@ -233,7 +233,7 @@ TEST(SimNetworkUpload, ANozzleCheck)
     EXPECT_EQ(payload.substr(148, 18), hex("44 00 fc 00 73 00 65 00 6e 00 74 00 65 00 73 00 74 00"));
     EXPECT_EQ(payload.substr(136, 4), hex("00 01 00 04")) << "from stacker 1 to stacker 4";
     EXPECT_EQ(payload[662], 5) << "print mode";
-    EXPECT_EQ(payload.substr(664, 510), std::string(510, '\0')) << "the submitter gave no id";
+    EXPECT_EQ(payload.substr(664, 510), std::string(510, '\0')) << "the submitter sent no id";
     EXPECT_EQ(net.server.machine().jobs().at(0).isNozzleCheck(), true);
 }
 

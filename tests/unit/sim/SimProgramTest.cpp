@@ -271,5 +271,5 @@ TEST(SimDemo, UsesTheModelsOfThePropertyDialog)
     for (const udsim::PublisherSetup& setup : scenario->publishers) {
         shown.insert(setup.model->name);
     }
-    EXPECT_EQ(shown, known) << "the property dialog asserts that it knows the model";
+    EXPECT_EQ(shown, known) << "the property dialog aborts the program for any other model";
 }
