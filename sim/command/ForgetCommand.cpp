@@ -20,7 +20,7 @@ int forgetScenario(const Arguments& arguments)
         return failure(error);
     }
     if (isServed(SOCK_STREAM, DEFAULT_TELL_SOCKET)) {
-        return failure("a udsim is running; end it first");
+        return failure("udsim is running; stop it first");
     }
     std::vector<std::string> removed;
     const bool done = removeRegistration(scenario->publishers, scenario->servers, removed, error);

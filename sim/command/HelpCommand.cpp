@@ -56,7 +56,7 @@ send it commands. The manual page, udsim(1), describes scenarios, commands and t
 int showHelp(const Arguments& arguments)
 {
     if (!arguments.empty()) {
-        return wrongUsage("--help stands alone");
+        return wrongUsage("--help takes no other argument");
     }
     std::fputs(HELP, stdout);
     return EXIT_DONE;
@@ -65,7 +65,7 @@ int showHelp(const Arguments& arguments)
 int showVersion(const Arguments& arguments)
 {
     if (!arguments.empty()) {
-        return wrongUsage("--version stands alone");
+        return wrongUsage("--version takes no other argument");
     }
     std::puts("udsim " UDSIM_VERSION);
     return EXIT_DONE;

@@ -68,7 +68,8 @@ public:
         if (!isServed(SOCK_STREAM, aside())) {
             ::unlink(aside().c_str()); // the service has ended meanwhile
         } else if (::rename(aside().c_str(), SERVICE_SOCKET) != 0) {
-            failure("the service's socket stays at " + aside() + ": " + std::strerror(errno));
+            failure("the service's socket could not be renamed back from " + aside() + ": " +
+                    std::strerror(errno));
         }
     }
 
@@ -106,20 +107,20 @@ std::string mistakeIn(const CommandLine& line, Source& source)
         return "record needs either --service or --server HOST";
     }
     if (line.has("--service") && line.value("--listen")) {
-        return "\"--listen\" goes with --server only";
+        return "\"--listen\" requires --server";
     }
     const std::string listen = line.value("--listen").value_or(DEFAULT_LISTEN);
     const auto address = Address::parse(listen, HTTP_PORT);
     if (!address) {
-        return "\"" + listen + "\" is no ADDRESS[:PORT]";
+        return "\"" + listen + "\" is not a valid ADDRESS[:PORT]";
     }
     source.listen = *address;
     source.server = server ? Address::parse(*server, HTTP_PORT) : std::nullopt;
     if (server && !source.server) {
-        return "\"" + *server + "\" is no HOST[:PORT]";
+        return "\"" + *server + "\" is not a valid HOST[:PORT]";
     }
     return source.server && source.server->text() == source.listen.text()
-               ? "the server itself is at " + listen + "; \"--listen\" needs another address"
+               ? "the server has the address " + listen + "; \"--listen\" needs a different one"
                : "";
 }
 
@@ -142,7 +143,7 @@ int recordSession(const Arguments& arguments)
     Source source;
     std::string error = line.mistake().empty() ? mistakeIn(line, source) : line.mistake();
     if (error.empty() && line.words().size() != 1) {
-        error = "record needs one file to write";
+        error = "record needs one output file";
     }
     if (!error.empty()) {
         return wrongUsage(error);
@@ -166,14 +167,13 @@ int recordSession(const Arguments& arguments)
     if (!relay.start(std::move(listener), error)) {
         return failure(error);
     }
-    note("recording " +
-         (source.server ? source.server->text() + " for clients of " + source.listen.text() : "the service") +
-         " in " + path + "; Ctrl-C ends it");
+    note("recording " + (source.server ? source.server->text() : "the service") + " in " + path +
+         (source.server ? "; clients connect to " + source.listen.text() : "") + "; press Ctrl-C to stop");
     waitForASignal(signals);
     relay.stop();
     place.leave();
     if (!recorder.isComplete()) {
-        return failure("recorded in " + path + ", but not to the end");
+        return failure("the recording in " + path + " is incomplete");
     }
     note("recorded in " + path);
     return EXIT_DONE;
@@ -186,7 +186,7 @@ int replaySession(const Arguments& arguments)
     const auto address = Address::parse(listen, HTTP_PORT);
     if (!line.mistake().empty() || !address || line.words().size() != 1) {
         return wrongUsage(!line.mistake().empty() ? line.mistake()
-                          : !address              ? "\"" + listen + "\" is no ADDRESS[:PORT]"
+                          : !address              ? "\"" + listen + "\" is not a valid ADDRESS[:PORT]"
                                                   : "replay needs one recording");
     }
     std::string error;
@@ -199,7 +199,8 @@ int replaySession(const Arguments& arguments)
     }
     const bool ofServer = recording->of == Recording::Of::server;
     if (!ofServer && line.value("--listen")) {
-        return wrongUsage("\"--listen\" is for recordings of a server; this one is of a service");
+        return wrongUsage(
+            "\"--listen\" is only for recordings of a server; this is a recording of a service");
     }
     const sigset_t signals = holdSignals();
     Descriptor listener =
@@ -208,7 +209,8 @@ int replaySession(const Arguments& arguments)
     if (!listener.isOpen() || !replay.start(std::move(listener), error)) {
         return failure(error);
     }
-    note("replaying at " + (ofServer ? address->text() : std::string(SERVICE_SOCKET)) + "; Ctrl-C ends it");
+    note("replaying at " + (ofServer ? address->text() : std::string(SERVICE_SOCKET)) +
+         "; press Ctrl-C to stop");
     waitForASignal(signals);
     replay.stop();
     if (!ofServer) {

@@ -126,7 +126,7 @@ int runRoom(const Arguments& arguments)
         return wrongUsage(line.mistake());
     }
     if (line.words().size() != 1) {
-        return wrongUsage(line.words().empty() ? "which scenario?" : "one scenario at a time");
+        return wrongUsage(line.words().empty() ? "a scenario is required" : "only one scenario can be run");
     }
     if (const auto wanted = line.value("--speed"); wanted && !parseSpeed(*wanted, speed)) {
         return wrongUsage("\"--speed\" needs a number above 0 and up to 1000");
@@ -156,7 +156,7 @@ int runRoom(const Arguments& arguments)
     tellSocket.stop();
     room.stop();
     if (registersAny(*scenario)) {
-        display.print("udsim: its publishers stay registered; to remove them: udsim forget " +
+        display.print("udsim: the publishers stay registered; remove them with: udsim forget " +
                       quotedForShell(line.words().front()));
     }
     display.print("udsim: ended");

@@ -37,7 +37,7 @@ int failure(const std::string& what)
 int failureOfRights(const std::string& what)
 {
     const bool denied = what.ends_with(std::strerror(EACCES)) || what.ends_with(std::strerror(EPERM));
-    return failure(what + (denied && ::geteuid() != 0 ? "; udsim needs root" : ""));
+    return failure(what + (denied && ::geteuid() != 0 ? "; udsim requires root" : ""));
 }
 
 void printLine(const std::string& line)

@@ -46,12 +46,12 @@ int tellRoom(const Arguments& arguments)
                  : "tell needs a publisher and a command, such as: udsim tell \"Studio A\" offline");
     }
     if (!std::all_of(words.begin(), words.end(), fitsALine)) {
-        return wrongUsage("a publisher and a command stand on one line");
+        return wrongUsage("a publisher or command must not contain tabs or line breaks");
     }
     const std::string path = line.value("--control").value_or(DEFAULT_TELL_SOCKET);
     if (::access(path.c_str(), W_OK) != 0 && errno == EACCES) {
         failure("no permission: the udsim at " + path +
-                " takes commands from root and from the user who started it");
+                " accepts commands only from root and from the user who started it");
         return EXIT_NO_PERMISSION;
     }
     std::string error;

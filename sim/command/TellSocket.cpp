@@ -91,7 +91,7 @@ TellSocket::~TellSocket()
 bool TellSocket::start(const std::string& path, std::string& error)
 {
     if (isServed(SOCK_STREAM, path)) {
-        error = path + ": another udsim takes commands there";
+        error = path + ": another udsim uses this socket";
         return false;
     }
     Descriptor listener = bindUnix(SOCK_STREAM, path, RIGHTS, error);
@@ -128,7 +128,8 @@ std::optional<TellReply> sendTellRequest(const std::string& path, const TellRequ
 {
     const Descriptor socket = connectUnix(path, error);
     if (!socket.isOpen()) {
-        error = "not running: no udsim takes commands at " + error + " (--control names another place)";
+        error =
+            "not running: no udsim accepts commands at " + error + " (use --control for a different socket)";
         return std::nullopt;
     }
     sendAll(socket.get(), request.line() + "\n");
@@ -139,7 +140,7 @@ std::optional<TellReply> sendTellRequest(const std::string& path, const TellRequ
             return TellReply{done, reply.substr(std::char_traits<char>::length(word))};
         }
     }
-    error = "the udsim at " + path + " does not answer";
+    error = "the udsim at " + path + " does not reply";
     return std::nullopt;
 }
 

@@ -34,7 +34,7 @@ sockaddr_un unixAddress(const std::string& path)
 bool fits(const std::string& path, std::string& error)
 {
     if (path.empty() || path.size() >= sizeof(sockaddr_un::sun_path)) {
-        error = "\"" + path + "\": the path of a socket has up to " +
+        error = "\"" + path + "\": a socket path must have 1 to " +
                 std::to_string(sizeof(sockaddr_un::sun_path) - 1) + " bytes";
         return false;
     }
@@ -49,7 +49,7 @@ bool makeRoom(const std::string& path, std::string& error)
         return true; // bind() reports any other problem with the path
     }
     if (!S_ISSOCK(found.st_mode)) {
-        error = path + ": is there already, and is no socket";
+        error = path + ": exists and is not a socket";
         return false;
     }
     ::unlink(path.c_str());
@@ -158,7 +158,7 @@ Descriptor listenTcp(const Address& address, std::string& error)
     wanted.sin_family = AF_INET;
     wanted.sin_port = htons(address.port);
     if (::inet_pton(AF_INET, address.host.c_str(), &wanted.sin_addr) != 1) {
-        error = "\"" + address.host + "\" is no IPv4 address to listen at";
+        error = "\"" + address.host + "\" is not an IPv4 address";
         return {};
     }
     const int on = 1;
@@ -186,7 +186,7 @@ Descriptor connectTcp(const Address& address, int watched, std::string& error)
         return {};
     }
     if (cameTo(watched, *found)) {
-        error = address.text() + ": leads back here";
+        error = address.text() + ": this is the address of the recorder";
         return {};
     }
     Descriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));

@@ -102,7 +102,7 @@ std::string parseLine(const std::string& line, Message& message)
     const auto moment = parseSeconds(time);
     const auto number = parseNumber(connection, UINT32_MAX);
     if (!moment || !number) {
-        return "neither a comment nor the time and the connection of a message";
+        return "neither a comment nor a message with time and connection";
     }
     message.time = *moment;
     message.connection = static_cast<unsigned>(*number);
@@ -114,10 +114,10 @@ std::string parseLine(const std::string& line, Message& message)
         }
     }
     if (!known) {
-        return "\"" + kind + "\" is neither ask nor answer nor closed";
+        return "\"" + kind + "\" is not ask, answer or closed";
     }
     if (message.kind == Message::Kind::closed) {
-        return behindKind.empty() ? "" : "something stands behind \"closed\"";
+        return behindKind.empty() ? "" : "unexpected text after \"closed\"";
     }
     const auto [size, quoted] = splitFirstWord(behindKind);
     const auto whole = parseNumber(size, UINT64_MAX);
@@ -126,10 +126,10 @@ std::string parseLine(const std::string& line, Message& message)
         return "the message has no size";
     }
     if (!bytes) {
-        return "the message's bytes are not what a recorder writes";
+        return "the bytes of the message are malformed";
     }
     if (bytes->size() > *whole) {
-        return "more bytes than the message's size";
+        return "the message has more bytes than its size";
     }
     message.size = *whole;
     message.bytes = std::move(*bytes);
@@ -197,7 +197,7 @@ std::optional<Recording> Recording::parse(const std::string& text, std::string& 
     Recording recording;
     std::vector<std::string> lines = splitLines(text);
     if (!lines.empty() && !text.ends_with('\n')) {
-        recording.remark = at(lines.size(), "the recording is cut off here; the line is left out");
+        recording.remark = at(lines.size(), "the recording is cut off here; this line is ignored");
         lines.pop_back();
     }
     bool known = false;
@@ -208,7 +208,7 @@ std::optional<Recording> Recording::parse(const std::string& text, std::string& 
         }
     }
     if (!known) {
-        error = at(1, "this is no recording of udsim, or one of another version");
+        error = at(1, "not a udsim recording, or a recording of another version");
         return std::nullopt;
     }
     for (size_t i = 1; i < lines.size(); ++i) {

@@ -167,8 +167,8 @@ Relay::Relay(Recorder& recorder, Connect connect, std::function<void(const std::
       m_conversations([this](int client, unsigned number) { carry(client, number); },
                       [this] {
                           const std::string text =
-                              "a client was turned away: " + std::to_string(Conversations::MOST) +
-                              " are connected, and no more can be";
+                              "a client was rejected: " + std::to_string(Conversations::MOST) +
+                              " are connected, which is the maximum";
                           m_recorder.remark(0, text);
                           m_note(text);
                       })
@@ -190,8 +190,8 @@ void Relay::carry(int client, unsigned number)
     std::string error;
     const Descriptor other = m_connect(client, error);
     if (!other.isOpen()) {
-        m_recorder.remark(number, "cannot be connected: " + error);
-        m_note("cannot be connected: " + error);
+        m_recorder.remark(number, "cannot connect: " + error);
+        m_note("cannot connect: " + error);
         return;
     }
     for (const int socket : {client, other.get()}) {

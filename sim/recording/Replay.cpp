@@ -161,8 +161,8 @@ std::string Replay::summary() const
 {
     const std::lock_guard lock(m_mutex);
     return std::to_string(m_answered) + " requests answered, " + std::to_string(m_unknown) +
-           " not in the recording; of its " + std::to_string(m_answers.size()) + " answers " +
-           std::to_string(m_answers.left()) + " were not asked for";
+           " not in the recording; of its " + std::to_string(m_answers.size()) + " answers, " +
+           std::to_string(m_answers.left()) + " were not used";
 }
 
 void Replay::talk(int client)
@@ -173,7 +173,7 @@ void Replay::talk(int client)
     while (true) {
         const auto whole = sizeOfRequest(m_of, bytes);
         if (!whole) {
-            m_note("what came is no request");
+            m_note("received bytes that are not a request");
             return;
         }
         // The bytes of a large body are discarded as they arrive.
@@ -212,9 +212,9 @@ bool Replay::answerOne(int client, const std::string& question)
             answer = *found.answer;
         }
         outcome = !known                 ? "not in the recording"
-                  : answer.bytes.empty() ? "there was no answer"
+                  : answer.bytes.empty() ? "no answer was recorded"
                   : !answer.whole        ? "only the beginning of the answer was recorded"
-                  : found.again          ? "the last answer, once more"
+                  : found.again          ? "last answer repeated"
                                          : "answered";
     }
     m_note(printable(question) + ": " + outcome);

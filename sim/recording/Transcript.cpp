@@ -190,7 +190,7 @@ void Recorder::put(const std::string& lines)
             return;
         }
         if (m_size + lines.size() > m_largest) {
-            trouble = "the recording is full; what follows is not recorded";
+            trouble = "the recording is full; later messages are not recorded";
         } else if (std::fwrite(lines.data(), 1, lines.size(), m_file.get()) != lines.size() ||
                    std::fflush(m_file.get()) != 0) {
             trouble = std::string("the recording cannot be written: ") + std::strerror(errno);

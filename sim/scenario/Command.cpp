@@ -88,7 +88,8 @@ std::optional<JobSetup> parseJob(const std::string& text, std::string& error)
             job.type = *type;
         } else {
             error = "\"" + piece +
-                    "\" is no part of a job (a name, copies=1 to 1000, type=write, print or write+print)";
+                    "\" is not a valid part of a job (a name, copies=1 to 1000, type=write, print or "
+                    "write+print)";
             return std::nullopt;
         }
     }

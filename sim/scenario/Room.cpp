@@ -349,7 +349,7 @@ bool Room::start(std::string& error)
     {
         const std::lock_guard lock(state.mutex);
         if (state.open) {
-            error = "the room is open already";
+            error = "the room is already running";
             return false;
         }
         if (!makeFolders(error) || !writeDeviceKeys(state.world.publishers(), error)) {

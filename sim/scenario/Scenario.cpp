@@ -70,7 +70,7 @@ std::string setMedia(const Entry& entry, uint32_t& target)
         target = media::OUTPUT;
         return {};
     }
-    return "\"" + entry.value + "\" is no disc type";
+    return "\"" + entry.value + "\" is not a disc type";
 }
 
 std::string addJobs(const Entry& entry, PublisherSetup& setup)
@@ -193,7 +193,7 @@ std::string addPublisher(const Section& section, Scenario& scenario)
     if (const Entry* const mode = find(section, "mode")) {
         const auto value = parseNumber(mode->value, 9);
         if (!value || !known->supportsMode(*value)) {
-            return at(mode->line, "the model has no publish mode \"" + mode->value + "\"");
+            return at(mode->line, "the model does not support publish mode \"" + mode->value + "\"");
         }
         setup.setMode(static_cast<uint32_t>(*value));
     }
@@ -247,7 +247,7 @@ std::string addEvent(const Section& section, Scenario& scenario)
         return at(section.line, "only a network publisher has a server");
     }
     if (event.command.isForService() != event.publisher.empty()) {
-        return at(section.line, "an event needs a publisher, unless it concerns the service itself");
+        return at(section.line, "an event needs a publisher unless it applies to the service");
     }
     if (!hasTime) {
         event.at = event.every;
@@ -280,8 +280,7 @@ std::string addFault(const Section& section, Scenario& scenario)
             mistake = unknownKey(entry.key, "a fault", {"do", "control", "publisher", "times"});
         }
         if (mistake.empty() && fault.kind == Fault::Kind::refuse && entry.key != "do") {
-            mistake =
-                "\"refuse\" concerns every connection: it takes neither control nor publisher nor times";
+            mistake = "\"refuse\" applies to every connection and takes no control, publisher or times";
         }
         if (!mistake.empty()) {
             return at(entry.line, mistake);

@@ -72,7 +72,7 @@ std::optional<std::vector<Section>> readSections(const std::string& text, std::s
         }
         if (line[0] == '[') {
             if (line.back() != ']') {
-                error = at(number, "a section without \"]\"");
+                error = at(number, "a section header without \"]\"");
                 return std::nullopt;
             }
             const auto [kind, name] = splitFirstWord(line.substr(1, line.size() - 2));
@@ -96,14 +96,14 @@ std::optional<std::vector<Section>> readSections(const std::string& text, std::s
             return std::nullopt;
         }
         if (sections.empty()) {
-            error = at(number, "a key ahead of the first section");
+            error = at(number, "a key before the first section");
             return std::nullopt;
         }
         Entry entry{number, trim(line.substr(0, equals)), trim(line.substr(equals + 1))};
         const auto& before = sections.back().entries;
         if (entry.key != "job" &&
             std::any_of(before.begin(), before.end(), [&](const Entry& e) { return e.key == entry.key; })) {
-            error = at(number, "\"" + entry.key + "\" stands twice");
+            error = at(number, "duplicate key \"" + entry.key + "\"");
             return std::nullopt;
         }
         sections.back().entries.push_back(std::move(entry));

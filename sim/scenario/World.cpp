@@ -205,7 +205,7 @@ std::vector<JobProgress> World::progress() const
 std::string World::refusalOf(const std::string& publisher, const Command& command) const
 {
     if (command.isForService()) {
-        return publisher.empty() ? "" : "the service takes no publisher";
+        return publisher.empty() ? "" : "commands to the service take no publisher";
     }
     std::vector<std::string> names;
     for (const MachineState& state : states()) {
@@ -214,7 +214,7 @@ std::string World::refusalOf(const std::string& publisher, const Command& comman
     const auto found = std::find(names.begin(), names.end(), publisher);
     if (found == names.end()) {
         return "no such publisher \"" + publisher + "\"" + suggestion(publisher, names) +
-               "; there are: " + quotedList(names);
+               "; the publishers are: " + quotedList(names);
     }
     const bool hasServer = static_cast<size_t>(found - names.begin()) >= m_publishers.size();
     return command.kind == Command::Kind::server && !hasServer ? "only a network publisher has a server" : "";

@@ -97,7 +97,7 @@ std::optional<HttpFault> HttpFault::parse(const std::string& text, std::string& 
         for (const Word& one : WORDS) {
             names.emplace_back(one.name);
         }
-        error = "unknown fault \"" + word + "\" of a server" + suggestion(word, names);
+        error = "unknown server fault \"" + word + "\"" + suggestion(word, names);
         return std::nullopt;
     }
     HttpFault fault;

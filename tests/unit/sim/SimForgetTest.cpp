@@ -49,7 +49,7 @@ protected:
 TEST_F(SimForget, RemovesEverythingOfTheScenario)
 {
     std::ofstream(REGISTRY).close(); // as the package creates it
-    EXPECT_NE(runRoom().find("udsim: its publishers stay registered; to remove them: "
+    EXPECT_NE(runRoom().find("udsim: the publishers stay registered; remove them with: "
                              "udsim forget '/tmp/my room.udsim'\nudsim: ended\n"),
               std::string::npos);
     EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
@@ -116,7 +116,7 @@ TEST_F(SimForget, IsRefusedWhileARoomRuns)
     ProgramProcess room(UDSIM, {SCENARIO});
     room.readUntil("udsim: ready\n");
     const Ended early = runProgram(UDSIM, {"forget", SCENARIO});
-    EXPECT_EQ(early.output, "udsim: a udsim is running; end it first\n");
+    EXPECT_EQ(early.output, "udsim: udsim is running; stop it first\n");
     EXPECT_EQ(early.status, 1);
     EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
     room.end();

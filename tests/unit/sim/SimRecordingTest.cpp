@@ -108,9 +108,9 @@ TEST(SimRecording, AFile)
 TEST(SimRecording, Mistakes)
 {
     const std::string start = START;
-    const std::string none = "line 1: this is no recording of udsim, or one of another version";
-    const std::string noBytes = "line 2: the message's bytes are not what a recorder writes";
-    const std::string noMessage = "line 2: neither a comment nor the time and the connection of a message";
+    const std::string none = "line 1: not a udsim recording, or a recording of another version";
+    const std::string noBytes = "line 2: the bytes of the message are malformed";
+    const std::string noMessage = "line 2: neither a comment nor a message with time and connection";
     const std::pair<std::string, std::string> table[] = {
         {"", none},
         {"\n", none},
@@ -126,17 +126,17 @@ TEST(SimRecording, Mistakes)
         {start + "-1.000 1 ask 1 \"a\"\n", noMessage},
         {start + "1.000 x ask 1 \"a\"\n", noMessage},
         {start + "1.000 4294967296 ask 1 \"a\"\n", noMessage},
-        {start + "1.000 1 say 1 \"a\"\n", "line 2: \"say\" is neither ask nor answer nor closed"},
+        {start + "1.000 1 say 1 \"a\"\n", "line 2: \"say\" is not ask, answer or closed"},
         {start + "1.000 1 ask\n", "line 2: the message has no size"},
         {start + "1.000 1 ask x \"a\"\n", "line 2: the message has no size"},
         {start + "1.000 1 ask 1\n", noBytes},
         {start + "1.000 1 ask 1 \"a\n", noBytes},
         {start + "1.000 1 ask 1 \"a\" b\n", noBytes},
-        {start + "1.000 1 ask 1 \"ab\"\n", "line 2: more bytes than the message's size"},
+        {start + "1.000 1 ask 1 \"ab\"\n", "line 2: the message has more bytes than its size"},
         {start + "1.000 1 ask 99999999999 \"\\0{99999999999}\"\n", noBytes},
-        {start + "1.000 1 closed 1\n", "line 2: something stands behind \"closed\""},
+        {start + "1.000 1 closed 1\n", "line 2: unexpected text after \"closed\""},
         {start + "# fine\n\n0.000 1 closed\nhello\n",
-         "line 5: neither a comment nor the time and the connection of a message"},
+         "line 5: neither a comment nor a message with time and connection"},
     };
     for (const auto& [text, expected] : table) {
         EXPECT_EQ(mistakeIn(text), expected) << text;
@@ -153,7 +153,7 @@ TEST(SimRecording, ATruncatedFileIsReadUpToTheCut)
         ASSERT_TRUE(recording) << length << ": " << error;
         EXPECT_EQ(recording->messages.size(), 1U);
         EXPECT_EQ(recording->remark,
-                  length == second ? "" : "line 3: the recording is cut off here; the line is left out");
+                  length == second ? "" : "line 3: the recording is cut off here; this line is ignored");
     }
 }
 
@@ -187,5 +187,5 @@ TEST(SimRecording, Files)
     EXPECT_EQ(error, "/tmp: Is a directory");
     std::ofstream("/tmp/bad.udrec") << START << "hello\n";
     EXPECT_FALSE(Recording::load("/tmp/bad.udrec", error));
-    EXPECT_EQ(error, "/tmp/bad.udrec:2: neither a comment nor the time and the connection of a message");
+    EXPECT_EQ(error, "/tmp/bad.udrec:2: neither a comment nor a message with time and connection");
 }

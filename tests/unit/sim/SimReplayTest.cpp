@@ -154,12 +154,11 @@ TEST(SimReplay, RepliesToAClient)
     EXPECT_EQ(ask(client, "GET /other HTTP/1.1\r\n\r\n", missing.size()), missing);
     EXPECT_EQ(ask(client, "GET /a HTTP/1.1\r\n\r\n", one.size()), one) << "on the same connection";
     played.replay.stop();
-    EXPECT_EQ(played.notes, (std::vector<std::string>{"GET /a: answered", "PUT /f: answered",
-                                                      "GET /other: not in the recording",
-                                                      "GET /a: the last answer, once more"}));
+    EXPECT_EQ(played.notes,
+              (std::vector<std::string>{"GET /a: answered", "PUT /f: answered",
+                                        "GET /other: not in the recording", "GET /a: last answer repeated"}));
     EXPECT_EQ(played.replay.summary(),
-              "3 requests answered, 1 not in the recording; of its 2 answers 0 were not asked "
-              "for");
+              "3 requests answered, 1 not in the recording; of its 2 answers, 0 were not used");
 }
 
 TEST(SimReplay, SilenceAndDisconnectsAreReplayed)

@@ -101,10 +101,10 @@ TEST(SimRoom, InvalidCommandsAreRefused)
     EXPECT_FALSE(room.tell("A", "dance", &error));
     EXPECT_EQ(error, "unknown command \"dance\"");
     EXPECT_FALSE(room.tell("C", "offline", &error));
-    EXPECT_EQ(error, "no such publisher \"C\"; there are: \"A\", \"B\"");
+    EXPECT_EQ(error, "no such publisher \"C\"; the publishers are: \"A\", \"B\"");
     EXPECT_FALSE(room.tell("", "offline"));
     EXPECT_FALSE(room.tell("A", "service off", &error));
-    EXPECT_EQ(error, "the service takes no publisher");
+    EXPECT_EQ(error, "commands to the service take no publisher");
     EXPECT_FALSE(room.tell("A", "server off", &error));
     EXPECT_EQ(error, "only a network publisher has a server");
     EXPECT_FALSE(room.tell("A", "ofline", &error));

@@ -245,21 +245,21 @@ TEST(SimScenario, MistakesAreReportedWithTheirLine)
 {
     const std::string machine = "[publisher A]\nmodel = RT-30\n"; // two lines
     const std::pair<std::string, std::string> table[] = {
-        {"[publisher A", "line 1: a section without \"]\""},
+        {"[publisher A", "line 1: a section header without \"]\""},
         {"\n[printer A]",
          "line 2: unknown section \"printer\" (publisher NAME, network NAME, event, fault or network-fault)"},
         {"[publisher]", "line 1: a publisher needs a name: [publisher NAME]"},
         {"[event now]", "line 1: the section \"event\" takes no name"},
-        {"model = RT-30", "line 1: a key ahead of the first section"},
+        {"model = RT-30", "line 1: a key before the first section"},
         {machine + "connected", "line 3: neither a section nor \"key = value\""},
-        {machine + "model = RT-30", "line 3: \"model\" stands twice"},
+        {machine + "model = RT-30", "line 3: duplicate key \"model\""},
         {"[publisher A]\n", "line 1: the publisher \"A\" needs a model"},
         {"[publisher A]\nmodel = RT-31\n", "line 2: unknown model \"RT-31\" (did you mean \"RT-30\"?)"},
         {machine + "colour = red", "line 3: unknown key \"colour\" of a publisher"},
         {machine + "connected = maybe", "line 3: \"connected\" needs yes or no"},
         {machine + "registered = 1", "line 3: \"registered\" needs yes or no"},
-        {machine + "mode = 1", "line 3: the model has no publish mode \"1\""},
-        {machine + "mode = x", "line 3: the model has no publish mode \"x\""},
+        {machine + "mode = 1", "line 3: the model does not support publish mode \"1\""},
+        {machine + "mode = x", "line 3: the model does not support publish mode \"x\""},
         {machine + "error = ten", "line 3: \"error\" needs a number up to 9999"},
         {machine + "usb = 17", "line 3: \"usb\" needs a number up to 16"},
         {machine + "disc-time = 0s", "line 3: \"disc-time\" needs a time such as 250ms, 8s or 2m"},
@@ -269,11 +269,12 @@ TEST(SimScenario, MistakesAreReportedWithTheirLine)
                                   "light-magenta, black) and a percentage"},
         {machine + "stacker5 = 8",
          "line 3: \"stacker\" needs a stacker from 1 to 4 and a number of discs up to 100"},
-        {machine + "stacker1.media = vinyl", "line 3: \"vinyl\" is no disc type"},
+        {machine + "stacker1.media = vinyl", "line 3: \"vinyl\" is not a disc type"},
         {machine + "jobs = 34", "line 3: \"jobs\" needs a number up to 33"},
         {machine + "jobs = 33\njob = X", "line 1: more than 33 jobs"},
-        {machine + "job = X, copies=0", "line 3: \"copies=0\" is no part of a job (a name, copies=1 to 1000, "
-                                        "type=write, print or write+print)"},
+        {machine + "job = X, copies=0",
+         "line 3: \"copies=0\" is not a valid part of a job (a name, copies=1 to 1000, "
+         "type=write, print or write+print)"},
         {machine + "name = a;b",
          "line 3: \"name\" needs a text of up to 64 bytes without any of \\ / \" [ ] ; ="},
         {machine + "id = ../x",
@@ -289,9 +290,9 @@ TEST(SimScenario, MistakesAreReportedWithTheirLine)
         {machine + "[event]\ndo = explode", "line 4: unknown command \"explode\""},
         {machine + "[event]\nwhen = 3s", "line 4: unknown key \"when\" of an event"},
         {machine + "[event]\nat = 1s\ndo = online",
-         "line 3: an event needs a publisher, unless it concerns the service itself"},
+         "line 3: an event needs a publisher unless it applies to the service"},
         {machine + "[event]\nat = 1s\npublisher = A\ndo = service on",
-         "line 3: an event needs a publisher, unless it concerns the service itself"},
+         "line 3: an event needs a publisher unless it applies to the service"},
         {"[fault]\ncontrol = 22", "line 1: a fault needs \"do\""},
         {machine + "disk-time = 8s",
          "line 3: unknown key \"disk-time\" of a publisher (did you mean \"disc-time\"?)"},
@@ -317,7 +318,7 @@ TEST(SimScenario, MistakesAreReportedWithTheirLine)
         {"[fault]\ndo = stall\npublisher = B", "line 3: unknown publisher \"B\""},
         {"[fault]\ndo = stall\nwhen = now", "line 3: unknown key \"when\" of a fault"},
         {"[fault]\ndo = refuse\ncontrol = 22",
-         "line 3: \"refuse\" concerns every connection: it takes neither control nor publisher nor times"},
+         "line 3: \"refuse\" applies to every connection and takes no control, publisher or times"},
     };
     for (const auto& [text, expected] : table) {
         std::string error;

@@ -83,9 +83,10 @@ TEST(SimTell, RequestsAreExecuted)
                                                                "N         no server\n");
     const udsim::TellReply wrong = udsim::carryOut(open.room, {false, "studio a", "offline"});
     EXPECT_FALSE(wrong.done);
-    EXPECT_EQ(wrong.text,
-              "no such publisher \"studio a\" (did you mean \"Studio A\"?); there are: \"Studio A\", "
-              "\"B\", \"N\"");
+    EXPECT_EQ(
+        wrong.text,
+        "no such publisher \"studio a\" (did you mean \"Studio A\"?); the publishers are: \"Studio A\", "
+        "\"B\", \"N\"");
 }
 
 TEST(SimTell, EveryCommand)
@@ -167,7 +168,7 @@ TEST(SimTell, TheSocketIsPrivateAndExclusive)
     udsim::TellSocket second(taking.open.room);
     std::string error;
     EXPECT_FALSE(second.start(PATH, error));
-    EXPECT_EQ(error, "/tmp/control.socket: another udsim takes commands there");
+    EXPECT_EQ(error, "/tmp/control.socket: another udsim uses this socket");
     EXPECT_EQ(rawAnswer("list\n").find("done\n"), 0U);
 }
 
@@ -176,11 +177,11 @@ TEST(SimTell, InvalidPathsAreReported)
     OpenRoom open(ROOM);
     std::ofstream("/tmp/precious") << "text";
     const std::pair<std::string, std::string> table[] = {
-        {"/tmp/precious", "/tmp/precious: is there already, and is no socket"},
+        {"/tmp/precious", "/tmp/precious: exists and is not a socket"},
         {"/tmp/none/x", "/tmp/none/x: No such file or directory"},
-        {"", "\"\": the path of a socket has up to 107 bytes"},
+        {"", "\"\": a socket path must have 1 to 107 bytes"},
         {"/tmp/" + std::string(103, 'x'),
-         "\"/tmp/" + std::string(103, 'x') + "\": the path of a socket has up to 107 bytes"},
+         "\"/tmp/" + std::string(103, 'x') + "\": a socket path must have 1 to 107 bytes"},
     };
     for (const auto& [path, expected] : table) {
         udsim::TellSocket socket(open.room);
@@ -222,7 +223,8 @@ TEST(SimTell, SendsCommandsToARunningRoom)
         {{"service", "on"}, 0, "", "the service listens again\n"},
         {{"Stdio A", "offline"},
          1,
-         "udsim: no such publisher \"Stdio A\" (did you mean \"Studio A\"?); there are: \"Studio A\", \"B\", "
+         "udsim: no such publisher \"Stdio A\" (did you mean \"Studio A\"?); the publishers are: \"Studio "
+         "A\", \"B\", "
          "\"N\"\n",
          ""},
         {{"B", "dance"}, 1, "udsim: unknown command \"dance\"\n", ""},
@@ -258,8 +260,8 @@ TEST(SimTell, TheControlOptionNamesTheSocket)
     EXPECT_EQ(nobody.status, 69);
     EXPECT_EQ(
         nobody.output,
-        "udsim: not running: no udsim takes commands at /var/run/udsim.socket: No such file or directory "
-        "(--control names another place)\n");
+        "udsim: not running: no udsim accepts commands at /var/run/udsim.socket: No such file or directory "
+        "(use --control for a different socket)\n");
 }
 
 TEST(SimTell, AnInvalidReplyIsReported)
@@ -270,6 +272,6 @@ TEST(SimTell, AnInvalidReplyIsReported)
     EXPECT_EQ(peer.ReadExactly(15), "tell\tB\toffline\n");
     peer.Write("what?");
     peer.Close();
-    EXPECT_EQ(told.readToTheEnd(), "udsim: the udsim at /tmp/control.socket does not answer\n");
+    EXPECT_EQ(told.readToTheEnd(), "udsim: the udsim at /tmp/control.socket does not reply\n");
     EXPECT_EQ(told.wait(), 69);
 }

@@ -213,6 +213,6 @@ TEST(SimRecorder, AFullRecordingIsReportedOnce)
         recorder.write({0, 1, Kind::answer, large.size(), large}, {});
     }
     EXPECT_FALSE(recorder.isComplete());
-    EXPECT_EQ(notes, std::vector<std::string>{"the recording is full; what follows is not recorded"});
+    EXPECT_EQ(notes, std::vector<std::string>{"the recording is full; later messages are not recorded"});
     EXPECT_LE(std::filesystem::file_size(FILE_NAME), LARGEST);
 }

@@ -24,7 +24,7 @@ TEST(SimUser, RunningARoomRequiresRoot)
     std::ofstream(SCENARIO) << "[publisher A]\nmodel = RT-30\n";
     fs::permissions("/opt", READ_ONLY);
     const Ended ended = runProgram(UDSIM, {SCENARIO});
-    EXPECT_EQ(ended.output, std::string("udsim: ") + SETTINGS + ": Permission denied; udsim needs root\n");
+    EXPECT_EQ(ended.output, std::string("udsim: ") + SETTINGS + ": Permission denied; udsim requires root\n");
     EXPECT_EQ(ended.status, 1);
 }
 
@@ -36,7 +36,7 @@ TEST(SimUser, ForgetRequiresRoot)
     std::ofstream(file) << "[Common]\nGUID={G}\n";
     fs::permissions(SETTINGS, READ_ONLY);
     const Ended ended = runProgram(UDSIM, {"forget", SCENARIO});
-    EXPECT_EQ(ended.output, "udsim: " + file + ": Permission denied; udsim needs root\n");
+    EXPECT_EQ(ended.output, "udsim: " + file + ": Permission denied; udsim requires root\n");
     EXPECT_EQ(ended.status, 1);
     EXPECT_TRUE(fs::exists(file));
 }
@@ -45,15 +45,15 @@ TEST(SimUser, TellDistinguishesNoPermissionFromNotRunning)
 {
     const Ended none = runProgram(UDSIM, {"tell", "--list"});
     EXPECT_EQ(none.output,
-              "udsim: not running: no udsim takes commands at /var/run/udsim.socket: No such file or "
-              "directory (--control names another place)\n");
+              "udsim: not running: no udsim accepts commands at /var/run/udsim.socket: No such file or "
+              "directory (use --control for a different socket)\n");
     EXPECT_EQ(none.status, 69);
 
     const UnixListener room(CONTROL);
     fs::permissions(CONTROL, fs::perms::none);
     const Ended refused = runProgram(UDSIM, {"tell", "--list"});
     EXPECT_EQ(refused.output,
-              "udsim: no permission: the udsim at /var/run/udsim.socket takes commands from root and "
+              "udsim: no permission: the udsim at /var/run/udsim.socket accepts commands only from root and "
               "from the user who started it\n");
     EXPECT_EQ(refused.status, 77);
 }
