@@ -71,7 +71,7 @@ int main()
         "upload of 400 MiB to Apache mod_dav, vs curl",
         Compare("A disc image of 400 MiB to Apache with mod_dav",
                 {{"SendDiscImage, pieces of 40 MiB", [&] { upload.SendWithLibrary(handle); }, {}},
-                 {"curl, the same ranges, the digest beside it", [&] { upload.SendWithCurl(); }, {}}},
+                 {"curl, same ranges, digest in a second thread", [&] { upload.SendWithCurl(); }, {}}},
                 15),
         1.1);
     return 0;

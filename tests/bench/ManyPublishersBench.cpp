@@ -194,7 +194,7 @@ bool measureLost()
 {
     Servers servers("[network Living]\nmodel = RT-300NII\nid = living\n");
     if (!servers.serve()) {
-        std::fprintf(stderr, "no servers\n");
+        std::fprintf(stderr, "the servers did not start\n");
         return false;
     }
     std::vector<std::unique_ptr<LostAddress>> lost;
@@ -202,7 +202,7 @@ bool measureLost()
         const std::string address = "127.0.1." + std::to_string(i + 1);
         lost.push_back(std::make_unique<LostAddress>(address));
         if (!lost.back()->isLost()) {
-            std::fprintf(stderr, "%s answers\n", address.c_str());
+            std::fprintf(stderr, "%s is reachable, but must not be\n", address.c_str());
             return false;
         }
         Installation::addNetwork("lost" + std::to_string(i), "Lost " + std::to_string(i), address);
@@ -233,11 +233,11 @@ bool measureLost()
     const std::vector<double> answers = prober.milliseconds();
     const double longestRefresh = *std::max_element(refreshes.begin(), refreshes.end());
     const double longestAnswer = *std::max_element(answers.begin(), answers.end());
-    std::printf("%d publishers whose packets go nowhere, and a living one, for %d s\n", lostPublishers,
+    std::printf("%d unreachable publishers and a reachable one, for %d s\n", lostPublishers,
                 static_cast<int>(lostTime.count()));
-    std::printf("  living one: %d answers, %d of them \"Ready\"; lost ones: %d answers\n",
+    std::printf("  reachable one: %d answers, %d of them \"Ready\"; unreachable ones: %d answers\n",
                 static_cast<int>(refreshes.size()) - 1, ready, lostAnswers);
-    std::printf("  longest time without a refresh of it     %8.2f s    %6.3f x of the %.0f s allowed\n",
+    std::printf("  longest time between its refreshes       %8.2f s    %6.3f x of the %.0f s allowed\n",
                 longestRefresh, longestRefresh / refreshLimit, refreshLimit);
     std::printf("  longest wait for the window              %8.2f ms   %6.3f x of the %.0f ms allowed\n",
                 longestAnswer, longestAnswer / answerLimit, answerLimit);
@@ -316,17 +316,17 @@ bool measureLiving()
     program.setStandardErrorFile(QProcess::nullDevice());
     program.setStandardOutputFile(QProcess::nullDevice());
     if (!servers.serve()) {
-        std::fprintf(stderr, "no servers\n");
+        std::fprintf(stderr, "the servers did not start\n");
         return false;
     }
     program.start(UDSETUP_PROGRAM, QStringList());
     if (!program.waitForStarted()) {
-        std::fprintf(stderr, "no program\n");
+        std::fprintf(stderr, "the program did not start\n");
         return false;
     }
     serveEvents(std::chrono::seconds(warmUp));
 
-    std::printf("%d living publishers, polled by the program for a minute\n", livingPublishers);
+    std::printf("%d reachable publishers, polled by the program for a minute\n", livingPublishers);
     const Figures before = lookWhenQuiet(program.processId());
     const int pollsBefore = polls();
     const auto start = Clock::now();
@@ -349,9 +349,9 @@ bool measureLiving()
     const double used = after.processorSeconds - before.processorSeconds;
     std::printf("  %d polls: %.2f ms of processor time each, %.1f %% of one processor\n", pollsDone,
                 used * 1000 / pollsDone, used * 100 / time);
-    std::printf("  memory at the end against the beginning      %6.3f x (%+.2f MiB)\n",
+    std::printf("  memory at the end relative to the start      %6.3f x (%+.2f MiB)\n",
                 after.residentMiB / before.residentMiB, after.residentMiB - before.residentMiB);
-    std::printf("  descriptors at the end against the beginning %+ld\n",
+    std::printf("  change in the number of descriptors          %+ld\n",
                 after.descriptors - before.descriptors);
     program.terminate();
     program.waitForFinished();

@@ -174,7 +174,7 @@ int main()
     }
     const int expected = 2 + rounds * static_cast<int>(registered.size()) * (polls + 2);
     if (ready != expected || !answered) {
-        std::fprintf(stderr, "%d of %d polls found the publisher ready; bare calls were answered: %d\n",
+        std::fprintf(stderr, "%d of %d polls found the publisher ready; all bare calls were answered: %d\n",
                      ready, expected, answered);
         return 1;
     }

@@ -58,12 +58,12 @@ int main(int argc, char** argv)
     }
     CPublisherMgr publisherMgr(true);
     if (!exchange(publisherMgr) || !open(publisherMgr)) {
-        std::fprintf(stderr, "the publisher cannot be asked\n");
+        std::fprintf(stderr, "the publisher cannot be queried\n");
         return 1;
     }
     Compare("Opening the properties of a local publisher",
             {{"getPublisherInfo, dialog, first paint", [&] { open(publisherMgr); }, {}},
-             {"its exchanges with the service alone", [&] { exchange(publisherMgr); }, {}}},
+             {"only its exchanges with the service", [&] { exchange(publisherMgr); }, {}}},
             101);
     return 0;
 }

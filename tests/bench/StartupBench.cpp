@@ -88,7 +88,7 @@ int main(int argc, char** argv)
     QProcess server;
     server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x600x24", "-nolisten", "tcp"});
     if (!server.waitForReadyRead(20000)) {
-        std::fprintf(stderr, "no virtual screen (Xvfb)\n");
+        std::fprintf(stderr, "Xvfb did not start\n");
         return 1;
     }
     qputenv("DISPLAY", ":" + server.readLine().trimmed());
@@ -104,7 +104,7 @@ int main(int argc, char** argv)
         for (int round = -2; round < repetitions && result == 0; ++round) { // two to warm up
             for (Candidate& candidate : candidates) {
                 if (!measure(candidate, round >= 0)) {
-                    std::fprintf(stderr, "%s: no window\n", candidate.name);
+                    std::fprintf(stderr, "%s: the window did not appear\n", candidate.name);
                     result = 1;
                 }
             }

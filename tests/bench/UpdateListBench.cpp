@@ -58,7 +58,7 @@ void readRecords(CPublisherMgr& publisherMgr, int count)
         const std::string id = registId(i);
         const bool network = publisherMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
         if (!publisherMgr.GetPublisherInfo(id.c_str(), &info, network)) {
-            std::fprintf(stderr, "no record\n");
+            std::fprintf(stderr, "a record cannot be read\n");
         }
     }
 }
@@ -92,7 +92,7 @@ int main(int argc, char** argv)
         window.updateList();
         QApplication::processEvents();
         if (window.treePublisherList->topLevelItemCount() != count) {
-            std::fprintf(stderr, "not every publisher has its row\n");
+            std::fprintf(stderr, "not every publisher has a row\n");
             return 1;
         }
         const int repetitions = count == 100 ? 101 : 31;

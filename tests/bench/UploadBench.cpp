@@ -42,7 +42,7 @@ int main()
         "upload of 1 GiB with hash, vs curl",
         Compare("A disc image of 1 GiB and its digest",
                 {{"SendDiscImage, pieces of 64 MiB", [&] { upload.SendWithLibrary(handle); }, {}},
-                 {"curl, the same ranges, the digest beside it", [&] { upload.SendWithCurl(); }, {}}},
+                 {"curl, same ranges, digest in a second thread", [&] { upload.SendWithCurl(); }, {}}},
                 15),
         0.9);
     return 0;
