@@ -8,7 +8,9 @@
 std::optional<int> startWithPublisher(const char* strPublisherName)
 {
     CPublisherMgr publisherMgr(true);
-    CString strFirstMatch; // may be unreadable; the search below decides
+    // The result is unused: this publisher may be unreadable, and the search below skips such publishers. The
+    // look-up remains because it logs an enumeration at log level 4.
+    CString strFirstMatch;
     publisherMgr.GetPublisherRegistIDFromName(strPublisherName, &strFirstMatch);
 
     CStringArray ids;
