@@ -10,7 +10,7 @@ namespace {
 constexpr size_t longestLine = 1023;
 constexpr size_t sizeBeforeValue =
     std::string_view(REG_PUB_SETUP_VAL_PUBLISH_NAME).size() + 1; // with the "="
-constexpr size_t longestValue = 255;
+constexpr size_t longestListed = 255;
 
 std::string_view withoutBlanksInFront(std::string_view text)
 {
@@ -33,5 +33,5 @@ CString listedName(const CString& name)
         value = withoutBlanksInFront(value.substr(1));
     }
     value = value.substr(0, value.find_last_not_of(' ') + 1);
-    return CString(std::string(value.substr(0, longestValue)));
+    return CString(std::string(value.substr(0, longestListed)));
 }

@@ -18,7 +18,7 @@ DWORD Invalid(std::list<ST_COMM_REPLY>& items, NCLLine line)
     return Refuse(items, NCL_ERR_INVALID_COMM_SPEC, line);
 }
 
-DWORD OutOfMemory(std::list<ST_COMM_REPLY>& items)
+DWORD RefuseForMemory(std::list<ST_COMM_REPLY>& items)
 {
     return Refuse(items, NCL_ERR_GET_MEMORY, "[CommLib] ParseCommReply %s 5");
 }
@@ -63,9 +63,9 @@ try {
     if (dwCheckReplyCount != 0 && count != dwCheckReplyCount) {
         return Invalid(rliReply, "[CommLib] ParseCommReply %s 4");
     }
-    return count > limit ? OutOfMemory(rliReply) : DWORD{NCL_SUCCESS};
+    return count > limit ? RefuseForMemory(rliReply) : DWORD{NCL_SUCCESS};
 } catch (const std::bad_alloc&) {
-    return OutOfMemory(rliReply);
+    return RefuseForMemory(rliReply);
 }
 
 void DEBUG_HTTP_REPLY(const char*, DWORD) {}

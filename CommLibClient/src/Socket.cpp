@@ -20,7 +20,7 @@
 namespace {
 
 constexpr int SEND_BUFFER_SIZE = 32768;
-constexpr int LARGEST_PIECE = SEND_BUFFER_SIZE - 1;
+constexpr int LARGEST_WRITE = SEND_BUFFER_SIZE - 1;
 
 // The events that put a descriptor in the three sets of select.
 constexpr short IN_READ_SET = POLLIN | POLLRDNORM | POLLRDBAND | POLLHUP | POLLERR;
@@ -284,7 +284,7 @@ int CSocket::WriteToCount(const char* pData, int nCount)
     int total = 0;
     while (total < nCount) {
         const int left = nCount - total;
-        const int count = WriteToCountBase(pData + total, left > LARGEST_PIECE ? LARGEST_PIECE : left);
+        const int count = WriteToCountBase(pData + total, left > LARGEST_WRITE ? LARGEST_WRITE : left);
         if (count < 0) {
             return count;
         }

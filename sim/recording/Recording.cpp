@@ -21,7 +21,7 @@ constexpr size_t SHORTEST_RUN = 4; ///< minimum number of zero bytes that are wr
 constexpr size_t LARGEST_MESSAGE = 64U << 20;
 constexpr std::array<std::pair<char, char>, 5> ESCAPES{
     {{'r', '\r'}, {'n', '\n'}, {'t', '\t'}, {'\\', '\\'}, {'"', '"'}}};
-constexpr std::array<std::pair<const char*, Message::Kind>, 3> KINDS{
+constexpr std::array<std::pair<const char*, Message::Kind>, 3> MESSAGE_KINDS{
     {{"ask", Message::Kind::ask}, {"answer", Message::Kind::answer}, {"closed", Message::Kind::closed}}};
 constexpr std::array<std::pair<const char*, Recording::Of>, 2> SIDES{
     {{"service", Recording::Of::service}, {"server", Recording::Of::server}}};
@@ -107,7 +107,7 @@ std::string parseLine(const std::string& line, Message& message)
     message.time = *moment;
     message.connection = static_cast<unsigned>(*number);
     bool known = false;
-    for (const auto& [name, value] : KINDS) {
+    for (const auto& [name, value] : MESSAGE_KINDS) {
         if (kind == name) {
             message.kind = value;
             known = true;
@@ -179,7 +179,7 @@ std::optional<std::string> unquotedBytes(std::string_view text, size_t most)
 std::string Message::line() const
 {
     std::string text = seconds(time) + " " + std::to_string(connection);
-    for (const auto& [name, value] : KINDS) {
+    for (const auto& [name, value] : MESSAGE_KINDS) {
         if (kind == value) {
             text += std::string(" ") + name;
         }

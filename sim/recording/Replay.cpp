@@ -5,6 +5,7 @@
 
 #include <strings.h>
 
+#include "HttpText.h"
 #include "JobFile.h"
 #include "Protocol.h"
 #include "Sockets.h"
@@ -16,9 +17,7 @@ namespace udsim {
 namespace {
 
 constexpr size_t LONGEST_HEAD = 64U << 10;
-constexpr size_t LONGEST_CHUNKED = 4U << 20; ///< a chunked body is kept until its end is found
-constexpr char HEAD_END[] = "\r\n\r\n";
-constexpr char LINE_END[] = "\r\n";
+constexpr size_t LONGEST_CHUNKED = 4U << 20;   ///< a chunked body is kept until its end is found
 constexpr char LAST_CHUNK[] = "\r\n0\r\n\r\n"; ///< including the preceding line end
 constexpr char NOT_RECORDED[] = "HTTP/1.1 404 Not Recorded\r\nContent-Length: 0\r\n\r\n";
 

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "HttpText.h"
 #include "JobFile.h"
 #include "Protocol.h"
 #include "Wire.h"
@@ -24,8 +25,6 @@ constexpr size_t LONGEST_NAME_KEPT = 24; ///< longer than each of them
 constexpr char WORD_GETTER[] = "/UploadInfoGetter";
 constexpr char ANSWER[] = "HTTP";
 constexpr char INTERIM[] = "HTTP/1.1 1";
-constexpr char HEAD_END[] = "\r\n\r\n";
-constexpr char LINE_END[] = "\r\n";
 constexpr size_t ITEM_HEAD = 3;
 constexpr size_t SHORTEST_SECRET = 4;
 constexpr mode_t RIGHTS = 0600;

@@ -301,14 +301,14 @@ std::optional<Scenario> Scenario::parse(const std::string& text, std::string& er
     Scenario scenario;
     using Add = std::string (*)(const Section&, Scenario&);
     // Publishers first: events and faults may name publishers that follow in the text.
-    constexpr std::array<std::pair<const char*, Add>, 5> KINDS{{
+    constexpr std::array<std::pair<const char*, Add>, 5> SECTION_KINDS{{
         {"publisher", addPublisher},
         {"network", addNetwork},
         {"event", addEvent},
         {"fault", addFault},
         {"network-fault", addNetworkFault},
     }};
-    for (const auto& [kind, add] : KINDS) {
+    for (const auto& [kind, add] : SECTION_KINDS) {
         for (const Section& section : *sections) {
             if (section.kind != kind) {
                 continue;

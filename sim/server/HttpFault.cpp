@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "HttpText.h"
 #include "Nearest.h"
 #include "ServletPayloads.h"
 #include "Text.h"
@@ -42,7 +43,6 @@ constexpr std::array<Word, 15> WORDS{{
     {"drip", Kind::drip, LONGEST_DELAY},
 }};
 
-constexpr char LINE_END[] = "\r\n";
 constexpr size_t ITEM_HEAD = 3;
 
 std::string statusLine(unsigned status)

@@ -10,7 +10,7 @@ namespace udsim {
 
 namespace {
 
-constexpr mode_t MODE = 0644;
+constexpr mode_t FILE_MODE = 0644;
 constexpr size_t LARGEST = size_t{64} << 20;
 
 std::string reason(const std::string& path)
@@ -27,7 +27,7 @@ ExclusiveFile::ExclusiveFile(std::string path, Descriptor file)
 
 std::optional<ExclusiveFile> ExclusiveFile::acquire(const std::string& path, int flags, std::string& error)
 {
-    Descriptor file(::open(path.c_str(), flags | O_CLOEXEC, MODE));
+    Descriptor file(::open(path.c_str(), flags | O_CLOEXEC, FILE_MODE));
     if (!file.isOpen()) {
         error = reason(path);
         return std::nullopt;

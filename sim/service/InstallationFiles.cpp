@@ -46,12 +46,12 @@ std::string settingText(const PublisherSetup& publisher)
 /// Every user may create jobs in the folder, but remove only their own.
 bool makeJobFolder(std::string& error)
 {
-    constexpr mode_t MODE = 01777;
+    constexpr mode_t FOLDER_MODE = 01777;
     struct stat there{};
     if (::lstat(JOB_FOLDER, &there) == 0) {
         return true;
     }
-    if (::mkdir(JOB_FOLDER, MODE) != 0 || ::chmod(JOB_FOLDER, MODE) != 0) {
+    if (::mkdir(JOB_FOLDER, FOLDER_MODE) != 0 || ::chmod(JOB_FOLDER, FOLDER_MODE) != 0) {
         error = std::string(JOB_FOLDER) + ": " + std::strerror(errno);
         return false;
     }

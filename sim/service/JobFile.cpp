@@ -95,7 +95,7 @@ std::string atLine(size_t index, const std::string& what)
     return "line " + std::to_string(index + 1) + ": " + what;
 }
 
-std::string quoted(std::string_view text)
+std::string inQuotes(std::string_view text)
 {
     return "\"" + printable(text) + "\"";
 }
@@ -112,15 +112,15 @@ std::string readLine(const FormLine& form, const std::string& line, std::string&
         return "a control character";
     }
     if (!form.hasValue) {
-        return line == form.text ? "" : quoted(form.text) + " expected, not " + quoted(line);
+        return line == form.text ? "" : inQuotes(form.text) + " expected, not " + inQuotes(line);
     }
     const std::string start = std::string(form.text) + " = ";
     if (!line.starts_with(start)) {
-        return quoted(start) + " expected, not " + quoted(line);
+        return inQuotes(start) + " expected, not " + inQuotes(line);
     }
     value = line.substr(start.size());
     if (form.value.data() != nullptr && value != form.value) {
-        return std::string(form.text) + " is " + quoted(value) + ", not " + quoted(form.value);
+        return std::string(form.text) + " is " + inQuotes(value) + ", not " + inQuotes(form.value);
     }
     return {};
 }
@@ -194,7 +194,7 @@ bool isCreatedAt(std::string_view value, int64_t idTime)
 
 std::string wrongValue(size_t line, const Values& values, const std::string& wanted)
 {
-    return atLine(line, std::string(FORM[line].text) + " is " + quoted(values[line]) + ", not " + wanted);
+    return atLine(line, std::string(FORM[line].text) + " is " + inQuotes(values[line]) + ", not " + wanted);
 }
 
 /// Returns the stacker number of "Load" or "Eject"; nothing if it is invalid.
@@ -256,7 +256,7 @@ std::optional<JobFile> parseJobFile(std::string_view text, std::string& error)
     const auto eject = stackerOf(values[EJECT]);
     const bool cleaning = values[PRINT_MODE] == CLEANING_MODE;
     if (!idTime) {
-        error = atLine(ID, quoted(values[ID]) + " is no job id");
+        error = atLine(ID, inQuotes(values[ID]) + " is no job id");
     } else if (values[PUBLISHER_ID].empty()) {
         error = atLine(PUBLISHER_ID, "no publisher");
     } else if (!cleaning && values[PRINT_MODE] != NOZZLE_CHECK_MODE) {
@@ -326,12 +326,12 @@ std::string refusalOf(const JobFile& job, const Setting& setting, const Model& m
     }
     struct stat data{};
     if (::stat(job.dataPath.c_str(), &data) != 0) {
-        return "there is no print data " + quoted(job.dataPath);
+        return "there is no print data " + inQuotes(job.dataPath);
     }
     if (!S_ISREG(data.st_mode)) {
-        return "the print data " + quoted(job.dataPath) + " is no file";
+        return "the print data " + inQuotes(job.dataPath) + " is no file";
     }
-    return data.st_size > 0 ? "" : "the print data " + quoted(job.dataPath) + " is empty";
+    return data.st_size > 0 ? "" : "the print data " + inQuotes(job.dataPath) + " is empty";
 }
 
 JobSetup setupOf(const JobFile& job)
