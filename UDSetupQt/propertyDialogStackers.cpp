@@ -23,7 +23,7 @@ void propertyDialogEx::changeStacker(int combNum)
     const StackerDemand demand = stackerDemand(mode, modelFamily(m_modelType), combNum == STACKER_3);
     arrangeStacker2(demand.stacker2, combNum == PUB_MODE);
     if (demand.stacker3) {
-        selectValue(selectStacker3, *demand.stacker3); // a change re-enters this function with STACKER_3
+        selectValue(selectStacker3, demand.stacker3); // a change re-enters this function with STACKER_3
     }
     if (demand.stacker3Enabled) {
         selectStacker3->setEnabled(*demand.stacker3Enabled);

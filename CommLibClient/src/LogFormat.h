@@ -23,9 +23,14 @@ public:
         const char expected[] = {CONVERSION<Args>..., '\0'};
         size_t found = 0;
         for (size_t index = 0; index + 1 < N; ++index) {
-            if (text[index] == '%' && text[++index] != expected[found++]) {
+            if (text[index] != '%') {
+                continue;
+            }
+            ++index;
+            if (text[index] != expected[found]) {
                 FormatHasOtherConversions();
             }
+            ++found;
         }
         if (found != sizeof...(Args)) {
             FormatHasOtherConversions();
