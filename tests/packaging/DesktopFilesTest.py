@@ -170,6 +170,11 @@ class DesktopFilesTest(unittest.TestCase):
         for picture in pictures:
             self.assertTrue((PROJECT / "docs" / picture).is_file(), picture)
 
+    def test_metadata_and_manual_name_the_user_guide(self):
+        links = {link.get("type"): link.text for link in self.metainfo().findall("url")}
+        self.assertEqual(links["help"], links["homepage"] + "docs/user-guide/index.html")
+        self.assertIn("\n.I /usr/share/doc/ulmar-disc-setup/user-guide/index.html\n", manual())
+
     def test_all_files_have_the_same_version(self):
         version = re.search(r"project\(UlmarDiscSetup VERSION ([\d.]+)", (PROJECT / "CMakeLists.txt").read_text()).group(1)
         changes = re.findall(r"^## ([\d.]+)", (PROJECT / "CHANGELOG.md").read_text(), re.M)
