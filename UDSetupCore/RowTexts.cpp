@@ -11,39 +11,52 @@
 
 namespace {
 
-QString notConnected()
-{
-    return QCoreApplication::translate("PubSetup", "Not connected");
-}
-
-QString unreachableText(const StatusFacts& facts)
+PublisherState unreachableState(const StatusFacts& facts)
 {
     if (facts.network && facts.connectResult == NCL_ERR_USER_NOT_REGISTERED) {
-        return QCoreApplication::translate("PubSetup", "Administrator not registered");
+        return PublisherState::administratorNotRegistered;
     }
     if (facts.network && facts.connectResult == NCL_ERR_APP_VERSION) {
-        return QCoreApplication::translate("PubSetup", "Unsupported version");
+        return PublisherState::unsupportedVersion;
     }
-    return notConnected();
+    return PublisherState::notConnected;
 }
 
-QString fatalText(const StatusFacts& facts)
+PublisherState stateOf(const StatusFacts& facts)
 {
-    return facts.fatalCode == ARV_PC_ERROR_OFFLINE ? notConnected()
-                                                   : QCoreApplication::translate("PubSetup", "Error");
+    if (!facts.reachable) {
+        return unreachableState(facts);
+    }
+    if (facts.fatal) {
+        return facts.fatalCode == ARV_PC_ERROR_OFFLINE ? PublisherState::notConnected : PublisherState::error;
+    }
+    return PublisherState::ready;
 }
 
 } // namespace
 
 StatusDecision decideStatus(const StatusFacts& facts)
 {
-    if (!facts.reachable) {
-        return {unreachableText(facts), false, false};
+    const PublisherState state = stateOf(facts);
+    const bool ready = state == PublisherState::ready;
+    return {statusText(state), ready, ready && facts.network, state};
+}
+
+QString statusText(PublisherState state)
+{
+    switch (state) {
+    case PublisherState::ready:
+        return QCoreApplication::translate("PubSetup", "Ready");
+    case PublisherState::error:
+        return QCoreApplication::translate("PubSetup", "Error");
+    case PublisherState::administratorNotRegistered:
+        return QCoreApplication::translate("PubSetup", "Administrator not registered");
+    case PublisherState::unsupportedVersion:
+        return QCoreApplication::translate("PubSetup", "Unsupported version");
+    case PublisherState::notConnected:
+        break;
     }
-    if (facts.fatal) {
-        return {fatalText(facts), false, false};
-    }
-    return {QCoreApplication::translate("PubSetup", "Ready"), true, facts.network};
+    return QCoreApplication::translate("PubSetup", "Not connected");
 }
 
 QString modelText(UINT devType, UINT netPublisherType)

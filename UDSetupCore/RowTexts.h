@@ -15,14 +15,28 @@ struct StatusFacts
     long fatalCode = 0;
 };
 
+/// The states that the status texts name.
+enum class PublisherState
+{
+    ready,
+    notConnected,
+    error,
+    administratorNotRegistered,
+    unsupportedVersion
+};
+
 struct StatusDecision
 {
     QString status; ///< translated
     bool fetchWaiting;
     bool fetchSendingAndSpace;
+    PublisherState state;
 };
 
 StatusDecision decideStatus(const StatusFacts& facts);
+
+/// Translated.
+QString statusText(PublisherState state);
 
 /// The name of a model; not translated. `devType` is an enPublisherType. `netPublisherType` is an
 /// enNetworkPublisherType and applies only to a network publisher.

@@ -5,7 +5,6 @@
 #include "PubMgrConst.h"
 #include "PublisherCtrlConst.h"
 #include "RegistIDKey.h"
-#include "RowTexts.h"
 
 #include <QMutexLocker>
 #include <QThreadPool>
@@ -41,6 +40,51 @@ bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& i
         bConnection = 1;
     }
     return publisherMgr.GetPublisherInfo(id, &info, bConnection == 0);
+}
+
+StatusRow rowBeforeReply(CPublisherMgr& publisherMgr, const PUBLISHERINFO& info)
+{
+    const UINT devType = publisherMgr.GetPublisherDevType(info.strPublisherRegistID.c_str());
+    return {.strPublisherRegistID = keyFromRegistID(info.strPublisherRegistID),
+            .strDevType = modelText(devType, info.uiNetPublisherType),
+            .strHostName = QString::fromStdString(info.strHostName),
+            .strStatus = statusText(PublisherState::notConnected),
+            .strHDDAvail = spaceText("")};
+}
+
+bool queryStatus(CPublisherMgr& publisherMgr, const CString& id, bool bSupportNetworkModel,
+                 const std::function<bool()>& isClosed, StatusReply& reply)
+{
+    BOOL bConnection = 0;
+    StatusFacts& facts = reply.facts;
+    if (!readPublisher(publisherMgr, id.c_str(), reply.info, bConnection, facts.connectResult)) {
+        return false;
+    }
+    facts.network = reply.info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK;
+    facts.reachable =
+        facts.network ? bConnection != 0 : publisherMgr.IsExistConnectedPublisher(reply.info.strGUID.c_str());
+    if (facts.reachable) {
+        facts.fatal = publisherMgr.IsFatalErrorInPublisher(id.c_str(), &facts.fatalCode);
+    }
+    if (isClosed()) {
+        return false; // with a stalled server, each query below would delay closing
+    }
+    const StatusDecision decision = decideStatus(facts);
+    reply.state = decision.state;
+
+    StatusRow& row = reply.row;
+    row = rowBeforeReply(publisherMgr, reply.info);
+    row.strPublisherRegistID = keyFromRegistID(id);
+    row.strStatus = decision.status;
+    if (decision.fetchWaiting) {
+        row.nJobWaiting = countWaitingJobs(publisherMgr, id);
+    }
+    if (bSupportNetworkModel && decision.fetchSendingAndSpace && !isClosed()) {
+        row.nJobSending = publisherMgr.GetCommunicateJobCount(id.c_str());
+        reply.freeBytes = publisherMgr.GetDeviceInfo(id.c_str(), NCL_DIT_REMAINDER_OF_HARD_DISC, nullptr);
+        row.strHDDAvail = spaceText(reply.freeBytes);
+    }
+    return true;
 }
 
 int pollThreads(int registered, int leastThreads)
@@ -95,38 +139,10 @@ void StatusPoll::startNetwork(const CString& id)
 
 void StatusPoll::fetchStatusOneDevice(const CString& id)
 {
-    PUBLISHERINFO info;
-    StatusFacts facts;
-    BOOL bConnection = 0;
-    if (!readPublisher(m_cPubMgr, id.c_str(), info, bConnection, facts.connectResult)) {
-        return;
+    StatusReply reply;
+    if (queryStatus(m_cPubMgr, id, m_bSupportNetworkModel, [this] { return m_closed.load(); }, reply)) {
+        report(reply.row);
     }
-    facts.network = info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK;
-    facts.reachable =
-        facts.network ? bConnection != 0 : m_cPubMgr.IsExistConnectedPublisher(info.strGUID.c_str());
-    if (facts.reachable) {
-        facts.fatal = m_cPubMgr.IsFatalErrorInPublisher(id.c_str(), &facts.fatalCode);
-    }
-    if (m_closed) {
-        return; // with a stalled server, each query below would delay closing
-    }
-    const StatusDecision decision = decideStatus(facts);
-
-    StatusRow row;
-    row.strPublisherRegistID = keyFromRegistID(id);
-    row.strDevType = modelText(m_cPubMgr.GetPublisherDevType(id.c_str()), info.uiNetPublisherType);
-    row.strHostName = QString::fromStdString(info.strHostName);
-    row.strStatus = decision.status;
-    row.strHDDAvail = spaceText("");
-    if (decision.fetchWaiting) {
-        row.nJobWaiting = countWaitingJobs(m_cPubMgr, id);
-    }
-    if (m_bSupportNetworkModel && decision.fetchSendingAndSpace && !m_closed) {
-        row.nJobSending = m_cPubMgr.GetCommunicateJobCount(id.c_str());
-        row.strHDDAvail =
-            spaceText(m_cPubMgr.GetDeviceInfo(id.c_str(), NCL_DIT_REMAINDER_OF_HARD_DISC, nullptr));
-    }
-    report(row);
 }
 
 void StatusPoll::report(const StatusRow& row)

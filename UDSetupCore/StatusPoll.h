@@ -2,6 +2,7 @@
 #pragma once
 
 #include "PublisherMgr.h"
+#include "RowTexts.h"
 
 #include <QMutex>
 #include <QString>
@@ -30,6 +31,24 @@ struct StatusRow
 /// reason. May block on a device.
 bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                    long& lResultCommLib);
+
+/// The row of a publisher before its first reply, from its stored record.
+StatusRow rowBeforeReply(CPublisherMgr& publisherMgr, const PUBLISHERINFO& info);
+
+/// What a query found, beside the texts of the row.
+struct StatusReply
+{
+    StatusRow row;
+    StatusFacts facts;
+    PublisherState state = PublisherState::notConnected;
+    CString freeBytes;  ///< decimal digits; empty if unknown
+    PUBLISHERINFO info; ///< as from readPublisher
+};
+
+/// Queries the status of one publisher. Returns false if its record cannot be read, or if `isClosed`, which
+/// is called between the queries, returns true. May block on a device. Any thread.
+bool queryStatus(CPublisherMgr& publisherMgr, const CString& id, bool bSupportNetworkModel,
+                 const std::function<bool()>& isClosed, StatusReply& reply);
 
 /// The number of threads that the queries of `registered` publishers need: one per publisher, so that a hung
 /// one delays only itself, plus one for all local publishers. At most 96, because the table of the network

@@ -59,6 +59,27 @@ TEST(RowTexts, EveryStateHasItsTextAndFurtherQueries)
     }
 }
 
+TEST(RowTexts, TheStateIsTheOneThatTheTextNames)
+{
+    constexpr struct
+    {
+        PublisherState state;
+        const char* text;
+    } states[] = {
+        {PublisherState::ready, "Ready"},
+        {PublisherState::notConnected, "Not connected"},
+        {PublisherState::error, "Error"},
+        {PublisherState::administratorNotRegistered, "Administrator not registered"},
+        {PublisherState::unsupportedVersion, "Unsupported version"},
+    };
+    for (const auto& [state, text] : states) {
+        EXPECT_EQ(statusText(state), text);
+        for (const StatusCase& row : statusTable) {
+            EXPECT_EQ(decideStatus(row.facts).state == state, row.status == QString(text)) << row.name;
+        }
+    }
+}
+
 TEST(RowTexts, EveryModelHasItsText)
 {
     constexpr struct
