@@ -1,6 +1,7 @@
 #include "DirectStart.h"
 
 #include "PubSetup.h"
+#include "PublisherNames.h"
 #include "propertyDialog.h"
 
 #include <QApplication>
@@ -13,14 +14,8 @@ std::optional<int> startWithPublisher(const char* strPublisherName)
     CString strFirstMatch;
     publisherMgr.GetPublisherRegistIDFromName(strPublisherName, &strFirstMatch);
 
-    CStringArray ids;
-    publisherMgr.EnumRegistedPublisher(&ids);
-    for (const CString& id : ids) {
+    for (const CString& id : publishersNamed(publisherMgr, strPublisherName)) {
         PUBLISHERINFO info;
-        if (!publisherMgr.GetPublisherInfo(id.c_str(), &info, TRUE) ||
-            info.strPublisherName.Compare(strPublisherName) != 0) {
-            continue;
-        }
         BOOL bConnection = 0;
         if (!PubSetup::readForProperties(publisherMgr, id, nullptr, info, bConnection)) {
             continue;
