@@ -1,0 +1,245 @@
+#include "PublisherReport.h"
+
+#include "NaturalOrder.h"
+#include "PropertyRows.h"
+#include "ReadPass.h"
+#include "StackerRules.h"
+#include "WearFigures.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+QString textOf(const CString& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+/// A text field of a record, which may lack its NUL.
+template <size_t size>
+QString textOf(const char (&field)[size])
+{
+    return QString::fromUtf8(field, static_cast<int>(::strnlen(field, size)));
+}
+
+std::optional<quint32> known(UINT count)
+{
+    return count == ARV_PC_MAINTENANCEINFO_UNKNOWN ? std::nullopt : std::optional<quint32>(count);
+}
+
+/// A setting; 0xFFFFFFFF is unknown.
+std::optional<quint32> setting(UINT value)
+{
+    return value == PUBMGR_PUBLISHMODE_ERROR ? std::nullopt : std::optional<quint32>(value);
+}
+
+void askMode(CPublisherMgr& mgr, const char* id, const PUBLISHERINFO& info, PublisherReport& report)
+{
+    // As in the property dialog, the record counts. It holds the values of the server, or those stored here.
+    report.publishMode = setting(info.uiPublishMode);
+    report.discTypes = {setting(info.uiStacker1DiscType), setting(info.uiStacker2DiscType),
+                        setting(info.uiStacker3DiscType), setting(info.uiStacker4DiscType)};
+    ULONG discs[stackerCount] = {};
+    if (mgr.GetServiceStackerStatus(id, &discs[0], &discs[1], &discs[2], &discs[3], nullptr)) {
+        for (size_t i = 0; i < stackerCount; ++i) {
+            report.discs[i] = discs[i];
+        }
+        if (report.network) {
+            report.discs[3].reset(); // the manager repeats the value of stacker 3
+        }
+    }
+}
+
+void askSupplies(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+{
+    ST_PC_INK_STATUS ink{};
+    if (mgr.GetServiceInkStatus(id, &ink, nullptr)) {
+        report.ink = {ink.ulCyan,      ink.ulMagenta,      ink.ulYellow,
+                      ink.ulLightCyan, ink.ulLightMagenta, ink.ulBlack};
+    }
+    const int prints = mgr.GetServiceEstimateCirculation(id, nullptr);
+    if (prints >= 0 && static_cast<ULONG>(prints) != ARV_PC_CIRCULATION_UNKNOWN) {
+        report.printsLeft = static_cast<quint32>(prints);
+    }
+}
+
+void askJobs(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+{
+    JobStatusArray jobs;
+    if (!mgr.GetServiceJobStatusUnfinish(id, &jobs, nullptr)) {
+        return;
+    }
+    report.jobs.emplace();
+    for (const ST_PC_JOB_STATUS& job : jobs) {
+        report.jobs->push_back({.id = textOf(job.acJobID),
+                                .name = textOf(job.acJobName),
+                                .person = textOf(job.acPublicationPerson),
+                                .status = job.ulJobStatus,
+                                .type = job.ulJobType,
+                                .factor = job.ulFactor,
+                                .copies = job.ulPublicationNumber,
+                                .completed = job.ulCompletionNumber,
+                                .failed = job.ulErrorNumber,
+                                .remainingTime = job.ulRemainingTime});
+    }
+}
+
+void askParts(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+{
+    ULONG status = 0;
+    if (mgr.GetServiceAldStatus(id, &status, nullptr)) {
+        report.loader = status;
+    }
+    if (mgr.GetServicePrinterStatus(id, &status, nullptr)) {
+        report.printer = status;
+    }
+}
+
+void askDrives(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+{
+    ST_PC_DRV_STATUS drives[driveCount] = {};
+    if (mgr.GetServiceDriveStatus(id, &drives[0], &drives[1], nullptr)) {
+        report.drives.emplace();
+        for (size_t i = 0; i < driveCount; ++i) {
+            (*report.drives)[i] = {drives[i].ulDrvStatus, drives[i].ulDrvProgressStatus};
+        }
+    }
+}
+
+std::optional<double> wearOf(const PUBMAINTINFODRIVE& drive)
+{
+    double wear = 0;
+    return calcDriveLifeValue(drive, &wear) ? std::optional<double>(wear) : std::nullopt;
+}
+
+void askWear(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+{
+    PUBLISHERMAINTENANCEINFO info;
+    if (!mgr.GetPublisherMaintenanceInfo(id, &info, nullptr)) {
+        return;
+    }
+    const bool hasBox = propertyRows(modelFamily(report.devType)).discAndBoxFigures;
+    double used = 0;
+    report.wear = {.serialNumber = textOf(info.strSerialNo),
+                   .discsPublished = hasBox ? known(info.uiCompleteDiscNum) : std::nullopt,
+                   .discsPrinted = known(info.uiPrintCount),
+                   .maintenanceBoxFree = std::nullopt,
+                   .driveWear = {wearOf(info.midrvDrive1), wearOf(info.midrvDrive2)}};
+    if (hasBox && info.uiMainteBoxCount <= info.uiMainteBoxLife &&
+        calcProductLife(info.uiMainteBoxCount, info.uiMainteBoxLife, &used)) {
+        report.wear->maintenanceBoxFree = 100 - used;
+    }
+}
+
+void askVersions(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+{
+    PUBLISHERVERSIONINFO info;
+    if (mgr.GetPublisherVersionInfo(id, &info, nullptr)) {
+        report.versions = {.autoloader = textOf(info.strAutoLoaderVersion),
+                           .printerModel = textOf(info.strPrinterModelName),
+                           .printer = textOf(info.strPrinterVersion),
+                           .driveModels = {textOf(info.strDrive1ModelName), textOf(info.strDrive2ModelName)},
+                           .drives = {textOf(info.strDrive1Version), textOf(info.strDrive2Version)},
+                           .server = textOf(info.strSSSVersion),
+                           .administrator = textOf(info.strUDNAVersion)};
+    }
+}
+
+void setStatus(const StatusReply& reply, PublisherReport& report)
+{
+    report.model = reply.row.strDevType;
+    report.host = reply.row.strHostName;
+    report.reachable = reply.facts.reachable;
+    report.state = reply.state;
+    report.fatalCode = reply.facts.fatal ? reply.facts.fatalCode : 0;
+    report.waiting = reply.row.nJobWaiting;
+    report.sending = reply.row.nJobSending;
+    report.space = reply.row.strHDDAvail;
+    bool isNumber = false;
+    const qint64 bytes = QByteArray(reply.freeBytes.c_str()).toLongLong(&isNumber);
+    report.freeBytes = isNumber ? std::optional<qint64>(bytes) : std::nullopt;
+}
+
+} // namespace
+
+bool PublisherReport::hasOneDrive() const
+{
+    return !propertyRows(modelFamily(devType)).secondDrive;
+}
+
+bool PublisherReport::isAnswered() const
+{
+    const bool noServer = network && !reachable && state == PublisherState::notConnected;
+    return answer == Answer::all && !failed && !serviceUnreachable && !noServer;
+}
+
+std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
+                                                  std::vector<QByteArray>& unreadable)
+{
+    CStringArray ids;
+    publisherMgr.EnumRegistedPublisher(&ids);
+    const ReadPass pass;
+    std::vector<PublisherReport> reports;
+    for (const CString& id : ids) {
+        const bool network = publisherMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
+        PUBLISHERINFO info;
+        if (!publisherMgr.GetPublisherInfo(id.c_str(), &info, network)) {
+            unreadable.push_back(QByteArray::fromStdString(id));
+            continue;
+        }
+        const StatusRow row = rowBeforeReply(publisherMgr, info);
+        PublisherReport report;
+        report.id = QByteArray::fromStdString(id);
+        report.name = QString::fromStdString(info.strPublisherName);
+        report.network = info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK;
+        report.devType = publisherMgr.GetPublisherDevType(id.c_str());
+        report.model = row.strDevType;
+        report.host = row.strHostName;
+        reports.push_back(std::move(report));
+    }
+    std::sort(reports.begin(), reports.end(), [](const PublisherReport& a, const PublisherReport& b) {
+        return naturalLess(a.name, b.name) || (!naturalLess(b.name, a.name) && a.id < b.id);
+    });
+    return reports;
+}
+
+void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& report,
+                    const std::function<void()>& progress)
+{
+    const CString id(report.id.toStdString());
+    StatusReply reply;
+    if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
+        report.answer = Answer::all; // as in the list, which keeps the row as it was
+        report.failed = true;
+        progress();
+        return;
+    }
+    setStatus(reply, report);
+    report.answer = details ? Answer::status : Answer::all;
+    progress();
+
+    const bool local = !report.network;
+    if (local && report.reachable && report.state == PublisherState::notConnected) {
+        // The list does not distinguish a device that is off from a service that does not answer.
+        report.serviceUnreachable = !publisherMgr.IsPossibleCommunicateService(nullptr);
+    }
+    if (!details || !report.reachable || report.serviceUnreachable) {
+        report.answer = Answer::all;
+        progress();
+        return;
+    }
+    // The last three stop the process on some invalid replies, so everything before them is reported first.
+    askMode(publisherMgr, id.c_str(), reply.info, report);
+    askSupplies(publisherMgr, id.c_str(), report);
+    askJobs(publisherMgr, id.c_str(), report);
+    askVersions(publisherMgr, id.c_str(), report);
+    progress();
+    askParts(publisherMgr, id.c_str(), report);
+    progress();
+    askDrives(publisherMgr, id.c_str(), report);
+    progress();
+    askWear(publisherMgr, id.c_str(), report);
+    report.answer = Answer::all;
+    progress();
+}
