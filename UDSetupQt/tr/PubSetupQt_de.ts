@@ -193,6 +193,153 @@ Möchten Sie fortfahren?</translation>
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>wartend</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>wird abgebrochen</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>wird angehalten</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>wird gestoppt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>gestoppt</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Hellcyan</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Hellmagenta</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>fast leer</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>nicht erkannt</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>kein Original</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>nicht voll</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>überfüllt</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>im Leerlauf</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>enthält eine Disc</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>schreibt</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>prüft</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>nicht verwendet</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>transportiert</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>führt ein Plug-in aus</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>misst</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>liest</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>reinigt</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>trocknet</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>beschäftigt</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

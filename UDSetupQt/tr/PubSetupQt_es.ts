@@ -193,6 +193,153 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>en espera</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en curso</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>cancelando</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>pausando</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pausa</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>deteniendo</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminado</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Cian claro</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Magenta claro</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>casi vacío</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>retirado</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>no reconocido</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>no original</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>no lleno</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>demasiado lleno</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactivo</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>contiene un disco</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>grabando</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>verificando</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>no utilizado</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>transportando</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>ejecutando un complemento</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>midiendo</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>leyendo</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>limpiando</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>secando</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>ocupado</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

@@ -193,6 +193,153 @@ Voulez-vous continuer&#x202f;?</translation>
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>annulation en cours</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>mise en pause</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>arrêt en cours</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminé</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Cyan clair</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Magenta clair</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>presque vide</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>retirée</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>non reconnue</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>non d’origine</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>pas plein</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>trop plein</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactif</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>contient un disque</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>écriture</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>vérification</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>erreur</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>non utilisé</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>transport</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>exécution d’un plug-in</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>mesure</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>lecture</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>impression</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>nettoyage</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>séchage</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>occupé</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

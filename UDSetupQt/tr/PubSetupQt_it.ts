@@ -193,6 +193,153 @@ Continuare?</translation>
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>in attesa</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>in corso</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>annullamento in corso</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>sospensione in corso</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>in pausa</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>arresto in corso</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrestato</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminato</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Ciano chiaro</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Magenta chiaro</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Nero</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>quasi esaurito</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>rimossa</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>non riconosciuta</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>non originale</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>non pieno</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>troppo pieno</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inattivo</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>contiene un disco</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>scrittura</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>verifica</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>errore</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>non utilizzato</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>trasporto</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>esecuzione di un plug-in</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>misurazione</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>lettura</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>stampa</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>pulizia</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>asciugatura</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>occupato</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

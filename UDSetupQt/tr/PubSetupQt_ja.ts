@@ -193,6 +193,153 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>キャンセル処理中</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>一時停止処理中</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>停止処理中</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>キャンセル済み</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>シアン</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>イエロー</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>ライトシアン</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>ライトマゼンタ</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>ブラック</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>残りわずか</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>取り外し</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>認識不可</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>非純正</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>空きあり</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>過積載</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>アイドル</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>ディスクあり</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>書き込み中</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>検証中</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>搬送中</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>プラグイン実行中</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>測定中</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>読み取り中</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>クリーニング中</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>乾燥中</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>ビジー</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

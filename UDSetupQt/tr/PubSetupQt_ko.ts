@@ -193,6 +193,153 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>대기 중</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>취소하는 중</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>일시 중지하는 중</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>일시 중지됨</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>중지하는 중</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>중지됨</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>시안</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>마젠타</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>옐로</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>라이트 시안</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>라이트 마젠타</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>블랙</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>거의 비어 있음</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>분리됨</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>인식되지 않음</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>비정품</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>여유 있음</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>초과 적재</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>유휴</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>디스크 있음</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>쓰는 중</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>확인하는 중</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>사용 안 함</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>이송 중</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>플러그인 실행 중</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>측정 중</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>읽는 중</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>인쇄 중</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>청소 중</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>건조 중</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>사용 중</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

@@ -193,6 +193,153 @@ Wilt u doorgaan?</translation>
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>wachtend</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>bezig</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>wordt geannuleerd</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>wordt gepauzeerd</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>gepauzeerd</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>wordt gestopt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>gestopt</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>voltooid</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyaan</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Geel</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Lichtcyaan</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Lichtmagenta</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Zwart</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>bijna leeg</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>verwijderd</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>niet herkend</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>niet origineel</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>niet vol</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>te vol</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactief</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>bevat een disc</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>schrijft</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>controleert</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>fout</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>niet gebruikt</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>transporteert</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>voert een plug-in uit</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>meet</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>leest</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>drukt af</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>reinigt</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>droogt</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>bezet</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

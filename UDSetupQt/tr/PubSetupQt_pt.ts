@@ -193,6 +193,153 @@ Deseja continuar?</translation>
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>em espera</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>em curso</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>cancelamento em curso</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>pausa em curso</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>em pausa</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>interrupção em curso</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>interrompido</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>concluído</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarelo</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Ciano claro</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Magenta claro</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Preto</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>quase vazio</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>removido</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>não reconhecido</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>não original</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>não cheio</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>cheio demais</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inativo</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>contém um disco</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>gravação</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>verificação</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>erro</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>não utilizado</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>transporte</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>execução de um plug-in</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>medição</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>leitura</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>impressão</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>limpeza</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>secagem</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>ocupado</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

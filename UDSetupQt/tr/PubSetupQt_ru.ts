@@ -193,6 +193,153 @@ Would you like to continue?</source>
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>ожидает</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>выполняется</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>отменяется</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>приостанавливается</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>приостановлено</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>останавливается</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>остановлено</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>отменено</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>завершено</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Голубой</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Пурпурный</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Жёлтый</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Светло-голубой</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Светло-пурпурный</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Чёрный</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>почти пуст</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>извлечён</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>не распознан</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>не оригинальный</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>не полон</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>переполнен</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>бездействует</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>содержит диск</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>запись</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>проверка</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>ошибка</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>не используется</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>перемещение</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>выполняется плагин</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>измерение</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>чтение</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>печать</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>прочистка</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>сушка</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>занят</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

@@ -193,6 +193,153 @@ ARVEN Ulmar Disc Setup 不会发送任何信息。
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>正在取消</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>正在暂停</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>正在停止</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>洋红色</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>浅青色</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>浅洋红色</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黑色</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>即将用尽</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>已取出</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>无法识别</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>非原装</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>未满</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>过满</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>内有光盘</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>正在写入</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>正在校验</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>正在传送</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>正在运行插件</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>正在测量</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>正在读取</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>正在清洗</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>正在干燥</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>

@@ -193,6 +193,153 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
     </message>
 </context>
 <context>
+    <name>StatusProgram</name>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>執行中</translation>
+    </message>
+    <message>
+        <source>cancelling</source>
+        <translation>正在取消</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>正在暫停</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>已暫停</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>正在停止</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>洋紅色</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黃色</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>淺青色</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>淺洋紅色</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黑色</translation>
+    </message>
+    <message>
+        <source>nearly empty</source>
+        <translation>即將用盡</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>已取出</translation>
+    </message>
+    <message>
+        <source>not recognised</source>
+        <translation>無法辨識</translation>
+    </message>
+    <message>
+        <source>not an original</source>
+        <translation>非原廠</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>not full</source>
+        <translation>未滿</translation>
+    </message>
+    <message>
+        <source>too full</source>
+        <translation>過滿</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>閒置</translation>
+    </message>
+    <message>
+        <source>contains a disc</source>
+        <translation>內有光碟</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>正在寫入</translation>
+    </message>
+    <message>
+        <source>verifying</source>
+        <translation>正在驗證</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>conveying</source>
+        <translation>正在傳送</translation>
+    </message>
+    <message>
+        <source>running a plug-in</source>
+        <translation>正在執行外掛程式</translation>
+    </message>
+    <message>
+        <source>measuring</source>
+        <translation>正在測量</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>正在讀取</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>正在列印</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>正在清潔</translation>
+    </message>
+    <message>
+        <source>drying</source>
+        <translation>正在乾燥</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>忙碌</translation>
+    </message>
+</context>
+<context>
     <name>aboutDialog</name>
     <message>
         <source>About ARVEN Ulmar Disc Setup</source>
