@@ -1,0 +1,71 @@
+#include "Console.h"
+
+#include "SafeText.h"
+#include "SystemCalls.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include <langinfo.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int usualWidth = 80;
+
+} // namespace
+
+QByteArray encoded(const QString& text)
+{
+    const bool utf8 = std::string_view(::nl_langinfo(CODESET)) == "UTF-8";
+    return utf8 ? text.toUtf8() : text.toLocal8Bit();
+}
+
+bool print(const QByteArray& data)
+{
+    for (int done = 0; done < data.size();) {
+        const ssize_t count = Uninterrupted([&] {
+            return ::write(STDOUT_FILENO, data.constData() + done, static_cast<size_t>(data.size() - done));
+        });
+        if (count < 0) {
+            if (errno != EPIPE) {
+                complain(
+                    QStringLiteral("cannot write: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
+            }
+            return false;
+        }
+        done += static_cast<int>(count);
+    }
+    return true;
+}
+
+void complain(const QString& text)
+{
+    const QByteArray line = encoded(QStringLiteral("ulmar-disc-status: ") + safeText(text)) + '\n';
+    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stderr);
+    std::fflush(stderr);
+}
+
+int terminalWidth()
+{
+    winsize size{};
+    if (::isatty(STDOUT_FILENO) == 0) {
+        return 0;
+    }
+    return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usualWidth;
+}
+
+bool takesSequences()
+{
+    const char* terminal = std::getenv("TERM");
+    return ::isatty(STDOUT_FILENO) != 0 && terminal != nullptr && std::strcmp(terminal, "dumb") != 0;
+}
+
+bool showsColours()
+{
+    const char* refused = std::getenv("NO_COLOR");
+    return takesSequences() && (refused == nullptr || *refused == '\0');
+}

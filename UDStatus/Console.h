@@ -1,0 +1,23 @@
+// Writes to standard output and standard error.
+#pragma once
+
+#include <QString>
+
+/// Encodes a text in the character set of the locale.
+QByteArray encoded(const QString& text);
+
+/// Writes all of it to standard output. Returns false on failure; the reason is printed on standard error,
+/// unless the reader has closed the pipe.
+bool print(const QByteArray& data);
+
+/// Prints a line on standard error, after the name of the program. Escapes unsafe characters.
+void complain(const QString& text);
+
+/// The width of the terminal on standard output in cells; 0 if standard output is no terminal.
+int terminalWidth();
+
+/// Whether standard output is a terminal that takes control sequences.
+bool takesSequences();
+
+/// The same, and the environment does not refuse colours by NO_COLOR.
+bool showsColours();
