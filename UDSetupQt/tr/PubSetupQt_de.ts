@@ -195,6 +195,38 @@ Möchten Sie fortfahren?</translation>
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Stacker 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinte</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Mögliche Drucke</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Keine Aufträge</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discs</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlerhaft</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Restzeit</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>wartend</translation>
     </message>

@@ -195,6 +195,38 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Apilador 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinta</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Impresiones restantes</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Sin trabajos</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discos</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallidos</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Tiempo restante</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>en espera</translation>
     </message>

@@ -195,6 +195,38 @@ Voulez-vous continuer&#x202f;?</translation>
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Chargeur 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Encre</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Impressions restantes</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Aucun travail</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Travail</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Disques</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échecs</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Temps restant</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>en attente</translation>
     </message>

@@ -195,6 +195,38 @@ Continuare?</translation>
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Impilatore 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Inchiostro</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Stampe rimanenti</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Nessun lavoro</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Lavoro</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Dischi</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Non riusciti</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Tempo rimanente</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>in attesa</translation>
     </message>

@@ -195,6 +195,38 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>スタッカー4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>インク</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>残り印刷枚数</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>ジョブなし</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>残り時間</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>待機中</translation>
     </message>

@@ -195,6 +195,38 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>스태커 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>잉크</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>남은 인쇄 매수</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>작업 없음</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>디스크</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>남은 시간</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>대기 중</translation>
     </message>

@@ -195,6 +195,38 @@ Wilt u doorgaan?</translation>
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Stacker 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Inkt</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Resterende afdrukken</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Geen taken</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Taak</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discs</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Resterende tijd</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>wachtend</translation>
     </message>

@@ -195,6 +195,38 @@ Deseja continuar?</translation>
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Empilhador 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinta</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Impressões restantes</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Nenhum trabalho</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabalho</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discos</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Com falha</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Tempo restante</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>em espera</translation>
     </message>

@@ -195,6 +195,38 @@ Would you like to continue?</source>
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>Лоток 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Чернила</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>Осталось отпечатков</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>Заданий нет</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Задание</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Диски</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>С ошибкой</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Осталось времени</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>ожидает</translation>
     </message>

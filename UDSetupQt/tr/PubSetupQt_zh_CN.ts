@@ -195,6 +195,38 @@ ARVEN Ulmar Disc Setup 不会发送任何信息。
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>盘仓 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>墨水</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>剩余打印数</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>没有任务</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>光盘</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>剩余时间</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>等待中</translation>
     </message>

@@ -195,6 +195,38 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
 <context>
     <name>StatusProgram</name>
     <message>
+        <source>Stacker 4</source>
+        <translation>光碟匣 4</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>墨水</translation>
+    </message>
+    <message>
+        <source>Prints left</source>
+        <translation>剩餘列印數</translation>
+    </message>
+    <message>
+        <source>No jobs</source>
+        <translation>沒有工作</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>工作</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>光碟</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>剩餘時間</translation>
+    </message>
+    <message>
         <source>waiting</source>
         <translation>等待中</translation>
     </message>
