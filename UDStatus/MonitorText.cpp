@@ -1,0 +1,186 @@
+#include "MonitorText.h"
+
+#include "ReportWords.h"
+#include "SafeText.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr const char* stateNames[] = {"OK", "WARNING", "CRITICAL", "UNKNOWN"};
+
+int severity(MonitorState state)
+{
+    switch (state) {
+    case MonitorState::ok:
+        return 0;
+    case MonitorState::warning:
+        return 1;
+    case MonitorState::unknown:
+        return 2;
+    case MonitorState::critical:
+        break;
+    }
+    return 3;
+}
+
+/// A text without what separates the parts of the line.
+QString plain(const QString& text)
+{
+    return safeText(text).replace(QLatin1Char('|'), QLatin1Char('/'));
+}
+
+/// The label of a value: quoted, with its quotes doubled, without an equals sign.
+QString label(const QString& text)
+{
+    QString inner = plain(text).replace(QLatin1Char('='), QLatin1Char('_'));
+    inner.replace(QLatin1Char('\''), QLatin1String("''"));
+    return QLatin1Char('\'') + inner + QLatin1Char('\'');
+}
+
+QString textOf(const std::optional<Threshold>& threshold)
+{
+    return threshold ? threshold->text : QString();
+}
+
+class Monitor
+{
+public:
+    Monitor(const Alerts& ink, const Alerts& discs) : m_ink(ink), m_discs(discs) {}
+
+    void take(const PublisherReport& report)
+    {
+        ++m_publishers;
+        takeStatus(report);
+        if (report.answer != Answer::none && report.state == PublisherState::ready) {
+            ++m_ready;
+            takeInk(report);
+            takeDiscs(report);
+        }
+        if (report.waiting >= 0) {
+            m_data << label(report.name + QStringLiteral(" waiting")) +
+                          QStringLiteral("=%1;;;0").arg(report.waiting);
+        }
+    }
+
+    MonitorResult result() const
+    {
+        QString text = m_findings.isEmpty()
+                           ? QStringLiteral("%1 of %2 publishers ready").arg(m_ready).arg(m_publishers)
+                           : m_findings.join(QStringLiteral("; "));
+        MonitorState state = m_state;
+        if (m_publishers == 0) {
+            state = MonitorState::unknown;
+            text = QStringLiteral("no publishers are registered");
+        }
+        const QString data =
+            m_data.isEmpty() ? QString() : QStringLiteral(" | ") + m_data.join(QLatin1Char(' '));
+        return {state,
+                QLatin1String(stateNames[static_cast<int>(state)]) + QStringLiteral(" - ") + text + data};
+    }
+
+private:
+    void find(MonitorState state, const QString& text)
+    {
+        if (severity(state) > severity(m_state)) {
+            m_state = state;
+        }
+        m_findings << text;
+    }
+
+    void takeStatus(const PublisherReport& report)
+    {
+        const QString name = plain(report.name);
+        const QString word = QString::fromLatin1(statusWord(report).word).replace('-', ' ');
+        if (report.answer == Answer::none) {
+            find(MonitorState::unknown, name + QStringLiteral(": ") + word);
+        } else if (report.state == PublisherState::error) {
+            find(MonitorState::critical,
+                 QStringLiteral("%1: error %2").arg(name, QString::number(report.fatalCode)));
+        } else if (report.state != PublisherState::ready) {
+            find(MonitorState::critical, name + QStringLiteral(": ") + word);
+        } else if (report.failed || report.answer != Answer::all) {
+            find(MonitorState::unknown, name + QStringLiteral(": incomplete answer"));
+        }
+    }
+
+    void takeInk(const PublisherReport& report)
+    {
+        if (!report.ink) {
+            return findMissing(m_ink, report, QStringLiteral("ink"));
+        }
+        for (size_t i = 0; i < inkCount; ++i) {
+            const Supply supply = inkSupply((*report.ink)[i]);
+            const QString what = QStringLiteral("ink ") + QLatin1String(inkColourWord(i).word);
+            if (supply.percent) {
+                check(m_ink, report, what, *supply.percent, QStringLiteral("%"));
+            } else {
+                findMissing(m_ink, report, what);
+            }
+        }
+    }
+
+    void takeDiscs(const PublisherReport& report)
+    {
+        for (size_t i = 0; i < stackerCount; ++i) {
+            const std::optional<quint32> type = report.discTypes[i];
+            if (!type || *type == PUBMGR_STACKERDISCTYPE_OUTPUT || *type == PUBMGR_STACKERDISCTYPE_NOTUSE) {
+                continue;
+            }
+            const QString what = QStringLiteral("stacker %1").arg(i + 1);
+            const StackerFill fill = stackerFill(report.discs[i].value_or(ARV_PC_STK_STATUS_UNKNOWN));
+            if (fill.discs) {
+                check(m_discs, report, what, *fill.discs, QString());
+            } else {
+                findMissing(m_discs, report, what);
+            }
+        }
+    }
+
+    void findMissing(const Alerts& alerts, const PublisherReport& report, const QString& what)
+    {
+        if (alerts.warning || alerts.critical) {
+            find(MonitorState::unknown, QStringLiteral("%1: %2 unknown").arg(plain(report.name), what));
+        }
+    }
+
+    void check(const Alerts& alerts, const PublisherReport& report, const QString& what, quint32 value,
+               const QString& unit)
+    {
+        const bool critical = alerts.critical && alerts.critical->alerts(value);
+        const bool warning = alerts.warning && alerts.warning->alerts(value);
+        if (critical || warning) {
+            find(critical ? MonitorState::critical : MonitorState::warning,
+                 QStringLiteral("%1: %2 %3%4").arg(plain(report.name), what, QString::number(value), unit));
+        }
+        m_data << label(report.name + QLatin1Char(' ') + what) +
+                      QStringLiteral("=%1%2;%3;%4;0;100")
+                          .arg(QString::number(value), unit, textOf(alerts.warning), textOf(alerts.critical));
+    }
+
+    const Alerts& m_ink;
+    const Alerts& m_discs;
+    MonitorState m_state = MonitorState::ok;
+    int m_publishers = 0;
+    int m_ready = 0;
+    QStringList m_findings;
+    QStringList m_data;
+};
+
+} // namespace
+
+MonitorResult monitorResult(const std::vector<PublisherReport>& reports, const Alerts& ink,
+                            const Alerts& discs)
+{
+    Monitor monitor(ink, discs);
+    for (const PublisherReport& report : reports) {
+        monitor.take(report);
+    }
+    return monitor.result();
+}
+
+MonitorResult monitorFailure(const QString& reason)
+{
+    return {MonitorState::unknown, QStringLiteral("UNKNOWN - ") + plain(reason)};
+}

@@ -1,0 +1,28 @@
+// The line of a monitoring plug-in.
+#pragma once
+
+#include "Options.h"
+#include "PublisherReport.h"
+
+/// The exit codes of monitoring plug-ins.
+enum class MonitorState : int
+{
+    ok = 0,
+    warning = 1,
+    critical = 2,
+    unknown = 3
+};
+
+struct MonitorResult
+{
+    MonitorState state = MonitorState::unknown;
+    QString line; ///< "STATE - text | performance data", without a line end
+};
+
+/// The worst state decides: CRITICAL, then UNKNOWN, then WARNING. A publisher that is not ready is CRITICAL;
+/// one that gave no answer, or not the values of a threshold, is UNKNOWN. Never translated.
+MonitorResult monitorResult(const std::vector<PublisherReport>& reports, const Alerts& ink,
+                            const Alerts& discs);
+
+/// The result if nothing could be checked.
+MonitorResult monitorFailure(const QString& reason);
