@@ -1,0 +1,118 @@
+#include "Watch.h"
+
+#include "Console.h"
+#include "SystemCalls.h"
+
+#include <algorithm>
+#include <csignal>
+
+#include <poll.h> // house-rule: sockets: waits for signals
+#include <sys/ioctl.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char enterScreen[] = "\x1b[?1049h\x1b[?25l"; // another screen, without a cursor
+constexpr char leaveScreen[] = "\x1b[?25h\x1b[?1049l";
+constexpr char toTheTop[] = "\x1b[H";
+constexpr char clearLine[] = "\x1b[K\r\n";
+constexpr char clearRest[] = "\x1b[J";
+
+sigset_t handledSignals()
+{
+    sigset_t set;
+    ::sigemptyset(&set);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGWINCH}) {
+        ::sigaddset(&set, number);
+    }
+    return set;
+}
+
+int terminalHeight()
+{
+    winsize size{};
+    return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 ? size.ws_row : 24;
+}
+
+} // namespace
+
+Watch::Watch() : m_isTerminal(takesSequences())
+{
+    const sigset_t set = handledSignals();
+    ::sigprocmask(SIG_BLOCK, &set, nullptr);
+    m_signals = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
+    enter();
+}
+
+Watch::~Watch()
+{
+    leave();
+    ::close(m_signals);
+    const sigset_t set = handledSignals();
+    ::sigprocmask(SIG_UNBLOCK, &set, nullptr);
+}
+
+void Watch::enter()
+{
+    if (m_isTerminal) {
+        print(enterScreen);
+    }
+}
+
+void Watch::leave()
+{
+    if (m_isTerminal) {
+        print(leaveScreen);
+    }
+}
+
+bool Watch::draw(const QStringList& lines)
+{
+    QByteArray picture;
+    if (!m_isTerminal) {
+        picture = m_isFirst ? "" : "\n";
+        m_isFirst = false;
+        return print(picture + encoded(lines.join(QLatin1Char('\n'))) + '\n');
+    }
+    const int height = std::min(static_cast<int>(lines.size()), terminalHeight() - 1);
+    for (int i = 0; i < height; ++i) {
+        picture += encoded(lines[i]) + clearLine;
+    }
+    return print(toTheTop + picture + clearRest);
+}
+
+bool Watch::handle(int number)
+{
+    switch (number) {
+    case SIGWINCH:
+        return true;
+    case SIGTSTP:
+        leave();
+        ::raise(SIGSTOP); // SIGTSTP itself is blocked
+        enter();
+        return true;
+    default:
+        m_ended = number;
+        return false;
+    }
+}
+
+bool Watch::wait(std::chrono::milliseconds time)
+{
+    pollfd entry{m_signals, POLLIN, 0};
+    Uninterrupted([&] { return ::poll(&entry, 1, static_cast<int>(time.count())); });
+    signalfd_siginfo signal{};
+    while (m_ended == 0 && ::read(m_signals, &signal, sizeof signal) == static_cast<ssize_t>(sizeof signal)) {
+        if (!handle(static_cast<int>(signal.ssi_signo))) {
+            return false;
+        }
+    }
+    return m_ended == 0;
+}
+
+int Watch::exitCode() const
+{
+    constexpr int signalBase = 128;
+    return m_ended == SIGINT ? 0 : signalBase + m_ended;
+}

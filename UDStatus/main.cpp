@@ -1,0 +1,273 @@
+// ulmar-disc-status: shows the status of disc publishers on a terminal, to scripts and to monitoring systems.
+#include "Console.h"
+#include "DetailText.h"
+#include "InstallPaths.h"
+#include "JsonText.h"
+#include "ListText.h"
+#include "MetricsText.h"
+#include "MonitorText.h"
+#include "Options.h"
+#include "PublisherNames.h"
+#include "SafeText.h"
+#include "Survey.h"
+#include "Watch.h"
+#include "Win_def_log.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+#include <algorithm>
+#include <cerrno>
+#include <clocale>
+#include <csignal>
+#include <cstring>
+#include <optional>
+
+#include <dirent.h>
+
+namespace {
+
+enum ExitCode : int
+{
+    exitFine = 0,
+    exitFailure = 1, ///< a publisher gave no answer, or an error of reading or writing
+    exitUsage = 2    ///< an invalid command line or an unknown name
+};
+
+/// Why nothing can be shown.
+struct Failure
+{
+    int exitCode;
+    QString reason;
+};
+
+/// The registered publishers, or those with the names of the command line, in the order of the list.
+class Selection
+{
+public:
+    explicit Selection(const Options& options) : m_options(options) {}
+
+    /// Reads the setting files again.
+    std::optional<Failure> read()
+    {
+        DIR* folder = ::opendir(PUBLISHER_SETTING_DIR);
+        if (folder == nullptr) {
+            return Failure{exitFailure, QStringLiteral("cannot read the folder %1: %2")
+                                            .arg(QLatin1String(PUBLISHER_SETTING_DIR),
+                                                 QString::fromLocal8Bit(std::strerror(errno)))};
+        }
+        ::closedir(folder);
+        unreadable.clear();
+        CPublisherMgr publisherMgr(true);
+        reports = registeredPublishers(publisherMgr, unreadable);
+        return m_options.names.empty() ? std::nullopt : keepNamed(publisherMgr);
+    }
+
+    std::vector<PublisherReport> reports;
+    std::vector<QByteArray> unreadable; ///< regist ids of the setting files that could not be read
+
+private:
+    std::optional<Failure> keepNamed(CPublisherMgr& publisherMgr)
+    {
+        std::vector<PublisherReport> kept;
+        for (const std::string& name : m_options.names) {
+            const std::vector<CString> ids = publishersNamed(publisherMgr, name.c_str());
+            const size_t before = kept.size();
+            std::copy_if(reports.begin(), reports.end(), std::back_inserter(kept),
+                         [&ids](const PublisherReport& report) {
+                             return std::find(ids.begin(), ids.end(), report.id.toStdString()) != ids.end();
+                         });
+            if (kept.size() == before) {
+                return Failure{exitUsage, unknownName(QString::fromStdString(name))};
+            }
+        }
+        reports = std::move(kept);
+        return std::nullopt;
+    }
+
+    QString unknownName(const QString& name) const
+    {
+        QStringList known;
+        for (const PublisherReport& report : reports) {
+            known << report.name;
+        }
+        QStringList close;
+        for (const QString& one : closeNames(name, known)) {
+            close << QLatin1Char('"') + one + QLatin1Char('"');
+        }
+        const QString reason = QStringLiteral("no publisher is named \"%1\"").arg(name);
+        return close.isEmpty()
+                   ? reason
+                   : reason + QStringLiteral("; did you mean %1?").arg(close.join(QStringLiteral(" or ")));
+    }
+
+    const Options& m_options;
+};
+
+int fail(const Failure& failure)
+{
+    complain(failure.reason);
+    return failure.exitCode;
+}
+
+/// Prints what no row shows.
+void complainAboutFailures(const Selection& selection)
+{
+    for (const QByteArray& id : selection.unreadable) {
+        complain(QStringLiteral("cannot read the settings of %1").arg(QString::fromUtf8(id)));
+    }
+    bool serviceUnreachable = false;
+    for (const PublisherReport& report : selection.reports) {
+        serviceUnreachable = serviceUnreachable || report.serviceUnreachable;
+        if (report.failed) {
+            complain(QStringLiteral("%1: the query failed; the reply may be invalid").arg(report.name));
+        } else if (report.answer == Answer::status) {
+            complain(QStringLiteral("%1: not all details were received in time").arg(report.name));
+        }
+    }
+    if (serviceUnreachable) {
+        complain(QStringLiteral("the control service does not answer"));
+    }
+}
+
+QStringList textLines(const Options& options, const std::vector<PublisherReport>& reports)
+{
+    const TableStyle style = {terminalWidth(), showsColours()};
+    if (options.names.empty()) {
+        return listLines(reports, style);
+    }
+    QStringList lines;
+    for (const PublisherReport& report : reports) {
+        if (!lines.isEmpty()) {
+            lines << QString();
+        }
+        lines << detailLines(report, style);
+    }
+    return lines;
+}
+
+QByteArray documentOf(const Options& options, const std::vector<PublisherReport>& reports)
+{
+    switch (options.output) {
+    case Output::json:
+        return jsonText(reports, QDateTime::currentDateTimeUtc());
+    case Output::metrics:
+        return metricsText(reports);
+    default:
+        return encoded(textLines(options, reports).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+    }
+}
+
+int printNames(const Options& options)
+{
+    Selection selection(options);
+    const std::optional<Failure> failure = selection.read();
+    if (failure) {
+        return fail(*failure);
+    }
+    QString text;
+    for (const PublisherReport& report : selection.reports) {
+        text += safeText(report.name) + QLatin1Char('\n');
+    }
+    return print(encoded(text)) ? exitFine : exitFailure;
+}
+
+int printOnce(const Options& options)
+{
+    Selection selection(options);
+    const std::optional<Failure> failure = selection.read();
+    if (failure) {
+        return fail(*failure);
+    }
+    const bool details = options.output != Output::text || !options.names.empty();
+    surveyPublishers({details, options.timeout}, selection.reports);
+    if (!print(documentOf(options, selection.reports))) {
+        return exitFailure;
+    }
+    complainAboutFailures(selection);
+    const bool answered = std::all_of(selection.reports.begin(), selection.reports.end(),
+                                      [](const PublisherReport& report) { return report.isAnswered(); });
+    return answered && selection.unreadable.empty() ? exitFine : exitFailure;
+}
+
+/// Draws until a signal or a failure.
+int drawRepeatedly(const Options& options, Selection& selection, std::optional<Failure>& failure)
+{
+    Watch watch;
+    do {
+        const SurveyOptions survey = {!options.names.empty(), options.timeout, watch.signalDescriptor()};
+        const bool complete = surveyPublishers(survey, selection.reports);
+        if (complete && !watch.draw(textLines(options, selection.reports))) {
+            return exitFailure;
+        }
+        if (!watch.wait(complete ? *options.watch : std::chrono::milliseconds(0))) {
+            return watch.exitCode();
+        }
+        failure = selection.read();
+    } while (!failure);
+    return failure->exitCode;
+}
+
+int watch(const Options& options)
+{
+    Selection selection(options);
+    std::optional<Failure> failure = selection.read();
+    const int code = failure ? failure->exitCode : drawRepeatedly(options, selection, failure);
+    return failure ? fail(*failure) : code; // a reason is printed after the screen is restored
+}
+
+int monitor(const Options& options)
+{
+    MonitorResult result;
+    Selection selection(options);
+    if (!options.error.isEmpty()) {
+        result = monitorFailure(options.error);
+    } else if (const std::optional<Failure> failure = selection.read()) {
+        result = monitorFailure(failure->reason);
+    } else {
+        surveyPublishers({true, options.timeout}, selection.reports);
+        result = monitorResult(selection.reports, options.ink, options.discs);
+    }
+    const bool printed = print(encoded(result.line) + '\n');
+    return static_cast<int>(printed ? result.state : MonitorState::unknown);
+}
+
+int run(const Options& options)
+{
+    if (options.output == Output::monitor) {
+        return monitor(options);
+    }
+    if (!options.error.isEmpty()) {
+        complain(options.error + QStringLiteral("; ulmar-disc-status --help lists the options"));
+        return exitUsage;
+    }
+    switch (options.output) {
+    case Output::help:
+        return print(helpText()) ? exitFine : exitFailure;
+    case Output::version:
+        return print("ulmar-disc-status " ULMAR_VERSION "\n") ? exitFine : exitFailure;
+    case Output::names:
+        return printNames(options);
+    default:
+        return options.watch ? watch(options) : printOnce(options);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::setlocale(LC_ALL, "");
+    std::signal(SIGPIPE, SIG_IGN); // a write fails instead
+    SetLogLevel(0);                // a monitor that runs every minute must not fill the log of the service
+
+    const Options options = parseOptions(argc, argv);
+    int one = 1; // Qt must not take options of its own
+    QCoreApplication application(one, argv);
+    QTranslator translator;
+    if (translator.load("PubSetupQt_" + QLocale::system().name(), TRANSLATION_DIR)) {
+        QCoreApplication::installTranslator(&translator);
+    }
+    return run(options);
+}
