@@ -116,12 +116,12 @@ QJsonValue jobs(const PublisherReport& report)
                              {"person", textOrNull(job.person)},
                              {"state", wordOrNull(jobStateWord(job.status).word)},
                              {"type", wordOrNull(jobTypeWord(job.type))},
-                             {"errorCode", static_cast<qint64>(job.factor)},
-                             {"copies", static_cast<qint64>(job.copies)},
-                             {"completed", static_cast<qint64>(job.completed)},
-                             {"failed", static_cast<qint64>(job.failed)},
+                             {"errorCode", static_cast<double>(job.factor)},
+                             {"copies", static_cast<double>(job.copies)},
+                             {"completed", static_cast<double>(job.completed)},
+                             {"failed", static_cast<double>(job.failed)},
                              {"remainingSeconds",
-                              timed ? QJsonValue(static_cast<qint64>(job.remainingTime)) : QJsonValue::Null}};
+                              timed ? QJsonValue(static_cast<double>(job.remainingTime)) : QJsonValue::Null}};
     }
     return array;
 }

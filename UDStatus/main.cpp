@@ -258,7 +258,10 @@ int run(const Options& options)
 
 int main(int argc, char** argv)
 {
-    std::setlocale(LC_ALL, "");
+    if (std::setlocale(LC_ALL, "") == nullptr) {
+        std::setlocale(LC_CTYPE,
+                       "C.UTF-8"); // a locale that is not installed: the terminal is most likely UTF-8
+    }
     std::signal(SIGPIPE, SIG_IGN); // a write fails instead
     SetLogLevel(0);                // a monitor that runs every minute must not fill the log of the service
 
