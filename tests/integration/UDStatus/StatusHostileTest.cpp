@@ -1,0 +1,216 @@
+// The console program with services and servers that are silent, broken or malicious.
+#include "StatusRoom.h"
+#include "StatusRun.h"
+
+#include "Installation.h"
+#include "ScriptedService.h"
+#include "TcpPeer.h"
+
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <fstream>
+
+#include <sys/syscall.h>
+
+namespace {
+
+using std::chrono::seconds;
+using testing::AnyOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+/// A server that accepts connections and never replies: the kernel completes them, and they are not accepted.
+class SilentServer
+{
+public:
+    SilentServer(const std::string& id, const std::string& host) : m_listener(host.c_str(), 80)
+    {
+        Installation::addNetwork(id, "Silent " + id, host);
+    }
+
+private:
+    TcpListener m_listener;
+};
+
+TEST(StatusHostile, ASilentServerDelaysNoOther)
+{
+    const StatusRoom room(twoStudios);
+    const SilentServer one("X", "127.0.0.31");
+    const SilentServer two("Y", "127.0.0.32");
+    const StatusEnd end = runStatus({"--timeout", "1"});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_THAT(
+        end.out,
+        HasSubstr(
+            "Silent X  RT-300NII   127.0.0.31  No answer            -             -                -\n"));
+    EXPECT_THAT(end.out, HasSubstr("Silent Y  RT-300NII   127.0.0.32  No answer"));
+    EXPECT_THAT(end.out, HasSubstr("Studio A  RT-300III   -           Ready                3 "));
+    EXPECT_LT(end.time, seconds(5)); // both at once
+}
+
+TEST(StatusHostile, ManySilentServersAreAskedInTurns)
+{
+    Installation installation;
+    std::vector<std::unique_ptr<SilentServer>> servers;
+    for (int i = 0; i < 70; ++i) { // more than are asked at once
+        servers.push_back(
+            std::make_unique<SilentServer>("S" + std::to_string(i), "127.0.1." + std::to_string(i + 1)));
+    }
+    const StatusEnd end = runStatus({"--timeout", "0.5"});
+    EXPECT_EQ(end.code, 1);
+    size_t rows = 0;
+    for (size_t at = 0; (at = end.out.find("No answer", at)) != std::string::npos; ++at) {
+        ++rows;
+    }
+    EXPECT_EQ(rows, 70U);
+}
+
+TEST(StatusHostile, NoQueryOutlivesTheProgram)
+{
+    Installation installation;
+    TcpListener server("127.0.0.31", 80);
+    Installation::addNetwork("X", "Silent", "127.0.0.31");
+    StatusRun run({"--timeout", "60"});
+    const TcpPeer connection = server.Accept();
+    ASSERT_TRUE(connection.IsOpen());
+    const std::string id = std::to_string(run.process());
+    pid_t query = -1;
+    std::ifstream("/proc/" + id + "/task/" + id + "/children") >> query;
+    ASSERT_GT(query, 0);
+    const int end = static_cast<int>(::syscall(SYS_pidfd_open, query, 0));
+    ASSERT_GE(end, 0);
+
+    run.signal(SIGKILL); // leaves the program no time to clean up
+    EXPECT_EQ(run.end().code, 1000 + SIGKILL);
+    pollfd entry{end, POLLIN, 0};
+    EXPECT_EQ(::poll(&entry, 1, ProgramProcess::PATIENCE), 1);
+    ::close(end);
+}
+
+TEST(StatusHostile, ASilentServiceIsReported)
+{
+    const StatusRoom room(std::string(twoStudios) + "[fault]\ndo = stall\n");
+    const StatusEnd limited = runStatus({"--timeout", "0.2"});
+    EXPECT_EQ(limited.code, 1);
+    EXPECT_THAT(limited.out, HasSubstr("Studio A  RT-300III   -          No answer"));
+    EXPECT_LT(limited.time, seconds(5));
+    EXPECT_EQ(runStatus({"--monitor", "--timeout", "0.2", "Studio A"}).out,
+              "UNKNOWN - Studio A: no answer\n");
+}
+
+TEST(StatusHostile, DetailsThatComeTooLateAreMissing)
+{
+    const StatusRoom room(std::string(twoStudios) + "[fault]\ncontrol = 9\ndo = stall\n");
+    const StatusEnd end = runStatus({"--timeout", "0.5", "Studio A"});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_THAT(end.out, StartsWith("Studio A\n  Status      Ready\n"));
+    EXPECT_EQ(end.err, "ulmar-disc-status: Studio A: not all details were received in time\n");
+}
+
+TEST(StatusHostile, BrokenRepliesOfTheServiceEndNoProgram)
+{
+    const StatusRoom room(twoStudios);
+    for (const char* kind :
+         {"wrong-id", "short-header", "short-payload", "huge-length", "result 1001", "close"}) {
+        for (const uint64_t control : {4, 5, 6, 7, 8, 9, 10, 11, 12, 14, 18, 22, 28}) {
+            std::string error;
+            auto fault = udsim::Fault::parse(kind, error);
+            ASSERT_TRUE(fault) << error;
+            fault->control = control;
+            room->setFault(*fault);
+            const StatusEnd end = runStatus({"--json", "Studio A"});
+            EXPECT_THAT(end.code, AnyOf(0, 1)) << kind << " " << control;
+            EXPECT_THAT(end.out, StartsWith("{\n")) << kind << " " << control << end.err;
+            room->clearFaults();
+        }
+    }
+}
+
+TEST(StatusHostile, AReplyThatStopsAQueryEndsOnlyThatQuery)
+{
+    Installation installation;
+    installation.addLocal("A", "Bad", 0x20000009);
+    installation.addLocal("B", "Off", 0x20000009, false);
+    ScriptedService service;
+    service.setPayload(28, "x"); // the publisher manager stops the process on a wear record of another size
+    const StatusEnd end = runStatus({"Bad", "Off"});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_THAT(end.out, StartsWith("Bad\n  Status        Ready\n"));
+    EXPECT_THAT(end.out, HasSubstr("\n\nOff\n  Status      Not connected\n"));
+    EXPECT_THAT(end.err, HasSubstr("ulmar-disc-status: Bad: the query failed; the reply may be invalid\n"));
+    EXPECT_EQ(runStatus({}).code, 0); // the list does not ask for it
+    EXPECT_THAT(runStatus({"--monitor", "Bad"}).out, StartsWith("UNKNOWN - Bad: incomplete answer"));
+}
+
+TEST(StatusHostile, BrokenRepliesOfAServerEndNoProgram)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nid = N\njobs = 2\n");
+    for (const char* kind :
+         {"close", "http 500", "status 9", "empty", "stall", "size 1", "size 4000", "length 65535",
+          "extra-item", "cut 40", "chunked", "chunk-extension", "content-length 99999"}) {
+        for (const char* path :
+             {"/webapp2/ServerModeGetter", "/webapp2/DevStatusGetter", "/webapp2/DevInfoGetter",
+              "/webapp2/DevInfoIntGetter", "/webapp2/JobInfoGetter"}) {
+            std::string error;
+            auto fault = udsim::HttpFault::parse(kind, error);
+            ASSERT_TRUE(fault) << error;
+            fault->path = path;
+            room->setFault(*fault);
+            const StatusEnd end = runStatus({"--json", "--timeout", "0.3", "Library"});
+            EXPECT_THAT(end.code, AnyOf(0, 1)) << kind << " " << path;
+            EXPECT_THAT(end.out, StartsWith("{\n")) << kind << " " << path << end.err;
+            EXPECT_LT(end.time, seconds(10)) << kind << " " << path;
+            room->clearFaults();
+        }
+    }
+}
+
+std::string jobNamed(const std::string& name)
+{
+    std::string record(1088, '\0');
+    std::memcpy(&record[0], "J1", 2);
+    std::memcpy(&record[256], name.data(), name.size());
+    record[512] = 2;      // running
+    record[568] = '\xff'; // copies: 255
+    record[584] = '\x1b';
+    return record;
+}
+
+TEST(StatusHostile, TextsCannotReachTheTerminal)
+{
+    Installation installation;
+    installation.addLocal("A", "Studio", 0x20000009);
+    ScriptedService service;
+    const std::string name = "a\x1b]0;title\x07\r\nb\xff\xe2\x80\xae|c";
+    service.setPayload(4, jobNamed(name) + jobNamed(std::string(256, 'n'))); // the second has no NUL
+    service.setPayload(10, std::string(128, '\x1b'));
+    service.setPayload(12, std::string(128, '\x9b'));
+    service.setPayload(11, std::string(320, '\xff'));
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"Studio"}, {"--json"}, {"--metrics"}, {"--monitor"}}) {
+        const StatusEnd end = runStatus(arguments);
+        EXPECT_EQ(end.out.find('\x1b'), std::string::npos);
+        EXPECT_EQ(end.out.find('\x07'), std::string::npos);
+        EXPECT_EQ(end.out.find('\r'), std::string::npos);
+        EXPECT_EQ(end.out.find('\xff'), std::string::npos);
+        EXPECT_EQ(end.out.find("\xe2\x80\xae"), std::string::npos);
+    }
+    EXPECT_THAT(runStatus({"Studio"}).out, HasSubstr("a\\x1b]0;title\\x07\\x0d\\x0ab\xef\xbf\xbd\\u202e|c"));
+    EXPECT_THAT(runStatus({"--json"}).out,
+                HasSubstr("\"a\\u001b]0;title\\u0007\\r\\nb\xef\xbf\xbd\\u202e|c\""));
+}
+
+TEST(StatusHostile, AFullListOfJobsIsShown)
+{
+    Installation installation;
+    installation.addLocal("A", "Studio", 0x20000009);
+    ScriptedService service;
+    service.setJobs("A", std::vector<uint64_t>(33, 1));
+    const StatusEnd end = runStatus({"--json"});
+    EXPECT_EQ(end.code, 1); // its other replies are empty, which the wear record must not be
+    EXPECT_THAT(end.out, HasSubstr("\"jobsWaiting\": 33"));
+}
+
+} // namespace

@@ -1,0 +1,224 @@
+// The console program with well-behaved publishers, and mistakes on its command line.
+#include "StatusRoom.h"
+#include "StatusRun.h"
+
+#include "InstallPaths.h"
+#include "PublisherFiles.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr char headings[] =
+    "Name      Model name  Host Name  Status         Waiting  Transmitting  Available Space\n";
+
+TEST(StatusProgram, PrintsTheListInItsOrder)
+{
+    const StatusRoom room(std::string(twoStudios) +
+                          "[publisher Studio 10]\nmodel = RT-300III BD\n"
+                          "[publisher Studio 9]\nmodel = RT-300III BD\nerror = 19\n");
+    room->advance(1000); // the first job starts
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 0);
+    EXPECT_EQ(end.err, "");
+    EXPECT_EQ(end.out,
+              "Name       Model name  Host Name  Status         Waiting  Transmitting  Available Space\n"
+              "Studio 9   RT-300III   -          Error                -             -                -\n"
+              "Studio 10  RT-300III   -          Ready                0             -                -\n"
+              "Studio A   RT-300III   -          Ready                2             -                -\n"
+              "Studio B   RT-30II     -          Not connected        -             -                -\n");
+}
+
+TEST(StatusProgram, PrintsTheColumnsOfANetworkPublisher)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nknown-kind = 2\ndisc-space = 1536\n");
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 0);
+    EXPECT_EQ(end.out, "Name     Model name  Host Name   Status  Waiting  Transmitting  Available Space\n"
+                       "Library  RT-300NII   127.0.0.11  Ready         0             0           1.5 GB\n");
+}
+
+TEST(StatusProgram, PrintsDetailsOfExactlyTheNamedPublishers)
+{
+    const StatusRoom room(twoStudios);
+    room->advance(1000);
+    const StatusEnd end = runStatus({"Studio A"});
+    EXPECT_EQ(end.code, 0);
+    EXPECT_THAT(end.out, StartsWith("Studio A\n  Status                      Ready\n"));
+    for (const char* line :
+         {"  Publish Mode                Standard mode\n", "    Cyan                      100 %\n",
+          "  Serial number               SIM0000001\n", "  Disc 1  running    0/1       0"}) {
+        EXPECT_THAT(end.out, HasSubstr(line));
+    }
+    EXPECT_THAT(end.out, Not(HasSubstr("Studio B")));
+    EXPECT_THAT(runStatus({"Studio A", "Studio B"}).out, HasSubstr("\n\nStudio B\n"));
+}
+
+TEST(StatusProgram, PublishersOfOneNameAreAllShown)
+{
+    const StatusRoom room(twoStudios);
+    WritePublisher("C",
+                   "[Common]\nGUID={C}\nPublisherName=Studio A\nPublishMode=0\nPublisherConnectionType=0\n");
+    const StatusEnd end = runStatus({"Studio A"});
+    EXPECT_THAT(end.out, HasSubstr("Not connected"));
+    EXPECT_THAT(end.out, HasSubstr("Ready"));
+}
+
+TEST(StatusProgram, AnUnknownNameIsAMistake)
+{
+    const StatusRoom room(twoStudios);
+    const StatusEnd end = runStatus({"studio a"});
+    EXPECT_EQ(end.code, 2);
+    EXPECT_EQ(end.out, "");
+    EXPECT_EQ(end.err, "ulmar-disc-status: no publisher is named \"studio a\"; did you mean \"Studio A\" or "
+                       "\"Studio B\"?\n");
+    EXPECT_EQ(runStatus({"Studio A", "nothing"}).err,
+              "ulmar-disc-status: no publisher is named \"nothing\"\n");
+    EXPECT_EQ(runStatus({"\xff\x1b[2J"}).err,
+              "ulmar-disc-status: no publisher is named \"\xef\xbf\xbd\\x1b[2J\"\n");
+    EXPECT_EQ(runStatus({std::string(100'000, 'a')}).code, 2);
+}
+
+TEST(StatusProgram, AnUnknownOptionIsAMistake)
+{
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"--bogus"},
+                                                      {"-x"},
+                                                      {"--timeout=0"},
+                                                      {"--json", "--metrics"},
+                                                      {"--watch=x"}}) {
+        const StatusEnd end = runStatus(arguments);
+        EXPECT_EQ(end.code, 2);
+        EXPECT_EQ(end.out, "");
+        EXPECT_THAT(end.err, HasSubstr("; ulmar-disc-status --help lists the options\n"));
+    }
+    const StatusEnd monitor = runStatus({"--monitor", "--bogus"});
+    EXPECT_EQ(monitor.code, 3);
+    EXPECT_EQ(monitor.out, "UNKNOWN - unknown option --bogus\n");
+}
+
+TEST(StatusProgram, HelpAndVersionNeedNothing)
+{
+    const StatusEnd help = runStatus({"--help"}, {});
+    EXPECT_EQ(help.code, 0);
+    EXPECT_THAT(help.out, StartsWith("Usage: ulmar-disc-status "));
+    EXPECT_EQ(runStatus({"--version"}, {}).out, "ulmar-disc-status 1.0.0\n");
+}
+
+TEST(StatusProgram, LinksNoWidgets)
+{
+    const Ended libraries = runProgram("/usr/bin/ldd", {STATUS_PROGRAM});
+    EXPECT_EQ(libraries.status, 0);
+    EXPECT_THAT(libraries.output, testing::ContainsRegex("libQt[56]Core"));
+    for (const char* library : {"Gui.so", "Widgets.so", "libX11", "libxcb"}) {
+        EXPECT_THAT(libraries.output, Not(HasSubstr(library)));
+    }
+}
+
+TEST(StatusProgram, NamesAreListedWithoutQueries)
+{
+    const StatusRoom room(twoStudios);
+    EXPECT_EQ(runStatus({"--names"}).out, "Studio A\nStudio B\n");
+    EXPECT_TRUE(room->requests().empty());
+}
+
+TEST(StatusProgram, NoPublishersAreNoError)
+{
+    MakePublisherFolder();
+    EXPECT_EQ(runStatus({}).out, "No publishers are registered.\n");
+    EXPECT_EQ(runStatus({}).code, 0);
+    const StatusEnd monitor = runStatus({"--monitor"});
+    EXPECT_EQ(monitor.code, 3);
+    EXPECT_EQ(monitor.out, "UNKNOWN - no publishers are registered\n");
+    EXPECT_EQ(runStatus({"--metrics"}).out, "# EOF\n");
+}
+
+TEST(StatusProgram, AMissingSettingFolderIsReported)
+{
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_EQ(end.err, "ulmar-disc-status: cannot read the folder " + std::string(PUBLISHER_SETTING_DIR) +
+                           ": No such file or directory\n");
+    EXPECT_EQ(runStatus({"--monitor"}).code, 3);
+}
+
+TEST(StatusProgram, WithoutAServiceLocalPublishersAreNotConnected)
+{
+    {
+        const StatusRoom room(twoStudios); // leaves the registrations
+    }
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_EQ(end.out,
+              std::string(headings) +
+                  "Studio A  RT-300III   -          Not connected        -             -                -\n"
+                  "Studio B  RT-30II     -          Not connected        -             -                -\n");
+    EXPECT_EQ(end.err, "ulmar-disc-status: the control service does not answer\n");
+    EXPECT_EQ(runStatus({"--monitor", "Studio A"}).out, "CRITICAL - Studio A: not connected\n");
+}
+
+TEST(StatusProgram, AServerThatCannotBeReachedIsNoAnswer)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nlistening = no\n");
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_THAT(end.out, HasSubstr("Not connected"));
+}
+
+TEST(StatusProgram, AClosedPipeEndsItQuietly)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--json"});
+    run.closeOutput();
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 1);
+    EXPECT_EQ(end.err, "");
+    StatusRun monitor({"--monitor"});
+    monitor.closeOutput();
+    EXPECT_EQ(monitor.end().code, 3);
+}
+
+TEST(StatusProgram, AFullDiskIsReported)
+{
+    const StatusRoom room(twoStudios);
+    const Ended end = runProgram("/bin/sh", {"-c", STATUS_PROGRAM " >/dev/full"});
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.output, "ulmar-disc-status: cannot write: No space left on device\n");
+}
+
+TEST(StatusProgram, NothingIsColouredInAPipe)
+{
+    const StatusRoom room(twoStudios);
+    EXPECT_THAT(runStatus({}, {{"LC_ALL", "C.UTF-8"}, {"TERM", "xterm-256color"}}).out,
+                Not(HasSubstr("\x1b")));
+}
+
+TEST(StatusProgram, AThresholdDecidesTheExitCode)
+{
+    const StatusRoom room("[publisher Studio A]\nmodel = RT-300III BD\nink.yellow = 12\nstacker1 = 7\n");
+    EXPECT_EQ(runStatus({"--monitor"}).code, 0);
+    EXPECT_EQ(runStatus({"--monitor", "--ink-warning", "20:"}).code, 1);
+    EXPECT_EQ(runStatus({"--monitor", "--ink-critical", "20:"}).code, 2);
+    EXPECT_EQ(runStatus({"--monitor", "--discs-critical", "5:", "--discs-warning", "10:"}).code, 1);
+    EXPECT_THAT(runStatus({"--monitor", "--ink-warning", "20:"}).out,
+                StartsWith("WARNING - Studio A: ink yellow 12% | 'Studio A ink cyan'=100%;20:;;0;100 "));
+}
+
+TEST(StatusProgram, NothingIsTranslatedForPrograms)
+{
+    const StatusRoom room(twoStudios);
+    std::filesystem::create_directories(TRANSLATION_DIR);
+    std::filesystem::copy_file(GERMAN_CATALOGUE, std::string(TRANSLATION_DIR) + "PubSetupQt_de_DE.qm");
+    const StatusRun::Variables german = {{"LC_ALL", "de_DE.UTF-8"}, {"LANGUAGE", "de"}};
+    EXPECT_THAT(runStatus({}, german).out, HasSubstr("Bereit"));
+    EXPECT_THAT(runStatus({"--json"}, german).out, HasSubstr("\"status\": \"ready\""));
+    EXPECT_THAT(runStatus({"--monitor"}, german).out, StartsWith("CRITICAL - Studio B: not connected"));
+    EXPECT_THAT(runStatus({"--metrics"}, german).out, HasSubstr("status=\"ready\""));
+}
+
+} // namespace

@@ -1,0 +1,174 @@
+// The console program on a terminal: widths, colours, and the picture of --watch.
+#include "StatusRoom.h"
+#include "StatusRun.h"
+
+#include "Installation.h"
+#include "TcpPeer.h"
+
+#include <gmock/gmock.h>
+
+#include <clocale>
+#include <filesystem>
+#include <sstream>
+
+#include <wchar.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+const StatusRun::Variables xterm = {{"LC_ALL", "C.UTF-8"}, {"TERM", "xterm"}};
+const StatusRun::Variables colourless = {{"LC_ALL", "C.UTF-8"}, {"TERM", "xterm"}, {"NO_COLOR", "1"}};
+
+constexpr char enters[] = "\x1b[?1049h\x1b[?25l";
+constexpr char leaves[] = "\x1b[?25h\x1b[?1049l";
+
+/// The terminal cells of a line of UTF-8.
+int cells(const std::string& line)
+{
+    std::wstring wide(line.size() + 1, L'\0');
+    const size_t count = std::mbstowcs(wide.data(), line.c_str(), wide.size());
+    return count == static_cast<size_t>(-1) ? -1 : ::wcswidth(wide.data(), count);
+}
+
+int widestLine(const std::string& text)
+{
+    EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    std::istringstream lines(text);
+    int widest = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.empty() && line.back() == '\r') { // the terminal adds it
+            line.pop_back();
+        }
+        const int width = cells(line);
+        EXPECT_GE(width, 0) << line;
+        widest = std::max(widest, width);
+    }
+    return widest;
+}
+
+TEST(StatusTerminal, LinesFitIntoTheTerminal)
+{
+    const StatusRoom room(
+        std::string(twoStudios) +
+        "[publisher Wide]\nname = A publisher with quite a long name\nmodel = RT-300III BDXL\n");
+    for (const unsigned short columns : std::initializer_list<unsigned short>{200, 80, 60, 40}) {
+        const StatusEnd list = StatusRun({}, columns, colourless).end();
+        EXPECT_LE(widestLine(list.out), columns) << list.out;
+        EXPECT_THAT(list.out,
+                    HasSubstr(columns == 200 ? "A publisher with quite a long name" : "\xe2\x80\xa6"));
+        const StatusEnd details = StatusRun({"Studio A"}, columns, colourless).end();
+        EXPECT_LE(widestLine(details.out), columns) << details.out;
+    }
+}
+
+TEST(StatusTerminal, TheStatusIsColoured)
+{
+    const StatusRoom room(twoStudios);
+    const StatusEnd end = StatusRun({}, 100, xterm).end();
+    EXPECT_THAT(end.out, HasSubstr("\x1b[32mReady"));
+    EXPECT_THAT(end.out, HasSubstr("\x1b[33mNot connected"));
+    EXPECT_THAT(StatusRun({"Studio A"}, 100, xterm).end().out, HasSubstr("\x1b[32mReady\x1b[0m"));
+    EXPECT_THAT(StatusRun({}, 100, colourless).end().out, Not(HasSubstr("\x1b")));
+    EXPECT_THAT(StatusRun({}, 100, {{"TERM", "dumb"}}).end().out, Not(HasSubstr("\x1b")));
+}
+
+TEST(StatusTerminal, AWatchRedrawsInPlaceAndRestoresTheTerminal)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "0.1"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor("Studio B  RT-30II     -          Not connected"));
+    EXPECT_THAT(run.output(), StartsWith(std::string(enters) + "\x1b[H"));
+    ASSERT_TRUE(room->tell("Studio B", "online"));
+    ASSERT_TRUE(run.waitFor("Studio B  RT-30II     -          Ready"));
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.signal(SIGINT);
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 0);
+    EXPECT_TRUE(end.out.ends_with(leaves));
+    EXPECT_EQ(end.err, "");
+}
+
+TEST(StatusTerminal, OtherSignalsRestoreTheTerminalToo)
+{
+    const StatusRoom room(twoStudios);
+    for (const int number : {SIGTERM, SIGHUP, SIGQUIT}) {
+        StatusRun run({"--watch"}, 100, colourless);
+        ASSERT_TRUE(run.waitFor("\x1b[J"));
+        run.signal(number);
+        const StatusEnd end = run.end();
+        EXPECT_EQ(end.code, 128 + number);
+        EXPECT_TRUE(end.out.ends_with(leaves));
+    }
+}
+
+TEST(StatusTerminal, AWatchEndsWhileAPublisherHangs)
+{
+    Installation installation;
+    const TcpListener silent("127.0.0.31", 80);
+    Installation::addNetwork("X", "Silent", "127.0.0.31");
+    StatusRun run({"--watch", "--timeout", "60"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor(enters));
+    run.signal(SIGINT);
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 0);
+    EXPECT_LT(end.time, std::chrono::seconds(10));
+    EXPECT_TRUE(end.out.ends_with(leaves));
+}
+
+TEST(StatusTerminal, ANewSizeIsDrawnAtOnce)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "60"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.resize(40);
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    EXPECT_THAT(run.output(), HasSubstr("\xe2\x80\xa6"));
+    run.signal(SIGINT);
+    EXPECT_EQ(run.end().code, 0);
+}
+
+TEST(StatusTerminal, ASuspendedWatchRestoresTheTerminal)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "60"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.signal(SIGTSTP);
+    ASSERT_TRUE(run.waitFor(leaves));
+    int status = 0;
+    ASSERT_EQ(::waitpid(run.process(), &status, WUNTRACED), run.process());
+    EXPECT_TRUE(WIFSTOPPED(status));
+    run.signal(SIGCONT);
+    ASSERT_TRUE(run.waitFor(enters));
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.signal(SIGINT);
+    EXPECT_EQ(run.end().code, 0);
+}
+
+TEST(StatusTerminal, SettingsThatVanishEndAWatch)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "0.1"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    std::filesystem::remove_all(PUBLISHER_SETTING_DIR);
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 1);
+    EXPECT_TRUE(end.out.ends_with(leaves));
+    EXPECT_THAT(end.err, HasSubstr("cannot read the folder"));
+}
+
+TEST(StatusTerminal, AWatchIntoAPipePrintsPlainPictures)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "0.1"});
+    ASSERT_TRUE(run.waitFor("\n\nName "));
+    EXPECT_THAT(run.output(), Not(HasSubstr("\x1b")));
+    run.closeOutput();
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 1);
+    EXPECT_EQ(end.err, "");
+}
+
+} // namespace
