@@ -6,6 +6,8 @@ promtool    the metrics of every scenario; exits with 77, which skips the test, 
 completion  the bash completion
 """
 import json
+import os
+import pty
 import shutil
 import signal
 import socket
@@ -104,6 +106,65 @@ def complete(*words: str) -> list[str]:
                           check=True).stdout.splitlines()
 
 
+PROMPT = "prompt>"
+SHELL_SETTINGS = f"""
+PS1='{PROMPT}'
+source "{PROJECT}/packaging/ulmar-disc-status.bash"
+bind -x '"\\C-t": printf %s "$READLINE_LINE" >/tmp/line; kill -KILL $$'
+"""
+
+
+def completed(word: str) -> str:
+    """The line of an interactive shell after a tabulator key behind this word."""
+    Path("/tmp/settings").write_text(SHELL_SETTINGS, encoding="utf-8")
+    process, terminal = pty.fork()
+    if process == 0:
+        os.execve("/bin/bash", ["bash", "--rcfile", "/tmp/settings", "-i"],
+                  {"PATH": f"{Path(program).parent}:{os.environ['PATH']}", "TERM": "dumb", "LC_ALL": "C.UTF-8",
+                   "INPUTRC": "/dev/null", "HOME": "/tmp"})
+    shown = b""
+    typed = False
+    try:
+        while piece := os.read(terminal, 4096):
+            shown += piece
+            if PROMPT.encode() in shown and not typed:
+                typed = True
+                os.write(terminal, f"ulmar-disc-status {word}\t\x14".encode())
+    except OSError:
+        pass  # the shell has ended
+    os.close(terminal)
+    os.waitpid(process, 0)
+    return Path("/tmp/line").read_text(encoding="utf-8")
+
+
+def arguments_of(line: str) -> list[str]:
+    """The arguments that a shell gives to the program for this line; none if a quote is open."""
+    script = f"ulmar-disc-status() {{ printf '%s\\n' \"$@\"; }}\n{line}\n"
+    return subprocess.run(["bash", "-c", script], capture_output=True, text=True, check=False).stdout.splitlines()
+
+
+def check_hostile_names() -> None:
+    names = ["$(touch /tmp/ran)", "`touch /tmp/ran`", "q' | touch /tmp/ran '", 'd" | touch /tmp/ran "', "b\\", "h!x", "-w",
+             "plain & name"]
+    for number, name in enumerate(names):
+        (SETTINGS / f"h{number}.ini").write_text(f"[Common]\nPublisherName={name}\nPublisherConnectionType=1\n",
+                                                 encoding="utf-8")
+    assert set(names) <= set(run("--names").splitlines()), run("--names")
+    for name in names:
+        for start in ("\\", '"', "'", f'{name[0]}"', f"{name[0]}'"):
+            line = completed(start + name[0])
+            arguments = arguments_of(line)
+            assert not Path("/tmp/ran").exists(), (name, line)
+            if len(start) == 1 and name != "-w":
+                assert arguments == [name] or (start != "\\" and not arguments), (name, line, arguments)
+    assert arguments_of(completed('"plain')) == ["plain & name"]
+    assert arguments_of(completed("'plain")) == ["plain & name"]
+    assert arguments_of(completed("'$")) == ["$(touch /tmp/ran)"]
+    assert arguments_of(completed('"q')) == ["q' | touch /tmp/ran '"]
+    assert "-w" not in complete("") and "-w" not in complete('"-'), complete("")
+    assert complete("--", "-") == ["-w"] and complete("--", '"-') == ["-w"], complete("--", "-")
+
+
 def check_completion() -> None:
     with Room(PROJECT / "sim" / "scenarios" / "demo.udsim"):
         assert complete("Stu") == ["Studio\\ 9", "Studio\\ 10", "Studio\\ A", "Studio\\ B"], complete("Stu")
@@ -115,11 +176,7 @@ def check_completion() -> None:
         assert complete("--timeout", "S") == []
         options = {line.split()[0].rstrip(",") for line in run("--help").splitlines() if line.startswith("      --")}
         assert options <= set(complete("--")), options
-        # A publisher whose name could be a command.
-        (SETTINGS / "x.ini").write_text(
-            "[Common]\nPublisherName=$(touch /tmp/ran)\nPublisherConnectionType=1\n", encoding="utf-8")
-        assert complete("$") == ["\\$\\(touch\\ /tmp/ran\\)"], complete("$")
-        assert not Path("/tmp/ran").exists()
+        check_hostile_names()
 
 
 {"schema": check_schema, "promtool": check_promtool, "completion": check_completion}[part]()
