@@ -262,7 +262,11 @@ void PubSetup::fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINF
 {
     item->setIcon(0, info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK ? m_networkImage : m_localImage);
     item->setText(colName, QString::fromStdString(info.strPublisherName));
-    const StatusRow unknown = rowBeforeReply(m_cPubMgr, info);
+    const StatusRow unknown = {.strPublisherRegistID = keyFromRegistID(info.strPublisherRegistID),
+                               .strDevType = getPublisherDevTypeStr(info, info.strPublisherRegistID),
+                               .strHostName = QString::fromStdString(info.strHostName),
+                               .strStatus = statusText(PublisherState::notConnected),
+                               .strHDDAvail = spaceText("")};
     showStatus(item, unknown);
     for (const int column : {colJobWaiting, colJobSending, colHDDAvail}) {
         item->setTextAlignment(column, numberAlignment);
