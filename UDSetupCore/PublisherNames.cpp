@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -52,19 +53,11 @@ int distance(const QString& name, const QString& known)
 
 } // namespace
 
-std::vector<CString> publishersNamed(CPublisherMgr& publisherMgr, const char* szName)
+bool hasName(CPublisherMgr& publisherMgr, const CString& id, const char* szName)
 {
-    CStringArray ids;
-    publisherMgr.EnumRegistedPublisher(&ids);
-    std::vector<CString> found;
-    for (const CString& id : ids) {
-        PUBLISHERINFO info;
-        if (publisherMgr.GetPublisherInfo(id.c_str(), &info, TRUE) &&
-            info.strPublisherName.Compare(szName) == 0) {
-            found.push_back(id);
-        }
-    }
-    return found;
+    PUBLISHERINFO info;
+    return publisherMgr.GetPublisherInfo(id.c_str(), &info, TRUE) &&
+           info.strPublisherName.Compare(szName) == 0;
 }
 
 QStringList closeNames(const QString& name, const QStringList& known)

@@ -6,11 +6,9 @@
 
 #include <QStringList>
 
-#include <vector>
-
-/// The regist ids of the publishers with exactly this stored name, compared byte by byte, in the order of
-/// EnumRegistedPublisher. Publishers whose files cannot be read are skipped. Asks no device.
-std::vector<CString> publishersNamed(CPublisherMgr& publisherMgr, const char* szName);
+/// Whether a publisher has exactly this stored name, compared byte by byte. False if its file cannot be read.
+/// Asks no device.
+bool hasName(CPublisherMgr& publisherMgr, const CString& id, const char* szName);
 
 /// At most three of `known`, the closest first, in their order if equally close. A name is close if it
 /// differs from `name` only in case, begins with it (three characters or more), or has at most one typing

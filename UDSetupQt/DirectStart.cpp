@@ -14,7 +14,12 @@ std::optional<int> startWithPublisher(const char* strPublisherName)
     CString strFirstMatch;
     publisherMgr.GetPublisherRegistIDFromName(strPublisherName, &strFirstMatch);
 
-    for (const CString& id : publishersNamed(publisherMgr, strPublisherName)) {
+    CStringArray ids;
+    publisherMgr.EnumRegistedPublisher(&ids);
+    for (const CString& id : ids) {
+        if (!hasName(publisherMgr, id, strPublisherName)) {
+            continue;
+        }
         PUBLISHERINFO info;
         BOOL bConnection = 0;
         if (!PubSetup::readForProperties(publisherMgr, id, nullptr, info, bConnection)) {

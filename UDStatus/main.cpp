@@ -23,6 +23,7 @@
 #include <csignal>
 #include <cstring>
 #include <optional>
+#include <set>
 
 #include <dirent.h>
 
@@ -70,19 +71,21 @@ public:
 private:
     std::optional<Failure> keepNamed(CPublisherMgr& publisherMgr)
     {
-        std::vector<PublisherReport> kept;
+        std::set<QByteArray> named;
         for (const std::string& name : m_options.names) {
-            const std::vector<CString> ids = publishersNamed(publisherMgr, name.c_str());
-            const size_t before = kept.size();
-            std::copy_if(reports.begin(), reports.end(), std::back_inserter(kept),
-                         [&ids](const PublisherReport& report) {
-                             return std::find(ids.begin(), ids.end(), report.id.toStdString()) != ids.end();
-                         });
-            if (kept.size() == before) {
+            bool known = false;
+            for (const PublisherReport& report : reports) {
+                if (hasName(publisherMgr, report.id.toStdString(), name.c_str())) {
+                    named.insert(report.id);
+                    known = true;
+                }
+            }
+            if (!known) {
                 return Failure{exitUsage, unknownName(QString::fromStdString(name))};
             }
         }
-        reports = std::move(kept);
+        std::erase_if(reports,
+                      [&named](const PublisherReport& report) { return named.count(report.id) == 0; });
         return std::nullopt;
     }
 

@@ -70,6 +70,14 @@ TEST(StatusProgram, PublishersOfOneNameAreAllShown)
     EXPECT_THAT(end.out, HasSubstr("Ready"));
 }
 
+TEST(StatusProgram, ARepeatedNameIsShownOnceAndInTheOrderOfTheList)
+{
+    const StatusRoom room(twoStudios);
+    EXPECT_EQ(runStatus({"--metrics", "Studio B", "Studio A", "Studio B"}).out, runStatus({"--metrics"}).out);
+    EXPECT_EQ(runStatus({"Studio B", "Studio A", "Studio B"}).out, runStatus({"Studio A", "Studio B"}).out);
+    EXPECT_EQ(runStatus({"Studio A", "nothing", "Studio A"}).code, 2);
+}
+
 TEST(StatusProgram, AnUnknownNameIsAMistake)
 {
     const StatusRoom room(twoStudios);

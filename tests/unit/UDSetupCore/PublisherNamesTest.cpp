@@ -9,22 +9,12 @@ namespace {
 TEST(PublisherNames, OnlyTheExactNameMatches)
 {
     WritePublisher("A", "[Common]\nPublisherName=Studio\n");
-    WritePublisher("B", "[Common]\nPublisherName=studio\n");
-    WritePublisher("C", "[Common]\nPublisherName=Studio 2\n");
     CPublisherMgr manager(true);
-    EXPECT_EQ(publishersNamed(manager, "Studio"), std::vector<CString>{"A"});
-    EXPECT_EQ(publishersNamed(manager, "STUDIO"), std::vector<CString>{});
-    EXPECT_EQ(publishersNamed(manager, ""), std::vector<CString>{});
-}
-
-TEST(PublisherNames, SeveralPublishersMayHaveOneName)
-{
-    WritePublisher("A", "[Common]\nPublisherName=Studio\n");
-    WritePublisher("B", "[Common]\nPublisherName=Studio\nPublisherConnectionType=1\nPublisherURL=h\n");
-    CPublisherMgr manager(true);
-    std::vector<CString> ids = publishersNamed(manager, "Studio");
-    std::sort(ids.begin(), ids.end());
-    EXPECT_EQ(ids, (std::vector<CString>{"A", "B"}));
+    EXPECT_TRUE(hasName(manager, "A", "Studio"));
+    for (const char* other : {"studio", "STUDIO", "Studio 2", "Stud", "A", ""}) {
+        EXPECT_FALSE(hasName(manager, "A", other)) << other;
+    }
+    EXPECT_FALSE(hasName(manager, "B", "Studio")); // there is no such publisher
 }
 
 struct CloseCase
