@@ -114,19 +114,36 @@ int fail(const Failure& failure)
     return failure.exitCode;
 }
 
-/// Prints what no row shows.
-void complainAboutFailures(const Selection& selection)
+/// Why a publisher is not answered; the local service has its own line.
+QString unansweredReason(const PublisherReport& report)
 {
-    for (const QByteArray& id : selection.unreadable) {
+    if (report.failed) {
+        return QStringLiteral("the query failed; the reply may be invalid");
+    }
+    switch (report.answer) {
+    case Answer::none:
+        return QStringLiteral("no answer within the time limit");
+    case Answer::status:
+        return QStringLiteral("not all details were received in time");
+    case Answer::all:
+        break;
+    }
+    return QStringLiteral("the server cannot be reached or is in a secure mode");
+}
+
+/// Prints the reason of every failure.
+void complainAboutFailures(const std::vector<QByteArray>& unreadable,
+                           const std::vector<PublisherReport>& reports)
+{
+    for (const QByteArray& id : unreadable) {
         complain(QStringLiteral("cannot read the settings of %1").arg(QString::fromUtf8(id)));
     }
     bool serviceUnreachable = false;
-    for (const PublisherReport& report : selection.reports) {
-        serviceUnreachable = serviceUnreachable || report.serviceUnreachable;
-        if (report.failed) {
-            complain(QStringLiteral("%1: the query failed; the reply may be invalid").arg(report.name));
-        } else if (report.answer == Answer::status) {
-            complain(QStringLiteral("%1: not all details were received in time").arg(report.name));
+    for (const PublisherReport& report : reports) {
+        if (report.serviceUnreachable) {
+            serviceUnreachable = true;
+        } else if (!report.isAnswered()) {
+            complain(QStringLiteral("%1: %2").arg(report.name, unansweredReason(report)));
         }
     }
     if (serviceUnreachable) {
@@ -188,7 +205,7 @@ int printOnce(const Options& options)
     if (!print(documentOf(options, selection.reports))) {
         return exitFailure;
     }
-    complainAboutFailures(selection);
+    complainAboutFailures(selection.unreadable, selection.reports);
     const bool answered = std::all_of(selection.reports.begin(), selection.reports.end(),
                                       [](const PublisherReport& report) { return report.isAnswered(); });
     return answered && selection.unreadable.empty() ? exitFine : exitFailure;

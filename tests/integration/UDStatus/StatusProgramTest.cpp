@@ -176,6 +176,15 @@ TEST(StatusProgram, AServerThatCannotBeReachedIsNoAnswer)
     const StatusEnd end = runStatus({});
     EXPECT_EQ(end.code, 1);
     EXPECT_THAT(end.out, HasSubstr("Not connected"));
+    EXPECT_EQ(end.err, "ulmar-disc-status: Library: the server cannot be reached or is in a secure mode\n");
+}
+
+TEST(StatusProgram, AServerInASecureModeIsReported)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nserver-mode = 0\n");
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_EQ(end.err, "ulmar-disc-status: Library: the server cannot be reached or is in a secure mode\n");
 }
 
 TEST(StatusProgram, AClosedPipeEndsItQuietly)

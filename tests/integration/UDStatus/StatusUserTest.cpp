@@ -25,7 +25,7 @@ TEST(StatusUser, RunsWithoutRoot)
     const StatusEnd end = runStatus({});
     EXPECT_EQ(end.code, 1); // there is no such server
     EXPECT_THAT(end.out, HasSubstr("Library"));
-    EXPECT_EQ(end.err, "");
+    EXPECT_EQ(end.err, "ulmar-disc-status: Library: the server cannot be reached or is in a secure mode\n");
 }
 
 TEST(StatusUser, AnUnreadableSettingFolderIsReported)
