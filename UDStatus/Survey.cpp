@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include <fcntl.h>
 #include <poll.h> // house-rule: sockets: waits for the pipes of its own processes
@@ -91,10 +92,12 @@ public:
                 ++next;
             }
             if (m_queries.empty()) { // not even one process can be started
-                m_reports[next++].failed = true;
-                continue;
+                m_reports[next].failed = true;
+                m_finished.push_back(next++);
+            } else if (!wait()) {
+                return false;
             }
-            if (!wait()) {
+            if (!reportFinished()) {
                 return false;
             }
         }
@@ -128,8 +131,24 @@ private:
         return true;
     }
 
+    bool reportFinished()
+    {
+        const std::vector<size_t> finished = std::exchange(m_finished, {});
+        return finished.empty() || !m_options.finished || m_options.finished(finished);
+    }
+
+    bool handleInterruption()
+    {
+        const Clock::time_point before = Clock::now();
+        const bool continues = m_options.interrupted && m_options.interrupted();
+        for (Query& query : m_queries) {
+            query.deadline += Clock::now() - before;
+        }
+        return continues;
+    }
+
     /// Waits for the next event, and ends the queries that are complete or late. Returns false if the survey
-    /// was interrupted.
+    /// is to end early.
     bool wait()
     {
         std::vector<pollfd> entries;
@@ -142,6 +161,10 @@ private:
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(first - Clock::now()).count();
         ::poll(entries.data(), entries.size(), static_cast<int>(std::max<decltype(left)>(left, 0)));
 
+        // First, because the signal of an interruption may have ended queries, too.
+        if ((entries.back().revents & POLLIN) != 0 && !handleInterruption()) {
+            return false;
+        }
         const Clock::time_point now = Clock::now();
         std::vector<Query> running;
         for (size_t i = 0; i < m_queries.size(); ++i) {
@@ -150,12 +173,13 @@ private:
             const bool late = !ended && query.deadline <= now;
             if (ended || late) {
                 end(query, late);
+                m_finished.push_back(query.index);
             } else {
                 running.push_back(std::move(query));
             }
         }
         m_queries = std::move(running);
-        return (entries.back().revents & POLLIN) == 0;
+        return true;
     }
 
     /// Reads what has arrived. Returns false at the end of the pipe.
@@ -186,6 +210,7 @@ private:
     const SurveyOptions& m_options;
     std::vector<PublisherReport>& m_reports;
     std::vector<Query> m_queries;
+    std::vector<size_t> m_finished; ///< indices of reports, until they are passed on
 };
 
 } // namespace

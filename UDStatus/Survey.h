@@ -8,6 +8,7 @@
 #include "PublisherReport.h"
 
 #include <chrono>
+#include <functional>
 #include <vector>
 
 /// At most this many queries run at once; the others wait for a free place.
@@ -17,9 +18,15 @@ struct SurveyOptions
 {
     bool details = false;
     std::chrono::milliseconds timeout{10000}; ///< for each publisher, from the start of its query
-    int interruption = -1;                    ///< the survey ends early once this descriptor is readable
+    int interruption = -1;                    ///< a descriptor; `interrupted` is called once it is readable
+
+    /// Handles the interruption. Returns false to end the survey. The time it takes, for example while the
+    /// program is suspended, does not count for the time limits.
+    std::function<bool()> interrupted{};
+    /// Called with the indices of reports that have just become final. Returns false to end the survey.
+    std::function<bool(const std::vector<size_t>&)> finished{};
 };
 
-/// Fills in the reports, which come from registeredPublishers. Returns false if it was interrupted; some
+/// Fills in the reports, which come from registeredPublishers. Returns false if it was ended early; some
 /// reports are then incomplete. The program must have no other thread.
 bool surveyPublishers(const SurveyOptions& options, std::vector<PublisherReport>& reports);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
+#include <utility>
 
 #include <poll.h> // house-rule: sockets: waits for signals
 #include <sys/ioctl.h>
@@ -37,7 +39,7 @@ int terminalHeight()
 
 } // namespace
 
-Watch::Watch() : m_isTerminal(takesSequences())
+Watch::Watch(std::function<QStringList()> lines) : m_lines(std::move(lines)), m_isTerminal(takesSequences())
 {
     const sigset_t set = handledSignals();
     ::sigprocmask(SIG_BLOCK, &set, nullptr);
@@ -67,52 +69,81 @@ void Watch::leave()
     }
 }
 
-bool Watch::draw(const QStringList& lines)
+bool Watch::draw()
 {
+    const QStringList lines = m_lines();
+    if (lines.isEmpty()) {
+        return true;
+    }
     QByteArray picture;
     if (!m_isTerminal) {
         picture = m_isFirst ? "" : "\n";
         m_isFirst = false;
-        return print(picture + encoded(lines.join(QLatin1Char('\n'))) + '\n');
+        picture += encoded(lines.join(QLatin1Char('\n'))) + '\n';
+    } else {
+        const int height = std::min(static_cast<int>(lines.size()), terminalHeight() - 1);
+        picture = toTheTop;
+        for (int i = 0; i < height; ++i) {
+            picture += encoded(lines[i]) + clearLine;
+        }
+        picture += clearRest;
     }
-    const int height = std::min(static_cast<int>(lines.size()), terminalHeight() - 1);
-    for (int i = 0; i < height; ++i) {
-        picture += encoded(lines[i]) + clearLine;
-    }
-    return print(toTheTop + picture + clearRest);
+    m_failed = !print(picture);
+    return !m_failed;
+}
+
+bool Watch::redraw()
+{
+    return !m_isTerminal || draw();
 }
 
 bool Watch::handle(int number)
 {
     switch (number) {
     case SIGWINCH:
-        return true;
+        return redraw();
     case SIGTSTP:
         leave();
         ::raise(SIGSTOP); // SIGTSTP itself is blocked
         enter();
-        return true;
+        return redraw();
     default:
         m_ended = number;
         return false;
     }
 }
 
-bool Watch::wait(std::chrono::milliseconds time)
+bool Watch::handleSignals()
 {
-    pollfd entry{m_signals, POLLIN, 0};
-    Uninterrupted([&] { return ::poll(&entry, 1, static_cast<int>(time.count())); });
     signalfd_siginfo signal{};
-    while (m_ended == 0 && ::read(m_signals, &signal, sizeof signal) == static_cast<ssize_t>(sizeof signal)) {
+    while (::read(m_signals, &signal, sizeof signal) == static_cast<ssize_t>(sizeof signal)) {
         if (!handle(static_cast<int>(signal.ssi_signo))) {
             return false;
         }
     }
-    return m_ended == 0;
+    return true;
+}
+
+bool Watch::wait(std::chrono::milliseconds time)
+{
+    using std::chrono::steady_clock;
+    const steady_clock::time_point end = steady_clock::now() + time;
+    for (steady_clock::time_point now = steady_clock::now(); now < end; now = steady_clock::now()) {
+        pollfd entry{m_signals, POLLIN, 0};
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - now).count();
+        Uninterrupted([&] { return ::poll(&entry, 1, static_cast<int>(left)); });
+        if (!handleSignals()) {
+            return false;
+        }
+    }
+    return true;
 }
 
 int Watch::exitCode() const
 {
     constexpr int signalBase = 128;
+    if (m_failed) {
+        return EXIT_FAILURE;
+    }
     return m_ended == SIGINT ? 0 : signalBase + m_ended;
 }

@@ -4,13 +4,15 @@
 #include <QStringList>
 
 #include <chrono>
+#include <functional>
 
 /// Takes the signals that end, suspend or resize a watch, and gives the terminal another screen. The
 /// destructor restores both. One object at a time; the program must have no other thread.
 class Watch
 {
 public:
-    Watch();
+    /// `lines` returns the current picture; without lines nothing is drawn.
+    explicit Watch(std::function<QStringList()> lines);
     ~Watch();
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
@@ -21,15 +23,21 @@ public:
         return m_signals;
     }
 
-    /// Replaces the picture, cut to the height of the terminal. Without a terminal the lines are printed
-    /// after the previous ones. Returns false if they cannot be written.
-    bool draw(const QStringList& lines);
+    // The next four return false if the watch is to end.
 
-    /// Waits for a signal, at most this long, and handles those that arrived: a suspension is carried out,
-    /// and a new size ends the wait. Returns false if the watch is to end.
+    /// Replaces the picture, cut to the height of the terminal. Without a terminal the lines are printed
+    /// after the previous ones.
+    bool draw();
+    /// The same on a terminal. Does nothing without one.
+    bool redraw();
+    /// Handles the signals that arrived. A suspension is carried out; after it and after a new size the
+    /// picture is redrawn.
+    bool handleSignals();
+    /// Waits this long, and handles signals meanwhile.
     bool wait(std::chrono::milliseconds time);
 
-    /// The exit code after wait() has returned false: 0 for Ctrl-C, 128 and the number of any other signal.
+    /// The exit code of a watch that is to end: 0 for Ctrl-C, 128 and the number of any other signal, 1 if
+    /// the picture cannot be written.
     int exitCode() const;
 
 private:
@@ -37,8 +45,10 @@ private:
     void leave();
     bool handle(int number);
 
+    const std::function<QStringList()> m_lines;
     int m_signals = -1;
-    int m_ended = 0; ///< the signal that ended the watch
+    int m_ended = 0;       ///< the signal that ended the watch
+    bool m_failed = false; ///< the picture cannot be written
     bool m_isTerminal = false;
     bool m_isFirst = true;
 };

@@ -22,6 +22,7 @@
 #include <clocale>
 #include <csignal>
 #include <cstring>
+#include <map>
 #include <optional>
 #include <set>
 
@@ -211,31 +212,72 @@ int printOnce(const Options& options)
     return answered && selection.unreadable.empty() ? exitFine : exitFailure;
 }
 
-/// Draws until a signal or a failure.
-int drawRepeatedly(const Options& options, Selection& selection, std::optional<Failure>& failure)
+/// Queries and draws until a signal or a failure.
+class RepeatedSurvey
 {
-    Watch watch;
-    do {
-        const SurveyOptions survey = {!options.names.empty(), options.timeout, watch.signalDescriptor()};
-        const bool complete = surveyPublishers(survey, selection.reports);
-        if (complete && !watch.draw(textLines(options, selection.reports))) {
-            return exitFailure;
-        }
-        if (!watch.wait(complete ? *options.watch : std::chrono::milliseconds(0))) {
-            return watch.exitCode();
-        }
-        failure = selection.read();
-    } while (!failure);
-    return failure->exitCode;
-}
+public:
+    explicit RepeatedSurvey(const Options& options) : m_options(options), m_selection(options) {}
 
-int watch(const Options& options)
-{
-    Selection selection(options);
-    std::optional<Failure> failure = selection.read();
-    const int code = failure ? failure->exitCode : drawRepeatedly(options, selection, failure);
-    return failure ? fail(*failure) : code; // a reason is printed after the screen is restored
-}
+    int run()
+    {
+        std::optional<Failure> failure = m_selection.read();
+        const int code = failure ? failure->exitCode : drawRepeatedly(failure);
+        // Reasons are printed after the screen is restored.
+        complainAboutFailures(m_selection.unreadable, lastReports());
+        return failure ? fail(*failure) : code;
+    }
+
+private:
+    int drawRepeatedly(std::optional<Failure>& failure)
+    {
+        Watch watch([this] { return lines(); });
+        SurveyOptions survey;
+        survey.details = !m_options.names.empty();
+        survey.timeout = m_options.timeout;
+        survey.interruption = watch.signalDescriptor();
+        survey.interrupted = [&watch] { return watch.handleSignals(); };
+        survey.finished = [&](const std::vector<size_t>& indices) {
+            for (const size_t index : indices) {
+                const PublisherReport& report = m_selection.reports[index];
+                m_last[report.id] = report;
+            }
+            return watch.redraw();
+        };
+        do {
+            if (!surveyPublishers(survey, m_selection.reports) || !watch.draw() ||
+                !watch.wait(*m_options.watch)) {
+                return watch.exitCode();
+            }
+            failure = m_selection.read();
+        } while (!failure);
+        return failure->exitCode;
+    }
+
+    /// What is known of the registered publishers, also while they are queried again.
+    std::vector<PublisherReport> lastReports() const
+    {
+        std::vector<PublisherReport> reports;
+        for (const PublisherReport& report : m_selection.reports) {
+            const auto last = m_last.find(report.id);
+            if (last != m_last.end()) {
+                reports.push_back(last->second);
+            }
+        }
+        return reports;
+    }
+
+    /// No line before the first result.
+    QStringList lines() const
+    {
+        const std::vector<PublisherReport> reports = lastReports();
+        return reports.empty() && !m_selection.reports.empty() ? QStringList()
+                                                               : textLines(m_options, reports);
+    }
+
+    const Options& m_options;
+    Selection m_selection;
+    std::map<QByteArray, PublisherReport> m_last;
+};
 
 int monitor(const Options& options)
 {
@@ -270,7 +312,7 @@ int run(const Options& options)
     case Output::names:
         return printNames(options);
     default:
-        return options.watch ? watch(options) : printOnce(options);
+        return options.watch ? RepeatedSurvey(options).run() : printOnce(options);
     }
 }
 

