@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -161,11 +162,28 @@ private:
         case ':':
             return fail(QStringLiteral("%1 requires a value").arg(lastArgument()));
         default:
-            return fail(QStringLiteral("unknown option %1").arg(lastArgument()));
+            return refuse();
         }
     }
 
-    /// The option that getopt_long refused: a letter in a group, or the whole argument.
+    /// getopt_long refused an option: `optopt` is 0 for an unknown long one, the key of a long one that takes
+    /// no value, or an unknown letter.
+    void refuse()
+    {
+        const auto* known = std::find_if(std::begin(longOptions), std::end(longOptions) - 1,
+                                         [](const option& one) { return one.val == ::optopt; });
+        if (::optopt == 0) {
+            fail(QStringLiteral("unknown option %1").arg(lastArgument()));
+        } else if (known != std::end(longOptions) - 1) {
+            fail(QStringLiteral("--%1 takes no value").arg(QLatin1String(known->name)));
+        } else if (::optopt > 0 && ::optopt < 128) {
+            fail(QStringLiteral("unknown option -%1").arg(QLatin1Char(static_cast<char>(::optopt))));
+        } else {
+            fail(QStringLiteral("unknown option -\\x%1").arg(static_cast<quint8>(::optopt), 0, 16));
+        }
+    }
+
+    /// The option that lacks a value or is unknown: a letter in a group, or the whole argument.
     QString lastArgument() const
     {
         QString argument = QString::fromLocal8Bit(m_argv[::optind > 0 ? ::optind - 1 : 0]);
