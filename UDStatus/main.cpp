@@ -27,6 +27,8 @@
 #include <set>
 
 #include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -295,6 +297,16 @@ int monitor(const Options& options)
     return static_cast<int>(printed ? result.state : MonitorState::unknown);
 }
 
+/// A file that is opened later must not get the number of a standard stream that the caller has closed.
+void replaceClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) < 0) {
+            ::open("/dev/null", O_RDWR); // gets the lowest free number, which is this one
+        }
+    }
+}
+
 int run(const Options& options)
 {
     if (options.output == Output::monitor) {
@@ -320,11 +332,13 @@ int run(const Options& options)
 
 int main(int argc, char** argv)
 {
+    replaceClosedStreams();
     if (std::setlocale(LC_ALL, "") == nullptr) {
         std::setlocale(LC_CTYPE,
                        "C.UTF-8"); // a locale that is not installed: the terminal is most likely UTF-8
     }
     std::signal(SIGPIPE, SIG_IGN); // a write fails instead
+    std::signal(SIGCHLD, SIG_DFL); // if it were ignored, the ends of queries could not be read
     SetLogLevel(0);                // a monitor that runs every minute must not fill the log of the service
 
     const Options options = parseOptions(argc, argv);

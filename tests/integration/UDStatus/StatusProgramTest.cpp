@@ -208,6 +208,20 @@ TEST(StatusProgram, AFullDiskIsReported)
     EXPECT_EQ(end.output, "ulmar-disc-status: cannot write: No space left on device\n");
 }
 
+TEST(StatusProgram, ClosedStandardStreamsAreReplaced)
+{
+    const StatusRoom room(twoStudios);
+    // Without standard output the first file that is opened would get its number.
+    for (const char* arguments : {" --json >&-", " <&- >&- 2>&-", " --json 2>&-", " <&-"}) {
+        const Ended end = runProgram("/bin/sh", {"-c", std::string(STATUS_PROGRAM) + arguments});
+        EXPECT_EQ(end.status, 0) << arguments << end.output;
+        EXPECT_THAT(end.output, Not(HasSubstr("cannot write"))) << arguments;
+    }
+    const Ended version = runProgram("/bin/sh", {"-c", STATUS_PROGRAM " --version >&-"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output, "");
+}
+
 TEST(StatusProgram, NothingIsColouredInAPipe)
 {
     const StatusRoom room(twoStudios);
