@@ -44,7 +44,7 @@ bool writeAll(int descriptor, const QByteArray& data)
     return true;
 }
 
-/// The work of a query's process. Nothing that it prints reaches standard output.
+/// The work of a query's process. Nothing that it prints reaches the user, except the reports of a sanitizer.
 [[noreturn]] void runQuery(int pipe, pid_t parent, bool details, PublisherReport report)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -58,6 +58,9 @@ bool writeAll(int descriptor, const QByteArray& data)
     ::setrlimit(RLIMIT_CORE, &noCore);
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
     ::dup2(nowhere, STDOUT_FILENO);
+#ifndef ULMAR_SANITIZED
+    ::dup2(nowhere, STDERR_FILENO); // the texts of assertions, above all
+#endif
 
     CPublisherMgr publisherMgr(true);
     queryPublisher(publisherMgr, details, report, [&] {

@@ -141,9 +141,30 @@ TEST(StatusHostile, AReplyThatStopsAQueryEndsOnlyThatQuery)
     EXPECT_EQ(end.code, 1);
     EXPECT_THAT(end.out, StartsWith("Bad\n  Status        Ready\n"));
     EXPECT_THAT(end.out, HasSubstr("\n\nOff\n  Status      Not connected\n"));
+#ifdef ULMAR_SANITIZED // the reports of a sanitizer are kept
     EXPECT_THAT(end.err, HasSubstr("ulmar-disc-status: Bad: the query failed; the reply may be invalid\n"));
+#else
+    EXPECT_EQ(end.err, "ulmar-disc-status: Bad: the query failed; the reply may be invalid\n");
+#endif
     EXPECT_EQ(runStatus({}).code, 0); // the list does not ask for it
     EXPECT_THAT(runStatus({"--monitor", "Bad"}).out, StartsWith("UNKNOWN - Bad: incomplete answer"));
+}
+
+TEST(StatusHostile, AQueryThatStopsIsNoticedWithIgnoredChildren)
+{
+    Installation installation;
+    installation.addLocal("A", "Bad", 0x20000009);
+    ScriptedService service;
+    service.setPayload(28, "x");
+    const auto run = [](const char* option) {
+        return runProgram("/usr/bin/env", {"--ignore-signal=CHLD", STATUS_PROGRAM, option, "Bad"});
+    };
+    const Ended end = run("--monitor");
+    EXPECT_EQ(end.status, 3);
+    EXPECT_THAT(end.output, HasSubstr("UNKNOWN - Bad: incomplete answer"));
+    const Ended reason = run("--json");
+    EXPECT_EQ(reason.status, 1);
+    EXPECT_THAT(reason.output, HasSubstr("Bad: the query failed"));
 }
 
 TEST(StatusHostile, BrokenRepliesOfAServerEndNoProgram)
