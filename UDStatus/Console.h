@@ -19,5 +19,5 @@ int terminalWidth();
 /// Whether standard output is a terminal that takes control sequences.
 bool takesSequences();
 
-/// The same, and the environment does not refuse colours by NO_COLOR.
+/// The same, and NO_COLOR is not set, or empty.
 bool showsColours();
