@@ -117,6 +117,7 @@ bind -x '"\\C-t": printf %s "$READLINE_LINE" >/tmp/line; kill -KILL $$'
 def completed(word: str) -> str:
     """The line of an interactive shell after a tabulator key behind this word."""
     Path("/tmp/settings").write_text(SHELL_SETTINGS, encoding="utf-8")
+    Path("/tmp/line").unlink(missing_ok=True)
     process, terminal = pty.fork()
     if process == 0:
         os.execve("/bin/bash", ["bash", "--rcfile", "/tmp/settings", "-i"],
