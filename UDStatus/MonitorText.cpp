@@ -64,13 +64,19 @@ public:
         }
     }
 
+    void takeUnreadable(const QByteArray& id)
+    {
+        find(MonitorState::unknown,
+             QStringLiteral("cannot read the settings of ") + plain(QString::fromUtf8(id)));
+    }
+
     MonitorResult result() const
     {
         QString text = m_findings.isEmpty()
                            ? QStringLiteral("%1 of %2 publishers ready").arg(m_ready).arg(m_publishers)
                            : m_findings.join(QStringLiteral("; "));
         MonitorState state = m_state;
-        if (m_publishers == 0) {
+        if (m_publishers == 0 && m_findings.isEmpty()) {
             state = MonitorState::unknown;
             text = QStringLiteral("no publishers are registered");
         }
@@ -171,11 +177,14 @@ private:
 } // namespace
 
 MonitorResult monitorResult(const std::vector<PublisherReport>& reports, const Alerts& ink,
-                            const Alerts& discs)
+                            const Alerts& discs, const std::vector<QByteArray>& unreadable)
 {
     Monitor monitor(ink, discs);
     for (const PublisherReport& report : reports) {
         monitor.take(report);
+    }
+    for (const QByteArray& id : unreadable) {
+        monitor.takeUnreadable(id);
     }
     return monitor.result();
 }

@@ -291,7 +291,7 @@ int monitor(const Options& options)
         result = monitorFailure(failure->reason);
     } else {
         surveyPublishers({true, options.timeout}, selection.reports);
-        result = monitorResult(selection.reports, options.ink, options.discs);
+        result = monitorResult(selection.reports, options.ink, options.discs, selection.unreadable);
     }
     const bool printed = print(encoded(result.line) + '\n');
     return static_cast<int>(printed ? result.state : MonitorState::unknown);

@@ -46,4 +46,13 @@ TEST(StatusUser, AnUnreadableSettingFolderIsReported)
     ::chmod(PUBLISHER_SETTING_DIR, 0755);
 }
 
+TEST(StatusUser, AMonitorReportsAnUnreadableSettingFile)
+{
+    MakePublisherFolder();
+    std::filesystem::create_symlink("nowhere", PublisherFile("A"));
+    const StatusEnd monitor = runStatus({"--monitor"});
+    EXPECT_EQ(monitor.code, 3);
+    EXPECT_EQ(monitor.out, "UNKNOWN - cannot read the settings of A\n");
+}
+
 } // namespace

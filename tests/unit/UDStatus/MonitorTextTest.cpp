@@ -95,6 +95,15 @@ TEST(MonitorText, TheWorstStateDecides)
     EXPECT_EQ(monitorResult({}, {}, {}).line, "UNKNOWN - no publishers are registered");
 }
 
+TEST(MonitorText, SettingsThatCannotBeReadAreUnknown)
+{
+    const MonitorResult result = monitorResult({fullReport()}, {}, {}, {"{B}", "C|"});
+    EXPECT_EQ(result.state, MonitorState::unknown);
+    EXPECT_EQ(result.line,
+              "UNKNOWN - cannot read the settings of {B}; cannot read the settings of C/" + data);
+    EXPECT_EQ(monitorResult({}, {}, {}, {"{B}"}).line, "UNKNOWN - cannot read the settings of {B}");
+}
+
 TEST(MonitorText, NamesMayContainPercentSigns)
 {
     PublisherReport report = fullReport();
