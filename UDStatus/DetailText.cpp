@@ -80,7 +80,7 @@ public:
     QStringList lines()
     {
         addStatus();
-        if (m_report.publishMode) {
+        if (m_report.stackers) {
             addSettings();
         }
         addInk();
@@ -132,19 +132,15 @@ private:
     void addSettings()
     {
         add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Publish Mode")),
-            modeWord(*m_report.publishMode).text);
+            m_report.publishMode ? modeWord(*m_report.publishMode).text : QString());
         const QString labels[stackerCount] = {dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Stacker 1")),
                                               dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Stacker 2")),
                                               dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Stacker 3")),
                                               ownText(QT_TRANSLATE_NOOP("StatusProgram", "Stacker 4"))};
-        const bool hasStacker3 = propertyRows(modelFamily(m_report.devType)).stacker3;
-        for (size_t i = 0; i < stackerCount; ++i) {
-            const std::optional<quint32> type = m_report.discTypes[i];
-            if (type == quint32{PUBMGR_STACKERDISCTYPE_NOTUSE} || (i == 2 && !hasStacker3)) {
-                continue;
-            }
-            add(labels[i],
-                together({type ? discTypeWord(*type).text : QString(), fillText(m_report.discs[i])}));
+        for (const StackerReport& stacker : *m_report.stackers) {
+            add(labels[stacker.number - 1],
+                together({stacker.holds ? discTypeWord(*stacker.holds).text : QString(),
+                          fillText(stacker.discs)}));
         }
     }
 

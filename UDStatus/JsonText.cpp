@@ -51,19 +51,19 @@ QString timeText(const QDateTime& time)
 
 QJsonValue stackers(const PublisherReport& report)
 {
-    if (!report.publishMode) {
+    if (!report.stackers) {
         return QJsonValue::Null;
     }
     QJsonArray array;
-    for (size_t i = 0; i < stackerCount; ++i) {
-        const std::optional<quint32> type = report.discTypes[i];
-        const std::optional<quint32> value = report.discs[i];
-        const StackerFill fill = value ? stackerFill(*value) : StackerFill();
-        array << QJsonObject{{"number", static_cast<int>(i + 1)},
-                             {"holds", type ? wordOrNull(discTypeWord(*type).word) : QJsonValue::Null},
-                             {"discs", numberOrNull(fill.discs)},
-                             {"fill", value ? wordOrNull(fill.state.word) : QJsonValue::Null},
-                             {"supplies", value ? QJsonValue(fill.supplies) : QJsonValue::Null}};
+    for (const StackerReport& stacker : *report.stackers) {
+        const StackerFill fill = stacker.discs ? stackerFill(*stacker.discs) : StackerFill();
+        array << QJsonObject{
+            {"number", static_cast<int>(stacker.number)},
+            {"holds", stacker.holds ? wordOrNull(discTypeWord(*stacker.holds).word) : QJsonValue::Null},
+            {"input", stacker.input},
+            {"discs", numberOrNull(fill.discs)},
+            {"fill", stacker.discs ? wordOrNull(fill.state.word) : QJsonValue::Null},
+            {"supplies", stacker.discs ? QJsonValue(fill.supplies) : QJsonValue::Null}};
     }
     return array;
 }

@@ -102,12 +102,12 @@ QString supplyMetrics(const std::vector<PublisherReport>& reports)
         if (report.printsLeft) {
             prints.add(report, QString(), *report.printsLeft);
         }
-        for (size_t i = 0; i < stackerCount; ++i) {
-            const StackerFill fill = stackerFill(report.discs[i].value_or(ARV_PC_STK_STATUS_UNKNOWN));
+        for (const StackerReport& stacker : report.stackers.value_or(std::vector<StackerReport>())) {
+            const StackerFill fill = stackerFill(stacker.discs.value_or(ARV_PC_STK_STATUS_UNKNOWN));
             const QString holds =
-                report.discTypes[i] ? QLatin1String(discTypeWord(*report.discTypes[i]).word) : QString();
-            if (fill.discs && holds != QLatin1String("not-used")) {
-                discs.add(report, label("stacker", QString::number(i + 1)) + label("holds", holds),
+                stacker.holds ? QLatin1String(discTypeWord(*stacker.holds).word) : QString();
+            if (fill.discs) {
+                discs.add(report, label("stacker", QString::number(stacker.number)) + label("holds", holds),
                           *fill.discs);
             }
         }

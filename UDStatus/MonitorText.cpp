@@ -129,13 +129,15 @@ private:
 
     void takeDiscs(const PublisherReport& report)
     {
-        for (size_t i = 0; i < stackerCount; ++i) {
-            const std::optional<quint32> type = report.discTypes[i];
-            if (!type || *type == PUBMGR_STACKERDISCTYPE_OUTPUT || *type == PUBMGR_STACKERDISCTYPE_NOTUSE) {
+        if (!report.stackers) {
+            return findMissing(m_discs, report, QStringLiteral("discs"));
+        }
+        for (const StackerReport& stacker : *report.stackers) {
+            if (!stacker.input) {
                 continue;
             }
-            const QString what = QStringLiteral("stacker %1").arg(i + 1);
-            const StackerFill fill = stackerFill(report.discs[i].value_or(ARV_PC_STK_STATUS_UNKNOWN));
+            const QString what = QStringLiteral("stacker %1").arg(stacker.number);
+            const StackerFill fill = stackerFill(stacker.discs.value_or(ARV_PC_STK_STATUS_UNKNOWN));
             if (fill.discs) {
                 check(m_discs, report, what, *fill.discs, QString());
             } else {

@@ -4,6 +4,7 @@
 #include "PropertyRows.h"
 #include "ReadPass.h"
 #include "StackerRules.h"
+#include "UsedStackers.h"
 #include "WearFigures.h"
 
 #include <algorithm>
@@ -38,17 +39,17 @@ void askMode(CPublisherMgr& mgr, const char* id, const PUBLISHERINFO& info, Publ
 {
     // As in the property dialog, the record counts. It holds the values of the server, or those stored here.
     report.publishMode = setting(info.uiPublishMode);
-    report.discTypes = {setting(info.uiStacker1DiscType), setting(info.uiStacker2DiscType),
-                        setting(info.uiStacker3DiscType), setting(info.uiStacker4DiscType)};
+    StackerCounts counts;
     ULONG discs[stackerCount] = {};
     if (mgr.GetServiceStackerStatus(id, &discs[0], &discs[1], &discs[2], &discs[3], nullptr)) {
         for (size_t i = 0; i < stackerCount; ++i) {
-            report.discs[i] = discs[i];
+            counts[i] = discs[i];
         }
         if (report.network) {
-            report.discs[3].reset(); // the manager repeats the value of stacker 3
+            counts[3].reset(); // the manager repeats the value of stacker 3
         }
     }
+    report.stackers = usedStackers(report.devType, info, counts);
 }
 
 void askSupplies(CPublisherMgr& mgr, const char* id, PublisherReport& report)

@@ -48,6 +48,21 @@ struct JobReport
     }
 };
 
+/// One of the stackers that the publisher uses.
+struct StackerReport
+{
+    quint32 number = 0;                ///< 1 to 4
+    std::optional<quint32> holds;      ///< enOrlaStackerDiscType, never NOTUSE
+    bool input = false;                ///< discs are taken from it for jobs
+    std::optional<quint32> discs = {}; ///< ARV_PC_STK_STATUS_*
+
+    template <class Self>
+    static auto fields(Self& s)
+    {
+        return std::tie(s.number, s.holds, s.input, s.discs);
+    }
+};
+
 struct DriveReport
 {
     quint64 status = 0;   ///< ARV_PC_DRV_STATE_* bits
@@ -115,10 +130,9 @@ struct PublisherReport
     std::optional<qint64> freeBytes;
 
     // The details. Empty: not asked for, not supported or not answered.
-    std::optional<quint32> publishMode;                           ///< enPublishMode
-    std::array<std::optional<quint32>, stackerCount> discTypes{}; ///< enOrlaStackerDiscType
-    std::array<std::optional<quint32>, stackerCount> discs{};     ///< ARV_PC_STK_STATUS_*
-    std::optional<std::array<quint64, inkCount>> ink;             ///< percent or ARV_PC_INK_*
+    std::optional<quint32> publishMode;                 ///< enPublishMode
+    std::optional<std::vector<StackerReport>> stackers; ///< see usedStackers
+    std::optional<std::array<quint64, inkCount>> ink;   ///< percent or ARV_PC_INK_*
     std::optional<quint32> printsLeft;
     std::optional<quint32> loader;  ///< ARV_PC_ALD_STATE_* bits
     std::optional<quint32> printer; ///< ARV_PC_PRT_STATE_* bits
@@ -132,8 +146,8 @@ struct PublisherReport
     {
         return std::tie(s.id, s.name, s.network, s.devType, s.model, s.host, s.asked, s.answer, s.failed,
                         s.reachable, s.serviceUnreachable, s.state, s.fatalCode, s.waiting, s.sending,
-                        s.space, s.freeBytes, s.publishMode, s.discTypes, s.discs, s.ink, s.printsLeft,
-                        s.loader, s.printer, s.drives, s.jobs, s.wear, s.versions);
+                        s.space, s.freeBytes, s.publishMode, s.stackers, s.ink, s.printsLeft, s.loader,
+                        s.printer, s.drives, s.jobs, s.wear, s.versions);
     }
 
     bool hasOneDrive() const;

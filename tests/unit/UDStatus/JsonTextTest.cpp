@@ -39,9 +39,12 @@ TEST(JsonText, ValuesAreNumbersWordsAndTimes)
     EXPECT_EQ(object["maintenanceBoxPercentFree"], QJsonValue(97.25));
     EXPECT_EQ(object["errorCode"], QJsonValue(QJsonValue::Null));
     const QJsonObject stacker = object["stackers"].toArray()[0].toObject();
-    EXPECT_EQ(stacker,
-              (QJsonObject{
-                  {"number", 1}, {"holds", "CD-R"}, {"discs", 88}, {"fill", "counted"}, {"supplies", true}}));
+    EXPECT_EQ(stacker, (QJsonObject{{"number", 1},
+                                    {"holds", "CD-R"},
+                                    {"input", true},
+                                    {"discs", 88},
+                                    {"fill", "counted"},
+                                    {"supplies", true}}));
     const QJsonObject ink = object["inks"].toArray()[2].toObject();
     EXPECT_EQ(ink, (QJsonObject{{"colour", "yellow"}, {"percentLeft", 3}, {"state", "near-empty"}}));
     const QJsonObject drive = object["drives"].toArray()[0].toObject();

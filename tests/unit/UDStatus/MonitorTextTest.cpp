@@ -68,7 +68,7 @@ TEST(MonitorText, ThresholdsOfDiscsConcernInputStackers)
     const MonitorResult result = monitorResult({report}, {}, alerts("90:", "10:"));
     EXPECT_EQ(result.state, MonitorState::warning);
     EXPECT_TRUE(result.line.startsWith("WARNING - Studio A: stacker 1 88 | ")) << result.line.toStdString();
-    report.discs[0] = ARV_PC_STK_STATUS_NOT_FULL;
+    report.stackers->front().discs = ARV_PC_STK_STATUS_NOT_FULL;
     EXPECT_EQ(monitorResult({report}, {}, alerts("90:", "10:")).state, MonitorState::unknown);
 }
 

@@ -17,9 +17,15 @@ inline PublisherReport fullReport()
     report.state = PublisherState::ready;
     report.waiting = 2;
     report.publishMode = PUBMGR_PUBLISHMODE_NORMAL;
-    report.discTypes = {PUBMGR_STACKERDISCTYPE_CDR, PUBMGR_STACKERDISCTYPE_OUTPUT,
-                        PUBMGR_STACKERDISCTYPE_NOTUSE, PUBMGR_STACKERDISCTYPE_OUTPUT};
-    report.discs = {ARV_PC_STK_STATUS_SUPPLY | 88, 3, ARV_PC_STK_STATUS_UNKNOWN, ARV_PC_STK_STATUS_NOT_FULL};
+    report.stackers = {{.number = 1,
+                        .holds = PUBMGR_STACKERDISCTYPE_CDR,
+                        .input = true,
+                        .discs = ARV_PC_STK_STATUS_SUPPLY | 88},
+                       {.number = 2, .holds = PUBMGR_STACKERDISCTYPE_OUTPUT, .input = false, .discs = 3},
+                       {.number = 4,
+                        .holds = PUBMGR_STACKERDISCTYPE_OUTPUT,
+                        .input = false,
+                        .discs = ARV_PC_STK_STATUS_NOT_FULL}};
     report.ink = {41,
                   100,
                   ARV_PC_INK_NEAR_EMPTY | 3,
