@@ -1,6 +1,5 @@
 #include "ReportWords.h"
 
-#include "CorrectedSettings.h"
 #include "SettingTexts.h"
 
 #include <QCoreApplication>
@@ -15,7 +14,7 @@ struct Row
 {
     quint64 value;
     const char* word;
-    const char* text; ///< not yet translated; null if there is none
+    const char* text; ///< not yet translated; null if there is none, or only that of the property dialog
 };
 
 QString translated(const char* text)
@@ -79,26 +78,27 @@ constexpr Row modeRows[] = {
     {PUBMGR_PUBLISHMODE_NORMAL, "standard", nullptr},
     {PUBMGR_PUBLISHMODE_BATCH, "batch", nullptr},
     {PUBMGR_PUBLISHMODE_OUTPUT, "external-output", nullptr},
-    {PUBMGR_PUBLISHMODE_SECURITY, "security", nullptr},
-    {PUBMGR_PUBLISHMODE_EJECTCONTROL, "output-control", nullptr},
-    {PUBMGR_PUBLISHMODE_ERRORRATE, "error-rate", nullptr},
-    {PUBMGR_PUBLISHMODE_READ, "read", nullptr},
+    {PUBMGR_PUBLISHMODE_SECURITY, "security", QT_TRANSLATE_NOOP("StatusProgram", "Security mode")},
+    {PUBMGR_PUBLISHMODE_EJECTCONTROL, "output-control",
+     QT_TRANSLATE_NOOP("StatusProgram", "Output control mode")},
+    {PUBMGR_PUBLISHMODE_ERRORRATE, "error-rate", QT_TRANSLATE_NOOP("StatusProgram", "Error rate mode")},
+    {PUBMGR_PUBLISHMODE_READ, "read", QT_TRANSLATE_NOOP("StatusProgram", "Read mode")},
 };
 
 constexpr Row discTypeRows[] = {
     {PUBMGR_STACKERDISCTYPE_OUTPUT, "output", nullptr},
     {PUBMGR_STACKERDISCTYPE_CDR, "CD-R", nullptr},
-    {PUBMGR_STACKERDISCTYPE_DVDMINUSR, "DVD-R", nullptr},
-    {PUBMGR_STACKERDISCTYPE_DVDMINUSRDL, "DVD-R DL", nullptr},
-    {PUBMGR_STACKERDISCTYPE_DVDPLUSR, "DVD+R", nullptr},
-    {PUBMGR_STACKERDISCTYPE_DVDPLUSRDL, "DVD+R DL", nullptr},
+    {PUBMGR_STACKERDISCTYPE_DVDMINUSR, "DVD-R", "DVD-R"},
+    {PUBMGR_STACKERDISCTYPE_DVDMINUSRDL, "DVD-R DL", "DVD-R DL"},
+    {PUBMGR_STACKERDISCTYPE_DVDPLUSR, "DVD+R", "DVD+R"},
+    {PUBMGR_STACKERDISCTYPE_DVDPLUSRDL, "DVD+R DL", "DVD+R DL"},
     {PUBMGR_STACKERDISCTYPE_DVDR, "DVD", nullptr},
     {PUBMGR_STACKERDISCTYPE_DVDRDL, "DVD DL", nullptr},
     {PUBMGR_STACKERDISCTYPE_BDR, "BD-R", nullptr},
     {PUBMGR_STACKERDISCTYPE_BDRDL, "BD-R DL", nullptr},
     {PUBMGR_STACKERDISCTYPE_BDRTL, "BD-R TL", nullptr},
     {PUBMGR_STACKERDISCTYPE_BDRQL, "BD-R QL", nullptr},
-    {PUBMGR_STACKERDISCTYPE_INPUT, "input", nullptr},
+    {PUBMGR_STACKERDISCTYPE_INPUT, "input", QT_TRANSLATE_NOOP("StatusProgram", "Input Stacker")},
     {PUBMGR_STACKERDISCTYPE_NOTUSE, "not-used", nullptr},
 };
 
@@ -224,6 +224,12 @@ constexpr Row loaderRows[] = {
     {ARV_PC_ALD_STATE_FAN_ERROR, "fan-error", nullptr},
 };
 
+/// The text of the property dialog, where it has one for this value.
+ReportWord withDialogText(const ReportWord& word, const QString& text)
+{
+    return text.isEmpty() ? word : ReportWord{word.word, text};
+}
+
 } // namespace
 
 ReportWord statusWord(const PublisherReport& report)
@@ -241,14 +247,12 @@ const char* statusColour(const PublisherReport& report)
 
 ReportWord modeWord(quint32 mode)
 {
-    return {find(modeRows, mode).word, publishModeText(correctedPublishMode(mode))};
+    return withDialogText(find(modeRows, mode), publishModeText(mode));
 }
 
 ReportWord discTypeWord(quint32 discType)
 {
-    const bool hasItem =
-        discType != PUBMGR_STACKERDISCTYPE_INPUT && discType != PUBMGR_STACKERDISCTYPE_NOTUSE;
-    return {find(discTypeRows, discType).word, discTypeText(hasItem ? correctedMedia(discType) : discType)};
+    return withDialogText(find(discTypeRows, discType), discTypeText(discType));
 }
 
 ReportWord jobStateWord(quint64 status)

@@ -21,10 +21,11 @@ const char* statusColour(const PublisherReport& report);
 
 // Empty word and text for an unknown number.
 
-/// `mode` is an enPublishMode. The text is that of the property dialog, empty for modes that it does not
+/// `mode` is an enPublishMode. The text is that of the property dialog, except for modes that it does not
 /// have.
 ReportWord modeWord(quint32 mode);
-/// `discType` is an enOrlaStackerDiscType. The text is that of the property dialog.
+/// `discType` is an enOrlaStackerDiscType. The text is that of the property dialog, except for what it does
+/// not have.
 ReportWord discTypeWord(quint32 discType);
 /// `status` is ARV_PC_JOB_*.
 ReportWord jobStateWord(quint64 status);

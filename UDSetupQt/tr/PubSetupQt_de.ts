@@ -370,6 +370,26 @@ Möchten Sie fortfahren?</translation>
         <source>busy</source>
         <translation>beschäftigt</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Sicherheitsmodus</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Ausgabekontrollmodus</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Fehlerratenmodus</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Lesemodus</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Eingabe-Stacker</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -370,6 +370,26 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <source>busy</source>
         <translation>ocupado</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Modo de seguridad</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Modo de control de salida</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Modo de tasa de errores</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Modo de lectura</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Apilador de entrada</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -370,6 +370,26 @@ Voulez-vous continuer&#x202f;?</translation>
         <source>busy</source>
         <translation>occupé</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Mode sécurité</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Mode contrôle de sortie</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Mode taux d’erreurs</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Mode lecture</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Chargeur d’alimentation</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

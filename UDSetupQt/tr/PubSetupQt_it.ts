@@ -370,6 +370,26 @@ Continuare?</translation>
         <source>busy</source>
         <translation>occupato</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Modalità sicurezza</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Modalità controllo uscita</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Modalità tasso di errore</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Modalità lettura</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Impilatore di ingresso</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -370,6 +370,26 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <source>busy</source>
         <translation>ビジー</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>セキュリティモード</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>排出制御モード</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>エラーレートモード</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>読み取りモード</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>供給スタッカー</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

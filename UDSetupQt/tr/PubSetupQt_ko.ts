@@ -370,6 +370,26 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <source>busy</source>
         <translation>사용 중</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>보안 모드</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>배출 제어 모드</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>오류율 모드</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>읽기 모드</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>공급 스태커</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

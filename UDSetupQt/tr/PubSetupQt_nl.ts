@@ -370,6 +370,26 @@ Wilt u doorgaan?</translation>
         <source>busy</source>
         <translation>bezet</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Beveiligingsmodus</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Uitvoercontrolemodus</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Foutpercentagemodus</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Leesmodus</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Invoerstacker</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -370,6 +370,26 @@ Deseja continuar?</translation>
         <source>busy</source>
         <translation>ocupado</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Modo de segurança</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Modo de controlo de saída</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Modo de taxa de erros</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Modo de leitura</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Empilhador de entrada</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

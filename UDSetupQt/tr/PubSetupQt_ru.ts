@@ -370,6 +370,26 @@ Would you like to continue?</source>
         <source>busy</source>
         <translation>занят</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>Режим безопасности</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>Режим управления выдачей</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>Режим измерения ошибок</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>Режим чтения</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>Входной лоток</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

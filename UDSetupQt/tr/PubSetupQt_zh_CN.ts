@@ -370,6 +370,26 @@ ARVEN Ulmar Disc Setup 不会发送任何信息。
         <source>busy</source>
         <translation>忙</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>安全模式</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>输出控制模式</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>错误率模式</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>读取模式</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>供盘盘仓</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -370,6 +370,26 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <source>busy</source>
         <translation>忙碌</translation>
     </message>
+    <message>
+        <source>Security mode</source>
+        <translation>安全模式</translation>
+    </message>
+    <message>
+        <source>Output control mode</source>
+        <translation>輸出控制模式</translation>
+    </message>
+    <message>
+        <source>Error rate mode</source>
+        <translation>錯誤率模式</translation>
+    </message>
+    <message>
+        <source>Read mode</source>
+        <translation>讀取模式</translation>
+    </message>
+    <message>
+        <source>Input Stacker</source>
+        <translation>供片光碟匣</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

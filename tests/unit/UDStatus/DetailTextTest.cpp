@@ -64,6 +64,18 @@ TEST(DetailText, AnErrorHasItsCode)
     EXPECT_EQ(detailLines(report, {})[1], "  Status           Error (19)");
 }
 
+TEST(DetailText, UnknownSettingsAreDashes)
+{
+    PublisherReport report = fullReport();
+    report.publishMode.reset();
+    report.stackers = {{.number = 1, .holds = 99, .input = true, .discs = std::nullopt},
+                       {.number = 2, .holds = std::nullopt, .input = false, .discs = 7}};
+    const QStringList lines = detailLines(report, {});
+    EXPECT_EQ(lines[4], "  Publish Mode                -");
+    EXPECT_EQ(lines[5], "  Stacker 1                   -");
+    EXPECT_EQ(lines[6], "  Stacker 2                   7/100");
+}
+
 TEST(DetailText, NoJobsAreNamed)
 {
     PublisherReport report = fullReport();

@@ -88,15 +88,21 @@ TEST(ReportWords, SettingsHaveTheTextsOfTheDialog)
     EXPECT_EQ(modeWord(0).text, "Standard mode");
     EXPECT_EQ(modeWord(1).text, "Batch mode");
     EXPECT_EQ(modeWord(2).text, "External Output / Low-volume mode");
-    EXPECT_EQ(modeWord(3).text, "Standard mode"); // as the dialog shows the modes that are set elsewhere
+    EXPECT_EQ(modeWord(3).text, "Security mode"); // the dialog does not have these
+    EXPECT_EQ(modeWord(4).text, "Output control mode");
+    EXPECT_EQ(modeWord(5).text, "Error rate mode");
+    EXPECT_EQ(modeWord(6).text, "Read mode");
     EXPECT_STREQ(modeWord(3).word, "security");
     EXPECT_STREQ(modeWord(99).word, "");
     EXPECT_EQ(modeWord(99).text, "");
-    EXPECT_EQ(discTypeWord(2).text, "DVD(+R/-R)"); // DVD-R and DVD+R are one choice
+    EXPECT_EQ(discTypeWord(2).text, "DVD-R"); // the dialog has one choice for DVD-R and DVD+R
+    EXPECT_EQ(discTypeWord(6).text, "DVD(+R/-R)");
+    EXPECT_EQ(discTypeWord(16).text, "Input Stacker");
     EXPECT_STREQ(discTypeWord(2).word, "DVD-R");
     EXPECT_EQ(discTypeWord(0).text, "Output Stacker");
     EXPECT_EQ(discTypeWord(32).text, "Do not use");
     EXPECT_STREQ(discTypeWord(99).word, "");
+    EXPECT_EQ(discTypeWord(99).text, "");
 }
 
 TEST(ReportWords, BitsHaveOneWordEach)
