@@ -3,6 +3,8 @@
 #include "ReportWords.h"
 #include "SafeText.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <iterator>
 
@@ -47,7 +49,13 @@ QString textOf(const std::optional<Threshold>& threshold)
 class Monitor
 {
 public:
-    Monitor(const Alerts& ink, const Alerts& discs) : m_ink(ink), m_discs(discs) {}
+    Monitor(const std::vector<PublisherReport>& reports, const Alerts& ink, const Alerts& discs)
+        : m_ink(ink), m_discs(discs)
+    {
+        for (const PublisherReport& report : reports) {
+            ++m_names[label(report.name)];
+        }
+    }
 
     void take(const PublisherReport& report)
     {
@@ -59,7 +67,7 @@ public:
             takeDiscs(report);
         }
         if (report.waiting >= 0) {
-            m_data << label(report.name + QStringLiteral(" waiting")) +
+            m_data << label(nameOf(report) + QStringLiteral(" waiting")) +
                           QStringLiteral("=%1;;;0").arg(report.waiting);
         }
     }
@@ -87,6 +95,14 @@ public:
     }
 
 private:
+    /// The name, with the regist id if others have the same name.
+    QString nameOf(const PublisherReport& report) const
+    {
+        return m_names.value(label(report.name)) > 1
+                   ? QStringLiteral("%1 (%2)").arg(report.name, QString::fromUtf8(report.id))
+                   : report.name;
+    }
+
     void find(MonitorState state, const QString& text)
     {
         if (severity(state) > severity(m_state)) {
@@ -97,7 +113,7 @@ private:
 
     void takeStatus(const PublisherReport& report)
     {
-        const QString name = plain(report.name);
+        const QString name = plain(nameOf(report));
         const QString word = QString::fromLatin1(statusWord(report).word).replace('-', ' ');
         if (report.answer == Answer::none) {
             find(MonitorState::unknown, name + QStringLiteral(": ") + word);
@@ -149,7 +165,7 @@ private:
     void findMissing(const Alerts& alerts, const PublisherReport& report, const QString& what)
     {
         if (alerts.warning || alerts.critical) {
-            find(MonitorState::unknown, QStringLiteral("%1: %2 unknown").arg(plain(report.name), what));
+            find(MonitorState::unknown, QStringLiteral("%1: %2 unknown").arg(plain(nameOf(report)), what));
         }
     }
 
@@ -159,10 +175,11 @@ private:
         const bool critical = alerts.critical && alerts.critical->alerts(value);
         const bool warning = alerts.warning && alerts.warning->alerts(value);
         if (critical || warning) {
-            find(critical ? MonitorState::critical : MonitorState::warning,
-                 QStringLiteral("%1: %2 %3%4").arg(plain(report.name), what, QString::number(value), unit));
+            find(
+                critical ? MonitorState::critical : MonitorState::warning,
+                QStringLiteral("%1: %2 %3%4").arg(plain(nameOf(report)), what, QString::number(value), unit));
         }
-        m_data << label(report.name + QLatin1Char(' ') + what) +
+        m_data << label(nameOf(report) + QLatin1Char(' ') + what) +
                       QStringLiteral("=%1%2;%3;%4;0;100")
                           .arg(QString::number(value), unit, textOf(alerts.warning), textOf(alerts.critical));
     }
@@ -170,6 +187,7 @@ private:
     const Alerts& m_ink;
     const Alerts& m_discs;
     MonitorState m_state = MonitorState::ok;
+    QHash<QString, int> m_names; ///< how often each label occurs
     int m_publishers = 0;
     int m_ready = 0;
     QStringList m_findings;
@@ -181,7 +199,7 @@ private:
 MonitorResult monitorResult(const std::vector<PublisherReport>& reports, const Alerts& ink,
                             const Alerts& discs, const std::vector<QByteArray>& unreadable)
 {
-    Monitor monitor(ink, discs);
+    Monitor monitor(reports, ink, discs);
     for (const PublisherReport& report : reports) {
         monitor.take(report);
     }

@@ -376,7 +376,7 @@ Deseja continuar?</translation>
     </message>
     <message>
         <source>Output control mode</source>
-        <translation>Modo de controlo de saída</translation>
+        <translation>Modo de controle de saída</translation>
     </message>
     <message>
         <source>Error rate mode</source>

@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <regex>
+#include <set>
 
 namespace {
 
@@ -68,6 +70,18 @@ TEST(StatusProgram, PublishersOfOneNameAreAllShown)
     const StatusEnd end = runStatus({"Studio A"});
     EXPECT_THAT(end.out, HasSubstr("Not connected"));
     EXPECT_THAT(end.out, HasSubstr("Ready"));
+
+    const std::string line = runStatus({"--monitor"}).out;
+    std::set<std::string> labels;
+    size_t count = 0;
+    const std::regex label("'([^']+)'=");
+    for (std::sregex_iterator i(line.begin(), line.end(), label); i != std::sregex_iterator(); ++i) {
+        labels.insert((*i)[1]);
+        ++count;
+    }
+    EXPECT_GT(count, 2U) << line;
+    EXPECT_EQ(labels.size(), count) << line;
+    EXPECT_THAT(line, HasSubstr("Studio A (C): not connected"));
 }
 
 TEST(StatusProgram, ARepeatedNameIsShownOnceAndInTheOrderOfTheList)

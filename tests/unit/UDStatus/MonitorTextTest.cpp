@@ -95,6 +95,23 @@ TEST(MonitorText, TheWorstStateDecides)
     EXPECT_EQ(monitorResult({}, {}, {}).line, "UNKNOWN - no publishers are registered");
 }
 
+TEST(MonitorText, PublishersOfOneNameHaveTheirIds)
+{
+    PublisherReport first = silentReport();
+    first.id = "{B}";
+    first.answer = Answer::all;
+    first.waiting = 1;
+    PublisherReport second = first;
+    second.id = "{C}";
+    second.waiting = 2;
+    EXPECT_EQ(monitorResult({first, second}, {}, {}).line,
+              "CRITICAL - Library ({B}): not connected; Library ({C}): not connected"
+              " | 'Library ({B}) waiting'=1;;;0 'Library ({C}) waiting'=2;;;0");
+    first.name = "a|b"; // the same once it is printed
+    second.name = "a/b";
+    EXPECT_TRUE(monitorResult({first, second}, {}, {}).line.startsWith("CRITICAL - a/b ({B}): not"));
+}
+
 TEST(MonitorText, SettingsThatCannotBeReadAreUnknown)
 {
     const MonitorResult result = monitorResult({fullReport()}, {}, {}, {"{B}", "C|"});
