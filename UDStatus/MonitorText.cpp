@@ -6,6 +6,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace {
@@ -138,7 +139,7 @@ private:
             if (supply.percent) {
                 check(m_ink, report, what, *supply.percent, QStringLiteral("%"));
             } else {
-                findMissing(m_ink, report, what);
+                findState(m_ink, report, what, supply.state.word, "removed");
             }
         }
     }
@@ -157,15 +158,25 @@ private:
             if (fill.discs) {
                 check(m_discs, report, what, *fill.discs, QString());
             } else {
-                findMissing(m_discs, report, what);
+                findState(m_discs, report, what, fill.state.word, "overflow");
             }
         }
     }
 
     void findMissing(const Alerts& alerts, const PublisherReport& report, const QString& what)
     {
+        findState(alerts, report, what, "unknown", "");
+    }
+
+    /// A value that has a threshold, but is no number. `bad` is the state that is CRITICAL.
+    void findState(const Alerts& alerts, const PublisherReport& report, const QString& what, const char* word,
+                   const char* bad)
+    {
         if (alerts.warning || alerts.critical) {
-            find(MonitorState::unknown, QStringLiteral("%1: %2 unknown").arg(plain(nameOf(report)), what));
+            const bool critical = std::strcmp(word, bad) == 0;
+            find(critical ? MonitorState::critical : MonitorState::unknown,
+                 QStringLiteral("%1: %2 %3")
+                     .arg(plain(nameOf(report)), what, QString::fromLatin1(word).replace('-', ' ')));
         }
     }
 

@@ -272,11 +272,11 @@ ReportWord inkColourWord(size_t index)
 
 Supply inkSupply(quint64 value)
 {
-    const quint64 percent = value & ~quint64{ARV_PC_INK_NEAR_EMPTY};
-    if (percent <= 100) {
-        return {static_cast<quint32>(percent), find(inkStateRows, value & ARV_PC_INK_NEAR_EMPTY)};
+    const quint64 amount = value & ~quint64{ARV_PC_INK_NEAR_EMPTY};
+    if (amount <= 100) {
+        return {static_cast<quint32>(amount), find(inkStateRows, value & ARV_PC_INK_NEAR_EMPTY)};
     }
-    const ReportWord state = find(inkStateRows, value);
+    const ReportWord state = find(inkStateRows, amount);
     return {std::nullopt, *state.word == '\0' ? find(inkStateRows, ARV_PC_INK_UNKNOWN) : state};
 }
 

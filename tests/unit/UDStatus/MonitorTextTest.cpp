@@ -69,7 +69,27 @@ TEST(MonitorText, ThresholdsOfDiscsConcernInputStackers)
     EXPECT_EQ(result.state, MonitorState::warning);
     EXPECT_TRUE(result.line.startsWith("WARNING - Studio A: stacker 1 88 | ")) << result.line.toStdString();
     report.stackers->front().discs = ARV_PC_STK_STATUS_NOT_FULL;
+    EXPECT_TRUE(monitorResult({report}, {}, alerts("90:", "10:"))
+                    .line.startsWith("UNKNOWN - Studio A: stacker 1 not full | "));
     EXPECT_EQ(monitorResult({report}, {}, alerts("90:", "10:")).state, MonitorState::unknown);
+}
+
+TEST(MonitorText, StatesWithoutANumberMatterOnlyWithAThreshold)
+{
+    PublisherReport report = fullReport();
+    report.ink = {41, 100, ARV_PC_INK_NEAR_EMPTY | ARV_PC_INK_CARTRIDGE_REMOVED, 100, 100, 100};
+    report.stackers->front().discs = ARV_PC_STK_STATUS_OVERFLOW;
+    EXPECT_EQ(monitorResult({report}, {}, {}).state, MonitorState::ok);
+    const MonitorResult ink = monitorResult({report}, {Threshold::parse("5:"), {}}, {});
+    EXPECT_EQ(ink.state, MonitorState::critical);
+    EXPECT_TRUE(ink.line.startsWith("CRITICAL - Studio A: ink yellow removed | ")) << ink.line.toStdString();
+    const MonitorResult discs = monitorResult({report}, {}, {Threshold::parse("5:"), {}});
+    EXPECT_EQ(discs.state, MonitorState::critical);
+    EXPECT_TRUE(discs.line.startsWith("CRITICAL - Studio A: stacker 1 overflow | "));
+    report.ink = {41, 100, ARV_PC_NON_STANDARD_INK, 100, 100, 100};
+    const MonitorResult other = monitorResult({report}, alerts("5:", "2:"), {});
+    EXPECT_EQ(other.state, MonitorState::unknown);
+    EXPECT_TRUE(other.line.startsWith("UNKNOWN - Studio A: ink yellow non standard | "));
 }
 
 TEST(MonitorText, MissingValuesMatterOnlyWithAThreshold)

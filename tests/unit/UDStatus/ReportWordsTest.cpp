@@ -50,6 +50,8 @@ TEST(ReportWords, InkIsAPercentageOrAState)
         {0x200, std::nullopt, "invalid"},
         {0x400, std::nullopt, "unknown"},
         {0x8000000, std::nullopt, "non-standard"},
+        {0x80000100, std::nullopt, "removed"}, // with the flag of a nearly empty cartridge
+        {0x80000065, std::nullopt, "unknown"},
         {101, std::nullopt, "unknown"},
         {0xFFFFFFFFFFFFFFFF, std::nullopt, "unknown"},
     };
