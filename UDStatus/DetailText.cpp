@@ -172,16 +172,11 @@ private:
 
     QString driveLabel(size_t index) const
     {
-        if (m_report.hasOneDrive()) {
+        if (m_report.driveCount() == 1) {
             return labelText("propertyDialogEx", QT_TRANSLATE_NOOP("propertyDialogEx", "Drive:"));
         }
         return dialogText(index == 0 ? QT_TRANSLATE_NOOP("propertyDialog", "Drive 1:")
                                      : QT_TRANSLATE_NOOP("propertyDialog", "Drive 2:"));
-    }
-
-    size_t drives() const
-    {
-        return m_report.hasOneDrive() ? 1 : driveCount;
     }
 
     void addParts()
@@ -190,7 +185,7 @@ private:
             add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Printer:")),
                 joinedTexts(printerWords(*m_report.printer)));
         }
-        for (size_t i = 0; m_report.drives && i < drives(); ++i) {
+        for (size_t i = 0; m_report.drives && i < m_report.driveCount(); ++i) {
             const DriveReport& drive = (*m_report.drives)[i];
             constexpr quint64 atWork =
                 ARV_PC_DRV_STATE_WRITING | ARV_PC_DRV_STATE_VERIFYING | ARV_PC_DRV_STATE_READING;
@@ -216,13 +211,13 @@ private:
             add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Maintenance Box free space:")),
                 percentText(wear.maintenanceBoxFree));
         }
-        const QString labels[driveCount] = {
-            m_report.hasOneDrive()
+        const QString labels[mostDrives] = {
+            m_report.driveCount() == 1
                 ? labelText("propertyDialogEx",
                             QT_TRANSLATE_NOOP("propertyDialogEx", "Service life of Drive:"))
                 : dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Service life of Drive 1:")),
             dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Service life of Drive 2:"))};
-        for (size_t i = 0; i < drives(); ++i) {
+        for (size_t i = 0; i < m_report.driveCount(); ++i) {
             add(labels[i], percentText(wear.driveWear[i]));
         }
         add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Serial number:")), wear.serialNumber);
@@ -238,7 +233,7 @@ private:
         add(below(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Autoloader:"))), versions.autoloader);
         add(below(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Printer:"))),
             (versions.printerModel + QLatin1Char(' ') + versions.printer).trimmed());
-        for (size_t i = 0; i < drives(); ++i) {
+        for (size_t i = 0; i < m_report.driveCount(); ++i) {
             add(below(driveLabel(i)),
                 (versions.driveModels[i] + QLatin1Char(' ') + versions.drives[i]).trimmed());
         }

@@ -89,7 +89,7 @@ QJsonValue drives(const PublisherReport& report)
         return QJsonValue::Null;
     }
     QJsonArray array;
-    for (size_t i = 0; i < (report.hasOneDrive() ? 1 : driveCount); ++i) {
+    for (size_t i = 0; i < report.driveCount(); ++i) {
         const DriveReport drive = report.drives ? (*report.drives)[i] : DriveReport();
         const bool shows = report.drives && drive.progress <= 100;
         array << QJsonObject{

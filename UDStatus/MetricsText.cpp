@@ -143,7 +143,7 @@ QString workMetrics(const std::vector<PublisherReport>& reports)
         if (report.wear->discsPrinted) {
             printed.add(report, QString(), *report.wear->discsPrinted);
         }
-        for (size_t i = 0; i < (report.hasOneDrive() ? 1 : driveCount); ++i) {
+        for (size_t i = 0; i < report.driveCount(); ++i) {
             if (report.wear->driveWear[i]) {
                 wear.add(report, label("drive", QString::number(i + 1)),
                          *report.wear->driveWear[i] / percentPerRatio);

@@ -99,10 +99,10 @@ void askParts(CPublisherMgr& mgr, const char* id, PublisherReport& report)
 
 void askDrives(CPublisherMgr& mgr, const char* id, PublisherReport& report)
 {
-    ST_PC_DRV_STATUS drives[driveCount] = {};
+    ST_PC_DRV_STATUS drives[mostDrives] = {};
     if (mgr.GetServiceDriveStatus(id, &drives[0], &drives[1], nullptr)) {
         report.drives.emplace();
-        for (size_t i = 0; i < driveCount; ++i) {
+        for (size_t i = 0; i < mostDrives; ++i) {
             (*report.drives)[i] = {drives[i].ulDrvStatus, drives[i].ulDrvProgressStatus};
         }
     }
@@ -164,9 +164,10 @@ void setStatus(const StatusReply& reply, PublisherReport& report)
 
 } // namespace
 
-bool PublisherReport::hasOneDrive() const
+size_t PublisherReport::driveCount() const
 {
-    return !propertyRows(modelFamily(devType)).secondDrive;
+    const PublisherModel* row = FindModel(devType);
+    return row ? std::min(static_cast<size_t>(row->nDrives), mostDrives) : mostDrives;
 }
 
 bool PublisherReport::isAnswered() const

@@ -17,7 +17,7 @@
 
 constexpr size_t stackerCount = 4;
 constexpr size_t inkCount = 6; ///< cyan, magenta, yellow, light cyan, light magenta, black
-constexpr size_t driveCount = 2;
+constexpr size_t mostDrives = 2;
 
 /// How much of a query was answered.
 enum class Answer : quint8
@@ -81,7 +81,7 @@ struct WearReport
     std::optional<quint32> discsPublished;
     std::optional<quint32> discsPrinted;
     std::optional<double> maintenanceBoxFree;                  ///< percent
-    std::array<std::optional<double>, driveCount> driveWear{}; ///< used share of the service life, percent
+    std::array<std::optional<double>, mostDrives> driveWear{}; ///< used share of the service life, percent
 
     template <class Self>
     static auto fields(Self& s)
@@ -95,8 +95,8 @@ struct VersionReport
     QString autoloader;
     QString printerModel;
     QString printer;
-    std::array<QString, driveCount> driveModels{};
-    std::array<QString, driveCount> drives{};
+    std::array<QString, mostDrives> driveModels{};
+    std::array<QString, mostDrives> drives{};
     QString server; ///< of network publishers, as the next one
     QString administrator;
 
@@ -136,7 +136,7 @@ struct PublisherReport
     std::optional<quint32> printsLeft;
     std::optional<quint32> loader;  ///< ARV_PC_ALD_STATE_* bits
     std::optional<quint32> printer; ///< ARV_PC_PRT_STATE_* bits
-    std::optional<std::array<DriveReport, driveCount>> drives;
+    std::optional<std::array<DriveReport, mostDrives>> drives;
     std::optional<std::vector<JobReport>> jobs; ///< unfinished ones
     std::optional<WearReport> wear;
     std::optional<VersionReport> versions;
@@ -150,7 +150,8 @@ struct PublisherReport
                         s.printer, s.drives, s.jobs, s.wear, s.versions);
     }
 
-    bool hasOneDrive() const;
+    /// How many drives the model has.
+    size_t driveCount() const;
     /// Whether the publisher answered everything that was asked. A device that is switched off or detached is
     /// an answer; a server or a service that cannot be reached is none.
     bool isAnswered() const;

@@ -76,6 +76,24 @@ TEST(DetailText, UnknownSettingsAreDashes)
     EXPECT_EQ(lines[6], "  Stacker 2                   7/100");
 }
 
+TEST(DetailText, ShowsTheDrivesThatTheModelHas)
+{
+    constexpr struct
+    {
+        quint32 devType;
+        int lines; ///< with a name of a drive: state, wear and version of each
+    } table[] = {{PUBMGR_PUBLISHERTYPE_AP, 0},
+                 {PUBMGR_PUBLISHERTYPE_SD, 3},
+                 {PUBMGR_PUBLISHERTYPE_30II, 3},
+                 {PUBMGR_PUBLISHERTYPE_300III_BD, 6},
+                 {PUBMGR_PUBLISHERTYPE_NETWORK, 6}};
+    for (const auto& row : table) {
+        PublisherReport report = fullReport();
+        report.devType = row.devType;
+        EXPECT_EQ(detailLines(report, {}).filter("Drive").size(), row.lines) << row.devType;
+    }
+}
+
 TEST(DetailText, NoJobsAreNamed)
 {
     PublisherReport report = fullReport();

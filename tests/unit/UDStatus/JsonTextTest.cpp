@@ -67,6 +67,13 @@ TEST(JsonText, ValuesAreNumbersWordsAndTimes)
                                 {"remainingSeconds", 3725}}));
 }
 
+TEST(JsonText, AModelWithoutDrivesHasNone)
+{
+    PublisherReport report = fullReport();
+    report.devType = PUBMGR_PUBLISHERTYPE_AP;
+    EXPECT_EQ(publisher(report)["drives"], QJsonValue(QJsonArray()));
+}
+
 TEST(JsonText, UnknownValuesAreNull)
 {
     const QJsonObject object = publisher(silentReport());
