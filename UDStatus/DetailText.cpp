@@ -112,8 +112,8 @@ private:
     void addStatus()
     {
         m_lines << cut(safeText(m_report.name));
-        const bool fatal = m_report.state == PublisherState::error && m_report.answer != Answer::none;
-        const QString code = fatal ? QStringLiteral(" (%1)").arg(m_report.fatalCode) : QString();
+        const bool fatal = m_report.state == PublisherState::error && m_report.fatalCode;
+        const QString code = fatal ? QStringLiteral(" (%1)").arg(*m_report.fatalCode) : QString();
         add(listText(QT_TRANSLATE_NOOP("PubSetup", "Status")), statusWord(m_report).text + code,
             statusColour(m_report));
         add(listText(QT_TRANSLATE_NOOP("PubSetup", "Model name")), m_report.model);

@@ -128,7 +128,6 @@ QJsonValue jobs(const PublisherReport& report)
 
 QJsonObject publisher(const PublisherReport& report)
 {
-    const bool answered = report.answer != Answer::none;
     const WearReport wear = report.wear.value_or(WearReport());
     const VersionReport versions = report.versions.value_or(VersionReport());
     return {
@@ -140,7 +139,7 @@ QJsonObject publisher(const PublisherReport& report)
         {"asked", report.asked.isValid() ? QJsonValue(timeText(report.asked)) : QJsonValue::Null},
         {"complete", report.isAnswered()},
         {"status", QLatin1String(statusWord(report).word)},
-        {"errorCode", answered && report.fatalCode != 0 ? QJsonValue(report.fatalCode) : QJsonValue::Null},
+        {"errorCode", report.fatalCode ? QJsonValue(*report.fatalCode) : QJsonValue::Null},
         {"jobsWaiting", countOrNull(report.waiting)},
         {"jobsTransmitting", countOrNull(report.sending)},
         {"bytesFree", numberOrNull(report.freeBytes)},

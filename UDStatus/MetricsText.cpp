@@ -69,8 +69,8 @@ QString statusMetrics(const std::vector<PublisherReport>& reports)
         up.add(report, QString(), answered && report.state == PublisherState::ready ? 1 : 0);
         status.add(report,
                    label("status", QLatin1String(statusWord(report).word)) + label("model", report.model), 1);
-        if (answered) {
-            code.add(report, QString(), static_cast<double>(report.fatalCode));
+        if (report.fatalCode) {
+            code.add(report, QString(), static_cast<double>(*report.fatalCode));
         }
         if (report.waiting >= 0) {
             waiting.add(report, QString(), static_cast<double>(report.waiting));

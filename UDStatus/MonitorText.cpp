@@ -120,7 +120,7 @@ private:
             find(MonitorState::unknown, name + QStringLiteral(": ") + word);
         } else if (report.state == PublisherState::error) {
             find(MonitorState::critical,
-                 QStringLiteral("%1: error %2").arg(name, QString::number(report.fatalCode)));
+                 QStringLiteral("%1: error %2").arg(name, QString::number(report.fatalCode.value_or(0))));
         } else if (report.state != PublisherState::ready) {
             find(MonitorState::critical, name + QStringLiteral(": ") + word);
         } else if (report.failed || report.answer != Answer::all) {

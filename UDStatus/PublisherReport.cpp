@@ -153,7 +153,11 @@ void setStatus(const StatusReply& reply, PublisherReport& report)
     report.host = reply.row.strHostName;
     report.reachable = reply.facts.reachable;
     report.state = reply.state;
-    report.fatalCode = reply.facts.fatal ? reply.facts.fatalCode : 0;
+    if (report.state == PublisherState::error) {
+        report.fatalCode = reply.facts.fatalCode;
+    } else if (report.state == PublisherState::ready) {
+        report.fatalCode = 0;
+    }
     report.waiting = reply.row.nJobWaiting;
     report.sending = reply.row.nJobSending;
     report.space = reply.row.strHDDAvail;

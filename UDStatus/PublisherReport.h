@@ -123,8 +123,8 @@ struct PublisherReport
     bool reachable = false;          ///< the device is attached, or the server was reached
     bool serviceUnreachable = false; ///< of a local publisher: the control service did not answer
     PublisherState state = PublisherState::notConnected;
-    qint64 fatalCode = 0;
-    qint64 waiting = -1; ///< jobs; negative: unknown, as in the next one
+    std::optional<qint64> fatalCode; ///< 0 if the publisher is ready; empty: unknown
+    qint64 waiting = -1;             ///< jobs; negative: unknown, as in the next one
     qint64 sending = -1;
     QString space = QStringLiteral("-"); ///< as the list shows it
     std::optional<qint64> freeBytes;

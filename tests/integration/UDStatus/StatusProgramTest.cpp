@@ -254,6 +254,15 @@ TEST(StatusProgram, AThresholdDecidesTheExitCode)
                 StartsWith("WARNING - Studio A: ink yellow 12% | 'Studio A ink cyan'=100%;20:;;0;100 "));
 }
 
+TEST(StatusProgram, OnlyAnErrorAndAReadyPublisherHaveACode)
+{
+    const StatusRoom room(std::string(twoStudios) + "[publisher Broken]\nmodel = RT-30II\nerror = 9\n");
+    const std::string member = "\n            \"errorCode\": "; // of the publisher, not of a job
+    EXPECT_THAT(runStatus({"--json", "Broken"}).out, HasSubstr(member + "9,"));
+    EXPECT_THAT(runStatus({"--json", "Studio A"}).out, HasSubstr(member + "0,"));
+    EXPECT_THAT(runStatus({"--json", "Studio B"}).out, HasSubstr(member + "null,")); // not connected
+}
+
 TEST(StatusProgram, NothingIsTranslatedForPrograms)
 {
     const StatusRoom room(twoStudios);

@@ -37,7 +37,7 @@ TEST(JsonText, ValuesAreNumbersWordsAndTimes)
     EXPECT_EQ(object["jobsTransmitting"], QJsonValue(QJsonValue::Null));
     EXPECT_EQ(object["publishMode"].toString(), "standard");
     EXPECT_EQ(object["maintenanceBoxPercentFree"], QJsonValue(97.25));
-    EXPECT_EQ(object["errorCode"], QJsonValue(QJsonValue::Null));
+    EXPECT_EQ(object["errorCode"], QJsonValue(0));
     const QJsonObject stacker = object["stackers"].toArray()[0].toObject();
     EXPECT_EQ(stacker, (QJsonObject{{"number", 1},
                                     {"holds", "CD-R"},

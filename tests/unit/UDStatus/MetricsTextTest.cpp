@@ -51,6 +51,14 @@ TEST(MetricsText, UnknownValuesHaveNoSample)
     }
 }
 
+TEST(MetricsText, AnUnknownErrorHasNoSample)
+{
+    PublisherReport report = fullReport();
+    report.state = PublisherState::notConnected;
+    report.fatalCode.reset();
+    EXPECT_FALSE(metricsText({report}).contains("ulmar_publisher_error_code"));
+}
+
 TEST(MetricsText, LabelsAreEscaped)
 {
     PublisherReport report = silentReport();

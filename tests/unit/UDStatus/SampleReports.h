@@ -15,6 +15,7 @@ inline PublisherReport fullReport()
     report.answer = Answer::all;
     report.reachable = true;
     report.state = PublisherState::ready;
+    report.fatalCode = 0;
     report.waiting = 2;
     report.publishMode = PUBMGR_PUBLISHMODE_NORMAL;
     report.stackers = {{.number = 1,
