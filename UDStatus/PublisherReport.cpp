@@ -218,6 +218,7 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
     if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
         report.answer = Answer::all; // as in the list, which keeps the row as it was
         report.failed = true;
+        report.failure = QueryFailure::settingsUnreadable;
         progress();
         return;
     }

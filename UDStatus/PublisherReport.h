@@ -27,6 +27,15 @@ enum class Answer : quint8
     all
 };
 
+/// Why a query failed.
+enum class QueryFailure : quint8
+{
+    none,               ///< it did not, or it exceeded the time limit
+    settingsUnreadable, ///< the setting file cannot be read any more
+    notStarted,         ///< no process could be started for it
+    ended               ///< its process ended abnormally, most likely because of an invalid reply
+};
+
 struct JobReport
 {
     QString id;
@@ -119,7 +128,8 @@ struct PublisherReport
     QDateTime asked; ///< when the query began
 
     Answer answer = Answer::none;
-    bool failed = false;             ///< the query ended abnormally, for example because of an invalid reply
+    bool failed = false; ///< the query ended abnormally, for example because of an invalid reply
+    QueryFailure failure = QueryFailure::none;
     bool reachable = false;          ///< the device is attached, or the server was reached
     bool serviceUnreachable = false; ///< of a local publisher: the control service did not answer
     PublisherState state = PublisherState::notConnected;
@@ -145,9 +155,9 @@ struct PublisherReport
     static auto fields(Self& s)
     {
         return std::tie(s.id, s.name, s.network, s.devType, s.model, s.host, s.asked, s.answer, s.failed,
-                        s.reachable, s.serviceUnreachable, s.state, s.fatalCode, s.waiting, s.sending,
-                        s.space, s.freeBytes, s.publishMode, s.stackers, s.ink, s.printsLeft, s.loader,
-                        s.printer, s.drives, s.jobs, s.wear, s.versions);
+                        s.failure, s.reachable, s.serviceUnreachable, s.state, s.fatalCode, s.waiting,
+                        s.sending, s.space, s.freeBytes, s.publishMode, s.stackers, s.ink, s.printsLeft,
+                        s.loader, s.printer, s.drives, s.jobs, s.wear, s.versions);
     }
 
     /// How many drives the model has.

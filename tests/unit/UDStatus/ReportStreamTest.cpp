@@ -25,6 +25,16 @@ TEST(ReportStream, AReportComesBackUnchanged)
     }
 }
 
+TEST(ReportStream, TheReasonOfAFailureComesBack)
+{
+    PublisherReport report = silentReport();
+    report.failure = QueryFailure::settingsUnreadable;
+    QByteArray data = frameOf(report);
+    PublisherReport back;
+    ASSERT_TRUE(takeLastFrame(data, back));
+    EXPECT_EQ(back.failure, QueryFailure::settingsUnreadable);
+}
+
 TEST(ReportStream, TheLastCompleteFrameCounts)
 {
     const QByteArray first = frameOf(silentReport());
