@@ -304,7 +304,7 @@ private:
                             {orDash(jobStateWord(job.status).text)},
                             {QStringLiteral("%1/%2").arg(job.completed).arg(job.copies)},
                             {QString::number(job.failed)},
-                            {durationText(job.remainingTime)}});
+                            {job.remainingTime ? QString::number(*job.remainingTime) : QStringLiteral("-")}});
         }
         m_lines << tableLines(columns, rows, m_style);
     }
@@ -316,18 +316,6 @@ private:
 };
 
 } // namespace
-
-QString durationText(quint64 seconds)
-{
-    if (seconds == 0) {
-        return QStringLiteral("-");
-    }
-    const quint64 minutes = seconds / 60;
-    const QString tail = QStringLiteral(":%1").arg(seconds % 60, 2, 10, QLatin1Char('0'));
-    return minutes < 60
-               ? QString::number(minutes) + tail
-               : QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0')) + tail;
-}
 
 QStringList detailLines(const PublisherReport& report, const TableStyle& style)
 {

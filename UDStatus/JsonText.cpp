@@ -110,7 +110,6 @@ QJsonValue jobs(const PublisherReport& report)
     }
     QJsonArray array;
     for (const JobReport& job : *report.jobs) {
-        const bool timed = job.remainingTime != 0;
         array << QJsonObject{{"id", job.id},
                              {"name", textOrNull(job.name)},
                              {"person", textOrNull(job.person)},
@@ -120,8 +119,7 @@ QJsonValue jobs(const PublisherReport& report)
                              {"copies", static_cast<double>(job.copies)},
                              {"completed", static_cast<double>(job.completed)},
                              {"failed", static_cast<double>(job.failed)},
-                             {"remainingSeconds",
-                              timed ? QJsonValue(static_cast<double>(job.remainingTime)) : QJsonValue::Null}};
+                             {"remainingTime", numberOrNull(job.remainingTime)}};
     }
     return array;
 }

@@ -121,18 +121,12 @@ QString supplyMetrics(const std::vector<PublisherReport>& reports)
 QString workMetrics(const std::vector<PublisherReport>& reports)
 {
     Family jobs("ulmar_jobs_unfinished", "", "Jobs in the publisher's list that have not ended.");
-    Family time("ulmar_jobs_remaining_seconds", "seconds", "The expected time until all jobs have ended.");
     Family published("ulmar_discs_published", "", "Discs published so far.");
     Family printed("ulmar_discs_printed", "", "Discs printed so far.");
     Family wear("ulmar_drive_wear_ratio", "ratio", "The used share of a drive's service life.");
     for (const PublisherReport& report : reports) {
         if (report.jobs) {
-            double seconds = 0;
-            for (const JobReport& job : *report.jobs) {
-                seconds += static_cast<double>(job.remainingTime);
-            }
             jobs.add(report, QString(), static_cast<double>(report.jobs->size()));
-            time.add(report, QString(), seconds);
         }
         if (!report.wear) {
             continue;
@@ -150,7 +144,7 @@ QString workMetrics(const std::vector<PublisherReport>& reports)
             }
         }
     }
-    return jobs.text() + time.text() + published.text() + printed.text() + wear.text();
+    return jobs.text() + published.text() + printed.text() + wear.text();
 }
 
 } // namespace

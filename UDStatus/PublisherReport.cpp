@@ -29,6 +29,12 @@ std::optional<quint32> known(UINT count)
     return count == ARV_PC_MAINTENANCEINFO_UNKNOWN ? std::nullopt : std::optional<quint32>(count);
 }
 
+/// The remaining time of a job; 0 and 0xFFFFFFFF are unknown.
+std::optional<quint64> remainingTime(quint64 value)
+{
+    return value == 0 || value == 0xFFFFFFFF ? std::nullopt : std::optional<quint64>(value);
+}
+
 /// A setting; 0xFFFFFFFF is unknown.
 std::optional<quint32> setting(UINT value)
 {
@@ -82,7 +88,7 @@ void askJobs(CPublisherMgr& mgr, const char* id, PublisherReport& report)
                                 .copies = job.ulPublicationNumber,
                                 .completed = job.ulCompletionNumber,
                                 .failed = job.ulErrorNumber,
-                                .remainingTime = job.ulRemainingTime});
+                                .remainingTime = remainingTime(job.ulRemainingTime)});
     }
 }
 

@@ -47,7 +47,7 @@ struct JobReport
     quint64 copies = 0;
     quint64 completed = 0;
     quint64 failed = 0;
-    quint64 remainingTime = 0; ///< seconds; 0 if unknown
+    std::optional<quint64> remainingTime; ///< in a unit that the publisher defines
 
     template <class Self>
     static auto fields(Self& s)

@@ -225,6 +225,26 @@ TEST(StatusHostile, TextsCannotReachTheTerminal)
                 HasSubstr("\"a\\u001b]0;title\\u0007\\r\\nb\xef\xbf\xbd\\u202e|c\""));
 }
 
+TEST(StatusHostile, RemainingTimesHaveNoUnit)
+{
+    constexpr struct
+    {
+        uint64_t value;
+        const char* json;
+    } table[] = {{0, "\"remainingTime\": null,"},
+                 {0xFFFFFFFF, "\"remainingTime\": null,"},
+                 {3725, "\"remainingTime\": 3725,"}};
+    Installation installation;
+    installation.addLocal("A", "Studio", 0x20000009);
+    ScriptedService service;
+    for (const auto& row : table) {
+        std::string job = jobNamed("Job");
+        std::memcpy(&job[552], &row.value, sizeof row.value);
+        service.setPayload(4, job);
+        EXPECT_THAT(runStatus({"--json"}).out, HasSubstr(row.json));
+    }
+}
+
 TEST(StatusHostile, AFullListOfJobsIsShown)
 {
     Installation installation;

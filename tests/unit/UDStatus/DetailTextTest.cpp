@@ -42,7 +42,7 @@ TEST(DetailText, ShowsEverything)
         "    Drive 1                   BDR 1.05",
         "    Drive 2                   BDS 1.06",
         "  Job            Status   Discs  Failed  Time left",
-        "  Annual report  running   4/10       1    1:02:05",
+        "  Annual report  running   4/10       1       3725",
     };
     EXPECT_EQ(detailLines(fullReport(), {}).join("\n").toStdString(), expected.join("\n").toStdString());
 }
@@ -135,13 +135,11 @@ TEST(DetailText, UnsafeTextsAreEscaped)
     EXPECT_FALSE(text.contains('\x1b'));
 }
 
-TEST(DetailText, DurationsShowHoursIfThereAreAny)
+TEST(DetailText, AnUnknownRemainingTimeIsADash)
 {
-    EXPECT_EQ(durationText(0), "-");
-    EXPECT_EQ(durationText(5), "0:05");
-    EXPECT_EQ(durationText(3599), "59:59");
-    EXPECT_EQ(durationText(3600), "1:00:00");
-    EXPECT_EQ(durationText(360000), "100:00:00");
+    PublisherReport report = fullReport();
+    report.jobs->front().remainingTime.reset();
+    EXPECT_EQ(detailLines(report, {}).last(), "  Annual report  running   4/10       1          -");
 }
 
 } // namespace

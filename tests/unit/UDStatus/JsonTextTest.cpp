@@ -64,7 +64,7 @@ TEST(JsonText, ValuesAreNumbersWordsAndTimes)
                                 {"copies", 10},
                                 {"completed", 4},
                                 {"failed", 1},
-                                {"remainingSeconds", 3725}}));
+                                {"remainingTime", 3725}}));
 }
 
 TEST(JsonText, AModelWithoutDrivesHasNone)
