@@ -54,12 +54,15 @@ QString safeText(const QString& text)
 QByteArray safeJson(const QByteArray& document)
 {
     QString safe;
-    for (const QChar character :
-         QString::fromUtf8(document)) { // a document contains no other control characters
-        if (character != QLatin1Char('\n') && isUnsafe(character.unicode())) {
-            safe += QString::asprintf("\\u%04x", static_cast<uint>(character.unicode()));
-        } else {
-            safe += character;
+    for (const uint character : QString::fromUtf8(document).toUcs4()) { // no other control characters
+        QString units;
+        appendCodePoint(units, character);
+        if (character == '\n' || !isUnsafe(character)) {
+            safe += units;
+            continue;
+        }
+        for (const QChar unit : units) {
+            safe += QString::asprintf("\\u%04x", static_cast<uint>(unit.unicode()));
         }
     }
     return safe.toUtf8();

@@ -48,6 +48,7 @@ TEST(SafeText, BrokenTextBecomesReplacementCharacters)
 TEST(SafeText, ADocumentKeepsItsLinesAndItsValues)
 {
     EXPECT_EQ(safeJson("{\n  \"a\": \"x\xc2\x9b\x7f\"\n}\n"), "{\n  \"a\": \"x\\u009b\\u007f\"\n}\n");
+    EXPECT_EQ(safeJson("\"\xf3\xa0\x81\x81\""), "\"\\udb40\\udc41\""); // a tag character, U+E0041
     EXPECT_EQ(safeJson("\"\xe6\x97\xa5\xf0\x9f\x92\xbf\""), "\"\xe6\x97\xa5\xf0\x9f\x92\xbf\"");
 }
 
