@@ -48,6 +48,12 @@ QString percentText(std::optional<double> percent)
     return percent ? QString::number(std::floor(*percent)) + QStringLiteral(" %") : QStringLiteral("-");
 }
 
+/// With two decimals, as in the property dialog.
+QString exactPercentText(std::optional<double> percent)
+{
+    return percent ? QString::number(*percent, 'f', 2) + QStringLiteral(" %") : QStringLiteral("-");
+}
+
 QString countText(std::optional<quint32> count)
 {
     return count ? QString::number(*count) : QStringLiteral("-");
@@ -209,7 +215,7 @@ private:
             countText(wear.discsPrinted));
         if (propertyRows(modelFamily(m_report.devType)).discAndBoxFigures) {
             add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Maintenance Box free space:")),
-                percentText(wear.maintenanceBoxFree));
+                exactPercentText(wear.maintenanceBoxFree));
         }
         const QString labels[mostDrives] = {
             m_report.driveCount() == 1

@@ -32,7 +32,7 @@ TEST(DetailText, ShowsEverything)
         "  Drive 2                     idle",
         "  Total discs published       1840",
         "  Number of printed discs     1841",
-        "  Maintenance Box free space  97 %",
+        "  Maintenance Box free space  97.25 %",
         "  Service life of Drive 1     12 %",
         "  Service life of Drive 2     -",
         "  Serial number               SIM1",
@@ -116,7 +116,7 @@ TEST(DetailText, ANarrowTerminalLosesNothing)
     const QStringList lines = detailLines(fullReport(), {40, false});
     for (const char* line :
          {"  Stacker 1         CD-R, 88/100", "  Stacker 2", "                   Output Stacker, 3/100",
-          "  Maintenance Box free space", "                    97 %", "  Version Information"}) {
+          "  Maintenance Box free space", "                    97.25 %", "  Version Information"}) {
         EXPECT_TRUE(lines.contains(line)) << line << "\n" << lines.join("\n").toStdString();
     }
 }
