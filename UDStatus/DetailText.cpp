@@ -168,7 +168,7 @@ private:
         }
         for (size_t i = 0; m_report.ink && i < inkCount; ++i) {
             const Supply supply = inkSupply((*m_report.ink)[i]);
-            add(below(inkColourWord(i).text),
+            add(below(inkColorWord(i).text),
                 together({supply.percent ? percentText(*supply.percent) : QString(), supply.state.text}));
         }
         if (m_report.printsLeft) {

@@ -76,7 +76,7 @@ QJsonValue inks(const PublisherReport& report)
     QJsonArray array;
     for (size_t i = 0; i < inkCount; ++i) {
         const Supply supply = inkSupply((*report.ink)[i]);
-        array << QJsonObject{{"colour", QLatin1String(inkColourWord(i).word)},
+        array << QJsonObject{{"color", QLatin1String(inkColorWord(i).word)},
                              {"percentLeft", numberOrNull(supply.percent)},
                              {"state", QLatin1String(supply.state.word)}};
     }

@@ -95,7 +95,7 @@ QString supplyMetrics(const std::vector<PublisherReport>& reports)
         for (size_t i = 0; report.ink && i < inkCount; ++i) {
             const Supply supply = inkSupply((*report.ink)[i]);
             if (supply.percent) {
-                ink.add(report, label("colour", QLatin1String(inkColourWord(i).word)),
+                ink.add(report, label("color", QLatin1String(inkColorWord(i).word)),
                         *supply.percent / percentPerRatio);
             }
         }

@@ -135,7 +135,7 @@ private:
         }
         for (size_t i = 0; i < inkCount; ++i) {
             const Supply supply = inkSupply((*report.ink)[i]);
-            const QString what = QStringLiteral("ink ") + QLatin1String(inkColourWord(i).word);
+            const QString what = QStringLiteral("ink ") + QLatin1String(inkColorWord(i).word);
             if (supply.percent) {
                 check(m_ink, report, what, *supply.percent, QStringLiteral("%"));
             } else {

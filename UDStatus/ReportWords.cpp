@@ -105,12 +105,12 @@ constexpr Row discTypeRows[] = {
 constexpr Row jobStateRows[] = {
     {ARV_PC_JOB_WAITING, "waiting", QT_TRANSLATE_NOOP("StatusProgram", "waiting")},
     {ARV_PC_JOB_RUNNING, "running", QT_TRANSLATE_NOOP("StatusProgram", "running")},
-    {ARV_PC_JOB_CANCEL_PENDING, "cancelling", QT_TRANSLATE_NOOP("StatusProgram", "cancelling")},
+    {ARV_PC_JOB_CANCEL_PENDING, "canceling", QT_TRANSLATE_NOOP("StatusProgram", "canceling")},
     {ARV_PC_JOB_PAUSE_PENDING, "pausing", QT_TRANSLATE_NOOP("StatusProgram", "pausing")},
     {ARV_PC_JOB_PAUSED, "paused", QT_TRANSLATE_NOOP("StatusProgram", "paused")},
     {ARV_PC_JOB_STOP_PENDING, "stopping", QT_TRANSLATE_NOOP("StatusProgram", "stopping")},
     {ARV_PC_JOB_STOPPED, "stopped", QT_TRANSLATE_NOOP("StatusProgram", "stopped")},
-    {ARV_PC_JOB_CANCELLED, "cancelled", QT_TRANSLATE_NOOP("StatusProgram", "cancelled")},
+    {ARV_PC_JOB_CANCELLED, "canceled", QT_TRANSLATE_NOOP("StatusProgram", "canceled")},
     {ARV_PC_JOB_FINISHED, "finished", QT_TRANSLATE_NOOP("StatusProgram", "finished")},
 };
 
@@ -128,7 +128,7 @@ constexpr Row jobTypeRows[] = {
     {ARV_PC_JOB_TYPE_ERRORRATE, "error-rate", nullptr},
 };
 
-constexpr Row inkColourRows[inkCount] = {
+constexpr Row inkColorRows[inkCount] = {
     {0, "cyan", QT_TRANSLATE_NOOP("StatusProgram", "Cyan")},
     {1, "magenta", QT_TRANSLATE_NOOP("StatusProgram", "Magenta")},
     {2, "yellow", QT_TRANSLATE_NOOP("StatusProgram", "Yellow")},
@@ -141,7 +141,7 @@ constexpr Row inkStateRows[] = {
     {0, "ok", nullptr},
     {ARV_PC_INK_NEAR_EMPTY, "near-empty", QT_TRANSLATE_NOOP("StatusProgram", "nearly empty")},
     {ARV_PC_INK_CARTRIDGE_REMOVED, "removed", QT_TRANSLATE_NOOP("StatusProgram", "removed")},
-    {ARV_PC_INK_CARTRIDGE_INVALID, "invalid", QT_TRANSLATE_NOOP("StatusProgram", "not recognised")},
+    {ARV_PC_INK_CARTRIDGE_INVALID, "invalid", QT_TRANSLATE_NOOP("StatusProgram", "not recognized")},
     {ARV_PC_NON_STANDARD_INK, "non-standard", QT_TRANSLATE_NOOP("StatusProgram", "not an original")},
     {ARV_PC_INK_UNKNOWN, "unknown", QT_TRANSLATE_NOOP("StatusProgram", "unknown")},
 };
@@ -265,9 +265,9 @@ const char* jobTypeWord(quint64 type)
     return find(jobTypeRows, type).word;
 }
 
-ReportWord inkColourWord(size_t index)
+ReportWord inkColorWord(size_t index)
 {
-    return find(inkColourRows, index);
+    return find(inkColorRows, index);
 }
 
 Supply inkSupply(quint64 value)

@@ -33,7 +33,7 @@ ReportWord jobStateWord(quint64 status);
 const char* jobTypeWord(quint64 type);
 
 /// The index is that of PublisherReport::ink.
-ReportWord inkColourWord(size_t index);
+ReportWord inkColorWord(size_t index);
 
 /// A supply: what is left, and the state.
 struct Supply

@@ -235,7 +235,7 @@ Möchten Sie fortfahren?</translation>
         <translation>läuft</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>wird abgebrochen</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ Möchten Sie fortfahren?</translation>
         <translation>gestoppt</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>abgebrochen</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ Möchten Sie fortfahren?</translation>
         <translation>entfernt</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>nicht erkannt</translation>
     </message>
     <message>

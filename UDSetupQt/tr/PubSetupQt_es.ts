@@ -235,7 +235,7 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <translation>en curso</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>cancelando</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <translation>detenido</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>cancelado</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <translation>retirado</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>no reconocido</translation>
     </message>
     <message>

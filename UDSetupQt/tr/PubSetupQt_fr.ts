@@ -235,7 +235,7 @@ Voulez-vous continuer&#x202f;?</translation>
         <translation>en cours</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>annulation en cours</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ Voulez-vous continuer&#x202f;?</translation>
         <translation>arrêté</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>annulé</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ Voulez-vous continuer&#x202f;?</translation>
         <translation>retirée</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>non reconnue</translation>
     </message>
     <message>

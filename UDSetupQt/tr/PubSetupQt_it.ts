@@ -235,7 +235,7 @@ Continuare?</translation>
         <translation>in corso</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>annullamento in corso</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ Continuare?</translation>
         <translation>arrestato</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>annullato</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ Continuare?</translation>
         <translation>rimossa</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>non riconosciuta</translation>
     </message>
     <message>

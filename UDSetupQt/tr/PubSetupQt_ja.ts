@@ -235,7 +235,7 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <translation>実行中</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>キャンセル処理中</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <translation>停止</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>キャンセル済み</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <translation>取り外し</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>認識不可</translation>
     </message>
     <message>

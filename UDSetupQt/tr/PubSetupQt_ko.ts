@@ -235,7 +235,7 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <translation>실행 중</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>취소하는 중</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <translation>중지됨</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>취소됨</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <translation>분리됨</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>인식되지 않음</translation>
     </message>
     <message>

@@ -235,7 +235,7 @@ Wilt u doorgaan?</translation>
         <translation>bezig</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>wordt geannuleerd</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ Wilt u doorgaan?</translation>
         <translation>gestopt</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>geannuleerd</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ Wilt u doorgaan?</translation>
         <translation>verwijderd</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>niet herkend</translation>
     </message>
     <message>

@@ -235,7 +235,7 @@ Deseja continuar?</translation>
         <translation>em curso</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>cancelamento em curso</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ Deseja continuar?</translation>
         <translation>interrompido</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>cancelado</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ Deseja continuar?</translation>
         <translation>removido</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>não reconhecido</translation>
     </message>
     <message>

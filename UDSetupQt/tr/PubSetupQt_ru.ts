@@ -235,7 +235,7 @@ Would you like to continue?</source>
         <translation>выполняется</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>отменяется</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ Would you like to continue?</source>
         <translation>остановлено</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>отменено</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ Would you like to continue?</source>
         <translation>извлечён</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>не распознан</translation>
     </message>
     <message>

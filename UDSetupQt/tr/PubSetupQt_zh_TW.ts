@@ -235,7 +235,7 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <translation>執行中</translation>
     </message>
     <message>
-        <source>cancelling</source>
+        <source>canceling</source>
         <translation>正在取消</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <translation>已停止</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>已取消</translation>
     </message>
     <message>
@@ -295,7 +295,7 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <translation>已取出</translation>
     </message>
     <message>
-        <source>not recognised</source>
+        <source>not recognized</source>
         <translation>無法辨識</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@ TEST(DetailText, ShowsEverything)
         "    Magenta                   100 %",
         "    Yellow                    3 %, nearly empty",
         "    Light cyan                removed",
-        "    Light magenta             not recognised",
+        "    Light magenta             not recognized",
         "    Black                     unknown",
         "  Prints left                 420",
         "  Printer                     printing",

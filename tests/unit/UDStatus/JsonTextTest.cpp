@@ -46,7 +46,7 @@ TEST(JsonText, ValuesAreNumbersWordsAndTimes)
                                     {"fill", "counted"},
                                     {"supplies", true}}));
     const QJsonObject ink = object["inks"].toArray()[2].toObject();
-    EXPECT_EQ(ink, (QJsonObject{{"colour", "yellow"}, {"percentLeft", 3}, {"state", "near-empty"}}));
+    EXPECT_EQ(ink, (QJsonObject{{"color", "yellow"}, {"percentLeft", 3}, {"state", "near-empty"}}));
     const QJsonObject drive = object["drives"].toArray()[0].toObject();
     EXPECT_EQ(drive, (QJsonObject{{"number", 1},
                                   {"states", QJsonArray{"containing", "writing"}},

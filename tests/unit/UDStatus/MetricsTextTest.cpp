@@ -24,7 +24,7 @@ TEST(MetricsText, EveryValueHasASample)
              "ulmar_publisher_error_code{id=\"{ARPUB20260105_1}\",publisher=\"Studio A\"} 0\n",
              "ulmar_jobs_waiting{id=\"{ARPUB20260105_1}\",publisher=\"Studio A\"} 2\n",
              "ulmar_jobs_unfinished{id=\"{ARPUB20260105_1}\",publisher=\"Studio A\"} 1\n",
-             "ulmar_ink_remaining_ratio{id=\"{ARPUB20260105_1}\",publisher=\"Studio A\",colour=\"cyan\"} "
+             "ulmar_ink_remaining_ratio{id=\"{ARPUB20260105_1}\",publisher=\"Studio A\",color=\"cyan\"} "
              "0.41\n",
              "ulmar_stacker_discs{id=\"{ARPUB20260105_1}\",publisher=\"Studio "
              "A\",stacker=\"1\",holds=\"CD-R\"} 88\n",
