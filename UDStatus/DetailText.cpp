@@ -187,6 +187,10 @@ private:
 
     void addParts()
     {
+        if (m_report.loader) {
+            add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Autoloader:")),
+                joinedTexts(loaderWords(*m_report.loader)));
+        }
         if (m_report.printer) {
             add(dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Printer:")),
                 joinedTexts(printerWords(*m_report.printer)));

@@ -60,9 +60,9 @@ StackerFill stackerFill(quint32 value);
 
 /// ARV_PC_DRV_STATE_* bits.
 std::vector<ReportWord> driveWords(quint64 status);
-/// ARV_PC_PRT_STATE_* bits. Only the activities have a text.
+/// ARV_PC_PRT_STATE_* bits.
 std::vector<ReportWord> printerWords(quint64 status);
-/// ARV_PC_ALD_STATE_* bits. Without texts.
+/// ARV_PC_ALD_STATE_* bits.
 std::vector<ReportWord> loaderWords(quint64 status);
 
 /// The texts that are not empty, in one line.

@@ -390,6 +390,146 @@ Möchten Sie fortfahren?</translation>
         <source>Input Stacker</source>
         <translation>Eingabe-Stacker</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>Wartung bald fällig</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>Tintenkissen fast voll</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>mechanische Warnung</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>Tintenkissen voll</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>Wartung erforderlich</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>schwerer Fehler</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>Disc-Abdeckung offen</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>Tintenabdeckung offen</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>Tinte leer</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>Abdeckung der Wartungsbox offen</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>Wartungsbox entfernt</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>Wartungsbox voll</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>mechanischer Fehler</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>Stacker 1 entfernt</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>Stacker 2 entfernt</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>Stacker 3 entfernt</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>Stacker 4 offen</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>schwerer Druckerfehler</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>Drucker muss gewartet werden</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>Druckerfehler</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>Stacker 1 zu voll</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>Stacker 2 zu voll</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>in Betrieb</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>Stacker 3 zu voll</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>wird initialisiert</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>wird wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>wird abgeschlossen</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>Initialisierung angehalten</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>Wiederherstellung angehalten</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>Fehler beim Greifen einer Disc</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>wird gewartet</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>Fehler der Disc-Verwaltung</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>Lüfterfehler</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

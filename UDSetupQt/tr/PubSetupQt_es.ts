@@ -390,6 +390,146 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <source>Input Stacker</source>
         <translation>Apilador de entrada</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>mantenimiento próximo</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>almohadilla de tinta casi llena</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>advertencia mecánica</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>sin conexión</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>almohadilla de tinta llena</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>requiere mantenimiento</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>error grave</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>cubierta de discos abierta</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>cubierta de tinta abierta</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>sin tinta</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>cubierta de la caja de mantenimiento abierta</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>caja de mantenimiento retirada</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>caja de mantenimiento llena</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>error mecánico</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>apilador 1 retirado</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>apilador 2 retirado</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>apilador 3 retirado</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>apilador 4 abierto</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>apagado</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>error grave de la impresora</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>la impresora requiere mantenimiento</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>error de la impresora</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>apilador 1 demasiado lleno</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>apilador 2 demasiado lleno</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>en funcionamiento</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>apilador 3 demasiado lleno</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>inicializando</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>recuperando</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>finalizando</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>inicialización suspendida</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>recuperación suspendida</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>error al coger un disco</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>en mantenimiento</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>error de gestión de discos</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>error del ventilador</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -390,6 +390,146 @@ Voulez-vous continuer&#x202f;?</translation>
         <source>Input Stacker</source>
         <translation>Chargeur d’alimentation</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>maintenance bientôt nécessaire</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>tampon absorbeur presque plein</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>avertissement mécanique</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>hors ligne</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>tampon absorbeur plein</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>maintenance nécessaire</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>erreur grave</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>capot des disques ouvert</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>capot d’encre ouvert</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>plus d’encre</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>capot de la boîte de maintenance ouvert</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>boîte de maintenance retirée</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>boîte de maintenance pleine</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>erreur mécanique</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>chargeur 1 retiré</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>chargeur 2 retiré</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>chargeur 3 retiré</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>chargeur 4 ouvert</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>éteint</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>erreur grave de l’imprimante</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>l’imprimante nécessite une maintenance</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>erreur de l’imprimante</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>chargeur 1 trop plein</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>chargeur 2 trop plein</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>en fonctionnement</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>chargeur 3 trop plein</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>initialisation</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>rétablissement</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>finalisation</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>initialisation suspendue</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>rétablissement suspendu</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>erreur de saisie d’un disque</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>en maintenance</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>erreur de gestion des disques</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>erreur de ventilateur</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -390,6 +390,146 @@ Continuare?</translation>
         <source>Input Stacker</source>
         <translation>Impilatore di ingresso</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>manutenzione prossima</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>tampone assorbi-inchiostro quasi pieno</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>avviso meccanico</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>tampone assorbi-inchiostro pieno</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>manutenzione necessaria</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>errore grave</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>coperchio dischi aperto</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>coperchio inchiostro aperto</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>inchiostro esaurito</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>coperchio del contenitore di manutenzione aperto</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>contenitore di manutenzione rimosso</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>contenitore di manutenzione pieno</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>errore meccanico</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>impilatore 1 rimosso</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>impilatore 2 rimosso</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>impilatore 3 rimosso</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>impilatore 4 aperto</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>spento</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>errore grave della stampante</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>la stampante richiede manutenzione</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>errore della stampante</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>impilatore 1 troppo pieno</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>impilatore 2 troppo pieno</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>in funzione</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>impilatore 3 troppo pieno</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>inizializzazione</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>ripristino</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>finalizzazione</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>inizializzazione sospesa</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>ripristino sospeso</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>errore nel prelievo di un disco</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>in manutenzione</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>errore di gestione dei dischi</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>errore della ventola</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

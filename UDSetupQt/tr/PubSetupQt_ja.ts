@@ -390,6 +390,146 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <source>Input Stacker</source>
         <translation>供給スタッカー</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>まもなくメンテナンスが必要</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>廃インク吸収パッドがまもなく満杯</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>機構の警告</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>オフライン</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>廃インク吸収パッドが満杯</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>メンテナンスが必要</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>致命的なエラー</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>ディスクカバーが開いています</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>インクカバーが開いています</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>インク切れ</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>メンテナンスボックスカバーが開いています</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>メンテナンスボックス取り外し済み</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>メンテナンスボックスが満杯</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>機構エラー</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>スタッカー1取り外し済み</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>スタッカー2取り外し済み</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>スタッカー3取り外し済み</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>スタッカー4が開いています</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>電源オフ</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>プリンターの致命的なエラー</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>プリンターのメンテナンスが必要</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>プリンターエラー</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>スタッカー1のディスクが多すぎます</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>スタッカー2のディスクが多すぎます</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>動作中</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>スタッカー3のディスクが多すぎます</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>初期化中</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>復旧中</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>終了処理中</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>初期化中断</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>復旧中断</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>ディスクの取り出しエラー</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>メンテナンス中</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>ディスク管理エラー</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>ファンエラー</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -390,6 +390,146 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <source>Input Stacker</source>
         <translation>공급 스태커</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>곧 유지보수 필요</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>잉크 패드 거의 가득 참</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>기계 경고</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>오프라인</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>잉크 패드 가득 참</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>유지보수 필요</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>치명적 오류</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>디스크 커버 열림</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>잉크 커버 열림</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>잉크 없음</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>유지보수 상자 커버 열림</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>유지보수 상자 제거됨</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>유지보수 상자 가득 참</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>기계 오류</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>스태커 1 제거됨</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>스태커 2 제거됨</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>스태커 3 제거됨</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>스태커 4 열림</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>전원 꺼짐</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>프린터 치명적 오류</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>프린터 유지보수 필요</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>프린터 오류</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>스태커 1 용량 초과</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>스태커 2 용량 초과</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>작동 중</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>스태커 3 용량 초과</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>초기화 중</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>복구 중</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>마무리 중</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>초기화 중단됨</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>복구 중단됨</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>디스크 집기 오류</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>유지보수 중</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>디스크 관리 오류</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>팬 오류</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -390,6 +390,146 @@ Wilt u doorgaan?</translation>
         <source>Input Stacker</source>
         <translation>Invoerstacker</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>binnenkort onderhoud nodig</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>inktkussen bijna vol</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>mechanische waarschuwing</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>inktkussen vol</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>onderhoud nodig</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>ernstige fout</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>discklep open</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>inktklep open</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>inkt op</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>klep van onderhoudsbox open</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>onderhoudsbox verwijderd</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>onderhoudsbox vol</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>mechanische fout</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>stacker 1 verwijderd</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>stacker 2 verwijderd</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>stacker 3 verwijderd</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>stacker 4 open</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>uitgeschakeld</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>ernstige printerfout</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>printer heeft onderhoud nodig</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>printerfout</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>stacker 1 te vol</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>stacker 2 te vol</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>in bedrijf</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>stacker 3 te vol</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>initialiseren</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>herstellen</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>afronden</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>initialisatie onderbroken</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>herstel onderbroken</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>fout bij oppakken van disc</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>in onderhoud</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>fout in discbeheer</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>ventilatorfout</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

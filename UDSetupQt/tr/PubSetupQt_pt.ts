@@ -390,6 +390,146 @@ Deseja continuar?</translation>
         <source>Input Stacker</source>
         <translation>Empilhador de entrada</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>manutenção em breve</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>almofada de tinta quase cheia</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>aviso mecânico</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>off-line</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>almofada de tinta cheia</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>requer manutenção</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>erro grave</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>tampa dos discos aberta</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>tampa da tinta aberta</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>sem tinta</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>tampa da caixa de manutenção aberta</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>caixa de manutenção removida</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>caixa de manutenção cheia</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>erro mecânico</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>empilhador 1 removido</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>empilhador 2 removido</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>empilhador 3 removido</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>empilhador 4 aberto</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>desligado</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>erro grave da impressora</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>a impressora requer manutenção</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>erro da impressora</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>empilhador 1 cheio demais</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>empilhador 2 cheio demais</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>em operação</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>empilhador 3 cheio demais</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>inicializando</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>recuperando</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>finalizando</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>inicialização suspensa</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>recuperação suspensa</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>erro ao pegar um disco</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>em manutenção</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>erro de gerenciamento de discos</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>erro do ventilador</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

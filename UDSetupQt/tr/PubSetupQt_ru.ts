@@ -390,6 +390,146 @@ Would you like to continue?</source>
         <source>Input Stacker</source>
         <translation>Входной лоток</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>скоро потребуется обслуживание</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>впитывающая прокладка почти заполнена</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>предупреждение механизма</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>не в сети</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>впитывающая прокладка заполнена</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>требуется обслуживание</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>критическая ошибка</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>крышка отсека дисков открыта</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>крышка чернил открыта</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>чернила закончились</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>крышка ёмкости отработанных чернил открыта</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>ёмкость отработанных чернил снята</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>ёмкость отработанных чернил заполнена</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>ошибка механизма</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>лоток 1 снят</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>лоток 2 снят</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>лоток 3 снят</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>лоток 4 открыт</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>выключено</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>критическая ошибка принтера</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>принтер требует обслуживания</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>ошибка принтера</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>лоток 1 переполнен</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>лоток 2 переполнен</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>в работе</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>лоток 3 переполнен</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>инициализация</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>восстановление</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>завершение</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>инициализация приостановлена</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>восстановление приостановлено</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>ошибка захвата диска</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>на обслуживании</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>ошибка управления дисками</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>ошибка вентилятора</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

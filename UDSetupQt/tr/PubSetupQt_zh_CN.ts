@@ -390,6 +390,146 @@ ARVEN Ulmar Disc Setup 不会发送任何信息。
         <source>Input Stacker</source>
         <translation>供盘盘仓</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>即将需要维护</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>废墨垫即将满</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>机械警告</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>脱机</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>废墨垫已满</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>需要维护</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>严重错误</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>光盘盖已打开</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>墨水盖已打开</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>墨水用尽</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>维护箱盖已打开</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>维护箱已取下</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>维护箱已满</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>机械错误</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>盘仓 1 已取下</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>盘仓 2 已取下</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>盘仓 3 已取下</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>盘仓 4 已打开</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>已关机</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>打印机严重错误</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>打印机需要维护</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>打印机错误</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>盘仓 1 过满</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>盘仓 2 过满</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>盘仓 3 过满</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>正在初始化</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>正在恢复</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>正在结束</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>初始化已暂停</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>恢复已暂停</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>取盘错误</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>正在维护</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>光盘管理错误</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>风扇错误</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -390,6 +390,146 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <source>Input Stacker</source>
         <translation>供片光碟匣</translation>
     </message>
+    <message>
+        <source>maintenance due soon</source>
+        <translation>即將需要維護</translation>
+    </message>
+    <message>
+        <source>ink pad nearly full</source>
+        <translation>廢墨墊即將滿</translation>
+    </message>
+    <message>
+        <source>mechanical warning</source>
+        <translation>機械警告</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>離線</translation>
+    </message>
+    <message>
+        <source>ink pad full</source>
+        <translation>廢墨墊已滿</translation>
+    </message>
+    <message>
+        <source>maintenance required</source>
+        <translation>需要維護</translation>
+    </message>
+    <message>
+        <source>fatal error</source>
+        <translation>嚴重錯誤</translation>
+    </message>
+    <message>
+        <source>disc cover open</source>
+        <translation>光碟蓋已開啟</translation>
+    </message>
+    <message>
+        <source>ink cover open</source>
+        <translation>墨水蓋已開啟</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>墨水用盡</translation>
+    </message>
+    <message>
+        <source>maintenance box cover open</source>
+        <translation>維護盒蓋已開啟</translation>
+    </message>
+    <message>
+        <source>maintenance box removed</source>
+        <translation>維護盒已取下</translation>
+    </message>
+    <message>
+        <source>maintenance box full</source>
+        <translation>維護盒已滿</translation>
+    </message>
+    <message>
+        <source>mechanical error</source>
+        <translation>機械錯誤</translation>
+    </message>
+    <message>
+        <source>stacker 1 removed</source>
+        <translation>光碟匣 1 已取下</translation>
+    </message>
+    <message>
+        <source>stacker 2 removed</source>
+        <translation>光碟匣 2 已取下</translation>
+    </message>
+    <message>
+        <source>stacker 3 removed</source>
+        <translation>光碟匣 3 已取下</translation>
+    </message>
+    <message>
+        <source>stacker 4 open</source>
+        <translation>光碟匣 4 已開啟</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>已關機</translation>
+    </message>
+    <message>
+        <source>fatal printer error</source>
+        <translation>印表機嚴重錯誤</translation>
+    </message>
+    <message>
+        <source>printer requires maintenance</source>
+        <translation>印表機需要維護</translation>
+    </message>
+    <message>
+        <source>printer error</source>
+        <translation>印表機錯誤</translation>
+    </message>
+    <message>
+        <source>stacker 1 too full</source>
+        <translation>光碟匣 1 過滿</translation>
+    </message>
+    <message>
+        <source>stacker 2 too full</source>
+        <translation>光碟匣 2 過滿</translation>
+    </message>
+    <message>
+        <source>in operation</source>
+        <translation>運作中</translation>
+    </message>
+    <message>
+        <source>stacker 3 too full</source>
+        <translation>光碟匣 3 過滿</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>正在初始化</translation>
+    </message>
+    <message>
+        <source>recovering</source>
+        <translation>正在復原</translation>
+    </message>
+    <message>
+        <source>finalizing</source>
+        <translation>正在結束</translation>
+    </message>
+    <message>
+        <source>initialization suspended</source>
+        <translation>初始化已暫停</translation>
+    </message>
+    <message>
+        <source>recovery suspended</source>
+        <translation>復原已暫停</translation>
+    </message>
+    <message>
+        <source>disc pick error</source>
+        <translation>取片錯誤</translation>
+    </message>
+    <message>
+        <source>under maintenance</source>
+        <translation>正在維護</translation>
+    </message>
+    <message>
+        <source>disc management error</source>
+        <translation>光碟管理錯誤</translation>
+    </message>
+    <message>
+        <source>fan error</source>
+        <translation>風扇錯誤</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

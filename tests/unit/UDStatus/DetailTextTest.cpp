@@ -27,6 +27,7 @@ TEST(DetailText, ShowsEverything)
         "    Light magenta             not recognized",
         "    Black                     unknown",
         "  Prints left                 420",
+        "  Autoloader                  in operation",
         "  Printer                     printing",
         "  Drive 1                     contains a disc, writing, 36 %",
         "  Drive 2                     idle",
@@ -62,6 +63,16 @@ TEST(DetailText, AnErrorHasItsCode)
     report.state = PublisherState::error;
     report.fatalCode = 19;
     EXPECT_EQ(detailLines(report, {})[1], "  Status           Error (19)");
+}
+
+TEST(DetailText, ShowsTheReasonOfAFault)
+{
+    PublisherReport report = fullReport();
+    report.loader = ARV_PC_ALD_STATE_STACKER1_REMOVED | ARV_PC_ALD_STATE_DISC_COVER_OPEN;
+    report.printer = ARV_PC_PRT_STATE_ERROR | ARV_PC_PRT_STATE_ERROR_INK_OUT;
+    const QStringList lines = detailLines(report, {});
+    EXPECT_TRUE(lines.contains("  Autoloader                  stacker 1 removed, disc cover open"));
+    EXPECT_TRUE(lines.contains("  Printer                     error, out of ink"));
 }
 
 TEST(DetailText, UnknownSettingsAreDashes)

@@ -114,6 +114,11 @@ TEST(ReportWords, BitsHaveOneWordEach)
     EXPECT_EQ(driveWords(0x7FF).size(), 11U);
     EXPECT_EQ(printerWords(0x7FF07FF).size(), 22U);
     EXPECT_EQ(loaderWords(0x3FFFFFFF).size(), 30U);
+    for (const auto& words : {driveWords(0x7FF), printerWords(0x7FF07FF), loaderWords(0x3FFFFFFF)}) {
+        for (const ReportWord& word : words) {
+            EXPECT_FALSE(word.text.isEmpty()) << word.word;
+        }
+    }
     EXPECT_EQ(driveWords(0xFFFFFFFFFFFFF800).size(), 0U);
 }
 
