@@ -344,7 +344,7 @@ Voulez-vous continuer&#x202f;?</translation>
     </message>
     <message>
         <source>running a plug-in</source>
-        <translation>exécution d’un plug-in</translation>
+        <translation>exécution d’un module externe</translation>
     </message>
     <message>
         <source>measuring</source>

@@ -292,7 +292,7 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
     </message>
     <message>
         <source>removed</source>
-        <translation>取り外し</translation>
+        <translation>取り外し済み</translation>
     </message>
     <message>
         <source>not recognized</source>
