@@ -123,7 +123,7 @@ private:
                  QStringLiteral("%1: error %2").arg(name, QString::number(report.fatalCode.value_or(0))));
         } else if (report.state != PublisherState::ready) {
             find(MonitorState::critical, name + QStringLiteral(": ") + word);
-        } else if (report.failed || report.answer != Answer::all) {
+        } else if (report.failure != QueryFailure::none || report.answer != Answer::all) {
             find(MonitorState::unknown, name + QStringLiteral(": incomplete answer"));
         }
     }

@@ -183,7 +183,7 @@ size_t PublisherReport::driveCount() const
 bool PublisherReport::isAnswered() const
 {
     const bool noServer = network && !reachable && state == PublisherState::notConnected;
-    return answer == Answer::all && !failed && !serviceUnreachable && !noServer;
+    return answer == Answer::all && failure == QueryFailure::none && !serviceUnreachable && !noServer;
 }
 
 std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
@@ -223,7 +223,6 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
     StatusReply reply;
     if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
         report.answer = Answer::all; // as in the list, which keeps the row as it was
-        report.failed = true;
         report.failure = QueryFailure::settingsUnreadable;
         progress();
         return;

@@ -128,7 +128,6 @@ struct PublisherReport
     QDateTime asked; ///< when the query began
 
     Answer answer = Answer::none;
-    bool failed = false; ///< the query ended abnormally, for example because of an invalid reply
     QueryFailure failure = QueryFailure::none;
     bool reachable = false;          ///< the device is attached, or the server was reached
     bool serviceUnreachable = false; ///< of a local publisher: the control service did not answer
@@ -154,10 +153,10 @@ struct PublisherReport
     template <class Self>
     static auto fields(Self& s)
     {
-        return std::tie(s.id, s.name, s.network, s.devType, s.model, s.host, s.asked, s.answer, s.failed,
-                        s.failure, s.reachable, s.serviceUnreachable, s.state, s.fatalCode, s.waiting,
-                        s.sending, s.space, s.freeBytes, s.publishMode, s.stackers, s.ink, s.printsLeft,
-                        s.loader, s.printer, s.drives, s.jobs, s.wear, s.versions);
+        return std::tie(s.id, s.name, s.network, s.devType, s.model, s.host, s.asked, s.answer, s.failure,
+                        s.reachable, s.serviceUnreachable, s.state, s.fatalCode, s.waiting, s.sending,
+                        s.space, s.freeBytes, s.publishMode, s.stackers, s.ink, s.printsLeft, s.loader,
+                        s.printer, s.drives, s.jobs, s.wear, s.versions);
     }
 
     /// How many drives the model has.

@@ -95,7 +95,7 @@ public:
                 ++next;
             }
             if (m_queries.empty()) { // not even one process can be started
-                m_reports[next].failed = true;
+                m_reports[next].failure = QueryFailure::notStarted;
                 m_finished.push_back(next++);
             } else if (!wait()) {
                 return false;
@@ -206,7 +206,7 @@ private:
         int status = 0;
         Uninterrupted([&] { return ::waitpid(query.process, &status, 0); });
         if (!kill && (!WIFEXITED(status) || WEXITSTATUS(status) != EXIT_SUCCESS)) {
-            m_reports[query.index].failed = true;
+            m_reports[query.index].failure = QueryFailure::ended;
         }
     }
 

@@ -120,8 +120,15 @@ int fail(const Failure& failure)
 /// Why a publisher is not answered; the local service has its own line.
 QString unansweredReason(const PublisherReport& report)
 {
-    if (report.failed) {
+    switch (report.failure) {
+    case QueryFailure::settingsUnreadable:
+        return QStringLiteral("the setting file cannot be read");
+    case QueryFailure::notStarted:
+        return QStringLiteral("no process could be started for the query");
+    case QueryFailure::ended:
         return QStringLiteral("the query failed; the reply may be invalid");
+    case QueryFailure::none:
+        break;
     }
     switch (report.answer) {
     case Answer::none:
