@@ -143,7 +143,7 @@ private:
                                               dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Stacker 2")),
                                               dialogText(QT_TRANSLATE_NOOP("propertyDialog", "Stacker 3")),
                                               ownText(QT_TRANSLATE_NOOP("StatusProgram", "Stacker 4"))};
-        for (const StackerReport& stacker : *m_report.stackers) {
+        for (const StackerReport& stacker : m_report.stackers.value_or(std::vector<StackerReport>())) {
             add(labels[stacker.number - 1],
                 together({stacker.holds ? discTypeWord(*stacker.holds).text : QString(),
                           fillText(stacker.discs)}));

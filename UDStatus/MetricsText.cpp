@@ -131,16 +131,17 @@ QString workMetrics(const std::vector<PublisherReport>& reports)
         if (!report.wear) {
             continue;
         }
-        if (report.wear->discsPublished) {
-            published.add(report, QString(), *report.wear->discsPublished);
+        const WearReport& figures = *report.wear;
+        if (figures.discsPublished) {
+            published.add(report, QString(), *figures.discsPublished);
         }
-        if (report.wear->discsPrinted) {
-            printed.add(report, QString(), *report.wear->discsPrinted);
+        if (figures.discsPrinted) {
+            printed.add(report, QString(), *figures.discsPrinted);
         }
         for (size_t i = 0; i < report.driveCount(); ++i) {
-            if (report.wear->driveWear[i]) {
-                wear.add(report, label("drive", QString::number(i + 1)),
-                         *report.wear->driveWear[i] / percentPerRatio);
+            const std::optional<double>& share = figures.driveWear[i];
+            if (share) {
+                wear.add(report, label("drive", QString::number(i + 1)), *share / percentPerRatio);
             }
         }
     }

@@ -50,7 +50,8 @@ std::optional<std::chrono::milliseconds> seconds(const QString& text)
 {
     bool valid = false;
     const double value = text.toDouble(&valid);
-    if (!valid || !(value >= leastSeconds && value <= mostSeconds)) {
+    const bool inRange = value >= leastSeconds && value <= mostSeconds; // false for "nan"
+    if (!valid || !inRange) {
         return std::nullopt;
     }
     return std::chrono::milliseconds(static_cast<long>(value * 1000));

@@ -18,6 +18,7 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <cassert>
 #include <cerrno>
 #include <clocale>
 #include <csignal>
@@ -239,6 +240,7 @@ public:
 private:
     int drawRepeatedly(std::optional<Failure>& failure)
     {
+        assert(m_options.watch);
         Watch watch([this] { return lines(); });
         SurveyOptions survey;
         survey.details = !m_options.names.empty();
@@ -309,7 +311,7 @@ void replaceClosedStreams()
 {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (::fcntl(stream, F_GETFD) < 0) {
-            ::open("/dev/null", O_RDWR); // gets the lowest free number, which is this one
+            ::open("/dev/null", O_RDWR | O_CLOEXEC); // gets the lowest free number, which is this one
         }
     }
 }
