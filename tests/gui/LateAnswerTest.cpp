@@ -52,7 +52,7 @@ void LateAnswerTest::outOfMemoryEndsOnlyThatTask()
 void LateAnswerTest::closingWaitsForTheReply()
 {
     LocalRoom service({"a", "b"});
-    service.hold("a");
+    service.hold("22 a");
     m_installation.addLocal("a", "A");
     auto window = std::make_unique<PubSetup>(nullptr);
     window->show();
@@ -61,7 +61,7 @@ void LateAnswerTest::closingWaitsForTheReply()
     std::thread answer([&] {
         std::this_thread::sleep_for(lateness); // house-rule: sleeps: the reply must be late
         answered = true;
-        service.release("a");
+        service.release("22 a");
     });
     QElapsedTimer time;
     time.start();
@@ -78,14 +78,14 @@ void LateAnswerTest::closingSkipsTheRemainingQueries()
     LocalRoom service({"a", "b"});
     m_installation.addLocal("a", "A");
     m_installation.addLocal("b", "B");
-    service.hold("a");
-    service.hold("b");
+    service.hold("22 a");
+    service.hold("22 b");
     auto window = std::make_unique<PubSetup>(nullptr);
     QTRY_COMPARE(service.count("22 a") + service.count("22 b"), 1); // the folder's order decides which
     std::thread answer([&] {
         std::this_thread::sleep_for(lateness); // house-rule: sleeps: the reply must be late
-        service.release("a");
-        service.release("b");
+        service.release("22 a");
+        service.release("22 b");
     });
     window.reset();
     answer.join();
@@ -96,7 +96,7 @@ void LateAnswerTest::closingSkipsTheRemainingQueries()
 void LateAnswerTest::replyAfterTheWindowIsDestroyed()
 {
     LocalRoom service({"a", "b"});
-    service.hold("a");
+    service.hold("22 a");
     m_installation.addLocal("a", "A");
     auto window = std::make_unique<PubSetup>(nullptr);
     window->show();
@@ -107,7 +107,7 @@ void LateAnswerTest::replyAfterTheWindowIsDestroyed()
     const qint64 waited = time.elapsed();
     QVERIFY2(waited >= 9900 && waited < 15000, qPrintable(QString::number(waited)));
     QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 1); // the query still hangs
-    service.release("a");
+    service.release("22 a");
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();
     QVERIFY2(service.count("4 a") <= 1, "the jobs were queried more than once");

@@ -53,19 +53,20 @@ public:
         return m_room.get();
     }
 
-    /// The service reads the next request for this publisher, but does not answer it before release(). All
-    /// later requests wait as well, because the service has one thread.
-    void hold(const std::string& id)
+    /// The service reads the next such request (see count), but does not answer it before release(). All
+    /// later requests wait as well, because the service has one thread. Earlier ones do not: a poll that has
+    /// begun would otherwise be held in place of the request that the test is about.
+    void hold(const std::string& request)
     {
         const std::lock_guard lock(m_mutex);
-        m_held.insert(id);
+        m_held.insert(request);
     }
     /// Answers the waiting request and all later ones.
-    void release(const std::string& id)
+    void release(const std::string& request)
     {
         {
             const std::lock_guard lock(m_mutex);
-            m_held.erase(id);
+            m_held.erase(request);
         }
         m_changed.notify_all();
     }
@@ -88,9 +89,10 @@ private:
     void take(const udsim::Request& request)
     {
         std::unique_lock lock(m_mutex);
-        ++m_counts[std::to_string(request.control) + " " + request.publisher];
+        const std::string name = std::to_string(request.control) + " " + request.publisher;
+        ++m_counts[name];
         m_changed.notify_all();
-        m_changed.wait(lock, [&] { return !m_held.contains(request.publisher); });
+        m_changed.wait(lock, [&] { return !m_held.contains(name); });
     }
 
     std::mutex m_mutex;

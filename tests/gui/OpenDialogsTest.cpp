@@ -239,7 +239,7 @@ void OpenDialogsTest::unavailablePublishModeIsReportedFirst()
 
 void OpenDialogsTest::stalledServiceShowsTheIndicator()
 {
-    m_service->hold("b");
+    m_service->hold("18 b");
     m_window->treePublisherList->setCurrentItem(row("B"));
     int served = 0;
     bool early = false;
@@ -248,7 +248,7 @@ void OpenDialogsTest::stalledServiceShowsTheIndicator()
         auto indicator = shownWindow<QProgressDialog>();
         if (indicator && m_service->count("18 b") == 1 && ++served == 5) {
             early = shownWindow<propertyDialogEx>() != nullptr;
-            m_service->release("b");
+            m_service->release("18 b");
         }
     });
     ticks.start(20);
@@ -266,7 +266,7 @@ void OpenDialogsTest::stalledServiceShowsTheIndicator()
 
 void OpenDialogsTest::repeatedDoubleClicksOpenOneDialog()
 {
-    m_service->hold("b");
+    m_service->hold("18 b");
     int clicks = 0, opened = 0;
     QTimer impatience;
     connect(&impatience, &QTimer::timeout, this, [&] {
@@ -279,7 +279,7 @@ void OpenDialogsTest::repeatedDoubleClicksOpenOneDialog()
         QTest::mouseDClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
         QTest::keyClick(shownWindow<QProgressDialog>(), Qt::Key_Escape);
         if (++clicks == 3) {
-            m_service->release("b");
+            m_service->release("18 b");
         }
     });
     impatience.start(20);

@@ -166,14 +166,14 @@ void PublisherStatusTest::returningServiceIsDetected()
 void PublisherStatusTest::stalledPublisherIsQueriedOnce()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
-    m_service->hold("A");
+    m_service->hold("22 A");
     m_installation.addLocal("A", "A");
     open();
     QVERIFY(m_service->waitFor("22 A", 1));
     m_window->fetchStatusAsync();
     m_window->fetchStatusAsync();
     QCOMPARE(texts("A")[3], "Not connected");
-    m_service->release("A");
+    m_service->release("22 A");
     QVERIFY(waitForTasks(10000));
     QCOMPARE(m_service->count("22 A"), 1);
     QTRY_COMPARE(texts("A")[3], "Ready");
@@ -184,14 +184,14 @@ void PublisherStatusTest::stalledPublisherIsQueriedOnce()
 void PublisherStatusTest::publisherRemovedDuringQuery()
 {
     m_service.emplace(std::vector<std::string>{"A", "X"});
-    m_service->hold("A");
+    m_service->hold("22 A");
     m_installation.addLocal("A", "A");
     open();
     QVERIFY(m_service->waitFor("22 A", 1));
     Installation::remove("A");
     m_window->updateList();
     QCOMPARE(m_window->treePublisherList->topLevelItemCount(), 0);
-    m_service->release("A");
+    m_service->release("22 A");
     QVERIFY(m_service->waitFor("4 A", 1));
     QVERIFY(waitForTasks(10000));
     QCoreApplication::processEvents();

@@ -100,14 +100,14 @@ TEST_F(DirectStartTest, AnEnvironmentArgumentAfterTheNameIsHarmless)
 
 TEST_F(DirectStartTest, AStalledServiceShowsTheIndicator)
 {
-    m_service.hold("a");
+    m_service.hold("18 a");
     start({"Studio A"});
     const QString indicator = window(mainTitle);
     ASSERT_FALSE(indicator.isEmpty());
     EXPECT_TRUE(m_service.waitFor("18 a", 1));
     EXPECT_FALSE(xdotool({"getwindowgeometry", indicator}).contains("Geometry: 800x300"))
         << "the publisher list is shown";
-    m_service.release("a");
+    m_service.release("18 a");
     const QString id = properties();
     ASSERT_FALSE(id.isEmpty());
     closeByKey(id);

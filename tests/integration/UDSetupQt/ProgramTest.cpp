@@ -118,7 +118,7 @@ TEST_F(ProgramTest, AnUnknownNameOpensTheList)
 TEST_F(ProgramTest, EndsAlthoughTheServiceNeverAnswers)
 {
     LocalRoom service({"a"});
-    service.hold("a");
+    service.hold("22 a");
     m_installation.addLocal("a", "Studio A");
     start();
     const QString id = window(mainTitle);
