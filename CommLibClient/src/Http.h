@@ -91,6 +91,9 @@ public:
     /// The longest reply in bytes, its head and interim replies included. The largest reply of a publisher
     /// server, a list of 1000 jobs, has about 1.2 MB.
     static constexpr DWORD MAX_REPLY_SIZE = 4U << 20;
+    /// The longest time for receiving a reply in milliseconds, its head and interim replies included. It is
+    /// five times the silence that a server may keep, and suffices for the largest reply at 7 KB/s.
+    static constexpr DWORD MAX_REPLY_TIME = 600000;
 
     CHttp() = default;
     CHttp(const CHttp&) = delete;
@@ -119,8 +122,8 @@ public:
     int SendHeader(METHOD eMethod, const char* pszPath, VERSION eVersion, const char* pszHost,
                    const char* pszUser, const char* pszPassword, const char* pszAddHeader);
     int SendMessage(const char* pData, DWORD dwSize);
-    /// Receives the next final response and skips interim ones. -2 if the reply exceeds MAX_REPLY_SIZE. The
-    /// only time limit is the silence allowed before each byte.
+    /// Receives the next final response and skips interim ones. -2 if the reply exceeds MAX_REPLY_SIZE, -6 if
+    /// it exceeds MAX_REPLY_TIME or the silence allowed before each byte.
     int RecvResponse(ST_HTTP_RESPONSE* pstHttpRes);
 
     static const char* GetMethodStringPtr(METHOD eMethod);

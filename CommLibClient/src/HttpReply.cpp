@@ -100,6 +100,7 @@ int CHttp::RecvResponse(ST_HTTP_RESPONSE* pstHttpRes)
     assert(pstHttpRes != nullptr);
     CLogManager log;
     m_dwReplySize = 0;
+    m_Con.LimitReads(MAX_REPLY_TIME);
     char buffer[HEADER_LINE_SIZE] = {};
     int result = RecvHeader(buffer, sizeof buffer, pstHttpRes);
     if (result < 0) {

@@ -110,6 +110,13 @@ void CInternetCon::SetMoreFollows(bool bMore)
     }
 }
 
+void CInternetCon::LimitReads(DWORD dwMilliSec)
+{
+    if (m_pComm != nullptr) {
+        m_pComm->LimitReads(dwMilliSec);
+    }
+}
+
 int CInternetCon::PollRead(DWORD dwTimeoutMilliSec)
 {
     return m_pComm != nullptr ? m_pComm->PollRead(dwTimeoutMilliSec) : INTERNET_ERR_NOT_OPEN;

@@ -29,8 +29,11 @@ public:
     /// 0 if all bytes were read. If the peer has closed the connection, it no longer counts as open.
     int ReadToCount(char* pBuf, int nCount);
     int WriteToCount(const char* pData, int nCount);
-    /// See IInternetComm; before Open it does nothing.
+    // See IInternetComm; before Open they do nothing.
+
     void SetMoreFollows(bool bMore);
+    void LimitReads(DWORD dwMilliSec);
+
     int PollRead(DWORD dwTimeoutMilliSec);
 
 protected:

@@ -23,9 +23,9 @@ bool SetTextLocale();
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Connections. A handle is valid from StartConnection to EndConnection; a stale one may refer to a later
-// connection. The port of the server is 80. Connecting takes at most 5 seconds, and a reply may pause for
-// 2 minutes. Sending has no time limit. One operation at a time per handle; handles are independent of each
-// other.
+// connection. The port of the server is 80. Connecting takes at most 5 seconds. A reply may pause for
+// 2 minutes and last 10 minutes. Sending has no time limit. One operation at a time per handle; handles are
+// independent of each other.
 
 /// Connects, determines the kind of the server and whether it is supported, and stores the kind in the
 /// setting file of the server. First sets `*pdwHandleOut` to 0. Only the part of the address after the last

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int SEND_BUFFER_SIZE = 32768;
 constexpr int LARGEST_WRITE = SEND_BUFFER_SIZE - 1;
+constexpr DWORD UNLIMITED = 0xFFFFFFFF;
 
 // The events that put a descriptor in the three sets of select.
 constexpr short IN_READ_SET = POLLIN | POLLRDNORM | POLLRDBAND | POLLHUP | POLLERR;
@@ -234,7 +235,14 @@ int CSocket::ReadToCount(char* pBuf, int nCount)
     }
     int total = 0;
     while (total < nCount) {
-        const int ready = PollRead(m_dwNoCommTimeoutMilliSec);
+        // Bytes that have arrived are always delivered, and cost no look at the clock.
+        const DWORD left = m_nAhead > 0 ? UNLIMITED : ReadTimeLeft();
+        if (left == 0) {
+            CLogManager log;
+            log.LOG_WARN("CSocket::ReadToCount time limit");
+            return INTERNET_ERR_NO_COMM;
+        }
+        const int ready = PollRead(std::min(left, m_dwNoCommTimeoutMilliSec));
         if (ready < 0) {
             return ready;
         }
@@ -245,6 +253,16 @@ int CSocket::ReadToCount(char* pBuf, int nCount)
         total += count;
     }
     return total;
+}
+
+/// What is left of the limit of all reads, in milliseconds.
+DWORD CSocket::ReadTimeLeft() const
+{
+    if (m_dwReadLimit == 0) {
+        return UNLIMITED;
+    }
+    const DWORD passed = GetTickCount() - m_dwReadStart;
+    return passed < m_dwReadLimit ? m_dwReadLimit - passed : 0;
 }
 
 int CSocket::Write(const char* pData, int nSize)

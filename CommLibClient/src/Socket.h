@@ -22,7 +22,7 @@ public:
     virtual int Shutdown(int nHow) = 0;
     /// Reads once. Returns the count, which may be less than `nSize`.
     virtual int Read(char* pBuf, int nSize) = 0;
-    /// Reads `nCount` bytes. The silence limit applies to each wait, not to the whole.
+    /// Reads `nCount` bytes. The silence limit applies to each wait, not to the whole. See also LimitReads.
     virtual int ReadToCount(char* pBuf, int nCount) = 0;
     /// Writes once. Returns the count, which may be less than `nSize`.
     virtual int Write(const char* pData, int nSize) = 0;
@@ -40,8 +40,18 @@ public:
         m_bMoreFollows = bMore;
     }
 
+    /// The longest time for all ReadToCount from now on together; 0: no limit. Without it, a peer that sends
+    /// a byte before each end of the silence limit holds the caller as long as it likes.
+    void LimitReads(DWORD dwMilliSec)
+    {
+        m_dwReadLimit = dwMilliSec;
+        m_dwReadStart = GetTickCount();
+    }
+
 protected:
     bool m_bMoreFollows = false;
+    DWORD m_dwReadLimit = 0;
+    DWORD m_dwReadStart = 0;
 };
 
 /// A socket of the system, IPv4 only. Small reads are served from a buffer of the bytes that have arrived, so
@@ -91,6 +101,7 @@ protected:
 
 private:
     int Receive(char* pBuf, int nSize);
+    DWORD ReadTimeLeft() const;
     bool IsPeerSilent() const;
 
     std::array<char, 4096> m_ahead; ///< received and not yet read: `m_nAhead` bytes from `m_nAheadBegin` on

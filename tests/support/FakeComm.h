@@ -121,11 +121,11 @@ private:
     size_t m_read = 0;
 };
 
-/// A connection object that uses a fake transport, and owns it.
+/// A connection object that uses a transport of the test, and owns it.
 class FakeCon : public CInternetCon
 {
 public:
-    explicit FakeCon(FakeComm* comm)
+    explicit FakeCon(IInternetComm* comm)
     {
         m_pComm = comm;
     }
@@ -134,11 +134,11 @@ public:
     using CInternetCon::m_pComm;
 };
 
-/// An HTTP client that uses a fake transport, and owns it.
+/// An HTTP client that uses a transport of the test, and owns it.
 class FakeHttp : public CHttp
 {
 public:
-    explicit FakeHttp(FakeComm* comm)
+    explicit FakeHttp(IInternetComm* comm)
     {
         m_Con.*& FakeCon::m_pComm = comm;
     }

@@ -11,7 +11,7 @@
 /// Runs each operation on a short connection: open, query, close. Converts the replies into the values of the
 /// control service, so that callers need not distinguish the two. Caches nothing between calls. An operation
 /// blocks for the host name lookup, then at most 5 seconds for the connection, and then until the server
-/// replies or sends nothing for 2 minutes, for each request.
+/// replies, sends nothing for 2 minutes or takes 10 minutes for the reply, for each request.
 ///
 /// If the connection fails, `*pResultCode` becomes -1.
 class CNetworkPublisherMgr : public IPublisherMgr

@@ -24,6 +24,7 @@ CHttp::RecvHeader Start 1
 CHttp::RecvHeader Start 2
 CHttp::RecvLine Count = %u
 [CommLib(HTTP)] Network Timeout (No Comm)
+CSocket::ReadToCount time limit
 [CommLib(HTTP)] Network Timeout (recv)
 [CommLib(HTTP)] Network Timeout (send)
 [CommLib] ***Common Parameta Error***

@@ -75,6 +75,12 @@ DWORD GetLastError()
     return lastError;
 }
 
+/// The network client refers to it; with its source the linker would add another Sleep.
+DWORD GetTickCount()
+{
+    return 0;
+}
+
 void Sleep(DWORD dwMilliseconds) // house-rule: sleeps: this one only records the time
 {
     g_platform.sleeps.push_back(dwMilliseconds);
