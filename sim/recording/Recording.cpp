@@ -211,6 +211,7 @@ std::optional<Recording> Recording::parse(const std::string& text, std::string& 
         error = at(1, "not a udsim recording, or a recording of another version");
         return std::nullopt;
     }
+    uint64_t bytes = 0;
     for (size_t i = 1; i < lines.size(); ++i) {
         if (lines[i].empty() || lines[i].starts_with('#')) {
             continue;
@@ -218,6 +219,11 @@ std::optional<Recording> Recording::parse(const std::string& text, std::string& 
         Message message;
         if (const std::string mistake = parseLine(lines[i], message); !mistake.empty()) {
             error = at(i + 1, mistake);
+            return std::nullopt;
+        }
+        bytes += message.bytes.size();
+        if (bytes > MOST_BYTES) {
+            error = at(i + 1, "the messages have more than " + std::to_string(MOST_BYTES) + " bytes");
             return std::nullopt;
         }
         recording.messages.push_back(std::move(message));

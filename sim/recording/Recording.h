@@ -50,6 +50,8 @@ struct Message
 struct Recording
 {
     static constexpr uint64_t LARGEST_FILE = 1U << 30;
+    /// Maximum for the bytes of all messages together: a short text can represent many zero bytes.
+    static constexpr uint64_t MOST_BYTES = 256U << 20;
 
     enum class Of
     {

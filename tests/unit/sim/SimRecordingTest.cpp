@@ -78,6 +78,19 @@ TEST(SimRecording, Lines)
     EXPECT_EQ(Recording::firstLine(Recording::Of::server), "udsim-recording 1 server");
 }
 
+TEST(SimRecording, ASmallFileCannotFillTheMemory)
+{
+    const std::string line = "0.000 1 answer 67108864 \"\\0{67108864}\"\n"; // 64 MiB
+    std::string text = START;
+    for (int i = 0; i < 4; ++i) {
+        text += line;
+    }
+    std::string error;
+    EXPECT_TRUE(Recording::parse(text, error)) << error;
+    EXPECT_EQ(mistakeIn(text + "0.000 1 answer 1 \"x\"\n"),
+              "line 6: the messages have more than 268435456 bytes");
+}
+
 TEST(SimRecording, AFile)
 {
     std::ofstream("/tmp/a.udrec") << "udsim-recording 1 server\n"
