@@ -6,6 +6,7 @@
 #include "NetworkPublisherMgr.h"
 
 #include <cstring>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -77,6 +78,12 @@ struct NetworkOperation
                    : NetworkAnswer::UNTOUCHED;
     }
 };
+
+/// The name of a test's parameter.
+inline void PrintTo(const NetworkOperation& operation, std::ostream* out)
+{
+    *out << operation.name;
+}
 
 namespace network_operations {
 
