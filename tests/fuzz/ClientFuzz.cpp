@@ -2,8 +2,8 @@
 // the operation, the second how many requests are answered well before. In the third, bit 0 selects whether
 // the rest is the body of a good reply or everything that the server sends, and bit 1 whether it is also the
 // answer to the later requests.
-#include "NW_Com_Lib_internal.h"
 #include "NetworkOperations.h"
+#include "Operation.h"
 #include "PublisherFiles.h"
 #include "ScriptedNetwork.h"
 #include "SimulatedServer.h"
@@ -52,8 +52,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     assert(IsCode(answer.code));
     // A failed request is repeated once. A list of jobs may repeat the job to be cancelled.
     assert(requests > 0 && requests <= 2 * (OF_CONNECTION + operation.requests + MOST_JOBS));
-    assert(std::none_of(g_pvarrNCL.begin(), g_pvarrNCL.end(), [](const ST_NCL* object) {
-        return object != nullptr && (object->m_bFinishStartConnection != FALSE || object->m_refCount != 0);
-    })); // only the connections to servers in a secure mode stay
+    while (DestroyOldestUnclaimedNCL()) { // connections to servers in a secure mode stay open
+    }
+    assert(std::all_of(g_pvarrNCL.begin(), g_pvarrNCL.end(),
+                       [](const ST_NCL* object) { return object == nullptr; }));
     return 0;
 }
