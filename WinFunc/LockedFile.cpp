@@ -36,7 +36,10 @@ LockedFile::~LockedFile()
 off_t LockedFile::Size() const
 {
     struct stat info = {};
-    return fstat(m_fd, &info) == 0 && S_ISREG(info.st_mode) ? info.st_size : 0;
+    if (fstat(m_fd, &info) != 0) {
+        return -1;
+    }
+    return S_ISREG(info.st_mode) ? info.st_size : 0;
 }
 
 ssize_t LockedFile::Read(char* buffer, size_t size) const

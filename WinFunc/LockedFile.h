@@ -27,8 +27,8 @@ public:
     {
         return m_fd;
     }
-    /// Length in bytes, read under the lock. 0 for a file that is not regular: callers treat it as
-    /// empty.
+    /// Length in bytes, read under the lock. 0 for a file that is not regular: callers treat it as empty. -1,
+    /// with errno, on failure.
     off_t Size() const;
 
     /// Reads from the current position and retries after signals. Returns less than `size` only at the end of

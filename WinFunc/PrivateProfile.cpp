@@ -19,9 +19,9 @@ namespace {
 constexpr off_t KEPT_SIZE_MAX = 1 << 20;
 
 /// Calls `visit(section, key, value)` for each key in the next `left` bytes of the file until it returns
-/// true.
+/// true. False after a read error.
 template <class Visit>
-void ForEachKey(const LockedFile& file, off_t left, Visit visit)
+bool ForEachKey(const LockedFile& file, off_t left, Visit visit)
 {
     ProfileLines lines;
     std::array<char, 4096> buffer;
@@ -29,14 +29,16 @@ void ForEachKey(const LockedFile& file, off_t left, Visit visit)
         const size_t wanted = static_cast<size_t>(std::min<off_t>(left, off_t{sizeof buffer}));
         const ssize_t count = file.Read(buffer.data(), wanted);
         if (count <= 0) {
-            break;
+            lines.EndLine(visit);
+            return count == 0;
         }
         if (lines.Take({buffer.data(), static_cast<size_t>(count)}, visit)) {
-            return;
+            return true;
         }
         left -= count;
     }
     lines.EndLine(visit);
+    return true;
 }
 
 bool IsKey(std::string_view section, std::string_view key, std::string_view wantedSection,
@@ -104,6 +106,10 @@ std::shared_ptr<const ProfileText> ProfileText::Read(const char* path)
     }
     auto profile = std::make_shared<ProfileText>();
     const off_t size = file.Size();
+    if (size < 0) {
+        profile->m_isComplete = false;
+        return profile;
+    }
     if (size > KEPT_SIZE_MAX) {
         profile->m_largePath = path;
         return profile;
@@ -112,13 +118,14 @@ std::shared_ptr<const ProfileText> ProfileText::Read(const char* path)
     profile->m_text.reserve(static_cast<size_t>(size));
     profile->m_entries.reserve(std::min<size_t>(24, static_cast<size_t>(size)));
     Piece lastSection{0, 0};
-    ForEachKey(file, size, [&](std::string_view section, std::string_view key, std::string_view value) {
-        if (profile->m_entries.empty() || profile->At(lastSection) != section) {
-            lastSection = profile->Keep(section);
-        }
-        profile->m_entries.push_back({lastSection, profile->Keep(key), profile->Keep(value)});
-        return false;
-    });
+    profile->m_isComplete =
+        ForEachKey(file, size, [&](std::string_view section, std::string_view key, std::string_view value) {
+            if (profile->m_entries.empty() || profile->At(lastSection) != section) {
+                lastSection = profile->Keep(section);
+            }
+            profile->m_entries.push_back({lastSection, profile->Keep(key), profile->Keep(value)});
+            return false;
+        });
     return profile;
 }
 

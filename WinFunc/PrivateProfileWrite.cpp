@@ -96,6 +96,9 @@ std::optional<Splice> SetSection(const std::string& old, const std::string& sect
 std::optional<std::string> ReadWhole(const LockedFile& file)
 {
     const off_t size = file.Size();
+    if (size < 0) {
+        return std::nullopt;
+    }
     if (size > INT_MAX) {
         errno = EFBIG;
         return std::nullopt;

@@ -17,6 +17,11 @@ public:
     /// Null, with errno, if the file cannot be opened.
     static std::shared_ptr<const ProfileText> Read(const char* path);
 
+    /// False after a read error: the text then lacks keys of the file.
+    bool IsComplete() const
+    {
+        return m_isComplete;
+    }
     /// The first non-empty value of the key, cut to `maxLength` bytes; empty if there is none.
     std::string Value(LPCSTR section, LPCSTR key, size_t maxLength) const;
     /// Like GetPrivateProfileIntA.
@@ -41,5 +46,6 @@ private:
 
     std::string m_text;
     std::vector<Entry> m_entries;
+    bool m_isComplete = true;
     std::string m_largePath; // set if the file is too large to keep: each lookup reads the file
 };

@@ -119,12 +119,19 @@ void AppendSection(std::string& text, const std::string& key, const CRegistryVal
 
 } // namespace
 
-RegistryPieces::RegistryPieces(const LockedFile& file) : m_file(file), m_left(file.Size()) {}
+RegistryPieces::RegistryPieces(const LockedFile& file)
+    : m_file(file), m_left(file.Size()), m_hasFailed(m_left < 0)
+{
+}
 
 bool RegistryPieces::Fill()
 {
+    if (m_hasFailed) {
+        return false;
+    }
     const size_t wanted = static_cast<size_t>(std::min<off_t>(m_left, off_t{sizeof m_buffer}));
     const ssize_t count = m_file.Read(m_buffer.data(), wanted);
+    m_hasFailed = count < 0;
     m_position = 0;
     m_filled = count > 0 ? static_cast<size_t>(count) : 0;
     m_left -= static_cast<off_t>(m_filled);
@@ -179,13 +186,17 @@ bool RegReadIn(int flags)
 {
     const LockedFile file(REGISTRY_FILE, flags);
     if (!file.IsOpen()) {
-        return CreateEmptyFile();
+        // A file that exists is not taken for an empty one: writing the map would lose its contents.
+        return errno == ENOENT && CreateEmptyFile();
     }
     const std::optional<FileStamp> stamp = TakeStamp(file);
     if (!stamp || stamp != g_loadedFile) {
         RegistryPieces pieces(file);
         ReadPieces(pieces);
         g_loadedFile = pieces.Complete() ? stamp : std::nullopt;
+        if (pieces.HasFailed()) {
+            return flags == O_RDONLY; // writing the map would lose what could not be read
+        }
     }
     return true;
 }

@@ -21,12 +21,18 @@ public:
     {
         return m_left == 0;
     }
+    /// True after a read error. A file that shrank is no error.
+    bool HasFailed() const
+    {
+        return m_hasFailed;
+    }
 
 private:
     bool Fill();
 
     const LockedFile& m_file;
     off_t m_left;
+    bool m_hasFailed;
     size_t m_position = 0;
     size_t m_filled = 0;
     std::array<char, 16384> m_buffer;
