@@ -208,7 +208,7 @@ private:
         file.kind = NCL_NPTYPE_UNKNOWN;
         file.state.reset();
         const auto text = ProfileText::Read(file.path.c_str());
-        if (text == nullptr && IsTransient(errno)) {
+        if (text == nullptr ? IsTransient(errno) : !text->IsComplete()) {
             return file.address != before; // the next search reads it again
         }
         file.state = now;
