@@ -87,12 +87,13 @@ bool CBasicPublisherMgr::QueryRecords(LPCTSTR szPublisherRegistID, std::initiali
     }
     std::vector<void*> responses(commands.size());
     std::vector<ULONG> lengths(commands.size());
+    // Allocated before there are responses to free.
+    std::vector<std::unique_ptr<char[]>> payloads(commands.size());
     const int nResult = GetServiceResponse(commands.data(), static_cast<int>(commands.size()),
                                            responses.data(), lengths.data());
     if (pResultCode != nullptr) {
         *pResultCode = nResult;
     }
-    std::vector<std::unique_ptr<char[]>> payloads(commands.size());
     bool bComplete = nResult == 0;
     for (size_t i = 0; i < payloads.size(); ++i) {
         payloads[i].reset(static_cast<char*>(responses[i]));

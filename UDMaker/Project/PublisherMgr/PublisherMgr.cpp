@@ -9,12 +9,21 @@
 #include "SettingFile.h"
 #include "Win_def_log.h"
 
+#include <algorithm>
+#include <memory>
+#include <vector>
+
 CPublisherMgr::CPublisherMgr(bool) : m_strSettingFolder(PUBLISHER_SETTING_DIR)
 {
     constexpr bool bPublisherIDMode = true;
+    // Without memory for one of them, the destructor does not run: the others are owned here until all exist.
+    std::vector<std::unique_ptr<IPublisherMgr>> managers;
     for (const PublisherModel& model : PublisherModels()) {
-        m_arrPublisherMgr.Add(model.pCreate(bPublisherIDMode, m_strSettingFolder).release());
+        managers.push_back(model.pCreate(bPublisherIDMode, m_strSettingFolder));
     }
+    m_arrPublisherMgr.resize(managers.size());
+    std::transform(managers.begin(), managers.end(), m_arrPublisherMgr.begin(),
+                   [](std::unique_ptr<IPublisherMgr>& mgr) { return mgr.release(); });
 }
 
 CPublisherMgr::~CPublisherMgr()
