@@ -103,6 +103,8 @@ void CFerroJob::submit(MaintenanceJob job, const PUBLISHERINFO& info, const char
 void CFerroJob::sendToServer(MaintenanceJob job, const PUBLISHERINFO& info, const JobStamp& stamp,
                              const std::string& jobName)
 {
+    // Before the connection is opened: without memory for the text, there is nothing to close.
+    const std::string text = networkJobText(job, info, stamp, jobName);
     CPublisherMgr publisherMgr(true);
     DWORD connection = 0;
     if (!publisherMgr.StartConnection(info.strPublisherRegistID.c_str(), &connection, nullptr)) {
@@ -110,7 +112,7 @@ void CFerroJob::sendToServer(MaintenanceJob job, const PUBLISHERINFO& info, cons
     }
     const int fd = ::open(printDataPath(job), O_RDONLY | O_CLOEXEC);
     if (fd >= 0) {
-        sendWithData(connection, networkJobText(job, info, stamp, jobName), fd);
+        sendWithData(connection, text, fd);
         ::close(fd);
     }
     publisherMgr.EndConnection(connection);
