@@ -2,6 +2,7 @@
 #include "ChildProcess.h"
 #include "FileLocks.h"
 #include "OrdinaryRights.h"
+#include "SmallDisk.h"
 #include "StdoutCapture.h"
 #include "TextFiles.h"
 #include "TrustedLink.h"
@@ -298,6 +299,40 @@ TEST(PrivateProfileWrite, AShortWriteIsNotDetected)
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tiny), 0);
     EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "value", FILE_NAME));
     EXPECT_EQ(ReadText(FILE_NAME), "[Common]\nKey");
+}
+
+// A changed value is written over the old one, and a setting file ends within its first block.
+TEST(PrivateProfileWrite, AFullDiskDoesNotPreventAChangeWithinTheLastBlock)
+{
+    MountSmallDisk("/tmp/disk");
+    WriteText("/tmp/disk/a.ini", "[Common]\nKey=1\nOther=2\n");
+    FillDisk("/tmp/disk");
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "a longer value", "/tmp/disk/a.ini"));
+    EXPECT_EQ(ReadText("/tmp/disk/a.ini"), "[Common]\nKey=a longer value\nOther=2\n");
+    EXPECT_TRUE(WritePrivateProfileSectionA("Common", "Key=3\0Other=4\0New=5\0", "/tmp/disk/a.ini"));
+    EXPECT_EQ(Read("Common", "New", "/tmp/disk/a.ini"), "5");
+}
+
+TEST(PrivateProfileWrite, AFullDiskLeavesTheTextUnchangedAndANewFileEmpty)
+{
+    MountSmallDisk("/tmp/disk");
+    const std::string text = "[Common]\nKey=" + std::string(4096 - 14, 'x') + "\n";
+    ASSERT_EQ(text.size(), 4096U);
+    WriteText("/tmp/disk/a.ini", text);
+    FillDisk("/tmp/disk");
+    const std::string lines = Logged([] {
+        EXPECT_FALSE(WritePrivateProfileStringA("New", "Key", "v", "/tmp/disk/a.ini"));
+        EXPECT_FALSE(WritePrivateProfileStringA("New", "Key", "v", "/tmp/disk/b.ini"));
+        EXPECT_FALSE(WritePrivateProfileSectionA("New", "Key=v\0", "/tmp/disk/a.ini"));
+        EXPECT_FALSE(WritePrivateProfileSectionA("New", "Key=v\0", "/tmp/disk/c.ini"));
+    });
+    EXPECT_EQ(ReadText("/tmp/disk/a.ini"), text);
+    EXPECT_TRUE(std::filesystem::is_empty("/tmp/disk/b.ini"));
+    EXPECT_TRUE(std::filesystem::is_empty("/tmp/disk/c.ini"));
+    const std::string failed = "WritePrivateProfileStringA, write failed with errno=28\x1b";
+    const size_t first = lines.find(failed);
+    ASSERT_NE(first, std::string::npos) << lines;
+    EXPECT_NE(lines.find(failed, first + 1), std::string::npos) << lines;
 }
 
 TEST(PrivateProfileWrite, BelowTheWarningLevelNothingIsLogged)
