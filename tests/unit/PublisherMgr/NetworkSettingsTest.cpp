@@ -2,6 +2,7 @@
 #include "NetworkPublisherMgr.h"
 #include "OrdinaryRights.h"
 #include "PublisherFiles.h"
+#include "SmallDisk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -393,6 +394,16 @@ TEST_F(NetworkSettingsDeathTest, AFolderInPlaceOfTheFileStopsTheProcess)
     std::filesystem::create_directories(PublisherFile("R"));
     EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
     std::filesystem::remove(PublisherFile("R"));
+}
+
+// A new file stays behind, empty.
+TEST_F(NetworkSettingsDeathTest, AFullDiskStopsTheProcess)
+{
+    const std::filesystem::path file = PublisherFile("R");
+    MountSmallDisk(file.parent_path());
+    FillDisk(file.parent_path());
+    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
+    EXPECT_TRUE(std::filesystem::is_empty(file));
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
