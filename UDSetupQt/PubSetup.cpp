@@ -213,7 +213,8 @@ bool PubSetup::readForProperties(CPublisherMgr& publisherMgr, const CString& id,
     if (bGetPublisherInfo && !bGetServicePublishMode) {
         showWariningBeforeProperty(parent);
     }
-    return bGetPublisherInfo;
+    // The publisher may have been removed meanwhile. Its model would be unknown, which stops the program.
+    return bGetPublisherInfo && publisherMgr.IsExistSettingFile(id.c_str());
 }
 
 void PubSetup::showWariningBeforeProperty(QWidget* parent)

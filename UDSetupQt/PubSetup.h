@@ -36,7 +36,8 @@ public:
     void doWithProgress(std::function<void()> f);
     /// Reads the record for the property dialog behind a busy indicator. Asks `publisherMgr` for the publish
     /// mode of the device and shows a warning if it cannot be fetched, because the record then holds the
-    /// stored one. Returns false, without a message, if the publisher cannot be read.
+    /// stored one. Returns false, without a message, if the publisher cannot be read or has been removed
+    /// meanwhile.
     static bool readForProperties(CPublisherMgr& publisherMgr, const CString& id, QWidget* parent,
                                   PUBLISHERINFO& info, BOOL& bConnection);
     /// Warns that the publish mode about to be shown is the stored one. `parent` may be null.

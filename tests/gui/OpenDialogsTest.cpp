@@ -39,6 +39,8 @@ private slots:
     void savedNameWithoutRows();
     void currentRowKeepsItsTextWhenPublisherIsRemoved();
     void unreachableServerShowsStoredName();
+    void publisherRemovedBeforeTheDialogOpens_data();
+    void publisherRemovedBeforeTheDialogOpens();
     void publisherRemovedWhileDialogIsOpen();
     void pollingContinuesWhileDialogIsOpen();
     void commonSettingOpens();
@@ -396,6 +398,34 @@ void OpenDialogsTest::unreachableServerShowsStoredName()
     QVERIFY(dialog.seen());
     QVERIFY(boxes.allAnswered());
     QVERIFY(row("New name") && !row("N"));
+}
+
+void OpenDialogsTest::publisherRemovedBeforeTheDialogOpens_data()
+{
+    QTest::addColumn<bool>("network");
+    QTest::newRow("local") << false;
+    QTest::newRow("network") << true;
+}
+
+void OpenDialogsTest::publisherRemovedBeforeTheDialogOpens()
+{
+    QFETCH(bool, network);
+    if (network) {
+        Installation::addNetwork("b", "B", "127.0.0.99"); // nothing listens there
+    } else {
+        udsim::Fault fault;
+        fault.kind = udsim::Fault::Kind::result;
+        fault.number = 1001;
+        fault.control = 18;
+        (*m_service)->setFault(fault);
+    }
+    m_window->treePublisherList->setCurrentItem(row("B"));
+    Boxes boxes({QMessageBox::Ok}); // the publish mode is unknown
+    boxes.onBox = [](QMessageBox&) { Installation::remove("b"); };
+    WhenShown<propertyDialogEx> dialog([](propertyDialogEx& shown) { shown.reject(); });
+    m_window->showPropertyDialog();
+    QVERIFY(boxes.allAnswered());
+    QVERIFY(!dialog.seen());
 }
 
 void OpenDialogsTest::publisherRemovedWhileDialogIsOpen()
