@@ -42,11 +42,10 @@ bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& i
     return publisherMgr.GetPublisherInfo(id, &info, bConnection == 0);
 }
 
-StatusRow rowBeforeReply(CPublisherMgr& publisherMgr, const PUBLISHERINFO& info)
+StatusRow rowBeforeReply(const PUBLISHERINFO& info, const QString& model)
 {
-    const UINT devType = publisherMgr.GetPublisherDevType(info.strPublisherRegistID.c_str());
     return {.strPublisherRegistID = keyFromRegistID(info.strPublisherRegistID),
-            .strDevType = modelText(devType, info.uiNetPublisherType),
+            .strDevType = model,
             .strHostName = QString::fromStdString(info.strHostName),
             .strStatus = statusText(PublisherState::notConnected),
             .strHDDAvail = spaceText("")};
@@ -73,7 +72,8 @@ bool queryStatus(CPublisherMgr& publisherMgr, const CString& id, bool bSupportNe
     reply.state = decision.state;
 
     StatusRow& row = reply.row;
-    row = rowBeforeReply(publisherMgr, reply.info);
+    const UINT devType = publisherMgr.GetPublisherDevType(reply.info.strPublisherRegistID.c_str());
+    row = rowBeforeReply(reply.info, modelText(devType, reply.info.uiNetPublisherType));
     row.strPublisherRegistID = keyFromRegistID(id);
     row.strStatus = decision.status;
     if (decision.fetchWaiting) {

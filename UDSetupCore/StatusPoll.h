@@ -32,8 +32,8 @@ struct StatusRow
 bool readPublisher(CPublisherMgr& publisherMgr, const char* id, PUBLISHERINFO& info, BOOL& bConnection,
                    long& lResultCommLib);
 
-/// The row of a publisher before its first reply, from its stored record.
-StatusRow rowBeforeReply(CPublisherMgr& publisherMgr, const PUBLISHERINFO& info);
+/// The row of a publisher before its first reply, from its stored record and the text of its model.
+StatusRow rowBeforeReply(const PUBLISHERINFO& info, const QString& model);
 
 /// What a query found, beside the texts of the row.
 struct StatusReply

@@ -263,16 +263,12 @@ void PubSetup::fillContentIntoTreeItem(QTreeWidgetItem* item, const PUBLISHERINF
 {
     item->setIcon(0, info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK ? m_networkImage : m_localImage);
     item->setText(colName, QString::fromStdString(info.strPublisherName));
-    const StatusRow unknown = {.strPublisherRegistID = keyFromRegistID(info.strPublisherRegistID),
-                               .strDevType = getPublisherDevTypeStr(info, info.strPublisherRegistID),
-                               .strHostName = QString::fromStdString(info.strHostName),
-                               .strStatus = statusText(PublisherState::notConnected),
-                               .strHDDAvail = spaceText("")};
-    showStatus(item, unknown);
+    const StatusRow row = rowBeforeReply(info, getPublisherDevTypeStr(info, info.strPublisherRegistID));
+    showStatus(item, row);
     for (const int column : {colJobWaiting, colJobSending, colHDDAvail}) {
         item->setTextAlignment(column, numberAlignment);
     }
-    item->setData(0, Qt::UserRole, unknown.strPublisherRegistID);
+    item->setData(0, Qt::UserRole, row.strPublisherRegistID);
 }
 
 void PubSetup::updateMenu()

@@ -200,14 +200,13 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
             unreadable.push_back(QByteArray::fromStdString(id));
             continue;
         }
-        const StatusRow row = rowBeforeReply(publisherMgr, info);
         PublisherReport report;
         report.id = QByteArray::fromStdString(id);
         report.name = QString::fromStdString(info.strPublisherName);
         report.network = info.uiPublisherType == PUBMGR_CONNECTTYPE_NETWORK;
         report.devType = publisherMgr.GetPublisherDevType(id.c_str());
-        report.model = row.strDevType;
-        report.host = row.strHostName;
+        report.model = modelText(report.devType, info.uiNetPublisherType);
+        report.host = QString::fromStdString(info.strHostName);
         reports.push_back(std::move(report));
     }
     std::sort(reports.begin(), reports.end(), [](const PublisherReport& a, const PublisherReport& b) {
