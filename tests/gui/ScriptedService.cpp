@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr size_t requestSize = 408;
 constexpr size_t idOffset = 8;
 constexpr size_t idSize = 129;
 constexpr size_t jobSize = 1088;
@@ -59,20 +58,14 @@ int ScriptedService::count(const std::string& request)
     return m_counts[request];
 }
 
-void ScriptedService::serve(const std::stop_token& stop)
+void ScriptedService::serve(UnixPeer& peer, const std::string& request)
 {
-    while (!stop.stop_requested()) {
-        UnixPeer client = m_listener.Accept(20);
-        const std::string request = client.ReadExactly(requestSize);
-        if (request.size() == requestSize) {
-            uint64_t control = 0;
-            std::memcpy(&control, request.data(), sizeof control);
-            const std::string id(&request[idOffset], ::strnlen(&request[idOffset], idSize));
-            const std::lock_guard lock(m_mutex);
-            ++m_counts[std::to_string(control) + " " + id];
-            client.Write(reply(control, id));
-        }
-    }
+    uint64_t control = 0;
+    std::memcpy(&control, request.data(), sizeof control);
+    const std::string id(&request[idOffset], ::strnlen(&request[idOffset], idSize));
+    const std::lock_guard lock(m_mutex);
+    ++m_counts[std::to_string(control) + " " + id];
+    peer.Write(reply(control, id));
 }
 
 std::string ScriptedService::reply(uint64_t control, const std::string& id)

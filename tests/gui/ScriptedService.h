@@ -3,14 +3,12 @@
 // with an empty payload.
 #pragma once
 
-#include "InstallPaths.h"
-#include "UnixListener.h"
+#include "ScriptedControlService.h"
 
 #include <cstdint>
 #include <map>
 #include <mutex>
 #include <string>
-#include <thread>
 #include <vector>
 
 /// Throws std::runtime_error if it cannot listen on the service's socket.
@@ -35,13 +33,14 @@ private:
         uint64_t jobsResult = 0;
     };
 
-    void serve(const std::stop_token& stop);
+    void serve(UnixPeer& peer, const std::string& request);
     std::string reply(uint64_t control, const std::string& id);
 
-    UnixListener m_listener{SERVICE_SOCKET};
     std::mutex m_mutex;
     std::map<std::string, Publisher> m_publishers;
     std::map<uint64_t, std::string> m_payloads; ///< by control id
     std::map<std::string, int> m_counts;
-    std::jthread m_thread{[this](const std::stop_token& stop) { serve(stop); }}; ///< last: it uses the others
+    ScriptedControlService m_service{[this](UnixPeer& peer, const std::string& request) {
+        serve(peer, request);
+    }}; ///< last: it uses the others
 };
