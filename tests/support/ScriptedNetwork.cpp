@@ -1,32 +1,16 @@
 #include "ScriptedNetwork.h"
 
-#include "Internet.h"
+#include "FakeComm.h"
 #include "InternetResult.h"
+#include "Replay.h"
 
 #include <algorithm>
 #include <cassert>
-#include <string_view>
+#include <cstdint>
 
 namespace {
 
 ScriptedNetwork::Answer serverAnswer;
-
-/// The size of the first request in `bytes`, its body included; 0 if it is not complete.
-size_t SizeOfRequest(const std::string& bytes)
-{
-    constexpr std::string_view END = "\r\n\r\n";
-    constexpr std::string_view LENGTH = "\r\nContent-Length: ";
-    const size_t end = bytes.find(END);
-    if (end == std::string::npos) {
-        return 0;
-    }
-    size_t size = end + END.size();
-    const size_t place = bytes.find(LENGTH);
-    if (place < end) {
-        size += std::stoul(bytes.substr(place + LENGTH.size()));
-    }
-    return size <= bytes.size() ? size : 0;
-}
 
 class ScriptedComm : public IInternetComm
 {
@@ -68,7 +52,12 @@ public:
     int WriteToCount(const char* pData, int nCount) override
     {
         m_request.append(pData, static_cast<size_t>(nCount));
-        while (const size_t size = SizeOfRequest(m_request)) {
+        // 0 while the head is incomplete
+        while (const uint64_t size =
+                   udsim::sizeOfRequest(udsim::Recording::Of::server, m_request).value_or(0)) {
+            if (size > m_request.size()) {
+                break;
+            }
             m_reply.erase(0, m_read);
             m_read = 0;
             m_reply += serverAnswer(m_request.substr(0, size));
@@ -95,13 +84,6 @@ private:
     size_t m_read = 0;
 };
 
-/// Gives access to the transport of a connection.
-class ScriptedCon : public CInternetCon
-{
-public:
-    using CInternetCon::m_pComm;
-};
-
 } // namespace
 
 // The linker option --wrap redirects calls of CInternetCon::Open in other objects to this function.
@@ -111,7 +93,7 @@ int OpenScripted(CInternetCon* con, const char* address, WORD port,
 int OpenScripted(CInternetCon* con, const char*, WORD, BOOL)
 {
     assert(serverAnswer != nullptr);
-    con->*& ScriptedCon::m_pComm = new ScriptedComm; // the connection owns it
+    con->*& FakeCon::m_pComm = new ScriptedComm; // the connection owns it
     return 0;
 }
 
