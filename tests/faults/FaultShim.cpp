@@ -3,7 +3,7 @@
 //
 // It counts the calls of our own code: those that return to the main executable, into which all our libraries
 // are linked. An allocation also counts if it returns to the C++ library, because std::string and the
-// containers allocate there. Calls that start a thread, a process or a program count whoever makes them,
+// containers allocate there. Calls that start a thread, a process or a program count for any caller,
 // because our code starts all of them through Qt or the C++ library. The calls that Qt and the C library make
 // for themselves are not counted.
 //
@@ -401,7 +401,7 @@ void operator delete[](void* memory, size_t) noexcept
         return isHit(#name, __builtin_return_address(0)) ? (failed) : original arguments;                    \
     }
 
-#define FALLIBLE_BY_ANYBODY(type, failed, name, parameters, arguments)                                       \
+#define FALLIBLE_FROM_ANY(type, failed, name, parameters, arguments)                                         \
     WRAPPER(type, name, parameters)                                                                          \
     {                                                                                                        \
         static auto* const original = next<type parameters>(#name);                                          \
@@ -451,15 +451,15 @@ FALLIBLE(int, plan.how == How::none ? 0 : -1, ppoll,
          (entries, count, limit, mask))
 FALLIBLE(int, -1, inotify_init1, (int flags), (flags))
 FALLIBLE(int, -1, inotify_add_watch, (int fd, const char* path, uint32_t mask), (fd, path, mask))
-FALLIBLE_BY_ANYBODY(pid_t, -1, fork, (), ())
-FALLIBLE_BY_ANYBODY(int, -1, execve, (const char* path, char* const* arguments, char* const* environment),
-                    (path, arguments, environment))
-FALLIBLE_BY_ANYBODY(int, -1, execv, (const char* path, char* const* arguments), (path, arguments))
-FALLIBLE_BY_ANYBODY(int, -1, pipe2, (int* ends, int flags), (ends, flags))
-FALLIBLE_BY_ANYBODY(int, plan.error, pthread_create,
-                    (pthread_t * thread, const pthread_attr_t* attributes, void* (*function)(void*),
-                     void* argument),
-                    (thread, attributes, function, argument))
+FALLIBLE_FROM_ANY(pid_t, -1, fork, (), ())
+FALLIBLE_FROM_ANY(int, -1, execve, (const char* path, char* const* arguments, char* const* environment),
+                  (path, arguments, environment))
+FALLIBLE_FROM_ANY(int, -1, execv, (const char* path, char* const* arguments), (path, arguments))
+FALLIBLE_FROM_ANY(int, -1, pipe2, (int* ends, int flags), (ends, flags))
+FALLIBLE_FROM_ANY(int, plan.error, pthread_create,
+                  (pthread_t * thread, const pthread_attr_t* attributes, void* (*function)(void*),
+                   void* argument),
+                  (thread, attributes, function, argument))
 
 WRAPPER(ssize_t, read, (int fd, void* buffer, size_t size))
 {
