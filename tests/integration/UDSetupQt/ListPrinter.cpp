@@ -70,7 +70,7 @@ class ListPrinterPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "ListPrinter.json")
 
 public:
-    QObject* create(const QString& /*key*/, const QString& /*specification*/) override
+    QObject* create(const QString&, const QString&) override
     {
         return new ListPrinter(nullptr);
     }
