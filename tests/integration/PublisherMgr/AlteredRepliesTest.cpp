@@ -1,5 +1,5 @@
 // Every good reply of the control service and of a publisher server, cut off at every byte and with every bit
-// inverted: each operation ends with a defined result.
+// inverted: each operation ends with a defined result. With a sanitizer, one bit of every byte is inverted.
 #include "LibraryOperations.h"
 #include "NetworkExpectations.h"
 #include "Operation.h"
@@ -24,10 +24,15 @@ namespace {
 using Replies = std::map<std::string, std::string>; ///< by request
 
 constexpr size_t BITS = 8;
+#ifdef ULMAR_SANITIZED
+constexpr size_t FLIPS = 1; ///< of each byte, another bit from byte to byte: eight would take too long
+#else
+constexpr size_t FLIPS = BITS;
+#endif
 
 size_t NumberOfAlterations(const std::string& good)
 {
-    return good.size() * (BITS + 1);
+    return good.size() * (FLIPS + 1);
 }
 
 /// `good` with one alteration: first those that cut it off, then those that invert a bit.
@@ -36,8 +41,9 @@ std::string Altered(std::string good, size_t number)
     if (number < good.size()) {
         return good.substr(0, number);
     }
-    const size_t bit = number - good.size();
-    good[bit / BITS] = static_cast<char>(good[bit / BITS] ^ (1 << bit % BITS));
+    const size_t flip = number - good.size();
+    const size_t byte = flip / FLIPS;
+    good[byte] = static_cast<char>(good[byte] ^ (1 << (flip % FLIPS + byte) % BITS));
     return good;
 }
 
