@@ -54,10 +54,11 @@ std::optional<State> StateOf(const char* path)
     return State{stamp, stamp.IsSettled(now), info.st_nlink == 1};
 }
 
-/// Whether a later attempt to open the same file may succeed although the file has not changed.
-bool IsTransient(int error)
+/// Whether opening a file fails again until the file changes. Other errors may pass, for example those of a
+/// network file system or a lack of descriptors.
+bool LastsUntilAChange(int error)
 {
-    return error == EMFILE || error == ENFILE || error == ENOMEM || error == EINTR || error == EIO;
+    return error == EACCES || error == EPERM;
 }
 
 struct KnownFile
@@ -208,7 +209,7 @@ private:
         file.kind = NCL_NPTYPE_UNKNOWN;
         file.state.reset();
         const auto text = ProfileText::Read(file.path.c_str());
-        if (text == nullptr ? IsTransient(errno) : !text->IsComplete()) {
+        if (text == nullptr ? !LastsUntilAChange(errno) : !text->IsComplete()) {
             return file.address != before; // the next search reads it again
         }
         file.state = now;

@@ -19,3 +19,17 @@ TEST(ServerFilesFailure, AReadErrorIsNotRemembered)
         EXPECT_EQ(kind, 2U);
     }
 }
+
+TEST(ServerFilesFailure, OnlyALackOfPermissionIsRemembered)
+{
+    for (const int error : {ENOBUFS, ESTALE, ETIMEDOUT}) {
+        SCOPED_TRACE(error);
+        const std::string server = "server" + std::to_string(error);
+        WritePublisher("N", "[Common]\nPublisherURL=" + server + "\nNPType=2\n");
+        unsigned int kind = 99;
+        FailOne(FailingCall::OPEN, error);
+        ReadNPType(&kind, server.c_str()); // may find the server by a second attempt
+        EXPECT_TRUE(ReadNPType(&kind, server.c_str()));
+        EXPECT_EQ(kind, 2U);
+    }
+}
