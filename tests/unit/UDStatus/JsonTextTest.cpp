@@ -10,7 +10,7 @@
 
 namespace {
 
-const QDateTime time(QDate(2026, 1, 5), QTime(13, 45, 9), Qt::UTC);
+const QDateTime time = QDateTime::fromString("2026-01-05T13:45:09Z", Qt::ISODate);
 
 QJsonObject publisher(const PublisherReport& report)
 {

@@ -11,7 +11,7 @@ inline PublisherReport fullReport()
     report.name = "Studio A";
     report.devType = PUBMGR_PUBLISHERTYPE_300III_BD;
     report.model = "RT-300III";
-    report.asked = QDateTime(QDate(2026, 1, 5), QTime(13, 45, 7), Qt::UTC);
+    report.asked = QDateTime::fromString("2026-01-05T13:45:07Z", Qt::ISODate);
     report.answer = Answer::all;
     report.reachable = true;
     report.state = PublisherState::ready;
@@ -74,6 +74,6 @@ inline PublisherReport silentReport()
     report.devType = PUBMGR_PUBLISHERTYPE_NETWORK;
     report.model = "RT-300NII";
     report.host = "127.0.0.11";
-    report.asked = QDateTime(QDate(2026, 1, 5), QTime(13, 45, 8), Qt::UTC);
+    report.asked = QDateTime::fromString("2026-01-05T13:45:08Z", Qt::ISODate);
     return report;
 }
