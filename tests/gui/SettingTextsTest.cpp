@@ -2,29 +2,11 @@
 // language.
 #include "SettingTexts.h"
 
+#include "EntryTranslator.h"
 #include "Installation.h"
 #include "propertyDialog.h"
 
-#include <QTranslator>
 #include <QtTest>
-
-namespace {
-
-/// Shows which entry of the catalogue a text comes from.
-class EntryTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override
-    {
-        return false;
-    }
-    QString translate(const char* context, const char* source, const char*, int) const override
-    {
-        return QString::fromLatin1(context) + '|' + QString::fromLatin1(source);
-    }
-};
-
-} // namespace
 
 class SettingTextsTest : public QObject
 {

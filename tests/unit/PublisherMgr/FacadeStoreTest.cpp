@@ -1,5 +1,7 @@
 // The store of setting files: creation, listing, names and removal.
 #include "LogAgent.h"
+#include "OpenDescriptors.h"
+#include "OrdinaryRights.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
 #include "Win_def_log.h"
@@ -43,6 +45,14 @@ TEST(SettingFolder, IsThatOfTheInstallation)
     EXPECT_TRUE(mgr.IsExistSettingFolder());
 }
 
+TEST(SettingFolder, ExistsEvenIfItMayNotBeEntered)
+{
+    MakePublisherFolder();
+    fs::permissions(folder, fs::perms::owner_read);
+    ASSERT_TRUE(TakeAwayPrivileges());
+    EXPECT_TRUE(CPublisherMgr(true).IsExistSettingFolder());
+}
+
 TEST(CreatePublisherSettingFile, CreatesAnEmptyFileOnce)
 {
     MakePublisherFolder();
@@ -53,6 +63,16 @@ TEST(CreatePublisherSettingFile, CreatesAnEmptyFileOnce)
     WritePublisher("{ARPUB20260101_1}", "kept");
     EXPECT_EQ(mgr.CreatePublisherSettingFile("{ARPUB20260101_1}"), 1);
     EXPECT_EQ(ReadPublisher("{ARPUB20260101_1}"), "kept");
+}
+
+TEST(CreatePublisherSettingFile, LeavesNoDescriptorOpen)
+{
+    MakePublisherFolder();
+    CPublisherMgr mgr(true);
+    const size_t before = OpenDescriptors();
+    EXPECT_EQ(mgr.CreatePublisherSettingFile("R"), 0);
+    EXPECT_TRUE(mgr.IsExistRegistedPublisher("R", FALSE));
+    EXPECT_EQ(OpenDescriptors(), before);
 }
 
 TEST(CreatePublisherSettingFile, Failures)
@@ -95,6 +115,26 @@ TEST(AddPublisher, WritesTheRecordUnderItsOwnId)
     EXPECT_FALSE(mgr.AddPublisher("mine", info));
 }
 
+TEST(AddPublisher, FailsIfTheRecordCannotBeWritten)
+{
+    CPublisherMgr mgr(true); // there is no folder, so the file cannot be created
+    PUBLISHERINFO info;
+    info.strPublisherRegistID = "mine";
+    info.uiPublisherDevType = PUBMGR_PUBLISHERTYPE_30II;
+    EXPECT_FALSE(mgr.AddPublisher("mine", info));
+}
+
+TEST(FacadeUpdatePublisherInfo, FailsIfTheRecordCannotBeWritten)
+{
+    WriteLocalPublisher("R", "00000008");
+    CPublisherMgr mgr(true);
+    PUBLISHERINFO info;
+    ASSERT_TRUE(mgr.GetPublisherInfo("R", &info, FALSE));
+    fs::permissions(PublisherFile("R"), fs::perms::owner_read);
+    ASSERT_TRUE(TakeAwayPrivileges());
+    EXPECT_FALSE(mgr.UpdatePublisherInfo(info));
+}
+
 TEST(FacadeUpdatePublisherInfo, WritesThroughTheModel)
 {
     WriteLocalPublisher("R", "00000008");
@@ -118,6 +158,14 @@ TEST(DeletePublisher, RemovesOnlyTheFile)
     EXPECT_FALSE(fs::exists(PublisherFile("R")));
     EXPECT_TRUE(fs::exists(PublisherFile("S")));
     EXPECT_EQ(ReadText(REGISTRY_FILE), registry);
+}
+
+TEST(DeletePublisher, DoesNotReportAnEarlierError)
+{
+    WritePublisher("R", "[Common]\n");
+    CPublisherMgr mgr(true);
+    SetLastError(ERROR_ACCESS_DENIED);
+    EXPECT_TRUE(mgr.DeletePublisher("R"));
 }
 
 TEST(DeletePublisher, SucceedsForAnAbsentPublisher)
@@ -244,6 +292,17 @@ TEST(PublisherName, IsFoundCaseSensitively)
     EXPECT_TRUE(mgr.IsExistSameNamePublisher("NotSet"));
     EXPECT_FALSE(mgr.IsExistSameNamePublisher("LAB 1"));
     EXPECT_FALSE(mgr.IsExistSameNamePublisher("Lab"));
+}
+
+TEST(PublisherName, OfSeveralPublishersFindsTheFirst)
+{
+    for (const char* id : {"A", "B", "C", "D", "E", "F"}) {
+        WritePublisher(id, "[Common]\nPublisherName=Lab\n");
+    }
+    CPublisherMgr mgr(true);
+    CString id;
+    mgr.GetPublisherRegistIDFromName("Lab", &id);
+    EXPECT_EQ(id, Ids(mgr).front());
 }
 
 TEST(PublisherNameDeathTest, NullArgumentsStopTheProcess)

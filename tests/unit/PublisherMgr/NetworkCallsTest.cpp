@@ -452,6 +452,19 @@ TEST_F(NetworkCalls, FiguresOfDevicesWithBluRay)
     }
 }
 
+TEST_F(NetworkCalls, FiguresOfAnyDeviceMayFail)
+{
+    for (const DWORD kind : {NCL_NPTYPE_300N, NCL_NPTYPE_300NII, NCL_NPTYPE_300NII_BDXL}) {
+        for (const size_t request : {1U, 2U}) { // the figures, and the serial number
+            m_library.Reset();
+            m_library.kind = kind;
+            m_library.failAt = request;
+            PUBLISHERMAINTENANCEINFO info;
+            EXPECT_FALSE(m_mgr.GetPublisherMaintenanceInfo("R", &info, nullptr)) << kind << ' ' << request;
+        }
+    }
+}
+
 TEST_F(NetworkCalls, FiguresOfOtherDevices)
 {
     m_library.figures = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, -1};

@@ -23,6 +23,7 @@ TEST(NaturalOrder, OneNameSortsBeforeTheOther)
         {"A9", "A010"},
         {"A10", "A010"}, // the longest run of digits sorts last
         {"12", "007"},
+        {"0xz", "00"}, // the longer run sorts last although both have the value 0
         {"2", "10"},
         {"19", "20"},
         {"A1B", "A1C"},

@@ -33,6 +33,7 @@ const StatusCase statusTable[] = {
      "Not connected",
      false,
      false},
+    {"local, nor does an unsupported version", {local, false, 8001, false, 0}, "Not connected", false, false},
     {"network, no administrator",
      {network, false, 8010, false, 0},
      "Administrator not registered",

@@ -56,6 +56,7 @@ TEST(BdXl, DependsOnTheDriveClassOrTheServer)
         {8, 0, false},         {1, 0, false},         {1, 1, false},          {1, 2, false},
         {1, 3, true},          {1, 4, false},         {1, 0xFFFFFFFF, false}, {0, 0, false},
         {0x20000009, 3, true}, {8, 3, true},          {0, 3, true},           {0x30000009, 2, true},
+        {5, 0, false},         {5, 3, true},          {5, 2, false},
     };
     for (const auto& model : models) {
         SCOPED_TRACE(std::to_string(model.modelType) + ", " + std::to_string(model.netPublisherType));

@@ -1,10 +1,10 @@
 #include "LogAgent.h"
+#include "OpenDescriptors.h"
 #include "StdoutCapture.h"
 #include "WinFunc.h"
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 #include <regex>
 #include <string>
 #include <thread>
@@ -25,12 +25,6 @@ namespace {
 std::string AgentHead()
 {
     return "MESSAGE=RT300API[" + std::to_string(getpid()) + "]: ";
-}
-
-size_t OpenDescriptors()
-{
-    const std::filesystem::directory_iterator entries("/proc/self/fd");
-    return static_cast<size_t>(std::distance(begin(entries), end(entries)));
 }
 
 /// The name of a thread for which SetThreadName was not called.

@@ -1,4 +1,5 @@
 // The connection to the control service's socket by pipe name, with a scripted service.
+#include "OpenDescriptors.h"
 #include "StdoutCapture.h"
 #include "UnixListener.h"
 #include "WinFunc.h"
@@ -9,9 +10,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <thread>
@@ -66,12 +65,6 @@ std::string Read(HANDLE handle, DWORD size)
     EXPECT_EQ(ReadFile(handle, text.data(), size, &count, nullptr), TRUE);
     text.resize(count);
     return text;
-}
-
-size_t OpenDescriptors()
-{
-    const std::filesystem::directory_iterator entries("/proc/self/fd");
-    return static_cast<size_t>(std::distance(begin(entries), end(entries)));
 }
 
 auto IsWarning(const std::string& text)
