@@ -1,8 +1,10 @@
 // Path helpers.
+#include "OpenDescriptors.h"
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "Utility.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <string>
 #include <type_traits>
@@ -253,6 +255,21 @@ TEST_F(CheckFolderPathTest, AnExistingPathOfAnyKindIsAccepted)
         EXPECT_EQ(CUtility::CheckFolderPath(path, CUtility::ACCESS_READ_WRITE), 0);
     }
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/file", CUtility::ACCESS_READ), 3);
+}
+
+TEST_F(CheckFolderPathTest, AnEarlierErrnoDoesNotCount)
+{
+    errno = EACCES;
+    EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ_WRITE), 0);
+}
+
+TEST_F(CheckPathTest, LeavesNoDescriptorOpen)
+{
+    fs::create_directory("/tmp/folder/*");
+    const size_t before = OpenDescriptors();
+    EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ), 0);
+    EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ_WRITE), 0);
+    EXPECT_EQ(OpenDescriptors(), before);
 }
 
 TEST_F(CheckFolderPathTest, ExecuteAccessStopsTheProcess)
