@@ -323,6 +323,8 @@ TEST(PathAppendTest, DropsLeadingDotsAndInsertsOneSlash)
         {"..", "b", "../b"},         {".a", "b", ".a/b"},
         {"..a", "b", "..a/b"},       {"", "b", "/b"},
         {"/a", "", "/a/"},           {"", "", "/"},
+        {"a/b", "c", "a/b/c"},       {"a./b", "c", "a./b/c"},
+        {".a/b", "c", ".a/b/c"},
     };
     for (const Row& row : rows) {
         std::array<char, 64> buffer = {};
