@@ -36,12 +36,15 @@ if(ULMAR_SANITIZE)
     # Line tables are sufficient for the reports, and take a third less build time than full debug information.
     add_compile_options(-fsanitize=${ULMAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all -g1)
     add_link_options(-fsanitize=${ULMAR_SANITIZE})
-else()
-    # Not with sanitizers: their own checks do not work with fortified calls.
+elseif(NOT ULMAR_COVERAGE)
+    # Not with sanitizers: their own checks do not work with fortified calls. Not without optimization.
     add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
 endif()
 
 if(ULMAR_COVERAGE)
-    add_compile_options(--coverage)
-    add_link_options(--coverage)
+    # Without optimization, which would inline functions of the libraries and count their branches as ours. Threads that
+    # count at once would lose counts without atomic updates; gcov derives negative counts from such numbers.
+    add_compile_options(-O0 --coverage -fprofile-update=atomic)
+    add_link_options(--coverage LINKER:--undefined=__wrap__exit
+        LINKER:--wrap=_exit LINKER:--wrap=_Exit LINKER:--wrap=__assert_fail)
 endif()
