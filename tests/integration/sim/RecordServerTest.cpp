@@ -199,6 +199,16 @@ TEST(Replay, InvalidFiles)
     EXPECT_EQ(player.end().find("udsim: line 2: the recording is cut off here; this line is ignored\n"), 0U);
 }
 
+TEST(Record, OnlyARecordingOfAServerListensAtAnAddress)
+{
+    std::ofstream(FILE_NAME) << "udsim-recording 1 service\n";
+    const Ended ended = runProgram(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+    EXPECT_EQ(ended.output,
+              "udsim: \"--listen\" is only for recordings of a server; this is a recording of a "
+              "service\nTry \"udsim --help\".\n");
+    EXPECT_EQ(ended.status, 64);
+}
+
 TEST(Record, AnExistingFileIsKept)
 {
     std::ofstream(FILE_NAME) << "precious";

@@ -111,6 +111,8 @@ TEST(Base64DeathTest, InvalidCallsStopTheProcess)
     EXPECT_DEATH(base64.Encode(nullptr, 1), "pData != nullptr");
     EXPECT_DEATH(base64.Decode("Zg=="), "bEncode");
     EXPECT_DEATH(base64.Decode("Zg==", 4), "bEncode");
+    EXPECT_DEATH(base64.Decode(nullptr), "pszData != nullptr");
+    EXPECT_DEATH(base64.Decode(nullptr, 1), "pData != nullptr");
     char buffer[4];
     EXPECT_DEATH(CBase64::CodecBase("f", 1, buffer, 4, true), "nDstBufSize");
 }

@@ -105,6 +105,21 @@ TEST(DetailText, ShowsTheDrivesThatTheModelHas)
     }
 }
 
+TEST(DetailText, OnlyANetworkPublisherHasTheVersionsOfItsServer)
+{
+    PublisherReport report = fullReport();
+    report.versions->server = "3.1";
+    report.versions->administrator = "4.0.2";
+    const auto versionLines = [&report] {
+        return detailLines(report, {}).join("\n").section("Version Information", 1).section("  Job ", 0, 0);
+    };
+    EXPECT_FALSE(versionLines().contains("3.1")) << versionLines().toStdString();
+    report.network = true;
+    EXPECT_EQ(versionLines().simplified().toStdString(),
+              "Autoloader 02.14 Printer PRN 01.37 Drive 1 BDR 1.05 Drive 2 BDS 1.06 Server 3.1 "
+              "Ulmar Disc Net Administrator 4.0.2");
+}
+
 TEST(DetailText, NoJobsAreNamed)
 {
     PublisherReport report = fullReport();

@@ -100,6 +100,11 @@ TEST(MonitorText, MissingValuesMatterOnlyWithAThreshold)
     const MonitorResult result = monitorResult({report}, alerts("5:", "2:"), {});
     EXPECT_EQ(result.state, MonitorState::unknown);
     EXPECT_TRUE(result.line.startsWith("UNKNOWN - Studio A: ink unknown"));
+    PublisherReport noStackers = fullReport();
+    noStackers.stackers.reset();
+    EXPECT_EQ(monitorResult({noStackers}, {}, {}).state, MonitorState::ok);
+    EXPECT_TRUE(monitorResult({noStackers}, {}, alerts("90:", "10:"))
+                    .line.startsWith("UNKNOWN - Studio A: discs unknown"));
 }
 
 TEST(MonitorText, TheWorstStateDecides)

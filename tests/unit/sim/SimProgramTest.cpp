@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "HttpClient.h"
 #include "ProgramProcess.h"
 #include "RawClient.h"
 #include "World.h"
@@ -81,6 +82,7 @@ TEST(SimProgram, WrongArguments)
         {{"tell"}, "tell needs a publisher and a command, such as: udsim tell \"Studio A\" offline"},
         {{"tell", "A"}, "tell needs a publisher and a command, such as: udsim tell \"Studio A\" offline"},
         {{"tell", "--list", "A"}, "\"--list\" takes no publisher and no command"},
+        {{"tell", "--lst"}, "unknown option \"--lst\" (did you mean \"--list\"?)"},
         {{"tell", "A\tB", "online"}, "a publisher or command must not contain tabs or line breaks"},
         {{"tell", "A", "add-job X\nY"}, "a publisher or command must not contain tabs or line breaks"},
         {{"tel", "A", "offline"}, "\"tel\" is neither a scenario nor a command (did you mean \"tell\"?)"},
@@ -100,6 +102,7 @@ TEST(SimProgram, WrongArguments)
         {{"record", "--server", "h:0", "x"}, "\"h:0\" is not a valid HOST[:PORT]"},
         {{"record", "--server", "h", "--listen", ":80", "x"}, "\":80\" is not a valid ADDRESS[:PORT]"},
         {{"replay"}, "replay needs one recording"},
+        {{"replay", "--fast", "x"}, "unknown option \"--fast\""},
         {{"replay", "--listen", "a:b", "x"}, "\"a:b\" is not a valid ADDRESS[:PORT]"},
         {{"replay", "--listen=a:b", "x"}, "\"a:b\" is not a valid ADDRESS[:PORT]"},
     };
@@ -206,6 +209,17 @@ TEST(SimProgram, PrintsTheRecordsOfTheAgent)
               static_cast<ssize_t>(text.size()));
     ::close(fd);
     udsim.readUntil("log 4 RT300API[7]: word\n");
+    udsim.end();
+}
+
+TEST(SimProgram, PrintsTheRequestsToItsServers)
+{
+    putScenario("[network N]\nmodel = RT-300N\nhost = 127.0.0.11\n");
+    Udsim udsim({SCENARIO, "--requests"});
+    udsim.readUntil("udsim: ready\n");
+    HttpClient().ask("GET /webapp2/ServerModeGetter HTTP/1.1\r\nHost:localhost\r\n\r\n");
+    udsim.readUntil("asked 127.0.0.11 GET /webapp2/ServerModeGetter\n");
+    udsim.end();
 }
 
 TEST(SimProgram, ASecondInstanceIsRefused)

@@ -57,6 +57,21 @@ TEST(SimProgress, States)
     }
 }
 
+TEST(SimProgress, StatesThatTheServiceRequests)
+{
+    using Request = uint64_t (udsim::Publisher::*)(const std::string&);
+    const std::pair<Request, const char*> table[] = {{&udsim::Publisher::stopJob, "stopping"},
+                                                     {&udsim::Publisher::cancelJob, "cancelling"}};
+    for (const auto& [request, state] : table) {
+        udsim::World world(scenarioOf("[publisher A]\nmodel = RT-300III BD\ndisc-time = 10s\njob = X\n"));
+        world.advance(3000);
+        udsim::Publisher& machine = world.publishers().front();
+        EXPECT_EQ((machine.*request)(machine.jobs().front().id), 0U);
+        ASSERT_EQ(world.progress().size(), 1U);
+        EXPECT_EQ(world.progress().front().state, state);
+    }
+}
+
 TEST(SimProgress, OfANetworkPublisher)
 {
     udsim::World world(scenarioOf("[network N]\nmodel = RT-300N\ndisc-time = 10s\njob = X, copies=2\n"));
