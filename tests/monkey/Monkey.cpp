@@ -1,5 +1,7 @@
 // Drives the real window with random actions while forty publishers come and go, and checks the window after
 // each action. Prints the seed and the actions; the same seed repeats them.
+#include <QTest> // before the macro snprintf of Win_def.h, because the header of Qt 6.8 calls std::snprintf
+
 #include "Hands.h"
 #include "ManyPublishers.h"
 #include "MyRunnable.h"
@@ -11,7 +13,6 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QHeaderView>
-#include <QTest>
 #include <QTimer>
 
 #include <cstdio>
