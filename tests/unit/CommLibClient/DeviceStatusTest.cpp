@@ -15,7 +15,7 @@ namespace {
 constexpr size_t LARGEST_RECORD = 88;
 
 /// An operation that fills a record of any type in the memory of the caller.
-struct Operation
+struct StatusOperation
 {
     const char* name;
     int type;
@@ -25,13 +25,13 @@ struct Operation
 };
 
 template <typename Record>
-Operation Of(const char* name, int type, size_t itemSize, DWORD (*operation)(DWORD, Record*))
+StatusOperation Of(const char* name, int type, size_t itemSize, DWORD (*operation)(DWORD, Record*))
 {
     return {name, type, itemSize, sizeof(Record),
             [operation](DWORD handle, void* out) { return operation(handle, static_cast<Record*>(out)); }};
 }
 
-std::vector<Operation> AllOperations()
+std::vector<StatusOperation> AllOperations()
 {
     return {
         Of("GetALDStatus", 0, 16, GetALDStatus),
@@ -78,7 +78,7 @@ std::string Line(const char* format, const char* name)
 
 TEST(DeviceStatus, EachOperationRequestsItsTypeAndFillsItsRecord)
 {
-    for (const Operation& operation : AllOperations()) {
+    for (const StatusOperation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
         FakeServer server({GoodReply(std::string(operation.itemSize, '\0'))});
         SyslogLines lines;
@@ -96,7 +96,7 @@ TEST(DeviceStatus, EachOperationRequestsItsTypeAndFillsItsRecord)
 
 TEST(DeviceStatus, EachOperationAcceptsOnlyOneSize)
 {
-    for (const Operation& operation : AllOperations()) {
+    for (const StatusOperation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
         for (size_t size = 0; size <= 72; ++size) {
             if (size == operation.itemSize) {
@@ -116,7 +116,7 @@ TEST(DeviceStatus, EachOperationAcceptsOnlyOneSize)
 
 TEST(DeviceStatus, EachOperationRefusesBadParameters)
 {
-    for (const Operation& operation : AllOperations()) {
+    for (const StatusOperation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
         FakeServer server({GoodReply(std::string(operation.itemSize, '\0'))});
         SyslogLines lines;
@@ -136,7 +136,7 @@ TEST(DeviceStatus, EachOperationRefusesBadParameters)
 
 TEST(DeviceStatus, EachOperationReportsErrorsOfTheServer)
 {
-    for (const Operation& operation : AllOperations()) {
+    for (const StatusOperation& operation : AllOperations()) {
         SCOPED_TRACE(operation.name);
         FakeServer server({HttpResponse(ReplyItem("", 3)), HttpResponse("", "404 Not Found"),
                            HttpResponse(ReplyItem("") + ReplyItem(""))});

@@ -1,4 +1,4 @@
-#include "FakePublisher.h"
+#include "SubmittedJob.h"
 #include "SyslogLines.h"
 
 #include <thread>
@@ -14,26 +14,10 @@ using testing::IsEmpty;
 
 namespace {
 
-constexpr int ID = 1234;
-constexpr DWORD MIB10 = 10485760;
-const std::string OK = HttpResponse("");
-const std::string BAD = HttpResponse("", "500 Oh");
 const std::string FULL = HttpResponse("", "507 Full");
 const std::string HASH_BODY = "serverjobid=000004d2&filename=DiscImage_track.img&hashtype=SHA-1&hash=";
 const std::string ABC_HASH = "a9993e364706816aba3e25717850c26c9cd0d89d";
 const std::string AB_HASH = "da23614e02469a0d7c7bd1bdab5c9c474b1904dc";
-
-const BYTE* Bytes(const std::string& text)
-{
-    return reinterpret_cast<const BYTE*>(text.data());
-}
-
-void BeginJob(FakePublisher& publisher)
-{
-    publisher->m_nServerJobID = ID;
-    publisher->m_strUploadUserName = "000004d2";
-    publisher->m_strUploadPassword = "secret";
-}
 
 DWORD SendPiece(FakePublisher& publisher, const std::string& piece, ULONGLONG total,
                 const char* name = "track.img")

@@ -3,6 +3,9 @@
 
 #include "Servlets.h"
 
+/// The line of the log after a call with a wrong parameter.
+inline const std::string COMMON_LINE = "<3>[CommLib] ***Common Parameta Error***";
+
 /// A good reply of one item without data.
 inline std::string Done()
 {

@@ -7,15 +7,15 @@
 
 namespace {
 
-struct Row
+struct ConstantRow
 {
     DWORD name;
     DWORD value;
 };
 
-void ExpectAll(const std::vector<Row>& rows)
+void ExpectAll(const std::vector<ConstantRow>& rows)
 {
-    for (const Row& row : rows) {
+    for (const ConstantRow& row : rows) {
         EXPECT_EQ(row.name, row.value);
     }
 }

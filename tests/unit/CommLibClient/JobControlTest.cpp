@@ -11,8 +11,7 @@ using testing::IsEmpty;
 
 namespace {
 
-const std::string COMMON_LINE = "<3>[CommLib] ***Common Parameta Error***";
-const std::string FORM = "application/x-www-form-urlencoded";
+const std::string FORM_TYPE = "application/x-www-form-urlencoded";
 
 struct Action
 {
@@ -22,7 +21,7 @@ struct Action
 
 using Control = DWORD (*)(DWORD handle, int id);
 
-struct Operation
+struct ControlOperation
 {
     const char* name;
     Control run;
@@ -30,14 +29,14 @@ struct Operation
     const char* trace; ///< the last line of the log after a bad reply
 };
 
-const Operation submitting[] = {
+const ControlOperation submitting[] = {
     {"CommitJob", [](DWORD handle, int id) { return CommitJob(handle, id); }, "0",
      "<3>\t## trace ## CommitJob ControlJob() Server Job ID"},
     {"CancelJob", [](DWORD handle, int id) { return CancelJob(handle, id); }, "1",
      "<3>\t## trace ## CancelJob ControlJob(1234) Server Job ID"},
 };
 
-const Operation monitor[] = {
+const ControlOperation monitor[] = {
     {"CancelJobForMonitor", [](DWORD handle, int id) { return CancelJobForMonitor(handle, id, "u", "p"); },
      "1", "<3>\t## trace ## CancelJobForMonitor ControlJobForMonitor() Server Job ID"},
     {"StopJobForMonitor", [](DWORD handle, int id) { return StopJobForMonitor(handle, id, "u", "p"); }, "2",
@@ -129,7 +128,7 @@ TEST(JobControl, TheReplyHasOneItem)
 
 TEST(JobControl, CommitAndCancelEndTheSubmission)
 {
-    for (const Operation& operation : submitting) {
+    for (const ControlOperation& operation : submitting) {
         SyslogLines log;
         FakePublisher publisher({Done()});
         publisher->m_nServerJobID = 1234;
@@ -143,7 +142,7 @@ TEST(JobControl, CommitAndCancelEndTheSubmission)
 
 TEST(JobControl, AFailureDoesNotEndTheSubmission)
 {
-    for (const Operation& operation : submitting) {
+    for (const ControlOperation& operation : submitting) {
         SyslogLines log;
         FakePublisher publisher({HttpResponse(ReplyItem("", 7))});
         publisher->m_nServerJobID = 1234;
@@ -156,7 +155,7 @@ TEST(JobControl, AFailureDoesNotEndTheSubmission)
 
 TEST(JobControl, AMonitorDoesNotEndTheSubmission)
 {
-    for (const Operation& operation : monitor) {
+    for (const ControlOperation& operation : monitor) {
         SyslogLines log;
         FakePublisher publisher({Done()});
         publisher->m_nServerJobID = 1234;
@@ -173,7 +172,7 @@ TEST(JobControl, AMonitorDoesNotEndTheSubmission)
 
 TEST(JobControl, AMonitorLogsAFailureTwice)
 {
-    for (const Operation& operation : monitor) {
+    for (const ControlOperation& operation : monitor) {
         SyslogLines log;
         FakePublisher publisher({HttpResponse(ReplyItem("", 7))});
         EXPECT_EQ(operation.run(publisher.Handle(), 1234), NCL_ERR_SERVER_JOB_ID);
@@ -200,8 +199,8 @@ TEST(JobControl, AMonitorRequiresUserAndPassword)
 TEST(JobControl, AnInvalidHandleHasNoHost)
 {
     for (const auto& operations :
-         {std::span<const Operation>(submitting), std::span<const Operation>(monitor)}) {
-        for (const Operation& operation : operations) {
+         {std::span<const ControlOperation>(submitting), std::span<const ControlOperation>(monitor)}) {
+        for (const ControlOperation& operation : operations) {
             SyslogLines log;
             EXPECT_EQ(operation.run(0, 1234), NCL_ERR_PARAMETER);
             EXPECT_THAT(
@@ -213,7 +212,7 @@ TEST(JobControl, AnInvalidHandleHasNoHost)
 
 TEST(JobControl, OnlyTheCallerTracesAFailedExchange)
 {
-    for (const Operation& operation : submitting) {
+    for (const ControlOperation& operation : submitting) {
         SyslogLines log;
         FakePublisher publisher({HttpResponse("", "401 Unauthorized")});
         EXPECT_EQ(operation.run(publisher.Handle(), 1234), NCL_ERR_SERVER_JOB_ID);
@@ -228,10 +227,10 @@ TEST(JobControl, AClosingConnectionRefusesOperations)
 {
     FakePublisher publisher;
     publisher->m_bEndConnection = TRUE;
-    for (const Operation& operation : submitting) {
+    for (const ControlOperation& operation : submitting) {
         EXPECT_EQ(operation.run(publisher.Handle(), 1), NCL_ERR_PARAMETER);
     }
-    for (const Operation& operation : monitor) {
+    for (const ControlOperation& operation : monitor) {
         EXPECT_EQ(operation.run(publisher.Handle(), 1), NCL_ERR_PARAMETER);
     }
     publisher->m_bEndConnection = FALSE;
@@ -264,7 +263,7 @@ TEST(JobBridge, SendsTheIdUnchanged)
     const std::vector<FakeRequest> requests = publisher.Requests();
     ASSERT_EQ(requests.size(), 2U);
     EXPECT_EQ(requests[0].Line(), "POST /webapp2/JobControllerExt");
-    EXPECT_EQ(requests[0].Header("Content-Type"), FORM);
+    EXPECT_EQ(requests[0].Header("Content-Type"), FORM_TYPE);
     EXPECT_EQ(requests[0].Header("Authorization"), "(none)");
     EXPECT_EQ(requests[0].body, "action=0&jobid=J 17&x");
     EXPECT_EQ(requests[1].Line(), "POST /webapp2/JobControllerExt");

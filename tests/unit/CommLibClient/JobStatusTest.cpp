@@ -12,8 +12,6 @@ using testing::IsEmpty;
 
 namespace {
 
-const std::string COMMON_LINE = "<3>[CommLib] ***Common Parameta Error***";
-
 std::string ListOf(const std::vector<JobRecord>& records)
 {
     std::string body;

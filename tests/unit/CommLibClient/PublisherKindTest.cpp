@@ -16,22 +16,22 @@ std::string Settings(const std::string& host, const std::string& rest = "")
     return "[Common]\nPublisherURL=" + host + "\n" + rest;
 }
 
-struct Kind
+struct KindReading
 {
     bool isFound;
     unsigned int kind;
 };
 
-Kind Read(const char* address)
+KindReading Read(const char* address)
 {
-    Kind result = {false, 99};
+    KindReading result = {false, 99};
     result.isFound = ReadNPType(&result.kind, address);
     return result;
 }
 
 void ExpectKind(const char* address, bool isFound, unsigned int kind)
 {
-    const Kind found = Read(address);
+    const KindReading found = Read(address);
     EXPECT_EQ(found.isFound, isFound) << address;
     EXPECT_EQ(found.kind, kind) << address;
 }

@@ -10,7 +10,7 @@ using testing::IsEmpty;
 
 namespace {
 
-constexpr char HEAD[] = "POST /path HTTP/1.1\r\nHost:localhost\r\n";
+constexpr char POST_HEAD[] = "POST /path HTTP/1.1\r\nHost:localhost\r\n";
 constexpr char FORM[] = "Content-Type:application/x-www-form-urlencoded\r\n";
 
 DWORD Post(FakeServer& server, DWORD option, CommType type = COMM_TYPE_HTTP, const char* header = nullptr)
@@ -48,15 +48,15 @@ TEST(SendRequest, WritesTheHeadersOfItsOptionsInOrder)
         std::string sent;
     };
     const Row rows[] = {
-        {0, nullptr, "", HEAD + length},
-        {0, nullptr, "S=1", HEAD + length},
-        {0, "A: b\r\n", "S=1", std::string(HEAD) + "A: b\r\n" + length},
-        {1, nullptr, "S=1", std::string(HEAD) + FORM + length},
-        {1, "A: b\r\n", "", std::string(HEAD) + "A: b\r\n" + FORM + length},
-        {2, nullptr, "", HEAD + length}, // as in this system: nothing sets the session
-        {2, nullptr, "S=1", std::string(HEAD) + "Cookie:S=1\r\n" + length},
-        {3, nullptr, "", std::string(HEAD) + FORM + length},
-        {3, "A: b\r\n", "S=1", std::string(HEAD) + "A: b\r\n" + FORM + "Cookie:S=1\r\n" + length},
+        {0, nullptr, "", POST_HEAD + length},
+        {0, nullptr, "S=1", POST_HEAD + length},
+        {0, "A: b\r\n", "S=1", std::string(POST_HEAD) + "A: b\r\n" + length},
+        {1, nullptr, "S=1", std::string(POST_HEAD) + FORM + length},
+        {1, "A: b\r\n", "", std::string(POST_HEAD) + "A: b\r\n" + FORM + length},
+        {2, nullptr, "", POST_HEAD + length}, // as in this system: nothing sets the session
+        {2, nullptr, "S=1", std::string(POST_HEAD) + "Cookie:S=1\r\n" + length},
+        {3, nullptr, "", std::string(POST_HEAD) + FORM + length},
+        {3, "A: b\r\n", "S=1", std::string(POST_HEAD) + "A: b\r\n" + FORM + "Cookie:S=1\r\n" + length},
     };
     for (const Row& row : rows) {
         FakeServer server({HttpResponse("")});
@@ -109,7 +109,7 @@ TEST(SendRequest, UsesTheSecureConnectionIfRequestedAndAvailable)
     server.Object().m_pHttpSecure = new FakeHttp(secured); // EndConnection destroys both
     EXPECT_EQ(Post(server, 0, COMM_TYPE_HTTPS), 0U);
     EXPECT_THAT(secured->writes,
-                ElementsAre(std::string(HEAD) + "Content-Length: 4\r\n\r\n", std::string("body")));
+                ElementsAre(std::string(POST_HEAD) + "Content-Length: 4\r\n\r\n", std::string("body")));
     EXPECT_EQ(server.Sent(), "");
 }
 

@@ -1,5 +1,5 @@
-#include "FakePublisher.h"
 #include "StdoutCapture.h"
+#include "SubmittedJob.h"
 #include "SyslogLines.h"
 
 #include <gmock/gmock.h>
@@ -9,13 +9,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-constexpr DWORD MIB10 = 10485760;
-
-const BYTE* Bytes(const std::string& text)
-{
-    return reinterpret_cast<const BYTE*>(text.data());
-}
 
 /// Bytes in which each piece differs from its neighbours.
 std::string Content(size_t size)
@@ -34,7 +27,7 @@ DWORD Upload(FakePublisher& publisher, const std::string& data, ULONGLONG offset
                       static_cast<DWORD>(data.size()), offset, total, cancel);
 }
 
-struct Ranges
+struct ExpectedRanges
 {
     size_t size;
     std::vector<std::string> ranges;
@@ -140,7 +133,7 @@ TEST(UploadFile, ARequestContainsItsRange)
 
 TEST(UploadFile, IsSentInPiecesOf10MiB)
 {
-    const Ranges rows[] = {
+    const ExpectedRanges rows[] = {
         {0, {}},
         {1, {"bytes 0-0/1"}},
         {MIB10 - 1, {"bytes 0-10485758/10485759"}},
@@ -150,7 +143,7 @@ TEST(UploadFile, IsSentInPiecesOf10MiB)
          {"bytes 0-10485759/20971527", "bytes 10485760-20971519/20971527",
           "bytes 20971520-20971526/20971527"}},
     };
-    for (const Ranges& row : rows) {
+    for (const ExpectedRanges& row : rows) {
         FakePublisher publisher(std::vector<std::string>(row.ranges.size(), HttpResponse("")));
         const std::string data = Content(row.size);
         EXPECT_EQ(Upload(publisher, data, 0, 0), NCL_SUCCESS) << row.size;
