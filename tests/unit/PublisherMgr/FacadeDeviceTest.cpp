@@ -1,5 +1,6 @@
 // The devices and the options in the registry.
 #include "LogAgent.h"
+#include "ManagerLog.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
 #include "Win_def_log.h"
@@ -8,18 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
 const std::string product = "HKLM/Software/ARVEN/Ulmar Disc Maker";
-
-std::string LogLine(int priority, const std::string& text)
-{
-    return "MESSAGE=RT300API[" + std::to_string(getpid()) + "]: " + text +
-           "\nPRIORITY=" + std::to_string(priority) + "\n";
-}
 
 bool HasDevice(const std::string& guid)
 {

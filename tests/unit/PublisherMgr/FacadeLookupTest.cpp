@@ -1,5 +1,6 @@
 // The implementation that serves a publisher.
 #include "LogAgent.h"
+#include "ManagerLog.h"
 #include "Models.h"
 #include "NetworkPublisherMgr.h"
 #include "PublisherFiles.h"
@@ -13,16 +14,9 @@
 #include <string>
 #include <typeindex>
 #include <typeinfo>
-#include <unistd.h>
 #include <vector>
 
 namespace {
-
-std::string LogLine(int priority, const std::string& text)
-{
-    return "MESSAGE=RT300API[" + std::to_string(getpid()) + "]: " + text +
-           "\nPRIORITY=" + std::to_string(priority) + "\n";
-}
 
 /// A number in the format of the registry file.
 std::string Hex8(UINT value)

@@ -1,5 +1,6 @@
 // The store of setting files: creation, listing, names and removal.
 #include "LogAgent.h"
+#include "ManagerLog.h"
 #include "OpenDescriptors.h"
 #include "OrdinaryRights.h"
 #include "PublisherFiles.h"
@@ -11,20 +12,13 @@
 
 #include <filesystem>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
 
-const std::string folder = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
-
-std::string LogLine(int priority, const std::string& text)
-{
-    return "MESSAGE=RT300API[" + std::to_string(getpid()) + "]: " + text +
-           "\nPRIORITY=" + std::to_string(priority) + "\n";
-}
+const std::string publisherFolder = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
 
 std::vector<std::string> Ids(CPublisherMgr& mgr)
 {
@@ -37,10 +31,10 @@ std::vector<std::string> Ids(CPublisherMgr& mgr)
 TEST(SettingFolder, IsThatOfTheInstallation)
 {
     CPublisherMgr mgr(true);
-    EXPECT_EQ(mgr.GetSettingFolderePath(), folder);
+    EXPECT_EQ(mgr.GetSettingFolderePath(), publisherFolder);
     EXPECT_FALSE(mgr.IsExistSettingFolder());
     EXPECT_TRUE(mgr.CreateSettingFolder());
-    EXPECT_FALSE(fs::exists(folder));
+    EXPECT_FALSE(fs::exists(publisherFolder));
     MakePublisherFolder();
     EXPECT_TRUE(mgr.IsExistSettingFolder());
 }
@@ -48,7 +42,7 @@ TEST(SettingFolder, IsThatOfTheInstallation)
 TEST(SettingFolder, ExistsEvenIfItMayNotBeEntered)
 {
     MakePublisherFolder();
-    fs::permissions(folder, fs::perms::owner_read);
+    fs::permissions(publisherFolder, fs::perms::owner_read);
     ASSERT_TRUE(TakeAwayPrivileges());
     EXPECT_TRUE(CPublisherMgr(true).IsExistSettingFolder());
 }
@@ -58,7 +52,7 @@ TEST(CreatePublisherSettingFile, CreatesAnEmptyFileOnce)
     MakePublisherFolder();
     CPublisherMgr mgr(true);
     EXPECT_EQ(mgr.CreatePublisherSettingFile("{ARPUB20260101_1}"), 0);
-    EXPECT_TRUE(fs::is_regular_file(folder + "/{ARPUB20260101_1}.ini"));
+    EXPECT_TRUE(fs::is_regular_file(publisherFolder + "/{ARPUB20260101_1}.ini"));
     EXPECT_EQ(ReadPublisher("{ARPUB20260101_1}"), "");
     WritePublisher("{ARPUB20260101_1}", "kept");
     EXPECT_EQ(mgr.CreatePublisherSettingFile("{ARPUB20260101_1}"), 1);
@@ -203,7 +197,7 @@ TEST(EnumRegistedPublisher, AppendsAndCountsOnlyThisCall)
 {
     WritePublisher("A", "");
     WritePublisher("B", "");
-    WriteText(folder + "/notes.txt", "");
+    WriteText(publisherFolder + "/notes.txt", "");
     CPublisherMgr mgr(true);
     CStringArray ids;
     ids.Add("old");
@@ -220,7 +214,7 @@ TEST(EnumRegistedPublisher, TheIdEndsAtTheFirstExtension)
     const std::string bytes = "\xff\xfe\x80 \n\t";
     for (const std::string& name : {std::string("a.ini.bak"), std::string(".ini"), std::string("b.initial"),
                                     std::string("c.INI"), longest, bytes + ".ini", std::string("ini")}) {
-        WriteText(folder + "/" + name, "");
+        WriteText(publisherFolder + "/" + name, "");
     }
     CPublisherMgr mgr(true);
     EXPECT_THAT(Ids(mgr), testing::UnorderedElementsAre("a", "", "b", std::string(251, 'x'), bytes));
@@ -232,7 +226,7 @@ TEST(EnumRegistedPublisher, EveryOperationSurvivesOddFileNames)
     for (const std::string& name :
          {std::string("a.ini.bak"), std::string(".ini"), std::string(251, 'x') + ".ini",
           std::string("\xff%s%n\n[x].ini"), std::string("..ini")}) {
-        WriteText(folder + "/" + name,
+        WriteText(publisherFolder + "/" + name,
                   "[Common]\nPublisherName=" + std::string(3000, '%') + "\nGUID=..\\..\n");
     }
     WritePublisher("good", "[Common]\nPublisherName=Good\n");
@@ -265,7 +259,7 @@ TEST(EnumRegistedPublisher, IsTracedAtTheHighestLevel)
     mgr.EnumRegistedPublisher(&ids);
     EXPECT_EQ(agent.TakeAll(), std::vector{LogLine(7, "CPublisherMgr::EnumRegistedPublisher, "
                                                       "opendir(\"" +
-                                                          folder + "\")")});
+                                                          publisherFolder + "\")")});
 }
 
 TEST(PublisherName, ComesFromTheFile)

@@ -1,5 +1,6 @@
 // The settings of local publishers: reading and writing the setting file.
 #include "LogAgent.h"
+#include "ManagerLog.h"
 #include "Models.h"
 #include "OrdinaryRights.h"
 #include "PublisherFiles.h"
@@ -11,17 +12,10 @@
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <unistd.h>
 
 namespace {
 
 using testing::HasSubstr;
-
-std::string LogLine(int priority, const std::string& text)
-{
-    return "MESSAGE=RT300API[" + std::to_string(getpid()) + "]: " + text +
-           "\nPRIORITY=" + std::to_string(priority) + "\n";
-}
 
 const std::string missing = "\"/opt/arven/Ulmar Disc Maker/conf/RegPublisher/R.ini\" is not found";
 
@@ -335,7 +329,7 @@ TEST(WriteSpeedsDeathTest, ANullIdStopsTheProcess)
 // ---------------------------------------------------------------------------------------------------------------------
 // Writing the record
 
-PUBLISHERINFO Record()
+PUBLISHERINFO LocalRecord()
 {
     PUBLISHERINFO info;
     info.strGUID = "{G}";
@@ -370,7 +364,7 @@ const std::string driveless = "[Common]\n"
 TEST(UpdatePublisherInfo, WritesTheWholeSectionInOrder)
 {
     MakePublisherFolder();
-    EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(Record()));
+    EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(LocalRecord()));
     EXPECT_EQ(ReadPublisher("R"), driveless + "UseDrive=2\n"
                                               "RetryTimes=150000\n"
                                               "RetryTimesW=5\n"
@@ -384,14 +378,14 @@ TEST(UpdatePublisherInfo, EveryModelWithDrivesHasTheDriveKeys)
     for (const UINT type : {0u, 3u, 4u, 6u, 8u, 0x10000005u, 0x10000007u, 0x20000007u, 0x10000009u,
                             0x20000009u, 0x30000008u, 0x30000009u}) {
         MakePublisherFolder();
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = LocalRecord();
         info.uiPublisherDevType = type;
         EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
         EXPECT_THAT(ReadPublisher("R"), HasSubstr("\nUseDrive=2\nRetryTimes=")) << type;
         std::filesystem::remove(PublisherFile("R"));
     }
     for (const UINT type : {1u, 2u, 5u, 7u, 9u, 0xFFFFFFFFu}) {
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = LocalRecord();
         info.uiPublisherDevType = type;
         EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
         EXPECT_EQ(ReadPublisher("R"), driveless) << type;
@@ -402,7 +396,7 @@ TEST(UpdatePublisherInfo, EveryModelWithDrivesHasTheDriveKeys)
 TEST(UpdatePublisherInfo, TheModelWithoutDrivesLosesTheDriveKeys)
 {
     WritePublisher("R", fullFile);
-    PUBLISHERINFO info = Record();
+    PUBLISHERINFO info = LocalRecord();
     info.uiPublisherDevType = PUBMGR_PUBLISHERTYPE_AP;
     EXPECT_TRUE(Make<CAPPublisherMgr>()->UpdatePublisherInfo(info));
     PUBLISHERINFO back;
@@ -427,7 +421,7 @@ TEST(UpdatePublisherInfo, TheEffectiveRetryCountFollowsTheMode)
     };
     MakePublisherFolder();
     for (const auto& row : rows) {
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = LocalRecord();
         info.uiPublishMode = row.mode;
         info.bContinuePublish = row.goOn;
         EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
@@ -454,13 +448,13 @@ TEST(UpdatePublisherInfo, AFailureIsLogged)
 {
     LogAgent agent; // there is no folder, so the file cannot be created
     SetLogLevel(2);
-    EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(Record()));
+    EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(LocalRecord()));
     EXPECT_EQ(agent.TakeAll(),
               std::vector{LogLine(4, "CBasicPublisherMgr::UpdatePublisherInfo, WritePrivateProfileSection "
                                      "failed, \"/opt/arven/Ulmar Disc Maker/conf/RegPublisher/R.ini\"")});
 
     SetLogLevel(1);
-    EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(Record()));
+    EXPECT_FALSE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(LocalRecord()));
     EXPECT_TRUE(agent.TakeAll().empty());
 }
 
@@ -470,7 +464,7 @@ TEST(UpdatePublisherInfo, ANameCannotForgeKeys)
          {std::string("Lab\nPublishMode=99\n[Common]"), std::string("Lab\r\nPublishMode=99"),
           std::string("Lab\0PublishMode=99", 18)}) {
         MakePublisherFolder();
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = LocalRecord();
         info.strPublisherName = name;
         info.strPrinterName = "\n[Other]";
         EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
@@ -488,7 +482,7 @@ TEST(UpdatePublisherInfo, ANameWithABracketKeepsTheOtherKeys)
 {
     MakePublisherFolder();
     for (const char* name : {"Lab [2]", "[Common]", "Lab [2", "]["}) {
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = LocalRecord();
         info.strPublisherName = name;
         for (UINT mode : {0u, 1u, 2u}) {
             info.uiPublishMode = mode;
@@ -507,7 +501,7 @@ TEST(UpdatePublisherInfo, NamesOfAnyLengthDoNotChangeOtherFiles)
 {
     WritePublisher("other", fullFile);
     for (const size_t length : {255u, 256u, 1000u, 1023u, 1024u, 5000u, 100000u}) {
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = LocalRecord();
         info.strPublisherName = std::string(length, 'n');
         info.strGUID = std::string(length, 'g');
         EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
@@ -523,7 +517,7 @@ TEST(UpdatePublisherInfo, NamesOfAnyLengthDoNotChangeOtherFiles)
 TEST(UpdatePublisherInfo, AnIdOfAnyLengthWritesOneFileOrNone)
 {
     MakePublisherFolder();
-    PUBLISHERINFO info = Record();
+    PUBLISHERINFO info = LocalRecord();
     info.strPublisherRegistID = std::string(251, 'i');
     EXPECT_TRUE(Make<CBasicPublisherMgr>()->UpdatePublisherInfo(info));
     EXPECT_NE(ReadPublisher(std::string(251, 'i')), "");

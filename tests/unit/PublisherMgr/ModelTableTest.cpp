@@ -23,9 +23,9 @@ constexpr bool no = false;
 const Numbers oneDrive = {0, 2, 6};
 const Numbers twoDrives = {0, 1, 2, 6};
 
-const Numbers dvd = {1, 6, 7};
-const Numbers bd = {1, 6, 7, 8, 9};
-const Numbers bdxl = {1, 6, 7, 8, 9, 10, 11};
+const Numbers dvdDiscs = {1, 6, 7};
+const Numbers bdDiscs = {1, 6, 7, 8, 9};
+const Numbers bdxlDiscs = {1, 6, 7, 8, 9, 10, 11};
 
 struct Capabilities
 {
@@ -39,20 +39,20 @@ struct Capabilities
 
 /// In the order of the table.
 const Capabilities capabilities[] = {
-    {typeid(CBasicPublisherMgr), 0, {0, 1, 2}, dvd, yes, yes},
+    {typeid(CBasicPublisherMgr), 0, {0, 1, 2}, dvdDiscs, yes, yes},
     {typeid(CNetworkPublisherMgr), 1, {}, {}, yes, yes},
-    {typeid(CAPPublisherMgr), 2, twoDrives, dvd, yes, yes},
-    {typeid(CSDPublisherMgr), 3, {0, 2}, dvd, no, no},
-    {typeid(C30BDPublisherMgr), 4, oneDrive, bd, no, no},
-    {typeid(C300MODPublisherMgr), 0x10000005, twoDrives, dvd, yes, yes},
-    {typeid(C30BDAPublisherMgr), 6, {0, 2, 5, 6}, bd, no, no},
-    {typeid(C300IIDVDPublisherMgr), 0x10000007, twoDrives, dvd, yes, yes},
-    {typeid(C300IIBDPublisherMgr), 0x20000007, twoDrives, bd, yes, yes},
-    {typeid(C30IIPublisherMgr), 8, oneDrive, bd, no, no},
-    {typeid(C300IIIDVDPublisherMgr), 0x10000009, twoDrives, dvd, yes, yes},
-    {typeid(C300IIIBDPublisherMgr), 0x20000009, twoDrives, bd, yes, yes},
-    {typeid(C300IIIBDXLPublisherMgr), 0x30000009, twoDrives, bdxl, yes, yes},
-    {typeid(C30IIBDXLPublisherMgr), 0x30000008, oneDrive, bdxl, no, no},
+    {typeid(CAPPublisherMgr), 2, twoDrives, dvdDiscs, yes, yes},
+    {typeid(CSDPublisherMgr), 3, {0, 2}, dvdDiscs, no, no},
+    {typeid(C30BDPublisherMgr), 4, oneDrive, bdDiscs, no, no},
+    {typeid(C300MODPublisherMgr), 0x10000005, twoDrives, dvdDiscs, yes, yes},
+    {typeid(C30BDAPublisherMgr), 6, {0, 2, 5, 6}, bdDiscs, no, no},
+    {typeid(C300IIDVDPublisherMgr), 0x10000007, twoDrives, dvdDiscs, yes, yes},
+    {typeid(C300IIBDPublisherMgr), 0x20000007, twoDrives, bdDiscs, yes, yes},
+    {typeid(C30IIPublisherMgr), 8, oneDrive, bdDiscs, no, no},
+    {typeid(C300IIIDVDPublisherMgr), 0x10000009, twoDrives, dvdDiscs, yes, yes},
+    {typeid(C300IIIBDPublisherMgr), 0x20000009, twoDrives, bdDiscs, yes, yes},
+    {typeid(C300IIIBDXLPublisherMgr), 0x30000009, twoDrives, bdxlDiscs, yes, yes},
+    {typeid(C30IIBDXLPublisherMgr), 0x30000008, oneDrive, bdxlDiscs, no, no},
 };
 
 struct Identity

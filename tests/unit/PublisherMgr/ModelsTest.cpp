@@ -1,5 +1,6 @@
 // The capabilities of each model.
 #include "Models.h"
+#include "StackerDiscs.h"
 
 #include <gtest/gtest.h>
 
@@ -129,10 +130,6 @@ Stackers Fit(CBasicPublisherMgr& mgr, UINT mode, const Stackers& before, bool& c
             info.uiStacker4DiscType};
 }
 
-constexpr UINT out = PUBMGR_STACKERDISCTYPE_OUTPUT;
-constexpr UINT in = PUBMGR_STACKERDISCTYPE_INPUT;
-constexpr UINT none = PUBMGR_STACKERDISCTYPE_NOTUSE;
-constexpr UINT cd = PUBMGR_STACKERDISCTYPE_CDR;
 constexpr UINT dvdr = PUBMGR_STACKERDISCTYPE_DVDR;
 constexpr UINT bdr = PUBMGR_STACKERDISCTYPE_BDR;
 

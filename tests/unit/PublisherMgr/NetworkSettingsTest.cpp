@@ -54,7 +54,7 @@ mode_t ModeOf(const std::string& path)
     return entry.st_mode & 07777;
 }
 
-PUBLISHERINFO Record()
+PUBLISHERINFO NetworkRecord()
 {
     PUBLISHERINFO info;
     info.strGUID = "{G}";
@@ -266,7 +266,7 @@ TEST_F(NetworkSettings, ThereIsNoDeviceKey)
 TEST_F(NetworkSettings, ANewFileIsCompleteAndReadableByAll)
 {
     MakePublisherFolder();
-    EXPECT_TRUE(m_mgr.UpdatePublisherInfo(Record()));
+    EXPECT_TRUE(m_mgr.UpdatePublisherInfo(NetworkRecord()));
     EXPECT_EQ(ReadPublisher("R"), WRITTEN);
     EXPECT_EQ(ModeOf(PublisherFile("R")), 0644U);
 }
@@ -276,7 +276,7 @@ TEST_F(NetworkSettings, AnExistingFileGetsMode0644)
     for (const mode_t mode : {0755U, 0600U, 0666U, 0444U, 04755U}) {
         WritePublisher("R", "[Common]\n");
         ASSERT_EQ(::chmod(PublisherFile("R").c_str(), mode), 0);
-        EXPECT_TRUE(m_mgr.UpdatePublisherInfo(Record()));
+        EXPECT_TRUE(m_mgr.UpdatePublisherInfo(NetworkRecord()));
         EXPECT_EQ(ModeOf(PublisherFile("R")), 0644U);
         EXPECT_EQ(ReadPublisher("R"), WRITTEN);
         std::filesystem::remove(PublisherFile("R"));
@@ -286,7 +286,7 @@ TEST_F(NetworkSettings, AnExistingFileGetsMode0644)
 TEST_F(NetworkSettings, TheWholeSectionIsReplacedIncludingTheKindOfTheServer)
 {
     WritePublisher("R", "[Common]\nNPType=2\nPublisherName=Old\n");
-    EXPECT_TRUE(m_mgr.UpdatePublisherInfo(Record()));
+    EXPECT_TRUE(m_mgr.UpdatePublisherInfo(NetworkRecord()));
     EXPECT_EQ(ReadPublisher("R"), WRITTEN);
     PUBLISHERINFO info;
     ASSERT_TRUE(m_mgr.GetPublisherInfo("R", &info, TRUE));
@@ -296,7 +296,7 @@ TEST_F(NetworkSettings, TheWholeSectionIsReplacedIncludingTheKindOfTheServer)
 TEST_F(NetworkSettings, OtherSectionsStay)
 {
     WritePublisher("R", "[First]\na=1\n[Common]\nGUID={G}\nStacker1=2\n[Last]\nb=2\n");
-    EXPECT_TRUE(m_mgr.UpdatePublisherInfo(Record()));
+    EXPECT_TRUE(m_mgr.UpdatePublisherInfo(NetworkRecord()));
     EXPECT_EQ(ReadPublisher("R"), "[First]\na=1\n" + WRITTEN + "[Last]\nb=2\n");
 }
 
@@ -315,7 +315,7 @@ TEST_F(NetworkSettings, TheConnectionTypeIsThatOfTheRecord)
 {
     for (const UINT kind : {0U, 1U, 2U, 12345U}) {
         MakePublisherFolder();
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = NetworkRecord();
         info.uiPublisherType = kind;
         EXPECT_TRUE(m_mgr.UpdatePublisherInfo(info));
         EXPECT_THAT(ReadPublisher("R"),
@@ -327,7 +327,7 @@ TEST_F(NetworkSettings, TheConnectionTypeIsThatOfTheRecord)
 TEST_F(NetworkSettings, AWrittenRecordCanBeReadAgain)
 {
     MakePublisherFolder();
-    PUBLISHERINFO written = Record();
+    PUBLISHERINFO written = NetworkRecord();
     written.strHostName = "\\\\host";
     ASSERT_TRUE(m_mgr.UpdatePublisherInfo(written));
     PUBLISHERINFO info;
@@ -343,7 +343,7 @@ TEST_F(NetworkSettings, NamesOfAnyLengthDoNotChangeOtherFiles)
 {
     WritePublisher("other", FILE_TEXT);
     for (const size_t length : {255U, 256U, 1023U, 1024U, 5000U, 100'000U}) {
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = NetworkRecord();
         info.strPublisherName = std::string(length, 'n');
         EXPECT_TRUE(m_mgr.UpdatePublisherInfo(info));
         EXPECT_THAT(ReadPublisher("R"),
@@ -362,7 +362,7 @@ TEST_F(NetworkSettings, TextsCannotForgeKeys)
     for (const std::string& end :
          {std::string("\n"), std::string("\r\n"), std::string("\r"), std::string(1, '\0')}) {
         MakePublisherFolder();
-        PUBLISHERINFO info = Record();
+        PUBLISHERINFO info = NetworkRecord();
         info.strPublisherName = "Lab 1" + end + "PublisherURL=elsewhere";
         info.strHostName = "127.0.0.11" + end + "[Other]";
         EXPECT_TRUE(m_mgr.UpdatePublisherInfo(info));
@@ -377,7 +377,7 @@ TEST_F(NetworkSettings, AFileWithoutWritePermissionIsAFailure)
         WritePublisher("R", FILE_TEXT);
         ASSERT_EQ(::chmod(PublisherFile("R").c_str(), mode), 0);
         ASSERT_TRUE(TakeAwayPrivileges());
-        EXPECT_FALSE(m_mgr.UpdatePublisherInfo(Record()));
+        EXPECT_FALSE(m_mgr.UpdatePublisherInfo(NetworkRecord()));
         EXPECT_EQ(ModeOf(PublisherFile("R")), mode);
         ASSERT_EQ(::chmod(PublisherFile("R").c_str(), 0644), 0);
         EXPECT_EQ(ReadPublisher("R"), FILE_TEXT);
@@ -386,13 +386,13 @@ TEST_F(NetworkSettings, AFileWithoutWritePermissionIsAFailure)
 
 TEST_F(NetworkSettingsDeathTest, AMissingFolderStopsTheProcess)
 {
-    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
+    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(NetworkRecord()), "Assertion");
 }
 
 TEST_F(NetworkSettingsDeathTest, AFolderInPlaceOfTheFileStopsTheProcess)
 {
     std::filesystem::create_directories(PublisherFile("R"));
-    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
+    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(NetworkRecord()), "Assertion");
     std::filesystem::remove(PublisherFile("R"));
 }
 
@@ -402,7 +402,7 @@ TEST_F(NetworkSettingsDeathTest, AFullDiskStopsTheProcess)
     const std::filesystem::path file = PublisherFile("R");
     MountSmallDisk(file.parent_path());
     FillDisk(file.parent_path());
-    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(Record()), "Assertion");
+    EXPECT_DEATH(m_mgr.UpdatePublisherInfo(NetworkRecord()), "Assertion");
     EXPECT_TRUE(std::filesystem::is_empty(file));
 }
 
@@ -462,7 +462,7 @@ TEST_F(NetworkSettings, WithoutAnAddressConnectionsFail)
 TEST_F(NetworkSettings, UnsupportedOperationsDoNothing)
 {
     WritePublisher("R", FILE_TEXT);
-    PUBLISHERINFO info = Record();
+    PUBLISHERINFO info = NetworkRecord();
     bool setDefault = true;
     long code = 77;
     ULONG values[4] = {1, 2, 3, 4};

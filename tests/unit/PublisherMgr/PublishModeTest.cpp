@@ -1,17 +1,13 @@
 // Changes of the publish mode and their effects.
 #include "Models.h"
 #include "PublisherFiles.h"
+#include "StackerDiscs.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 namespace {
-
-constexpr UINT out = PUBMGR_STACKERDISCTYPE_OUTPUT;
-constexpr UINT in = PUBMGR_STACKERDISCTYPE_INPUT;
-constexpr UINT none = PUBMGR_STACKERDISCTYPE_NOTUSE;
-constexpr UINT cd = PUBMGR_STACKERDISCTYPE_CDR;
 
 /// A publisher in normal mode whose settings already fit the mode.
 PUBLISHERINFO Stored()

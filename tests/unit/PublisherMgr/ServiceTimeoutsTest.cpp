@@ -2,6 +2,7 @@
 #include "BasicPublisherMgr.h"
 #include "InstallPaths.h"
 #include "LogAgent.h"
+#include "ManagerLog.h"
 #include "ScriptedPlatform.h"
 #include "Win_def_log.h"
 
@@ -9,18 +10,12 @@
 
 #include <cstring>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
 constexpr DWORD pending = 997;
 constexpr DWORD busy = 231;
-
-std::string LogLine(const std::string& text)
-{
-    return "MESSAGE=RT300API[" + std::to_string(getpid()) + "]: " + text + "\nPRIORITY=4\n";
-}
 
 std::string Header(unsigned long id, unsigned long result, unsigned long length)
 {
@@ -81,8 +76,8 @@ TEST_F(ServiceTimeouts, AMissingServiceFailsAtTheFirstAttempt)
     EXPECT_EQ(g_platform.opens, 1);
     EXPECT_TRUE(g_platform.sleeps.empty());
     EXPECT_EQ(agent.TakeAll(),
-              (std::vector{LogLine("CBasicPublisherMgr::OpenServicePipe, failed to connect pipe"),
-                           LogLine("CBasicPublisherMgr::GetServiceResponse, failed to open pipe")}));
+              (std::vector{LogLine(4, "CBasicPublisherMgr::OpenServicePipe, failed to connect pipe"),
+                           LogLine(4, "CBasicPublisherMgr::GetServiceResponse, failed to open pipe")}));
 }
 
 TEST_F(ServiceTimeouts, ABusyPipeIsTried41Times)
@@ -94,7 +89,7 @@ TEST_F(ServiceTimeouts, ABusyPipeIsTried41Times)
     const std::vector<std::string> lines = agent.TakeAll(); // limited by the queue of the agent
     EXPECT_GT(lines.size(), 1u);
     for (const std::string& line : lines) {
-        EXPECT_EQ(line, LogLine("CBasicPublisherMgr::OpenServicePipe, failed to connect pipe"));
+        EXPECT_EQ(line, LogLine(4, "CBasicPublisherMgr::OpenServicePipe, failed to connect pipe"));
     }
     EXPECT_EQ(response, nullptr);
     EXPECT_EQ(length, 0u);
@@ -116,10 +111,10 @@ TEST_F(ServiceTimeouts, AnotherErrorEndsTheRetries)
     EXPECT_EQ(Run(), -1);
     EXPECT_EQ(g_platform.opens, 3);
     EXPECT_EQ(g_platform.sleeps.size(), 2u);
-    const std::string failed = LogLine("CBasicPublisherMgr::OpenServicePipe, failed to connect pipe");
+    const std::string failed = LogLine(4, "CBasicPublisherMgr::OpenServicePipe, failed to connect pipe");
     EXPECT_EQ(agent.TakeAll(),
               (std::vector{failed, failed, failed,
-                           LogLine("CBasicPublisherMgr::GetServiceResponse, failed to open pipe")}));
+                           LogLine(4, "CBasicPublisherMgr::GetServiceResponse, failed to open pipe")}));
 }
 
 TEST_F(ServiceTimeouts, BelowLevel2NothingIsLogged)
@@ -154,7 +149,7 @@ TEST_F(ServiceTimeouts, AFailedWriteReturnsNoCommunication)
     EXPECT_TRUE(g_platform.waits.empty());
     EXPECT_EQ(g_platform.closes, 1);
     EXPECT_FALSE(mgr.IsRunningCommunicateService());
-    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 1")});
+    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine(4, "CBasicPublisherMgr::WriteServiceCommand, 1")});
 }
 
 TEST_F(ServiceTimeouts, AWriteThatStaysPendingTimesOut)
@@ -164,7 +159,7 @@ TEST_F(ServiceTimeouts, AWriteThatStaysPendingTimesOut)
     EXPECT_EQ(g_platform.waits, std::vector<DWORD>{1000});
     EXPECT_EQ(g_platform.overlappedResults, 1);
     EXPECT_EQ(g_platform.closes, 1);
-    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 2")});
+    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine(4, "CBasicPublisherMgr::WriteServiceCommand, 2")});
 }
 
 TEST_F(ServiceTimeouts, AShortWriteReturnsNoCommunication)
@@ -172,7 +167,7 @@ TEST_F(ServiceTimeouts, AShortWriteReturnsNoCommunication)
     g_platform.write = {TRUE, "", 407, 0};
     EXPECT_EQ(Run(), -1);
     EXPECT_EQ(g_platform.closes, 1);
-    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 3")});
+    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine(4, "CBasicPublisherMgr::WriteServiceCommand, 3")});
 }
 
 TEST_F(ServiceTimeouts, APendingWriteThatEndsShortReturnsNoCommunication)
@@ -181,7 +176,7 @@ TEST_F(ServiceTimeouts, APendingWriteThatEndsShortReturnsNoCommunication)
     g_platform.overlappedResult = TRUE;
     g_platform.overlappedCount = 100;
     EXPECT_EQ(Run(), -1);
-    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine("CBasicPublisherMgr::WriteServiceCommand, 3")});
+    EXPECT_EQ(agent.TakeAll(), std::vector{LogLine(4, "CBasicPublisherMgr::WriteServiceCommand, 3")});
 }
 
 TEST_F(ServiceTimeouts, APendingWriteThatCompletesContinues)
