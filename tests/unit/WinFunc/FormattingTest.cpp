@@ -40,7 +40,7 @@ int CallVscprintf(const char* format, ...)
     return length;
 }
 
-constexpr char text[] = "a text of 24 bytes, #042";
+constexpr char formatted[] = "a text of 24 bytes, #042";
 
 } // namespace
 
@@ -48,33 +48,33 @@ TEST(Formatting, UnboundedFunctionsIgnoreTheSize)
 {
     char buffer[64];
     EXPECT_EQ(snprintf(buffer, 4, "a text of %d bytes, #%03d", 24, 42), 24);
-    EXPECT_STREQ(buffer, text);
+    EXPECT_STREQ(buffer, formatted);
     buffer[0] = '\0';
     EXPECT_EQ(snprintf(buffer, 0, "a text of %d bytes, #%03d", 24, 42), 24);
-    EXPECT_STREQ(buffer, text);
+    EXPECT_STREQ(buffer, formatted);
     buffer[0] = '\0';
     EXPECT_EQ(swprintf_s(buffer, 4, "a text of %d bytes, #%03d", 24, 42), 24);
-    EXPECT_STREQ(buffer, text);
+    EXPECT_STREQ(buffer, formatted);
     buffer[0] = '\0';
     EXPECT_EQ(CallVsprintf(buffer, 4, "a text of %d bytes, #%03d", 24, 42), 24);
-    EXPECT_STREQ(buffer, text);
+    EXPECT_STREQ(buffer, formatted);
     buffer[0] = '\0';
     EXPECT_EQ(wsprintf(buffer, "a text of %d bytes, #%03d", 24, 42), 24);
-    EXPECT_STREQ(buffer, text);
+    EXPECT_STREQ(buffer, formatted);
 }
 
 TEST(Formatting, VsnprintfIsBoundedByTheCountOnly)
 {
     char buffer[64];
-    EXPECT_EQ(CallVsnprintf(buffer, 4, 8, "%s", text), 24);
+    EXPECT_EQ(CallVsnprintf(buffer, 4, 8, "%s", formatted), 24);
     EXPECT_STREQ(buffer, "a text ");
-    EXPECT_EQ(CallVsnprintf(buffer, 4, 64, "%s", text), 24);
-    EXPECT_STREQ(buffer, text);
+    EXPECT_EQ(CallVsnprintf(buffer, 4, 64, "%s", formatted), 24);
+    EXPECT_STREQ(buffer, formatted);
 }
 
 TEST(Formatting, VscprintfReturnsTheLength)
 {
-    EXPECT_EQ(CallVscprintf("%s", text), 24);
+    EXPECT_EQ(CallVscprintf("%s", formatted), 24);
     EXPECT_EQ(CallVscprintf("%5000d", 1), 5000);
     EXPECT_EQ(CallVscprintf("%s", ""), 0);
 }

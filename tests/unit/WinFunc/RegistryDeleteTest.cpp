@@ -1,4 +1,5 @@
 // Deletions edit the text file and do not change the map.
+#include "LocalMachineKeys.h"
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -9,13 +10,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-HKEY Open(const char* subKey)
-{
-    HKEY key = nullptr;
-    EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, subKey, 0, KEY_READ, &key), 0);
-    return key;
-}
 
 struct DeleteCase
 {

@@ -1,4 +1,5 @@
 // The registry's text file, byte for byte: what the store writes, and how it reads existing text.
+#include "LocalMachineKeys.h"
 #include "RegistryPath.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -14,13 +15,6 @@ namespace {
 
 const char KEY[] = "Software\\ARVEN\\Ulmar Disc Maker";
 const char PATH[] = "HKLM/Software/ARVEN/Ulmar Disc Maker";
-
-HKEY Create(const char* subKey)
-{
-    HKEY key = nullptr;
-    EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, subKey, 0, nullptr, 0, 0, nullptr, &key, nullptr), 0);
-    return key;
-}
 
 void SetText(HKEY key, const char* name, const std::string& text)
 {

@@ -1,6 +1,7 @@
 // Opening a key loads the file again, but an unchanged file is not parsed again. The contents of the map must
 // not depend on whether the parse was skipped.
 #include "ChildProcess.h"
+#include "LocalMachineKeys.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
 
@@ -16,13 +17,6 @@ namespace {
 std::string ValueLine(int number)
 {
     return "[HKLM/a]\n\"x\"=\"" + std::to_string(number) + "\"\n\n";
-}
-
-HKEY Open(const char* subKey = "a")
-{
-    HKEY key = nullptr;
-    EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, subKey, 0, KEY_READ, &key), 0);
-    return key;
 }
 
 std::string Value(HKEY key, const char* name = "x")

@@ -1,4 +1,5 @@
 // The calls on keys and values: their results, their outputs and what they leave unchanged.
+#include "LocalMachineKeys.h"
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -36,20 +37,6 @@ public:
 private:
     HKEY m_key;
 };
-
-HKEY Create(const char* subKey)
-{
-    HKEY key = nullptr;
-    EXPECT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, subKey, 0, nullptr, 0, 0, nullptr, &key, nullptr), 0);
-    return key;
-}
-
-HKEY Open(const char* subKey)
-{
-    HKEY key = nullptr;
-    EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, subKey, 0, KEY_READ, &key), 0);
-    return key;
-}
 
 LSTATUS Set(HKEY key, const char* name, DWORD type, const void* data, size_t size)
 {
