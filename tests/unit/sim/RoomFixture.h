@@ -7,6 +7,8 @@
 
 #include "Room.h"
 
+inline constexpr char ID[] = "{ARPUB20260105_1}"; ///< of the first publisher of a scenario
+
 inline udsim::Scenario scenarioOf(const std::string& text)
 {
     std::string error;

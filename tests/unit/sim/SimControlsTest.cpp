@@ -47,7 +47,6 @@ model = RT-300AP
 id = printer
 serial = PRINTER1
 )";
-constexpr char ID[] = "{ARPUB20260105_1}";
 constexpr char FIRST_JOB[] = "LOCALHOST_ABC1234_0001";
 constexpr char SECOND_JOB[] = "LOCALHOST_ABC1234_0002";
 

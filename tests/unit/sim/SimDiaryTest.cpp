@@ -13,7 +13,6 @@
 namespace {
 
 constexpr char LOG[] = "/var/log/arvenUlmarDiscControl.log";
-constexpr char ID[] = "{ARPUB20260105_1}";
 constexpr size_t STAMP = 20; ///< "2026-01-05 09:30:07 "
 
 /// The lines of a log without date and time. Each line must begin with them.

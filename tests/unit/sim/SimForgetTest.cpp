@@ -11,18 +11,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char SCENARIO[] = "/tmp/my room.udsim";
-constexpr char REGISTRY[] = "/opt/arven/Ulmar Disc Maker/conf/registry.txt";
-constexpr char SETTINGS[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
-constexpr char ROOM[] = "[publisher Studio A]\nmodel = RT-300III BD\nguid = {G1}\nid = one\n"
-                        "[publisher B]\nmodel = RT-30II\nguid = {G2}\nid = two\nregistered = no\n"
-                        "[network N]\nmodel = RT-300NII\nid = net\nhost = 127.0.0.11\n";
+constexpr char SCENARIO_WITH_SPACE[] = "/tmp/my room.udsim";
+constexpr char REGISTRY_TEXT[] = "/opt/arven/Ulmar Disc Maker/conf/registry.txt";
+constexpr char SETTING_FOLDER[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
+constexpr char PUBLISHERS[] = "[publisher Studio A]\nmodel = RT-300III BD\nguid = {G1}\nid = one\n"
+                              "[publisher B]\nmodel = RT-30II\nguid = {G2}\nid = two\nregistered = no\n"
+                              "[network N]\nmodel = RT-300NII\nid = net\nhost = 127.0.0.11\n";
 
 /// All setting files with their contents.
 std::string settings()
 {
     std::string all;
-    for (const auto& entry : fs::directory_iterator(SETTINGS)) {
+    for (const auto& entry : fs::directory_iterator(SETTING_FOLDER)) {
         all += entry.path().filename().string() + "\n" + ReadText(entry.path());
     }
     return all;
@@ -31,7 +31,7 @@ std::string settings()
 /// Runs the room of the scenario. Returns its output.
 std::string runRoom()
 {
-    ProgramProcess room(UDSIM, {SCENARIO});
+    ProgramProcess room(UDSIM, {SCENARIO_WITH_SPACE});
     room.readUntil("udsim: ready\n");
     return room.end();
 }
@@ -41,28 +41,28 @@ class SimForget : public testing::Test
 protected:
     void SetUp() override
     {
-        std::ofstream(SCENARIO) << ROOM;
-        fs::create_directories(SETTINGS);
+        std::ofstream(SCENARIO_WITH_SPACE) << PUBLISHERS;
+        fs::create_directories(SETTING_FOLDER);
     }
 };
 
 TEST_F(SimForget, RemovesEverythingOfTheScenario)
 {
-    std::ofstream(REGISTRY).close(); // as the package creates it
+    std::ofstream(REGISTRY_TEXT).close(); // as the package creates it
     EXPECT_NE(runRoom().find("udsim: the publishers stay registered; remove them with: "
                              "udsim forget '/tmp/my room.udsim'\nudsim: ended\n"),
               std::string::npos);
-    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
-    EXPECT_FALSE(fs::exists(std::string(SETTINGS) + "/two.ini"));
-    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/net.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTING_FOLDER) + "/one.ini"));
+    EXPECT_FALSE(fs::exists(std::string(SETTING_FOLDER) + "/two.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTING_FOLDER) + "/net.ini"));
 
-    const Ended forgotten = runProgram(UDSIM, {"forget", SCENARIO});
+    const Ended forgotten = runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE});
     EXPECT_EQ(forgotten.output, "Studio A: removed\nN: removed\n");
     EXPECT_EQ(forgotten.status, 0);
     EXPECT_EQ(settings(), "");
-    EXPECT_EQ(ReadText(REGISTRY), "");
+    EXPECT_EQ(ReadText(REGISTRY_TEXT), "");
 
-    const Ended again = runProgram(UDSIM, {"forget", SCENARIO});
+    const Ended again = runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE});
     EXPECT_EQ(again.output, "/tmp/my room.udsim: none of its publishers is registered\n");
     EXPECT_EQ(again.status, 0);
 }
@@ -73,25 +73,25 @@ TEST_F(SimForget, KeepsEverythingElseByteForByte)
         "[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n\n"
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n"
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{G11}]\n\"DPType\"=dword:20000009\n\n";
-    std::ofstream(REGISTRY) << keys;
-    std::ofstream(std::string(SETTINGS) + "/real.ini") << "[Common]\nGUID={G11}\nPublisherName=Real\n";
+    std::ofstream(REGISTRY_TEXT) << keys;
+    std::ofstream(std::string(SETTING_FOLDER) + "/real.ini") << "[Common]\nGUID={G11}\nPublisherName=Real\n";
     const std::string before = settings();
     runRoom();
-    std::ofstream(REGISTRY, std::ios::app) << "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n";
-    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).status, 0);
+    std::ofstream(REGISTRY_TEXT, std::ios::app) << "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n";
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).status, 0);
     EXPECT_EQ(settings(), before);
-    EXPECT_EQ(ReadText(REGISTRY), keys + "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n");
+    EXPECT_EQ(ReadText(REGISTRY_TEXT), keys + "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n");
 }
 
 TEST_F(SimForget, KeepsPublishersOfOtherDevicesAndServers)
 {
-    std::ofstream(std::string(SETTINGS) + "/one.ini") << "[Common]\nGUID={OTHER}\nPublisherName=Mine\n";
-    std::ofstream(std::string(SETTINGS) + "/net.ini")
+    std::ofstream(std::string(SETTING_FOLDER) + "/one.ini") << "[Common]\nGUID={OTHER}\nPublisherName=Mine\n";
+    std::ofstream(std::string(SETTING_FOLDER) + "/net.ini")
         << "[Common]\nPublisherConnectionType=1\nPublisherURL=studio.example.org\n";
     const std::string before = settings();
     runRoom();
     EXPECT_EQ(settings(), before);
-    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).output,
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).output,
               "/tmp/my room.udsim: none of its publishers is registered\n");
     EXPECT_EQ(settings(), before);
 }
@@ -99,33 +99,34 @@ TEST_F(SimForget, KeepsPublishersOfOtherDevicesAndServers)
 TEST_F(SimForget, FindsPublishersWhoseSettingsWereChanged)
 {
     runRoom();
-    std::ofstream(std::string(SETTINGS) + "/one.ini")
+    std::ofstream(std::string(SETTING_FOLDER) + "/one.ini")
         << "[Common]\nPublishMode=2\nPublisherName=New\nGUID={G1}\n";
-    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).output, "Studio A: removed\nN: removed\n");
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).output, "Studio A: removed\nN: removed\n");
     EXPECT_EQ(settings(), "");
 }
 
 TEST_F(SimForget, CreatesNoRegistry)
 {
-    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO}).status, 0);
-    EXPECT_FALSE(fs::exists(REGISTRY));
+    EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).status, 0);
+    EXPECT_FALSE(fs::exists(REGISTRY_TEXT));
 }
 
 TEST_F(SimForget, IsRefusedWhileARoomRuns)
 {
-    ProgramProcess room(UDSIM, {SCENARIO});
+    ProgramProcess room(UDSIM, {SCENARIO_WITH_SPACE});
     room.readUntil("udsim: ready\n");
-    const Ended early = runProgram(UDSIM, {"forget", SCENARIO});
+    const Ended early = runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE});
     EXPECT_EQ(early.output, "udsim: udsim is running; stop it first\n");
     EXPECT_EQ(early.status, 1);
-    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTING_FOLDER) + "/one.ini"));
     room.end();
 }
 
 TEST_F(SimForget, WrongArguments)
 {
     for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{"forget"}, std::vector<std::string>{"forget", SCENARIO, SCENARIO}}) {
+         {std::vector<std::string>{"forget"},
+          std::vector<std::string>{"forget", SCENARIO_WITH_SPACE, SCENARIO_WITH_SPACE}}) {
         const Ended ended = runProgram(UDSIM, arguments);
         EXPECT_EQ(ended.output, "udsim: forget takes one scenario\nTry \"udsim --help\".\n");
         EXPECT_EQ(ended.status, 64);

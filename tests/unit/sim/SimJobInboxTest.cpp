@@ -18,9 +18,9 @@ namespace {
 using udsim::FoundFile;
 using udsim::JobInbox;
 
-constexpr char PUBLISHER[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\n";
+constexpr char UNNAMED[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\n";
 constexpr char FOLDER[] = "/opt/arven/Ulmar Disc Maker/JOB";
-constexpr JobInbox::Clock::time_point START{};
+constexpr JobInbox::Clock::time_point BEGIN{};
 
 /// Drops all capabilities, so that file modes apply to this process.
 void giveUpPrivileges()
@@ -41,7 +41,7 @@ protected:
     std::vector<std::string> taken(std::chrono::milliseconds at = {})
     {
         std::vector<std::string> names;
-        for (const FoundFile& found : m_inbox.take(START + at)) {
+        for (const FoundFile& found : m_inbox.take(BEGIN + at)) {
             names.push_back(found.name + (found.refusal.empty() ? "" : ": " + found.refusal));
         }
         return names;
@@ -76,7 +76,7 @@ TEST_F(SimJobInbox, FilesAreTakenInNameOrder)
 TEST_F(SimJobInbox, TheTextIsReadByteForByte)
 {
     put("a.epj", NOZZLE_CHECK);
-    const auto found = m_inbox.take(START);
+    const auto found = m_inbox.take(BEGIN);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].text, NOZZLE_CHECK);
 }
@@ -170,7 +170,7 @@ TEST_F(SimJobInbox, RandomBytesAreRefused)
     }
     EXPECT_EQ(taken(), Names{});
     size_t refused = 0;
-    for (const FoundFile& found : m_inbox.take(START + JobInbox::PATIENCE)) {
+    for (const FoundFile& found : m_inbox.take(BEGIN + JobInbox::PATIENCE)) {
         std::string error;
         refused += udsim::parseJobFile(found.text, error) ? 0 : 1;
     }
@@ -180,7 +180,7 @@ TEST_F(SimJobInbox, RandomBytesAreRefused)
 TEST(SimJobFolderOfARoom, IsCreatedForEveryone)
 {
     ::umask(077);
-    const OpenRoom open(PUBLISHER);
+    const OpenRoom open(UNNAMED);
     struct stat status{};
     ASSERT_EQ(::lstat(FOLDER, &status), 0);
     EXPECT_EQ(status.st_mode, S_IFDIR | 01777U);
@@ -197,7 +197,7 @@ TEST(SimJobFolderOfARoom, ExistingFilesStay)
     putFile("/opt/arven/Ulmar Disc Maker/res/prnfile/nozzleCheck.prn", "pattern");
     std::filesystem::create_directory(FOLDER);
     ASSERT_EQ(::chmod(FOLDER, 0700), 0);
-    const OpenRoom open(PUBLISHER);
+    const OpenRoom open(UNNAMED);
     struct stat status{};
     ASSERT_EQ(::lstat(FOLDER, &status), 0);
     EXPECT_EQ(status.st_mode, S_IFDIR | 0700U);
@@ -209,7 +209,7 @@ TEST(SimJobFolderOfARoom, ALinkIsFollowedAndStays)
     std::filesystem::create_directories("/opt/arven/Ulmar Disc Maker");
     std::filesystem::create_directories("/tmp/work/UlmarDiscMakerWork");
     std::filesystem::create_symlink("/tmp/work/UlmarDiscMakerWork", FOLDER);
-    OpenRoom open(PUBLISHER);
+    OpenRoom open(UNNAMED);
     EXPECT_TRUE(std::filesystem::is_symlink(FOLDER));
     putFile("/tmp/work/UlmarDiscMakerWork/{ARPUB20260105_1}_0000.epj", HEAD_CLEANING);
     open.room.advance(0);
@@ -219,7 +219,7 @@ TEST(SimJobFolderOfARoom, ALinkIsFollowedAndStays)
 
 TEST(SimJobFolderOfARoom, TheFolderMayMoveWhileTheServiceRuns)
 {
-    OpenRoom open(PUBLISHER);
+    OpenRoom open(UNNAMED);
     std::filesystem::create_directory("/tmp/work");
     ASSERT_EQ(::rmdir(FOLDER), 0);
     open.room.advance(0);
@@ -234,14 +234,14 @@ TEST(SimJobFolderOfARoom, ADanglingLinkIsIgnored)
 {
     std::filesystem::create_directories("/opt/arven/Ulmar Disc Maker");
     std::filesystem::create_symlink("/tmp/none", FOLDER);
-    OpenRoom open(PUBLISHER);
+    OpenRoom open(UNNAMED);
     open.room.advance(1000);
     EXPECT_EQ(std::filesystem::read_symlink(FOLDER), "/tmp/none");
 }
 
 TEST(SimJobFolderOfARoom, IsPolledWhileTheClockIsStopped)
 {
-    OpenRoom open(PUBLISHER);
+    OpenRoom open(UNNAMED);
     putFile(JOBS + std::string("a.epj"), HEAD_CLEANING);
     ASSERT_TRUE(open.room.waitForTakenFiles(1));
     EXPECT_EQ(open.room.jobs("A").at(0).status, 1U) << "waiting until time advances";
@@ -253,7 +253,7 @@ TEST(SimJobFolderOfARoom, IsPolledWhileTheClockIsStopped)
 
 TEST(SimJobFolderOfARoom, IsNotReadWhileTheServiceIsStopped)
 {
-    OpenRoom open(PUBLISHER);
+    OpenRoom open(UNNAMED);
     ASSERT_TRUE(open.room.tell("", "service off"));
     putFile(JOBS + std::string("a.epj"), HEAD_CLEANING);
     open.room.advance(1000);
@@ -265,9 +265,9 @@ TEST(SimJobFolderOfARoom, IsNotReadWhileTheServiceIsStopped)
 
 TEST(SimJobFolderOfARoom, OnlyAStartedRoomTakesFiles)
 {
-    udsim::Room second(scenarioOf(PUBLISHER));
+    udsim::Room second(scenarioOf(UNNAMED));
     {
-        OpenRoom first(PUBLISHER);
+        OpenRoom first(UNNAMED);
         std::string error;
         EXPECT_FALSE(second.start(error));
         first.room.stop();

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr char ID[] = "{ARPUB20260105_1}";
 constexpr char SETTING[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher/{ARPUB20260105_1}.ini";
 constexpr char IDLE[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\nname = Studio\n"
                         "disc-time = 10s\ncleaning-time = 5s\nink.black = 20\n";
@@ -33,7 +32,7 @@ udsim::Publisher machine(const OpenRoom& open)
 }
 
 /// The expected payload of the first job.
-Bytes jobPayload(const std::string& id, const std::string& name, uint64_t status)
+Bytes jobBytes(const std::string& id, const std::string& name, uint64_t status)
 {
     return Bytes(1088).text(0, id).text(256, name).u64(512, status).text(584, "udsim").u64(1080, 32);
 }
@@ -45,11 +44,11 @@ TEST(SimMaintenance, RunsAHeadCleaning)
     OpenRoom open(IDLE);
     take(open, HEAD_CLEANING);
     EXPECT_EQ(ask(4, ID, "", 1).payload,
-              jobPayload(CLEANING_ID, "Head Cleaning", 1).u64(544, 5).u64(552, 5).u64(720, 0x80000003).str());
+              jobBytes(CLEANING_ID, "Head Cleaning", 1).u64(544, 5).u64(552, 5).u64(720, 0x80000003).str());
     EXPECT_EQ(number(8), 1U) << "idle";
     open.room.advance(2000);
     EXPECT_EQ(ask(4, ID, "", 1).payload,
-              jobPayload(CLEANING_ID, "Head Cleaning", 2).u64(544, 5).u64(552, 3).u64(720, 0x80000003).str());
+              jobBytes(CLEANING_ID, "Head Cleaning", 2).u64(544, 5).u64(552, 3).u64(720, 0x80000003).str());
     EXPECT_EQ(number(8), 0x10U) << "cleaning";
     EXPECT_EQ(number(5), 0U) << "the loader is idle";
     EXPECT_EQ(number(24), 8U) << "only the printer is busy";
@@ -59,7 +58,7 @@ TEST(SimMaintenance, RunsAHeadCleaning)
     EXPECT_EQ(open.room.jobs("A").at(0).status, 2U);
     open.room.advance(50);
     EXPECT_EQ(ask(4, ID, "", 2).payload,
-              jobPayload(CLEANING_ID, "Head Cleaning", 9).u64(544, 5).u64(720, 0x80000003).str());
+              jobBytes(CLEANING_ID, "Head Cleaning", 9).u64(544, 5).u64(720, 0x80000003).str());
     EXPECT_EQ(number(8), 1U);
     EXPECT_EQ(machine(open).state().ink, (std::array<uint32_t, 6>{97, 97, 97, 97, 97, 17}));
     EXPECT_EQ(machine(open).state().stackers[0].discs, 100U);
@@ -71,7 +70,7 @@ TEST(SimMaintenance, RunsANozzleCheck)
     OpenRoom open(IDLE);
     take(open, NOZZLE_CHECK);
     const auto expected = [](uint64_t status) {
-        return jobPayload(NOZZLE_ID, "Nozzle Check", status)
+        return jobBytes(NOZZLE_ID, "Nozzle Check", status)
             .u64(544, 10)
             .u64(568, 1)
             .u64(720, 4)

@@ -13,7 +13,7 @@ namespace {
 
 constexpr size_t MOST = 1 << 20;
 
-std::string mistakeIn(const std::string& text)
+std::string mistakeInRecording(const std::string& text)
 {
     std::string error;
     const auto recording = Recording::parse(text, error);
@@ -87,7 +87,7 @@ TEST(SimRecording, ASmallFileCannotFillTheMemory)
     }
     std::string error;
     EXPECT_TRUE(Recording::parse(text, error)) << error;
-    EXPECT_EQ(mistakeIn(text + "0.000 1 answer 1 \"x\"\n"),
+    EXPECT_EQ(mistakeInRecording(text + "0.000 1 answer 1 \"x\"\n"),
               "line 6: the messages have more than 268435456 bytes");
 }
 
@@ -152,7 +152,7 @@ TEST(SimRecording, Mistakes)
          "line 5: neither a comment nor a message with time and connection"},
     };
     for (const auto& [text, expected] : table) {
-        EXPECT_EQ(mistakeIn(text), expected) << text;
+        EXPECT_EQ(mistakeInRecording(text), expected) << text;
     }
 }
 

@@ -177,34 +177,34 @@ TEST(SimScenario, EventsAndFaultsMayPrecedeTheirPublisher)
 
 TEST(SimScenario, EveryCommand)
 {
-    using Kind = Command::Kind;
+    using CommandKind = Command::Kind;
     struct Row
     {
         const char* text;
-        Kind kind;
+        CommandKind kind;
         size_t index;
         uint32_t number;
     };
     const Row table[] = {
-        {"online", Kind::online, 0, 0},
-        {"offline", Kind::offline, 0, 0},
-        {"error 1", Kind::error, 0, 1},
-        {"error 9999", Kind::error, 0, 9999},
-        {"clear", Kind::clear, 0, 0},
-        {"add-job", Kind::addJob, 0, 0},
-        {"pause", Kind::pause, 0, 0},
-        {"resume", Kind::resume, 0, 0},
-        {"refill", Kind::refill, 0, 0},
-        {"ink cyan 0", Kind::ink, 0, 0},
-        {"ink magenta 1", Kind::ink, 1, 1},
-        {"ink yellow 2", Kind::ink, 2, 2},
-        {"ink light-cyan 3", Kind::ink, 3, 3},
-        {"ink light-magenta 4", Kind::ink, 4, 4},
-        {"ink black 100", Kind::ink, 5, 100},
-        {"stacker 1 0", Kind::stacker, 0, 0},
-        {"stacker 4 100", Kind::stacker, 3, 100},
-        {"service on", Kind::service, 0, 1},
-        {"service off", Kind::service, 0, 0},
+        {"online", CommandKind::online, 0, 0},
+        {"offline", CommandKind::offline, 0, 0},
+        {"error 1", CommandKind::error, 0, 1},
+        {"error 9999", CommandKind::error, 0, 9999},
+        {"clear", CommandKind::clear, 0, 0},
+        {"add-job", CommandKind::addJob, 0, 0},
+        {"pause", CommandKind::pause, 0, 0},
+        {"resume", CommandKind::resume, 0, 0},
+        {"refill", CommandKind::refill, 0, 0},
+        {"ink cyan 0", CommandKind::ink, 0, 0},
+        {"ink magenta 1", CommandKind::ink, 1, 1},
+        {"ink yellow 2", CommandKind::ink, 2, 2},
+        {"ink light-cyan 3", CommandKind::ink, 3, 3},
+        {"ink light-magenta 4", CommandKind::ink, 4, 4},
+        {"ink black 100", CommandKind::ink, 5, 100},
+        {"stacker 1 0", CommandKind::stacker, 0, 0},
+        {"stacker 4 100", CommandKind::stacker, 3, 100},
+        {"service on", CommandKind::service, 0, 1},
+        {"service off", CommandKind::service, 0, 0},
     };
     for (const Row& row : table) {
         std::string error;

@@ -10,11 +10,12 @@
 
 namespace {
 
-constexpr char SCENARIO[] = "/tmp/room.udsim";
+constexpr char TERMINAL_SCENARIO[] = "/tmp/room.udsim";
 
-void putScenario()
+void putTerminalScenario()
 {
-    std::ofstream(SCENARIO) << "[publisher A]\nmodel = RT-30\ndisc-time = 400s\njob = Concert, copies=2\n";
+    std::ofstream(TERMINAL_SCENARIO)
+        << "[publisher A]\nmodel = RT-30\ndisc-time = 400s\njob = Concert, copies=2\n";
 }
 
 /// A room on a terminal with the given number of columns.
@@ -23,14 +24,15 @@ class OnTerminal
 public:
     OnTerminal(unsigned short columns, const char* kind)
     {
-        putScenario();
+        putTerminalScenario();
         ::setenv("TERM", kind, 1);
         winsize size{24, columns, 0, 0};
         int ends[2] = {-1, -1};
         EXPECT_EQ(::openpty(&ends[0], &ends[1], nullptr, nullptr, &size), 0);
         ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
         ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
-        process.emplace(UDSIM, std::vector<std::string>{SCENARIO, "--speed", "100"}, ends[1], ends[0]);
+        process.emplace(UDSIM, std::vector<std::string>{TERMINAL_SCENARIO, "--speed", "100"}, ends[1],
+                        ends[0]);
     }
 
     std::optional<ProgramProcess> process;
@@ -83,9 +85,9 @@ TEST(SimTerminal, ADumbTerminalGetsPlainLines)
 
 TEST(SimTerminal, OtherOutputHasNoEscapeSequences)
 {
-    putScenario();
+    putTerminalScenario();
     ::setenv("TERM", "xterm", 1);
-    ProgramProcess process(UDSIM, {SCENARIO, "--speed", "1000"});
+    ProgramProcess process(UDSIM, {TERMINAL_SCENARIO, "--speed", "1000"});
     process.readUntil("running \"Concert\"");
     process.signal(SIGTERM);
     const std::string output = process.readToTheEnd();
