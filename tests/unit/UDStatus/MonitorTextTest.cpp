@@ -11,7 +11,7 @@ Alerts alerts(const char* warning, const char* critical)
     return {Threshold::parse(warning), Threshold::parse(critical)};
 }
 
-const QString data =
+const QString figures =
     " | 'Studio A ink cyan'=41%;;;0;100 'Studio A ink magenta'=100%;;;0;100"
     " 'Studio A ink yellow'=3%;;;0;100 'Studio A stacker 1'=88;;;0;100 'Studio A waiting'=2;;;0";
 
@@ -19,7 +19,7 @@ TEST(MonitorText, WithoutThresholdsTheStatusCounts)
 {
     const MonitorResult result = monitorResult({fullReport()}, {}, {});
     EXPECT_EQ(result.state, MonitorState::ok);
-    EXPECT_EQ(result.line, "OK - 1 of 1 publishers ready" + data);
+    EXPECT_EQ(result.line, "OK - 1 of 1 publishers ready" + figures);
 }
 
 TEST(MonitorText, EveryStatusButReadyIsAnAlert)
@@ -142,7 +142,7 @@ TEST(MonitorText, SettingsThatCannotBeReadAreUnknown)
     const MonitorResult result = monitorResult({fullReport()}, {}, {}, {"{B}", "C|"});
     EXPECT_EQ(result.state, MonitorState::unknown);
     EXPECT_EQ(result.line,
-              "UNKNOWN - cannot read the settings of {B}; cannot read the settings of C/" + data);
+              "UNKNOWN - cannot read the settings of {B}; cannot read the settings of C/" + figures);
     EXPECT_EQ(monitorResult({}, {}, {}, {"{B}"}).line, "UNKNOWN - cannot read the settings of {B}");
 }
 

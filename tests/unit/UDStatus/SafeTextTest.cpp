@@ -1,13 +1,10 @@
 #include "SafeText.h"
 
+#include "Utf8Text.h"
+
 #include <gtest/gtest.h>
 
 namespace {
-
-QString utf8(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 TEST(SafeText, HarmlessTextsStayAsTheyAre)
 {

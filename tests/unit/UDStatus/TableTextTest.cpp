@@ -1,15 +1,12 @@
 #include "TableText.h"
 
+#include "Utf8Text.h"
+
 #include <gtest/gtest.h>
 
 #include <clocale>
 
 namespace {
-
-QString utf8(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 
 class TableText : public testing::Test
 {
