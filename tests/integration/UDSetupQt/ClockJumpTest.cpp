@@ -36,11 +36,11 @@ protected:
         m_isError = !m_isError;
         Simulator::tell("Studio A", m_isError ? "error 19" : "clear");
         Simulator::tell("Studio C", m_isError ? "error 26" : "clear");
-        const QStringList rows = m_isError ? QStringList{"Studio A|RT-300III|-|Error|-|-|-",
-                                                         "Studio C|RT-300NII|127.0.0.11|Error|-|-|-"}
-                                           : QStringList{"Studio A|RT-300III|-|Ready|0|-|-",
-                                                         "Studio C|RT-300NII|127.0.0.11|Ready|0|0|2.0 GB"};
-        expectWithinTwoPolls(rows, what);
+        const QStringList shown = m_isError ? QStringList{"Studio A|RT-300III|-|Error|-|-|-",
+                                                          "Studio C|RT-300NII|127.0.0.11|Error|-|-|-"}
+                                            : QStringList{"Studio A|RT-300III|-|Ready|0|-|-",
+                                                          "Studio C|RT-300NII|127.0.0.11|Ready|0|0|2.0 GB"};
+        expectWithinTwoPolls(shown, what);
         EXPECT_NEAR(static_cast<double>(m_clock), static_cast<double>(::time(nullptr) + wall), 60)
             << "the clock of the program did not jump";
     }

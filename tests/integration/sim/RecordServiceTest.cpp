@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr char FILE_NAME[] = "/tmp/session.udrec";
+constexpr char SESSION_FILE[] = "/tmp/session.udrec";
 constexpr char ROOM[] =
     "[publisher A]\nmodel = RT-300III BD\nid = A\nink.cyan = 41\njob = One, copies=2\njob = Two\n"
     "[publisher B]\nmodel = RT-30II\nid = B\nconnected = no\n"
@@ -70,7 +70,7 @@ TEST(RecordService, TheClientGetsTheSameAnswers)
     std::string error;
     ASSERT_TRUE(room->start(error)) << error;
     const std::string direct = WholeSession();
-    ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--service", SESSION_FILE});
     recorder.readUntil("udsim: recording the service in /tmp/session.udrec; press Ctrl-C to stop\n");
     const std::string live = WholeSession();
     EXPECT_EQ(live, direct) << "the recorder changes nothing";
@@ -82,11 +82,11 @@ TEST(RecordService, TheClientGetsTheSameAnswers)
     recorder.end();
     EXPECT_EQ(WholeSession(), direct) << "the service's socket is restored";
     room.reset();
-    const std::string text = ReadText(FILE_NAME);
+    const std::string text = ReadText(SESSION_FILE);
     EXPECT_NE(text.find("\n# asks control 13 of \"A\"\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\n# result 22, 0 bytes of payload\n"), std::string::npos) << text;
 
-    ProgramProcess player(UDSIM, {"replay", FILE_NAME});
+    ProgramProcess player(UDSIM, {"replay", SESSION_FILE});
     player.readUntil("udsim: replaying at /var/run/arvenUlmarDiscControl.socket; press Ctrl-C to stop\n");
     EXPECT_EQ(WholeSession(), direct);
     EXPECT_EQ(WholeSession(), direct) << "the last answers are repeated";
@@ -105,10 +105,10 @@ TEST(RecordService, TheClientGetsTheSameAnswers)
 
 TEST(RecordService, WithoutAService)
 {
-    const Ended ended = runProgram(UDSIM, {"record", "--service", FILE_NAME});
+    const Ended ended = runProgram(UDSIM, {"record", "--service", SESSION_FILE});
     EXPECT_EQ(ended.output, "udsim: no service listens at /var/run/arvenUlmarDiscControl.socket\n");
     EXPECT_EQ(ended.status, 1);
-    EXPECT_FALSE(std::filesystem::exists(FILE_NAME));
+    EXPECT_FALSE(std::filesystem::exists(SESSION_FILE));
 }
 
 TEST(RecordService, AnInvalidFileNameLeavesTheServiceInPlace)
@@ -127,7 +127,7 @@ TEST(RecordService, TheNextRecorderRepairsAKilledOne)
     std::string error;
     ASSERT_TRUE(room.start(error)) << error;
     {
-        ProgramProcess killed(UDSIM, {"record", "--service", FILE_NAME});
+        ProgramProcess killed(UDSIM, {"record", "--service", SESSION_FILE});
         killed.readUntil("press Ctrl-C to stop\n");
         killed.signal(SIGKILL);
         EXPECT_EQ(killed.wait(), 1000 + SIGKILL);
@@ -144,7 +144,7 @@ TEST(RecordService, TheNextRecorderRepairsAKilledOne)
 TEST(RecordService, AReplyInPiecesIsForwardedAsOne)
 {
     std::optional<UnixListener> service(std::in_place, SERVICE_SOCKET);
-    ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--service", SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     const RawClient client;
     const std::string frame = requestFrame(13, "A");
@@ -177,7 +177,7 @@ TEST(RecordService, AReplyInPiecesIsForwardedAsOne)
 TEST(RecordService, ARestartedServiceKeepsItsPlace)
 {
     std::optional<UnixListener> service(std::in_place, SERVICE_SOCKET);
-    ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--service", SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     service.reset(); // removes the socket in its place, as a starting service does
     UnixListener again(SERVICE_SOCKET);
@@ -192,7 +192,7 @@ TEST(RecordService, ABusyServiceIsFound)
 {
     const UnixListener service(SERVICE_SOCKET, 0);
     const RawClient first; // not accepted, so that the next one would wait
-    ProgramProcess recorder(UDSIM, {"record", "--service", FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--service", SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     recorder.end();
     EXPECT_TRUE(std::filesystem::exists(SERVICE_SOCKET));
