@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QTranslator>
 
 #include <algorithm>
@@ -349,6 +350,9 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN); // a write fails instead
     std::signal(SIGCHLD, SIG_DFL); // if it were ignored, the ends of queries could not be read
     SetLogLevel(0);                // a monitor that runs every minute must not fill the log of the service
+
+    // Standard error carries our own lines only. Qt 6 warns if the encoding of the locale is not UTF-8.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
 
     const Options options = parseOptions(argc, argv);
     int one = 1; // Qt must not take options of its own

@@ -201,6 +201,14 @@ TEST(StatusProgram, AServerInASecureModeIsReported)
     EXPECT_EQ(end.err, "ulmar-disc-status: Library: the server cannot be reached or is in a secure mode\n");
 }
 
+TEST(StatusProgram, ALocaleWithoutUtf8IsNotReported)
+{
+    const StatusRoom room(twoStudios);
+    const StatusEnd end = runStatus({}, {{"LC_ALL", "C"}});
+    EXPECT_EQ(end.code, 0);
+    EXPECT_EQ(end.err, "");
+}
+
 TEST(StatusProgram, AClosedPipeEndsItQuietly)
 {
     const StatusRoom room(twoStudios);
