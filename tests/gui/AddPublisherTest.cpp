@@ -7,6 +7,7 @@
 #include "PubSetup.h"
 #include "SameImage.h"
 #include "Shown.h"
+#include "WindowParts.h"
 
 #include <QSignalSpy>
 
@@ -134,11 +135,7 @@ void AddPublisherTest::opensFromToolBarAndMenu()
     if (place == "tool bar") {
         QTest::mouseClick(window.toolBar->widgetForAction(window.addPublisher), Qt::LeftButton);
     } else {
-        QTimer::singleShot(0, this, [&window] {
-            QTest::mouseClick(window.editMenu, Qt::LeftButton, Qt::NoModifier,
-                              window.editMenu->actionGeometry(window.addPublisher).center());
-        });
-        window.editMenu->exec(window.mapToGlobal(QPoint(10, 10)));
+        chooseEntry(window, window.editMenu, window.addPublisher);
     }
     QTRY_VERIFY(dialog.seen());
     QVERIFY(modal);

@@ -6,6 +6,7 @@
 #include "MyRunnable.h"
 #include "PubSetup.h"
 #include "Shown.h"
+#include "WindowParts.h"
 #include "propertyDialog.h"
 #include "settingDialog.h"
 
@@ -119,11 +120,7 @@ void OpenDialogsTest::propertiesOpenFromEveryPlace()
         QTest::mouseClick(m_window->toolBar->widgetForAction(m_window->showPublisherProperty),
                           Qt::LeftButton);
     } else if (place == "menu") {
-        QTimer::singleShot(0, this, [this] {
-            QTest::mouseClick(m_window->editMenu, Qt::LeftButton, Qt::NoModifier,
-                              m_window->editMenu->actionGeometry(m_window->showPublisherProperty).center());
-        });
-        m_window->editMenu->exec(m_window->mapToGlobal(QPoint(10, 10)));
+        chooseEntry(*m_window, m_window->editMenu, m_window->showPublisherProperty);
     } else {
         doubleClick("B");
     }

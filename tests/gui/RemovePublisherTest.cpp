@@ -6,6 +6,7 @@
 #include "OrdinaryRights.h"
 #include "PubSetup.h"
 #include "ScriptedService.h"
+#include "WindowParts.h"
 
 #include <QContextMenuEvent>
 #include <QTest>
@@ -166,11 +167,7 @@ void RemovePublisherTest::menuAndToolBarRemove()
     QCOMPARE(names(), (QStringList{"B", "C"}));
 
     select({"C"});
-    QTimer::singleShot(0, this, [this] {
-        QTest::mouseClick(m_window->editMenu, Qt::LeftButton, Qt::NoModifier,
-                          m_window->editMenu->actionGeometry(m_window->deletePublisher).center());
-    });
-    m_window->editMenu->exec(m_window->mapToGlobal(QPoint(10, 10)));
+    chooseEntry(*m_window, m_window->editMenu, m_window->deletePublisher);
     QTRY_COMPARE(names(), QStringList{"B"});
     QVERIFY(boxes.allAnswered());
 }
@@ -180,6 +177,7 @@ void RemovePublisherTest::contextMenuRemoves()
     open();
     QTreeWidget* tree = m_window->treePublisherList;
     const QPoint place = tree->visualItemRect(tree->topLevelItem(1)).center();
+    QTest::mouseMove(tree->viewport(), place);
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     Boxes boxes({QMessageBox::Yes});
     QStringList entries;
@@ -191,8 +189,7 @@ void RemovePublisherTest::contextMenuRemoves()
         for (const QAction* action : menu->actions()) {
             entries << action->text();
         }
-        QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
-                          menu->actionGeometry(m_window->deletePublisher).center());
+        clickEntry(menu, m_window->deletePublisher);
     });
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, tree->viewport()->mapToGlobal(place));
     QApplication::sendEvent(tree->viewport(), &event);

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QMenu>
 #include <QTabWidget>
+#include <QTest>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -54,4 +57,19 @@ inline QRect placeOf(const QWidget* widget)
 inline QString nameOf(const QWidget* widget)
 {
     return widget->objectName().isEmpty() ? QString(widget->metaObject()->className()) : widget->objectName();
+}
+
+/// Clicks an entry of an open menu. The mouse must have been moved to another place before the menu was
+/// opened: a click counts only if the mouse has moved since.
+inline void clickEntry(QMenu* menu, QAction* entry)
+{
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(entry).center());
+}
+
+/// Opens a menu of the window and clicks an entry.
+inline void chooseEntry(QWidget& window, QMenu* menu, QAction* entry)
+{
+    QTest::mouseMove(&window);
+    QTimer::singleShot(0, menu, [menu, entry] { clickEntry(menu, entry); });
+    menu->exec(window.mapToGlobal(QPoint(10, 10)));
 }
