@@ -1,1 +1,1 @@
-// Intentionally empty: its target builds the precompiled headers of Qt Widgets and Qt Test.
+// Intentionally empty: its target builds the precompiled headers of the tests of the windows.
