@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
@@ -25,7 +26,10 @@
 
 #include <dlfcn.h>
 #include <execinfo.h>
+#include <poll.h>
 #include <pthread.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace {
 
@@ -216,5 +220,20 @@ void start()
 }
 
 } // namespace
+
+#ifndef ULMAR_SANITIZED
+/// Replaces the function of the C library: the signals of the sampler, which end a ppoll, do not end this
+/// one.
+extern "C" int ppoll(pollfd* entries, nfds_t count, const timespec* limit, const sigset_t* mask)
+{
+    timespec left = limit ? *limit : timespec{};
+    int ready = -1;
+    do { // the system call stores the remaining time
+        ready = static_cast<int>(
+            syscall(SYS_ppoll, entries, count, limit ? &left : nullptr, mask, sizeof(unsigned long)));
+    } while (ready < 0 && errno == EINTR);
+    return ready;
+}
+#endif
 
 Q_COREAPP_STARTUP_FUNCTION(start)
