@@ -18,7 +18,6 @@ namespace udsim {
 
 namespace {
 
-constexpr unsigned RIGHTS = 0666;
 constexpr char DEFAULT_LISTEN[] = "127.0.0.1";
 
 /// Replaces the service's socket by one of its own. Meanwhile the service's socket has another name.
@@ -46,7 +45,7 @@ public:
             return {};
         }
         m_taken = true;
-        Descriptor bound = bindUnix(SOCK_STREAM, SERVICE_SOCKET, RIGHTS, error);
+        Descriptor bound = bindUnix(SOCK_STREAM, SERVICE_SOCKET, SERVICE_SOCKET_RIGHTS, error);
         m_ours = whatIsThere();
         return bound;
     }
@@ -203,8 +202,8 @@ int replaySession(const Arguments& arguments)
             "\"--listen\" is only for recordings of a server; this is a recording of a service");
     }
     const sigset_t signals = holdSignals();
-    Descriptor listener =
-        ofServer ? listenTcp(*address, error) : bindUnix(SOCK_STREAM, SERVICE_SOCKET, RIGHTS, error);
+    Descriptor listener = ofServer ? listenTcp(*address, error)
+                                   : bindUnix(SOCK_STREAM, SERVICE_SOCKET, SERVICE_SOCKET_RIGHTS, error);
     Replay replay(*recording, printLine);
     if (!listener.isOpen() || !replay.start(std::move(listener), error)) {
         return failure(error);

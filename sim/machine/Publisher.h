@@ -22,6 +22,8 @@ struct JobSetup
     std::optional<std::string> reference = {}; ///< the submitter's id, possibly empty; nothing: same as `id`
     std::string person = "udsim";
 
+    static constexpr uint64_t MOST_COPIES = 1000;
+
     /// A head cleaning, which moves no disc.
     static JobSetup cleaning(std::string id);
     /// A nozzle check, which prints the pattern on one disc of stacker 1.

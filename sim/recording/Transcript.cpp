@@ -13,6 +13,7 @@
 #include "HttpText.h"
 #include "JobFile.h"
 #include "Protocol.h"
+#include "ServletNumbers.h"
 #include "Wire.h"
 
 namespace udsim {
@@ -25,7 +26,6 @@ constexpr size_t LONGEST_NAME_KEPT = 24; ///< longer than each of them
 constexpr char WORD_GETTER[] = "/UploadInfoGetter";
 constexpr char ANSWER[] = "HTTP";
 constexpr char INTERIM[] = "HTTP/1.1 1";
-constexpr size_t ITEM_HEAD = 3;
 constexpr size_t SHORTEST_SECRET = 4;
 constexpr mode_t RIGHTS = 0600;
 

@@ -12,7 +12,6 @@ namespace udsim {
 namespace {
 
 constexpr uint64_t HIGHEST_ERROR = 9999;
-constexpr uint64_t HIGHEST_COPIES = 1000;
 constexpr size_t LONGEST_JOB_NAME = 255;
 constexpr std::array<const char*, 6> INKS{"cyan",       "magenta",       "yellow",
                                           "light-cyan", "light-magenta", "black"};
@@ -81,7 +80,7 @@ std::optional<JobSetup> parseJob(const std::string& text, std::string& error)
         const std::string value = equals == std::string::npos ? "" : trim(piece.substr(equals + 1));
         if (equals == std::string::npos) {
             job.name = key.empty() ? job.name : key.substr(0, LONGEST_JOB_NAME);
-        } else if (const auto copies = parseNumber(value, HIGHEST_COPIES);
+        } else if (const auto copies = parseNumber(value, JobSetup::MOST_COPIES);
                    key == "copies" && copies && *copies > 0) {
             job.copies = static_cast<uint32_t>(*copies);
         } else if (const auto type = parseJobType(value); key == "type" && type) {

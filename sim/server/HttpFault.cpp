@@ -6,8 +6,10 @@
 #include <utility>
 #include <vector>
 
+#include "Fault.h"
 #include "HttpText.h"
 #include "Nearest.h"
+#include "ServletNumbers.h"
 #include "ServletPayloads.h"
 #include "Text.h"
 
@@ -24,7 +26,6 @@ struct Word
     uint64_t highest; ///< maximum of its number; 0: it takes no number
 };
 
-constexpr uint64_t LONGEST_DELAY = 3'600'000;
 constexpr std::array<Word, 15> WORDS{{
     {"stall", Kind::stall, 0},
     {"close", Kind::close, 0},
@@ -42,8 +43,6 @@ constexpr std::array<Word, 15> WORDS{{
     {"content-length", Kind::contentLength, UINT64_MAX},
     {"drip", Kind::drip, LONGEST_DELAY},
 }};
-
-constexpr size_t ITEM_HEAD = 3;
 
 std::string statusLine(unsigned status)
 {

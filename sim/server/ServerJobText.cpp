@@ -12,8 +12,6 @@ namespace udsim {
 
 namespace {
 
-constexpr uint64_t HIGHEST_COPIES = 1000;
-
 bool hasFile(const ServerJob& job, const std::string& prefix)
 {
     return std::any_of(job.files.begin(), job.files.end(),
@@ -39,8 +37,8 @@ JobSetup normalJobOf(const ServerJob& job)
         } else if (key == "Publisher") {
             setup.person = value;
         } else if (key == "Count") {
-            setup.copies =
-                std::max<uint32_t>(1, static_cast<uint32_t>(parseNumber(value, HIGHEST_COPIES).value_or(1)));
+            setup.copies = std::max<uint32_t>(
+                1, static_cast<uint32_t>(parseNumber(value, JobSetup::MOST_COPIES).value_or(1)));
         }
     }
     const uint64_t write = hasFile(job, "DiscImage_") ? JOB_TYPE_WRITE : 0;

@@ -1,12 +1,15 @@
 // The numbers in the protocol of the publisher server's servlets.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace udsim {
 
 inline constexpr uint16_t HTTP_PORT = 80;
 inline constexpr char INTERFACE_VERSION[] = "02000000"; ///< required of clients
+
+inline constexpr size_t ITEM_HEAD = 3; ///< bytes before the data of a reply item: its status and length
 
 /// Status: the first byte of a reply item.
 namespace servlet_status {

@@ -19,7 +19,6 @@ constexpr std::chrono::milliseconds TICK{50};
 constexpr std::chrono::milliseconds ACCEPT_PAUSE{100};
 constexpr size_t MOST_CONNECTIONS = 512;
 constexpr size_t MOST_INPUT = 16 * REQUEST_SIZE; ///< unanswered bytes of one connection
-constexpr unsigned RIGHTS = 0666;                ///< of the sockets: every user may connect
 
 } // namespace
 
@@ -34,7 +33,7 @@ bool ControlService::start(bool listening, std::string& error)
 {
     const std::lock_guard lock(m_mutex);
     m_wake = Descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    m_agent = bindUnix(SOCK_DGRAM, AGENT_SOCKET, RIGHTS, error);
+    m_agent = bindUnix(SOCK_DGRAM, AGENT_SOCKET, SERVICE_SOCKET_RIGHTS, error);
     if (!m_wake.isOpen() || !m_agent.isOpen() || (listening && !openListener(error))) {
         if (m_agent.isOpen()) {
             ::unlink(AGENT_SOCKET);
@@ -49,7 +48,7 @@ bool ControlService::start(bool listening, std::string& error)
 
 bool ControlService::openListener(std::string& error)
 {
-    m_listener = bindUnix(SOCK_STREAM, SERVICE_SOCKET, RIGHTS, error);
+    m_listener = bindUnix(SOCK_STREAM, SERVICE_SOCKET, SERVICE_SOCKET_RIGHTS, error);
     m_listening = m_listener.isOpen();
     return m_listening;
 }

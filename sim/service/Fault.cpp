@@ -26,7 +26,6 @@ constexpr std::array<std::pair<const char*, Fault::Kind>, 9> WORDS{{
 }};
 
 constexpr uint64_t HUGE_LENGTH = uint64_t{1} << 62;
-constexpr uint64_t LONGEST_DELAY = 3'600'000;
 
 } // namespace
 

@@ -10,6 +10,8 @@
 
 namespace udsim {
 
+inline constexpr uint64_t LONGEST_DELAY = 3'600'000; ///< milliseconds, of a fault that delays a reply
+
 struct Fault
 {
     enum class Kind

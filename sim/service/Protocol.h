@@ -8,6 +8,7 @@ namespace udsim {
 
 inline constexpr char SERVICE_SOCKET[] = "/var/run/arvenUlmarDiscControl.socket";
 inline constexpr char AGENT_SOCKET[] = "/var/run/arvenUlmarDiscControlLog.socket";
+inline constexpr unsigned SERVICE_SOCKET_RIGHTS = 0666; ///< of both sockets: every user may connect
 
 inline constexpr size_t REQUEST_SIZE = 408;
 inline constexpr size_t HEADER_SIZE = 24;
