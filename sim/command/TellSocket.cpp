@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr unsigned RIGHTS = 0600; ///< only the user who runs the room
+constexpr unsigned ROOM_SOCKET_RIGHTS = 0600; ///< only the user who runs the room
 constexpr size_t LONGEST_LINE = 4096;
 constexpr size_t LONGEST_REPLY = 1U << 20;
 constexpr std::chrono::seconds LINE_TIME{5};
@@ -94,7 +94,7 @@ bool TellSocket::start(const std::string& path, std::string& error)
         error = path + ": another udsim uses this socket";
         return false;
     }
-    Descriptor listener = bindUnix(SOCK_STREAM, path, RIGHTS, error);
+    Descriptor listener = bindUnix(SOCK_STREAM, path, ROOM_SOCKET_RIGHTS, error);
     if (!listener.isOpen()) {
         return false;
     }

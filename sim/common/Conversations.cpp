@@ -14,7 +14,7 @@ namespace udsim {
 namespace {
 
 constexpr int PAUSE = 100; // milliseconds before the next accept when the process is out of descriptors
-constexpr size_t PIECE = 16'384;
+constexpr size_t RECEIVED_PIECE = 16'384;
 
 } // namespace
 
@@ -134,7 +134,7 @@ bool receiveMore(int socket, int milliseconds, std::string& bytes)
     if (ready <= 0) {
         return false;
     }
-    std::array<char, PIECE> piece{};
+    std::array<char, RECEIVED_PIECE> piece{};
     const ssize_t count = ::recv(socket, piece.data(), piece.size(), 0);
     if (count > 0) {
         bytes.append(piece.data(), static_cast<size_t>(count));

@@ -10,7 +10,7 @@ namespace {
 
 constexpr size_t SHORTEST_BEGINNING = 3;
 constexpr size_t LETTERS_A_SLIP = 3;
-constexpr size_t LONGEST = 64; ///< longer words get no suggestion
+constexpr size_t LONGEST_WORD = 64; ///< longer words get no suggestion
 
 char lower(char c)
 {
@@ -72,13 +72,13 @@ size_t distance(const std::string& word, const std::string& known, size_t none)
 
 std::string suggestion(const std::string& word, const std::vector<std::string>& known)
 {
-    size_t nearest = LONGEST;
+    size_t nearest = LONGEST_WORD;
     size_t longest = 0;
     const std::string* best = nullptr;
     for (const std::string& one : known) {
-        const size_t apart = word.size() > LONGEST ? LONGEST : distance(word, one, LONGEST);
+        const size_t apart = word.size() > LONGEST_WORD ? LONGEST_WORD : distance(word, one, LONGEST_WORD);
         const size_t common = commonBeginning(word, one);
-        if (apart < nearest || (apart == nearest && apart < LONGEST && common > longest)) {
+        if (apart < nearest || (apart == nearest && apart < LONGEST_WORD && common > longest)) {
             nearest = apart;
             longest = common;
             best = &one;

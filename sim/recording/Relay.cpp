@@ -15,7 +15,7 @@ namespace udsim {
 
 namespace {
 
-constexpr size_t PIECE = 65'536;
+constexpr size_t FORWARDED_PIECE = 65'536;
 constexpr size_t MOST_WAITING = 256U << 10; ///< bytes of one direction that the receiver has not read yet
 constexpr size_t MOST_HELD = 1U << 20;      ///< bytes of an incomplete reply
 constexpr int LONGEST_HOLD = 500;           ///< milliseconds for the next piece of a reply
@@ -42,7 +42,7 @@ bool isWholeReply(const std::string& bytes)
 /// Returns false if the connection has failed.
 bool receive(Stream& stream, Transcript& transcript)
 {
-    std::array<char, PIECE> piece{};
+    std::array<char, FORWARDED_PIECE> piece{};
     const ssize_t count = ::recv(stream.from, piece.data(), piece.size(), 0);
     if (count < 0) {
         return errno == EAGAIN || errno == EINTR;
@@ -67,10 +67,10 @@ bool transmit(Stream& stream)
 }
 
 /// Forwards in both directions until one side ends.
-class Exchange
+class Forwarding
 {
 public:
-    Exchange(int client, int other, bool holdsReplies, Transcript& transcript)
+    Forwarding(int client, int other, bool holdsReplies, Transcript& transcript)
         : m_there{client, other, Message::Kind::ask}, m_back{other, client, Message::Kind::answer},
           m_holdsReplies(holdsReplies), m_transcript(transcript)
     {
@@ -200,7 +200,7 @@ void Relay::carry(int client, unsigned number)
                      sizeof on); // fails harmlessly on a Unix-domain socket
     }
     Transcript transcript(m_recorder, number);
-    Exchange(client, other.get(), m_recorder.of() == Recording::Of::service, transcript).run();
+    Forwarding(client, other.get(), m_recorder.of() == Recording::Of::service, transcript).run();
 }
 
 } // namespace udsim

@@ -27,7 +27,7 @@ constexpr char WORD_GETTER[] = "/UploadInfoGetter";
 constexpr char ANSWER[] = "HTTP";
 constexpr char INTERIM[] = "HTTP/1.1 1";
 constexpr size_t SHORTEST_SECRET = 4;
-constexpr mode_t RIGHTS = 0600;
+constexpr mode_t RECORDING_RIGHTS = 0600;
 
 bool isGraphic(char c)
 {
@@ -150,7 +150,7 @@ bool Recorder::isComplete() const
 
 bool Recorder::open(const std::string& path, Recording::Of of, std::string& error)
 {
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, RIGHTS);
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, RECORDING_RIGHTS);
     m_file.reset(fd < 0 ? nullptr : ::fdopen(fd, "we"));
     if (m_file == nullptr) {
         error = path + ": " + std::strerror(errno);

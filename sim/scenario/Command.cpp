@@ -16,16 +16,14 @@ constexpr size_t LONGEST_JOB_NAME = 255;
 constexpr std::array<const char*, 6> INKS{"cyan",       "magenta",       "yellow",
                                           "light-cyan", "light-magenta", "black"};
 
-using Kind = Command::Kind;
-
 /// Commands that are one word.
-constexpr std::array<std::pair<const char*, Kind>, 6> PLAIN{{
-    {"online", Kind::online},
-    {"offline", Kind::offline},
-    {"clear", Kind::clear},
-    {"pause", Kind::pause},
-    {"resume", Kind::resume},
-    {"refill", Kind::refill},
+constexpr std::array<std::pair<const char*, Command::Kind>, 6> PLAIN{{
+    {"online", Command::Kind::online},
+    {"offline", Command::Kind::offline},
+    {"clear", Command::Kind::clear},
+    {"pause", Command::Kind::pause},
+    {"resume", Command::Kind::resume},
+    {"refill", Command::Kind::refill},
 }};
 
 /// Parses "cyan 40", a cartridge and its level in percent. Returns nothing, with the reason in `error`, on a
@@ -40,7 +38,8 @@ std::optional<Command> parseInk(const std::string& argument, std::string& error)
                 "percentage";
         return std::nullopt;
     }
-    return Command{Kind::ink, static_cast<size_t>(found - INKS.begin()), static_cast<uint32_t>(*number), {}};
+    return Command{
+        Command::Kind::ink, static_cast<size_t>(found - INKS.begin()), static_cast<uint32_t>(*number), {}};
 }
 
 std::optional<Command> parseStacker(const std::string& argument, std::string& error)
@@ -52,7 +51,8 @@ std::optional<Command> parseStacker(const std::string& argument, std::string& er
         error = "\"stacker\" needs a stacker from 1 to 4 and a number of discs up to 100";
         return std::nullopt;
     }
-    return Command{Kind::stacker, static_cast<size_t>(*stacker - 1), static_cast<uint32_t>(*number), {}};
+    return Command{
+        Command::Kind::stacker, static_cast<size_t>(*stacker - 1), static_cast<uint32_t>(*number), {}};
 }
 
 std::optional<uint64_t> parseJobType(const std::string& word)

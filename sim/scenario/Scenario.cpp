@@ -13,7 +13,7 @@ namespace udsim {
 
 namespace {
 
-constexpr uint64_t MOST_PRINTS = 1'000'000;
+constexpr uint64_t HIGHEST_PRINT_COUNT = 1'000'000;
 constexpr std::array<std::pair<const char*, uint32_t>, 8> MEDIA{{
     {"CD-R", 1},
     {"DVD-R", 6},
@@ -143,7 +143,7 @@ std::string applyToMachine(const Entry& entry, PublisherSetup& setup, const std:
         return setNumber(entry, 100, setup.maintenanceBox);
     }
     if (key == "print-count") {
-        return setNumber(entry, MOST_PRINTS, setup.printCount);
+        return setNumber(entry, HIGHEST_PRINT_COUNT, setup.printCount);
     }
     if (key == "disc-time") {
         return setTime(entry, setup.discTime);

@@ -26,7 +26,7 @@ struct Word
     uint64_t highest; ///< maximum of its number; 0: it takes no number
 };
 
-constexpr std::array<Word, 15> WORDS{{
+constexpr std::array<Word, 15> SERVER_FAULTS{{
     {"stall", Kind::stall, 0},
     {"close", Kind::close, 0},
     {"delay", Kind::delay, LONGEST_DELAY},
@@ -88,12 +88,12 @@ std::string changedItem(const std::string& body, const HttpFault& fault)
 std::optional<HttpFault> HttpFault::parse(const std::string& text, std::string& error)
 {
     const auto [word, argument] = splitFirstWord(text);
-    const auto* const known =
-        std::find_if(WORDS.begin(), WORDS.end(), [name = word](const Word& one) { return name == one.name; });
-    if (known == WORDS.end()) {
+    const auto* const known = std::find_if(SERVER_FAULTS.begin(), SERVER_FAULTS.end(),
+                                           [name = word](const Word& one) { return name == one.name; });
+    if (known == SERVER_FAULTS.end()) {
         std::vector<std::string> names;
-        names.reserve(std::size(WORDS));
-        for (const Word& one : WORDS) {
+        names.reserve(std::size(SERVER_FAULTS));
+        for (const Word& one : SERVER_FAULTS) {
             names.emplace_back(one.name);
         }
         error = "unknown server fault \"" + word + "\"" + suggestion(word, names);

@@ -21,7 +21,7 @@ constexpr char DISC_INFO[] = "DiscInfo.xml";
 constexpr size_t MOST_NOTES = 100;
 constexpr char SPECIAL_PRINT_DATA[] = "PrnData_Special.prn";
 
-constexpr std::array<NetworkModel, 3> MODELS{{
+constexpr std::array<NetworkModel, 3> NETWORK_MODELS{{
     {{"RT-300N", 0, 2, 4, false, false, false, false, "01234", "ARVEN RT-300NPRN", "DVR-300N"},
      false,
      false,
@@ -62,14 +62,15 @@ uint8_t statusOf(uint64_t result)
 
 std::span<const NetworkModel> networkModels()
 {
-    return MODELS;
+    return NETWORK_MODELS;
 }
 
 const NetworkModel* findNetworkModel(const std::string& name)
 {
-    const auto* const found = std::find_if(
-        MODELS.begin(), MODELS.end(), [&](const NetworkModel& model) { return name == model.machine.name; });
-    return found == MODELS.end() ? nullptr : found;
+    const auto* const found =
+        std::find_if(NETWORK_MODELS.begin(), NETWORK_MODELS.end(),
+                     [&](const NetworkModel& model) { return name == model.machine.name; });
+    return found == NETWORK_MODELS.end() ? nullptr : found;
 }
 
 ServerSetup ServerSetup::ofModel(const NetworkModel& model)

@@ -16,7 +16,7 @@ namespace {
 constexpr size_t LONGEST_ITEM = 0xFFFF;
 constexpr size_t PERSON_FIELD = 128;
 constexpr size_t NAME_FIELD = 510;
-constexpr uint64_t NO_STACKER = 0xFFFF;
+constexpr uint64_t NO_STACKER_IN_REPLY = 0xFFFF;
 constexpr char SECURITY_VERSION[] = "1.00";
 
 /// Encodes words of four bytes each.
@@ -165,7 +165,7 @@ uint64_t loadOf(uint64_t sources)
     case STACKER2:
         return 2;
     default:
-        return NO_STACKER;
+        return NO_STACKER_IN_REPLY;
     }
 }
 
@@ -179,7 +179,7 @@ uint64_t ejectOf(uint64_t destinations)
             return i + 1;
         }
     }
-    return NO_STACKER;
+    return NO_STACKER_IN_REPLY;
 }
 
 /// Returns 0 for writing and printing, 1 for writing, 2 for printing.

@@ -13,7 +13,7 @@ namespace udsim {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, Fault::Kind>, 9> WORDS{{
+constexpr std::array<std::pair<const char*, Fault::Kind>, 9> SERVICE_FAULTS{{
     {"refuse", Fault::Kind::refuse},
     {"stall", Fault::Kind::stall},
     {"wrong-id", Fault::Kind::wrongId},
@@ -34,7 +34,7 @@ std::optional<Fault> Fault::parse(const std::string& text, std::string& error)
     const auto [word, argument] = splitFirstWord(text);
     Fault fault;
     bool known = false;
-    for (const auto& [name, kind] : WORDS) {
+    for (const auto& [name, kind] : SERVICE_FAULTS) {
         if (word == name) {
             fault.kind = kind;
             known = true;
@@ -42,8 +42,8 @@ std::optional<Fault> Fault::parse(const std::string& text, std::string& error)
     }
     if (!known) {
         std::vector<std::string> names;
-        names.reserve(std::size(WORDS));
-        for (const auto& [name, kind] : WORDS) {
+        names.reserve(std::size(SERVICE_FAULTS));
+        for (const auto& [name, kind] : SERVICE_FAULTS) {
             names.emplace_back(name);
         }
         error = "unknown fault \"" + word + "\"" + suggestion(word, names);

@@ -34,7 +34,7 @@ bool isSet(const RegistryValues& values, std::string_view name)
     return values.texts.contains(key) || values.numbers.contains(key);
 }
 
-std::string hexadecimal(uint32_t number)
+std::string eightHexDigits(uint32_t number)
 {
     constexpr char DIGITS[] = "0123456789abcdef";
     std::string text;
@@ -50,7 +50,7 @@ void appendValues(std::string& text, const RegistryValues& values)
         text.append("\"").append(name).append("\"=\"").append(value).append("\"\n");
     }
     for (const auto& [name, value] : values.numbers) {
-        text.append("\"").append(name).append("\"=dword:").append(hexadecimal(value)).append("\n");
+        text.append("\"").append(name).append("\"=dword:").append(eightHexDigits(value)).append("\n");
     }
 }
 

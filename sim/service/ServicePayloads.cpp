@@ -12,7 +12,6 @@ namespace {
 constexpr char MAKER[] = "ARVEN";
 constexpr char DRIVE_RELEASE_DATE[] = "2025/06/12";
 constexpr size_t INFO_FIELD = 32;
-constexpr uint64_t MOST_PRINTS = 100'000;
 
 /// The status bits of the device's parts for an error code.
 struct ErrorBits
@@ -275,6 +274,7 @@ std::string driveInfo(const Publisher& publisher)
 
 std::string maintenanceInfo(const Publisher& publisher)
 {
+    constexpr uint64_t PRINTER_LIFE = 100'000; // discs
     constexpr uint64_t TRAY_LIFE = 60'000;
     constexpr uint64_t WRITE_TIME_LIFE = 4'000'000; // seconds
     constexpr uint64_t READ_TIME_LIFE = 8'000'000;
@@ -282,7 +282,7 @@ std::string maintenanceInfo(const Publisher& publisher)
     const Model& model = publisher.model();
     const uint64_t printed = publisher.printedDiscs();
     ByteWriter out;
-    out.u64(printed).u64(MOST_PRINTS);
+    out.u64(printed).u64(PRINTER_LIFE);
     if (model.maintenanceBox) {
         constexpr uint64_t FULL = 100; // percent; the payload contains the used part
         out.u64(FULL - publisher.state().maintenanceBox).u64(FULL);
