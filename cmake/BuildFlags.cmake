@@ -4,6 +4,9 @@ set(ULMAR_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize 
 option(ULMAR_WERROR "Treat warnings as errors" OFF)
 option(ULMAR_COVERAGE "Instrument for gcov" OFF)
 
+# With CMAKE_UNITY_BUILD, all sources of a library are compiled together: most of the time is spent on the headers.
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
+
 # NDEBUG is never defined: a failed assertion stops the process in every build type.
 set(CMAKE_CXX_FLAGS_DEBUG "-Og -g")
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O2 -g")
