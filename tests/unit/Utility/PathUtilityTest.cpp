@@ -9,8 +9,10 @@
 #include <string>
 #include <type_traits>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -73,6 +75,7 @@ TEST(PathUtilityTest, IsFullPath)
         {"c:/", true},      {"C:\\x", true}, {"c:x", false}, {"1:/", false},     {":/", false},
         {"cd:/", false},    {"a", false},    {"../", false}, {"z:/", true},      {"Z:\\", true},
         {"@:/", false},     {"[:/", false},  {"`:/", false}, {"{:/", false},     {"\xe9:/", false},
+        {"a:/", true},      {"A:\\", true},  {"ab/", false},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(CUtility::IsFullPath(row.path), row.result) << (row.path == nullptr ? "NULL" : row.path);
@@ -270,6 +273,14 @@ TEST_F(CheckPathTest, LeavesNoDescriptorOpen)
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ), 0);
     EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ_WRITE), 0);
     EXPECT_EQ(OpenDescriptors(), before);
+}
+
+TEST_F(CheckFolderPathTest, DescriptorZeroIsNoFailure)
+{
+    ASSERT_EQ(close(STDIN_FILENO), 0);
+    errno = EACCES;
+    EXPECT_EQ(CUtility::CheckFolderPath("/tmp/folder", CUtility::ACCESS_READ_WRITE), 0);
+    EXPECT_EQ(fcntl(STDIN_FILENO, F_GETFD), -1) << "the descriptor is closed";
 }
 
 TEST_F(CheckFolderPathTest, ExecuteAccessStopsTheProcess)

@@ -1,5 +1,6 @@
 // The registry interface: results of every operation, with and without an open key.
 #include "RegUtility.h"
+#include "HeapGrowth.h"
 #include "LogAgent.h"
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
@@ -117,6 +118,7 @@ TEST_F(RegUtility, WithoutAnOpenKeyOperationsReturnMinusOne)
     EXPECT_EQ(reg.GetLongestValueNameLen(&number), -1);
     EXPECT_EQ(reg.GetLongestValueNameLen(nullptr), 87);
     EXPECT_EQ(reg.EnumRegKey(0, text, &number), -1);
+    EXPECT_EQ(reg.EnumRegKey(0, text, nullptr), -1);
     EXPECT_EQ(reg.EnumRegValueName(0, text, &number), -1);
     EXPECT_EQ(reg.GetRegNumValue("a", &number), -1);
     EXPECT_EQ(reg.GetRegNumValue(nullptr, &number), -1);
@@ -153,6 +155,15 @@ TEST_F(RegUtility, NullArgumentsReturnZeroAndDoNothing)
     EXPECT_STREQ(text, "text");
     reg.CloseReg();
     EXPECT_EQ(ReadText(REGISTRY_FILE), VALUES);
+}
+
+TEST_F(RegUtility, ANullNameCreatesNoKey)
+{
+    const std::string unknown = "a line that writing the map would lose\n" + std::string(VALUES);
+    WriteRegistry(unknown);
+    ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
+    EXPECT_EQ(reg.CreateRegKey(nullptr), 0);
+    EXPECT_EQ(ReadText(REGISTRY_FILE), unknown);
 }
 
 TEST_F(RegUtility, AccessMasksAreIgnored)
@@ -263,6 +274,14 @@ TEST_F(RegUtility, AValueIsDeletedFromTheFile)
     EXPECT_EQ(reg.DeleteRegValue("absent"), 0);
     reg.CloseReg();
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\"empty\"=\"\"\n\"number\"=dword:0000002a\n\n");
+}
+
+TEST_F(RegUtility, AValueWithAOneLetterNameIsDeleted)
+{
+    WriteRegistry("[HKLM/k]\n\"n\"=dword:00000001\n\"text\"=\"four\"\n\n");
+    ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
+    EXPECT_EQ(reg.DeleteRegValue("n"), 0);
+    EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\"text\"=\"four\"\n\n");
 }
 
 TEST_F(RegUtilityDeathTest, CountingValuesStopsTheProcess)
@@ -396,6 +415,20 @@ TEST_F(RegUtility, AGrandchildWithoutItsParentDoesNotHang)
     EXPECT_EQ(reg.DeleteRegKey("a"), 0);
     EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\n[HKLM/k/a/b/c]\n\n")
         << "the enumeration does not list it";
+    WriteRegistry("[HKLM/k]\n\n[HKLM/k/b]\n\n[HKLM/k/b/c]\n\n[HKLM/k/b/c/d/e]\n\n");
+    ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
+    EXPECT_EQ(reg.DeleteRegKey("b"), 0);
+    EXPECT_EQ(ReadText(REGISTRY_FILE), "[HKLM/k]\n\n[HKLM/k/b/c/d/e]\n\n")
+        << "each sub key is deleted once, although more keys are counted";
+}
+
+TEST_F(RegUtility, DeletingAKeyLeavesNoMemoryAllocated)
+{
+    WriteRegistry("[HKLM/k]\n\n[HKLM/k/a]\n\n");
+    ASSERT_EQ(reg.OpenReg(HKEY_LOCAL_MACHINE, "k", FALSE, FALSE), 0);
+    const size_t growth =
+        HeapGrowth([this] { EXPECT_EQ(reg.DeleteRegKey("a"), 0); }); // the map keeps the key
+    EXPECT_LT(growth, 1000U);
 }
 
 TEST_F(RegUtility, DeletingAnAbsentSubKeyReturnsTheStatusOfOpening)
@@ -437,6 +470,7 @@ TEST_F(RegUtility, GetRegStrDataClearsItsOutputOnFailure)
     text = "old";
     EXPECT_FALSE(CRegUtility::GetRegStrData(HKEY_LOCAL_MACHINE, "absent", "text", &text));
     EXPECT_EQ(text, "");
+    EXPECT_EQ(ReadText(REGISTRY_FILE), VALUES) << "reading creates no key";
 }
 
 TEST_F(RegUtility, SetRegDWORDDataCreatesTheKey)
