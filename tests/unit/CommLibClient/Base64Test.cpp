@@ -1,6 +1,7 @@
 #include "Base64.h"
 
 #include "FailingMemory.h"
+#include "HeapGrowth.h"
 
 #include <climits>
 #include <string>
@@ -38,6 +39,17 @@ TEST(Base64, FollowsTheStandard)
         EXPECT_EQ(base64.Encode(example.plain.data(), static_cast<int>(example.plain.size())), 0);
         EXPECT_STREQ(base64.GetData(), example.encoded);
         EXPECT_EQ(base64.GetSize(), static_cast<int>(std::string(example.encoded).size()));
+    }
+}
+
+TEST(Base64, EncodesNoByteBehindTheData)
+{
+    for (const std::string& behind : {std::string("\xff\xff\xff"), std::string("\0\0\0", 3)}) {
+        CBase64 base64;
+        ASSERT_EQ(base64.Encode(("f" + behind).c_str(), 1), 0);
+        EXPECT_STREQ(base64.GetData(), "Zg==");
+        ASSERT_EQ(base64.Encode(("fo" + behind).c_str(), 2), 0);
+        EXPECT_STREQ(base64.GetData(), "Zm8=");
     }
 }
 
@@ -80,6 +92,16 @@ TEST(Base64, KeepsOnlyTheLastResult)
     EXPECT_EQ(base64.GetSize(), 0);
 }
 
+TEST(Base64, FreesItsResults)
+{
+    const size_t growth = HeapGrowth([] {
+        CBase64 base64;
+        EXPECT_EQ(base64.Encode("foobar"), 0);
+        EXPECT_EQ(base64.Encode("foobar"), 0);
+    });
+    EXPECT_LT(growth, 1000U);
+}
+
 TEST(Base64, ReportsOutOfMemory)
 {
     CBase64 base64;
@@ -87,6 +109,8 @@ TEST(Base64, ReportsOutOfMemory)
     const FailingMemory memory(1);
     EXPECT_EQ(base64.Encode("foobar"), -2);
     EXPECT_EQ(memory.Largest(), 9U); // with the zero byte
+    EXPECT_EQ(base64.Decode("Zg=="), -2);
+    EXPECT_EQ(base64.Decode("Zg==", 4), -2);
     EXPECT_EQ(base64.GetSize(), 0);
     EXPECT_EQ(base64.GetData(), nullptr);
 }

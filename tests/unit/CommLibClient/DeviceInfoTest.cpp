@@ -6,6 +6,7 @@
 
 #include <array>
 
+using testing::Contains;
 using testing::ElementsAre;
 
 TEST(DeviceInfo, ReturnsTheTextOfEachType)
@@ -23,6 +24,25 @@ TEST(DeviceInfo, ReturnsTheTextOfEachType)
         EXPECT_THAT(lines.Take(),
                     ElementsAre("<7>server , GetDeviceInfo , Start", "<7>server , GetDeviceInfo , End"));
     }
+}
+
+TEST(DeviceInfo, RequiresExactlyOneItem)
+{
+    const std::string number = ReplyItem(WireWord(1));
+    const std::string mode = ReplyItem("\2");
+    const std::string text = ReplyItem("text");
+    FakeServer server({HttpResponse(text + text), HttpResponse(number + number), HttpResponse(mode + mode)});
+    SyslogLines lines;
+    char buffer[16] = "as before";
+    EXPECT_EQ(GetDeviceInfo(server.Handle(), NCL_DIT_NAME_OF_PRN, buffer, sizeof buffer), 13U);
+    EXPECT_THAT(lines.Take(), Contains("<3>[CommLib] ParseCommReply Invalid Comm Spec 4"));
+    DWORD value = 77;
+    EXPECT_EQ(GetDeviceInfoInt(server.Handle(), NCL_DIT_DRV_USED, &value), 13U);
+    EXPECT_THAT(lines.Take(), Contains("<3>[CommLib] ParseCommReply Invalid Comm Spec 4"));
+    EXPECT_EQ(GetServerMode(server.Handle(), &value), 13U);
+    EXPECT_THAT(lines.Take(), Contains("<3>[CommLib] ParseCommReply Invalid Comm Spec 4"));
+    EXPECT_STREQ(buffer, "as before");
+    EXPECT_EQ(value, 77U);
 }
 
 TEST(DeviceInfo, RequiresRoomForTheZeroByte)

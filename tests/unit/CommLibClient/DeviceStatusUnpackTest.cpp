@@ -130,9 +130,9 @@ TEST(InkWord, IsAnAmountUpToAHundred)
 TEST(InkWord, IsACartridgeFaultBeyondAHundred)
 {
     const Meaning rows[] = {
-        {0x100, 101}, {0x200, 102},    {0x400, 103},      {0x800, 103},      {0x40000800, 104}, {0xF00, 101},
-        {0xE00, 102}, {0xC00, 103},    {0x40000C00, 103}, {0x40000F00, 101}, {101, 0},          {127, 0},
-        {0x1000, 0},  {0x3FFFF0FF, 0}, {0x40000065, 0},   {0x100 | 50, 101}, {0x40001800, 104},
+        {0x100, 101}, {0x200, 102}, {0x400, 103},    {0x800, 103},      {0x40000800, 104}, {0xF00, 101},
+        {0xE00, 102}, {0x801, 103}, {0xC00, 103},    {0x40000C00, 103}, {0x40000F00, 101}, {101, 0},
+        {127, 0},     {0x1000, 0},  {0x3FFFF0FF, 0}, {0x40000065, 0},   {0x100 | 50, 101}, {0x40001800, 104},
     };
     for (const Meaning& row : rows) {
         for (const DWORD top : {0U, 0x80000000U}) {
@@ -328,6 +328,11 @@ TEST(NotifyItem, FullStackersDependOnTheMode)
         {NCL_MODE_OUTPUT, 0x4, 0, 0, 1},
         {NCL_MODE_OUTPUT, 0x6, 0, 1, 1},
         {NCL_MODE_OUTPUT, 0, 0x4, 0, 0},
+        {NCL_MODE_OUTPUT, 0xFFFFFFFD, 0xFFFFFFFF, 0, 1}, // all other bits
+        {NCL_MODE_OUTPUT, 0xFFFFFFFB, 0xFFFFFFFF, 1, 0},
+        {NCL_MODE_BATCH, 0xFFFFFFFD, 0xFFFFFFFB, 0, 0},
+        {NCL_MODE_BATCH, 0xFFFFFFFF, 0xFFFFFFFB, 1, 1},
+        {NCL_MODE_BATCH, 0xFFFFFFFD, 0xFFFFFFFF, 0, 1},
         {NCL_MODE_BATCH, 0x2, 0, 1, 1},
         {NCL_MODE_BATCH, 0x4, 0, 0, 0},
         {NCL_MODE_BATCH, 0x2, 0x4, 0, 1},

@@ -3,6 +3,7 @@
 
 #include "FailingMemory.h"
 #include "FakeComm.h"
+#include "HeapGrowth.h"
 #include "SyslogLines.h"
 
 #include <cerrno>
@@ -99,6 +100,17 @@ TEST(HttpReply, StartsWithAnEmptyRecord)
     EXPECT_EQ(response.m_strCookie, "");
     EXPECT_EQ(response.m_bChunked, FALSE);
     EXPECT_EQ(response.m_eMethod, CHttp::EMPTY);
+}
+
+TEST(HttpReply, FreesItsBody)
+{
+    const size_t growth = HeapGrowth([] {
+        ST_HTTP_RESPONSE response;
+        response.m_pContent = new char[100];
+        response.Init();
+        response.m_pContent = new char[100];
+    });
+    EXPECT_LT(growth, 1000U);
 }
 
 TEST(HttpReply, RequiresAKnownStatusLine)
@@ -261,6 +273,9 @@ TEST(HttpReply, UsesTheLaterOfTwoLengths)
     EXPECT_EQ(Reply("HTTP/1.1 200 OK\r\nContent-Length: 9\r\nContent-Length: 2\r\n\r\nabc").Content(), "ab");
     EXPECT_EQ(Reply("HTTP/1.1 200 OK\r\nContent-Length: 1\r\nContent-Length: 3\r\n\r\nabc").Content(), "abc");
     EXPECT_EQ(Reply("HTTP/1.1 200 OK\r\nContent-Length: x\r\nContent-Length: 3\r\n\r\nabc").result, -25);
+    const Reply bad("HTTP/1.1 200 OK\r\nContent-Length: 3\r\nContent-Length: x\r\n\r\nabc");
+    EXPECT_EQ(bad.result, -25);
+    EXPECT_EQ(bad.response.m_dwContentLength, 0U);
 }
 
 TEST(HttpReply, MatchesHeaderNamesExactly)
@@ -482,6 +497,20 @@ TEST(HttpReply, IsLimitedInSize)
         EXPECT_EQ(
             std::count(written.begin(), written.end(), "<3>[CommLib(HTTP)] Reply of more than 4194304 bytes"),
             row.result == 0 ? 0 : 1);
+    }
+}
+
+TEST(HttpReply, HasASizeLimitOfItsOwn)
+{
+    const std::string reply =
+        "HTTP/1.1 200 OK\r\nContent-Length: 3000000\r\n\r\n" + std::string(3000000, 'x');
+    FakeHttp http(new FakeComm({{.reply = reply + reply + reply}}));
+    ASSERT_EQ(http.SendHeader(CHttp::METHOD_GET, "/", CHttp::VERSION_1_1, "h", nullptr, nullptr, nullptr), 0);
+    for (int count = 0; count < 3; ++count) {
+        ST_HTTP_RESPONSE response;
+        errno = 0;
+        EXPECT_EQ(http.RecvResponse(&response), 0);
+        EXPECT_EQ(response.m_dwContentLength, 3000000U);
     }
 }
 

@@ -124,7 +124,8 @@ TEST(JobStatusUnpack, OtherListsHaveNoRemainingTime)
     for (const DWORD type : {NCL_JST_PROCESS_JOB, NCL_JST_FINISH_JOB, NCL_JST_ALL_JOB}) {
         Guarded<JobStatusEx> filled;
         filled.job.dwRemainingTime = 5; // an old value
-        EXPECT_EQ(UnpackJobStatusEx(FullRecord(1178).Bytes().data(), 1178, type, &filled.job),
+        const std::string next = "the next item";
+        EXPECT_EQ(UnpackJobStatusEx((FullRecord(1178).Bytes() + next).data(), 1178, type, &filled.job),
                   JOB_RECORD_GOOD);
         ExpectFullRecord(filled.job);
         EXPECT_EQ(filled.job.dwRemainingTime, 0U);

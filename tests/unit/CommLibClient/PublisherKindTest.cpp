@@ -1,3 +1,4 @@
+#include "HeapGrowth.h"
 #include "NW_Com_Lib_internal.h"
 #include "OrdinaryRights.h"
 #include "PublisherFiles.h"
@@ -187,6 +188,16 @@ TEST(RegistryNumber, ReleasesTheRegistryLock)
             RegistryMutex().unlock();
         }
     }).join();
+}
+
+TEST(RegistryNumber, LeavesNoMemoryAllocated)
+{
+    WriteRegistry("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n");
+    const size_t growth = HeapGrowth([] {
+        DWORD value = 0;
+        EXPECT_TRUE(GetRegistryIntValue(HKEY_LOCAL_MACHINE, ROOT_KEY, "CompatiMode", value));
+    });
+    EXPECT_LT(growth, 1000U);
 }
 
 TEST(RegistryNumber, SupportsConcurrentReaders)
