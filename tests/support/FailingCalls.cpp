@@ -1,5 +1,6 @@
 #include "FailingCalls.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdarg>
@@ -12,13 +13,16 @@
 
 namespace {
 
+constexpr size_t ANY_SIZE = ~size_t{0};
+
 struct Failure
 {
     int error = 0; ///< 0: none
     int passed = 0;
+    size_t longest = ANY_SIZE; ///< of the next call, in bytes
 };
 
-thread_local std::array<Failure, 3> failures = {};
+thread_local std::array<Failure, 4> failures = {};
 
 /// True, with errno, if the call must fail.
 bool Fails(FailingCall call)
@@ -31,11 +35,23 @@ bool Fails(FailingCall call)
     return true;
 }
 
+/// The number of bytes that the call may transfer.
+size_t Shortened(FailingCall call, size_t size)
+{
+    return std::min(size, std::exchange(failures[static_cast<size_t>(call)].longest, ANY_SIZE));
+}
+
 } // namespace
 
 void FailOne(FailingCall call, int error, int passed)
 {
-    failures[static_cast<size_t>(call)] = {error, passed};
+    failures[static_cast<size_t>(call)].error = error;
+    failures[static_cast<size_t>(call)].passed = passed;
+}
+
+void ShortenOne(FailingCall call, size_t size)
+{
+    failures[static_cast<size_t>(call)].longest = size;
 }
 
 extern "C" {
@@ -56,6 +72,12 @@ int fstat(int fd, struct stat* info) noexcept
 
 ssize_t read(int fd, void* buffer, size_t size)
 {
-    return Fails(FailingCall::READ) ? -1 : syscall(SYS_read, fd, buffer, size);
+    return Fails(FailingCall::READ) ? -1 : syscall(SYS_read, fd, buffer, Shortened(FailingCall::READ, size));
+}
+
+ssize_t write(int fd, const void* buffer, size_t size)
+{
+    return Fails(FailingCall::WRITE) ? -1
+                                     : syscall(SYS_write, fd, buffer, Shortened(FailingCall::WRITE, size));
 }
 }

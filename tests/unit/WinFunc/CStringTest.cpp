@@ -32,6 +32,9 @@ TEST(CString, GetBufferCopiesTheTextAndGrowsToTheSize)
     for (const int size : {-1, 0, 1, 4}) {
         EXPECT_STREQ(text.GetBuffer(size), "abc") << size;
     }
+    text.GetBuffer(1);
+    text.ReleaseBuffer();
+    EXPECT_EQ(text, "abc") << "a smaller size does not cut the text";
     char* buffer = text.GetBuffer(100);
     EXPECT_STREQ(buffer, "abc");
     memset(buffer, 'x', 100); // the caller may write all of it
@@ -45,6 +48,8 @@ TEST(CString, ASecondGetBufferStartsFromTheText)
     CString text("abc");
     strcpy_s(text.GetBuffer(10), 10, "lost");
     EXPECT_STREQ(text.GetBuffer(10), "abc");
+    memset(text.GetBuffer(100), 'x', 99);
+    EXPECT_STREQ(text.GetBuffer(0), "abc") << "the old bytes do not follow the text";
 }
 
 TEST(CString, ReleaseBufferTakesTheTextUpToItsNul)

@@ -137,6 +137,16 @@ TEST(AgentLog, KeepsErrnoAndLeaksNoDescriptor)
     EXPECT_EQ(OpenDescriptors(), with);
 }
 
+TEST(AgentLog, IsSentWithoutStandardInput)
+{
+    LogAgent agent;
+    const size_t before = OpenDescriptors();
+    ASSERT_EQ(close(STDIN_FILENO), 0);
+    logViaAgent(4, "%s", "text");
+    EXPECT_EQ(agent.Receive(), AgentHead() + "text\nPRIORITY=4\n");
+    EXPECT_EQ(OpenDescriptors(), before - 1);
+}
+
 TEST(AgentLog, ASlowAgentLosesLinesAndDoesNotBlockCallers)
 {
     LogAgent agent;
@@ -196,6 +206,18 @@ TEST(AgentLog, WaitsForAHungAgentOncePerPause)
     ASSERT_EQ(waits.size(), 2U);
     EXPECT_LT(waits[0], std::chrono::seconds(2));         // the wait itself is 200 ms
     EXPECT_GE(waits[1], std::chrono::milliseconds(4900)); // from one wait to the next
+}
+
+TEST(AgentLog, AnEarlierEagainStartsNoPause)
+{
+    const LogAgent agent; // reads nothing
+    errno = EAGAIN;
+    logViaAgent(4, "%s", "queued");
+    const auto start = std::chrono::steady_clock::now();
+    for (size_t line = 0; line < 100; ++line) { // one of them waits until its timeout
+        logViaAgent(4, "%s", "lost or queued");
+    }
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(190));
 }
 
 TEST(AgentLog, AnAgentThatReadsAgainGetsTheNextLine)

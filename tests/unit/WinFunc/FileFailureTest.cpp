@@ -1,11 +1,15 @@
 // Files of which a call fails once: what could not be read is never overwritten.
 #include "FailingCalls.h"
+#include "ProfileText.h"
 #include "RegistryFile.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
@@ -71,4 +75,99 @@ TEST(FileFailure, AProfileThatCannotBeReadIsUnchanged)
         EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "2", PROFILE));
         EXPECT_EQ(ReadText(PROFILE), SECTION);
     }
+}
+
+TEST(FileFailure, AProfileWithAReadErrorIsIncomplete)
+{
+    WriteText(PROFILE, "[Common]\nKey=1\n;" + std::string(9000, 'x') + "\nLast=2\n");
+    for (const int passed : {0, 1, 2}) {
+        FailOne(FailingCall::READ, EIO, passed);
+        const auto profile = ProfileText::Read(PROFILE);
+        EXPECT_FALSE(profile->IsComplete());
+        EXPECT_EQ(profile->Value("Common", "Key", 255), passed > 0 ? "1" : "");
+        EXPECT_EQ(profile->Value("Common", "Last", 255), "");
+    }
+    FailOne(FailingCall::FSTAT, EIO);
+    const auto profile = ProfileText::Read(PROFILE);
+    ASSERT_NE(profile, nullptr);
+    EXPECT_FALSE(profile->IsComplete());
+    EXPECT_EQ(profile->Value("Common", "Key", 255), "");
+}
+
+TEST(FileFailure, AProfileEndsWhereItHasBeenCut)
+{
+    WriteText(PROFILE, "[Common]\nKey=1\n");
+    ShortenOne(FailingCall::READ, 0); // the end of the file, although its size was larger
+    auto profile = ProfileText::Read(PROFILE);
+    EXPECT_TRUE(profile->IsComplete());
+    EXPECT_EQ(profile->Value("Common", "Key", 255), "");
+    WriteText(PROFILE, "[Common]\n;" + std::string(4079, 'x') + "\nKey=1234\n"); // 4096 bytes up to the 2
+    FailOne(FailingCall::READ, EIO, 1);
+    char value[16] = {};
+    EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "", value, sizeof value, PROFILE), 2U);
+    EXPECT_STREQ(value, "12") << "the end of the text also ends its last line";
+}
+
+TEST(LockedFileFailure, ReadingContinuesAfterAShortOrInterruptedCall)
+{
+    WriteText(PROFILE, "0123456789abcdef");
+    const LockedFile file(PROFILE, O_RDONLY);
+    char buffer[] = "................";
+    ShortenOne(FailingCall::READ, 3);
+    FailOne(FailingCall::READ, EINTR, 1);
+    EXPECT_EQ(file.Read(buffer, 8), 8);
+    EXPECT_STREQ(buffer, "01234567........");
+    FailOne(FailingCall::READ, EIO, 1);
+    EXPECT_EQ(file.Read(buffer, 2), 2) << "one call is enough";
+    EXPECT_STREQ(buffer, "89234567........");
+    EXPECT_EQ(file.Read(buffer, 1), -1);
+    EXPECT_EQ(errno, EIO);
+    errno = EINTR; // of an earlier call
+    EXPECT_EQ(file.Read(buffer, 16), 6) << "up to the end of the file";
+    EXPECT_STREQ(buffer, "abcdef67........");
+}
+
+TEST(LockedFileFailure, WritingContinuesAfterAShortOrInterruptedCall)
+{
+    const LockedFile file(PROFILE, O_WRONLY | O_CREAT, 0600);
+    ShortenOne(FailingCall::WRITE, 3);
+    FailOne(FailingCall::WRITE, EINTR, 1);
+    EXPECT_TRUE(file.WriteAll("0123456789"));
+    EXPECT_EQ(ReadText(PROFILE), "0123456789");
+    FailOne(FailingCall::WRITE, ENOSPC);
+    EXPECT_FALSE(file.WriteAll("x"));
+    ShortenOne(FailingCall::WRITE, 0);
+    errno = EINTR; // of an earlier call
+    EXPECT_FALSE(file.WriteAll("x")) << "a call that writes nothing";
+    EXPECT_EQ(ReadText(PROFILE), "0123456789");
+}
+
+TEST(LockedFileFailure, ClosingReleasesTheLockOfAnInheritedDescriptor)
+{
+    LockedFile file(PROFILE, O_WRONLY | O_CREAT, 0600);
+    const int copy = dup(file.Descriptor()); // as in a child that has just forked
+    const int other = open(PROFILE, O_WRONLY | O_CLOEXEC);
+    EXPECT_EQ(flock(other, LOCK_EX | LOCK_NB), -1);
+    EXPECT_TRUE(file.Close());
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(flock(other, LOCK_EX | LOCK_NB), 0);
+    EXPECT_TRUE(file.Close()) << "has no effect";
+    close(other);
+    close(copy);
+}
+
+TEST(LockedFileFailure, ClosingReportsAFailure)
+{
+    LockedFile file(PROFILE, O_WRONLY | O_CREAT, 0600);
+    close(file.Descriptor());
+    EXPECT_FALSE(file.Close());
+    EXPECT_FALSE(file.IsOpen());
+}
+
+TEST(LockedFileFailure, ANullPathSetsEfault)
+{
+    errno = 0;
+    const LockedFile file(nullptr, O_RDONLY);
+    EXPECT_EQ(errno, EFAULT);
+    EXPECT_FALSE(file.IsOpen());
 }

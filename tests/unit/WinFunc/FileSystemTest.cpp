@@ -1,4 +1,5 @@
 // Files and folders by name: deletion, creation, attributes, paths and disk space.
+#include "OpenDescriptors.h"
 #include "OrdinaryRights.h"
 #include "TextFiles.h"
 #include "Win_def.h"
@@ -25,6 +26,7 @@ namespace {
 
 /// The result of statvfs while it is set, and the path of its last call.
 std::optional<struct statvfs> scriptedSpace;
+bool isSpaceUnknown = false; ///< statvfs fails
 std::string askedForSpaceOf;
 
 bool onlyAskedToOpen = false; ///< fopen records its mode and fails
@@ -47,6 +49,10 @@ extern "C" FILE* fopen(const char* path, const char* mode)
 
 extern "C" int statvfs(const char* path, struct statvfs* space) noexcept
 {
+    if (isSpaceUnknown) {
+        errno = EIO;
+        return -1;
+    }
     if (scriptedSpace) {
         askedForSpaceOf = path;
         *space = *scriptedSpace;
@@ -274,6 +280,14 @@ TEST(PathIsDirectoryTest, IsTrueForFoldersThatCanBeListed)
     EXPECT_EQ(PathIsDirectoryA("/tmp/folder"), FALSE);
 }
 
+TEST(PathIsDirectoryTest, LeavesNoDescriptorOpen)
+{
+    const size_t before = OpenDescriptors();
+    EXPECT_EQ(PathIsDirectoryA("/tmp"), TRUE);
+    EXPECT_EQ(PathIsDirectoryA("/tmp/absent"), FALSE);
+    EXPECT_EQ(OpenDescriptors(), before);
+}
+
 TEST(FileAttributesTest, DependOnKindAndMode)
 {
     fs::create_directory("/tmp/folder");
@@ -332,6 +346,13 @@ TEST(PathAppendTest, DropsLeadingDotsAndInsertsOneSlash)
         EXPECT_EQ(PathAppendA(buffer.data(), row.more.c_str()), TRUE);
         EXPECT_EQ(std::string(buffer.data()), row.result) << row.path << " + " << row.more;
     }
+}
+
+TEST(PathAppendTest, ReadsNoByteBeforeTheText)
+{
+    std::array<char, 8> buffer = {'/'};
+    EXPECT_EQ(PathAppendA(buffer.data() + 1, "b"), TRUE);
+    EXPECT_STREQ(buffer.data(), "//b");
 }
 
 TEST(PathAppendTest, WritesNoByteAfterTheResult)
@@ -460,6 +481,10 @@ TEST_F(DiskSpaceTest, FailsForAnAbsentFolder)
     EXPECT_EQ(GetDiskFreeSpaceEx("/tmp/absent", &value, &value, &value), FALSE);
     EXPECT_EQ(GetDiskFreeSpaceEx("", &value, &value, &value), FALSE);
     EXPECT_EQ(value.QuadPart, 77u);
+    isSpaceUnknown = true;
+    EXPECT_EQ(GetDiskFreeSpaceEx("/tmp", &value, &value, &value), FALSE);
+    EXPECT_EQ(value.QuadPart, 77u);
+    isSpaceUnknown = false;
     scriptedSpace.reset();
     DWORD number = 77;
     EXPECT_EQ(GetDiskFreeSpace("/tmp/absent", &number, &number, &number, &number), FALSE);

@@ -1,4 +1,6 @@
 // Files behind handles: opening, reading, writing, size and position.
+#include "FailingMemory.h"
+#include "OpenDescriptors.h"
 #include "OrdinaryRights.h"
 #include "StdoutCapture.h"
 #include "TextFiles.h"
@@ -162,7 +164,9 @@ TEST(CreateFileTest, AnyOtherMaskOrDispositionIsInvalidAndCreatesNothing)
                 if (known && disposition >= 1 && disposition <= 3) {
                     continue; // in the table
                 }
+                SetLastError(0);
                 EXPECT_EQ(Open(path, mask, disposition), INVALID_HANDLE_VALUE) << mask << " " << disposition;
+                EXPECT_EQ(GetLastError(), 87u);
                 EXPECT_EQ(fs::exists(path), exists);
             }
         }
@@ -171,14 +175,17 @@ TEST(CreateFileTest, AnyOtherMaskOrDispositionIsInvalidAndCreatesNothing)
 
 TEST(CreateFileTest, InvalidNamesFail)
 {
+    SetLastError(0);
     EXPECT_EQ(CreateFileA(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
               INVALID_HANDLE_VALUE);
+    EXPECT_EQ(GetLastError(), 87u);
     EXPECT_EQ(Open("", GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE);
     EXPECT_EQ(GetLastError(), 2u) << "open rejects an empty name";
 
     fs::current_path("/tmp");
     WriteText("\nname", "text");
     EXPECT_EQ(Open("\nname", GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE) << "a leading line feed";
+    EXPECT_EQ(GetLastError(), 87u);
     WriteText("name\n", "text");
     const HANDLE handle = Open("name\n", GENERIC_READ, OPEN_EXISTING);
     EXPECT_NE(handle, INVALID_HANDLE_VALUE) << "a trailing line feed";
@@ -203,6 +210,22 @@ TEST(CreateFileTest, SystemErrorsReachGetLastError)
     EXPECT_EQ(GetLastError(), 3u);
     EXPECT_EQ(Open("/usr/absent", GENERIC_WRITE, CREATE_NEW), INVALID_HANDLE_VALUE);
     EXPECT_EQ(GetLastError(), 6009u) << "a read-only file system";
+}
+
+TEST(CreateFileTest, OutOfMemoryClosesTheFile)
+{
+    WriteText(path, "text");
+    const size_t before = OpenDescriptors();
+    HANDLE handle = nullptr;
+    DWORD error = 0;
+    {
+        const FailingMemory memory(1);
+        handle = Open(path, GENERIC_READ, OPEN_EXISTING);
+        error = GetLastError();
+    }
+    EXPECT_EQ(handle, INVALID_HANDLE_VALUE);
+    EXPECT_EQ(error, 8u);
+    EXPECT_EQ(OpenDescriptors(), before);
 }
 
 TEST(CreateFileTest, ADeniedFileSetsCode5)

@@ -1,4 +1,5 @@
 // The classes behind a handle, their destruction, and the warnings about invalid handles.
+#include "HeapGrowth.h"
 #include "StdoutCapture.h"
 #include "WinFunc.h"
 
@@ -251,6 +252,16 @@ TEST(SymbolTest, ANameThatIsTooLongGivesTheEmptyText)
     EXPECT_EQ(FunctionOfSymbol("./program(_Z2000" + std::string(2000, 'x') + "v+0x1b) [0x55]"), "");
     const std::string fits(1000, 'x');
     EXPECT_EQ(FunctionOfSymbol("./program(_Z1000" + fits + "v+0x1b) [0x55]"), fits);
+    const std::string longest(1017, 'x'); // with _Z1017, 1023 bytes
+    EXPECT_EQ(FunctionOfSymbol("./program(_Z1017" + longest + "+0x1b) [0x55]"), longest);
+    EXPECT_EQ(FunctionOfSymbol("./program(_Z1018" + longest + "x+0x1b) [0x55]"), "");
+}
+
+TEST(SymbolTest, LeavesNoMemoryAllocated)
+{
+    const size_t growth =
+        HeapGrowth([] { EXPECT_EQ(FunctionOfSymbol("./program(_Z8SetEventPv+0x1b) [0x55]"), "SetEvent"); });
+    EXPECT_LT(growth, 1000U);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 #include "CountedSleep.h"
 #include "WinFunc.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 #include <thread>
 
@@ -120,6 +122,25 @@ TEST(CriticalSectionTest, TheOwnerMayEnterAgain)
     EXPECT_EQ(TryElsewhere(&section), FALSE) << "entered three times, left twice";
     LeaveCriticalSection(&section);
     EXPECT_EQ(TryElsewhere(&section), TRUE);
+    DeleteCriticalSection(&section);
+}
+
+/// Leaves bytes on the stack that would be invalid attributes of a mutex.
+[[gnu::noinline]] void DirtyTheStack()
+{
+    std::array<volatile char, 1000> bytes;
+    std::fill(bytes.begin(), bytes.end(), '\xff');
+}
+
+TEST(CriticalSectionTest, IsRecursiveWhateverIsOnTheStack)
+{
+    CRITICAL_SECTION section = {};
+    DirtyTheStack();
+    InitializeCriticalSection(&section);
+    EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
+    EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
+    LeaveCriticalSection(&section);
+    LeaveCriticalSection(&section);
     DeleteCriticalSection(&section);
 }
 

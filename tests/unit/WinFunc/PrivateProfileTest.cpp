@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <clocale>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <random>
 #include <sys/stat.h>
@@ -214,12 +215,25 @@ TEST(PrivateProfile, ASizeOfZeroDoesNotChangeTheBuffer)
     EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", &byte, 0, FILE_NAME), 0U);
     EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", &byte, 0, "/tmp/absent"), 0U);
     EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", nullptr, 0, FILE_NAME), 0U);
+    EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", nullptr, 10, FILE_NAME), 0U);
     EXPECT_EQ(byte, '#');
+}
+
+TEST(PrivateProfile, NoByteBehindTheBufferIsWritten)
+{
+    WriteText(FILE_NAME, "[Common]\nKey=value\n");
+    for (const char* file : {FILE_NAME, "/tmp/absent"}) {
+        char bytes[] = "##";
+        EXPECT_EQ(GetPrivateProfileStringA("Common", "Key", "default", bytes, 1, file), 0U);
+        EXPECT_EQ(std::string(bytes, 2), std::string("\0#", 2));
+    }
 }
 
 TEST_P(PrivateProfileReader, NonRegularFilesReadAsEmptyWithoutBlocking)
 {
     ASSERT_EQ(mkfifo("/tmp/fifo.ini", 0644), 0);
+    std::fstream fifo("/tmp/fifo.ini"); // for both, which does not block
+    fifo << "[Common]\nKey=value\n" << std::flush;
     EXPECT_EQ(ReadKey("Common", "Key", 64, "/tmp/fifo.ini"), NOTHING);
     EXPECT_EQ(ReadKey("Common", "Key", 64, "/tmp"), NOTHING);
     EXPECT_EQ(ReadKey("Common", "Key", 64, "/dev/zero"), NOTHING);
@@ -297,6 +311,12 @@ TEST_P(PrivateProfileReader, AFileLargerThanAnySettingFileIsReadInFull)
     EXPECT_EQ(GetParam().number("Other", "Last", 5, FILE_NAME), 5U);
 }
 
+TEST_P(PrivateProfileReader, TheFirstOfTwoValuesFarApartCounts)
+{
+    WriteText(FILE_NAME, "[Common]\nKey=1\n;" + std::string(9000, 'x') + "\nKey=2\n");
+    EXPECT_EQ(ReadKey("Common", "Key"), Found("1"));
+}
+
 TEST(PrivateProfile, TheNumberOfAFileThatCannotBeOpenedIsTheDefault)
 {
     EXPECT_EQ(GetPrivateProfileIntA("Common", "Key", -1, "/tmp/absent"), 0xFFFFFFFFU);
@@ -316,6 +336,26 @@ TEST(ProfileTextTest, KeepsTheContentsOfTheTimeOfTheRead)
     WriteText(FILE_NAME, "[Common]\nA=3\nB=4\n");
     EXPECT_EQ(text->Value("Common", "A", 255), "1");
     EXPECT_EQ(text->Value("Common", "B", 255), "2");
+}
+
+TEST(ProfileTextTest, OnlyAFileAboveOneMebibyteIsReadByEachLookup)
+{
+    for (const size_t size : {size_t{1} << 20, (size_t{1} << 20) + 1}) {
+        std::string text = "[Common]\nA=1\n";
+        text.resize(size, '\n');
+        WriteText(FILE_NAME, text);
+        const auto profile = ProfileText::Read(FILE_NAME);
+        EXPECT_TRUE(profile->IsComplete());
+        text.replace(text.find('1'), 1, "2");
+        WriteText(FILE_NAME, text);
+        EXPECT_EQ(profile->Value("Common", "A", 255), size > 1'048'576 ? "2" : "1") << size;
+    }
+}
+
+TEST(ProfileTextTest, AnEmptyFileIsComplete)
+{
+    WriteText(FILE_NAME, "");
+    EXPECT_TRUE(ProfileText::Read(FILE_NAME)->IsComplete());
 }
 
 TEST(ProfileTextTest, FindsEveryKeyOfEverySection)
