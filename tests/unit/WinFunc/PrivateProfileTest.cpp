@@ -317,6 +317,16 @@ TEST_P(PrivateProfileReader, TheFirstOfTwoValuesFarApartCounts)
     EXPECT_EQ(ReadKey("Common", "Key"), Found("1"));
 }
 
+TEST_P(PrivateProfileReader, TheLastByteOfAnySizeCounts)
+{
+    for (const size_t size : {4095, 4096, 4097, 4098}) {
+        const std::string head = "[Common]\n;";
+        const std::string tail = "\nKey=12";
+        WriteText(FILE_NAME, head + std::string(size - head.size() - tail.size(), 'x') + tail);
+        EXPECT_EQ(ReadKey("Common", "Key"), Found("12")) << size;
+    }
+}
+
 TEST(PrivateProfile, TheNumberOfAFileThatCannotBeOpenedIsTheDefault)
 {
     EXPECT_EQ(GetPrivateProfileIntA("Common", "Key", -1, "/tmp/absent"), 0xFFFFFFFFU);
