@@ -1,5 +1,6 @@
 // The kernel's reports of changes in a folder.
 #include "FolderWatch.h"
+#include "DirtyStack.h"
 #include "OpenDescriptors.h"
 #include "TextFiles.h"
 
@@ -147,6 +148,19 @@ TEST_F(FolderWatchTest, ReportsMoreFilesThanOneReadReturns)
         fs::permissions(WATCHED + "/" + name, fs::perms(0400));
     }
     ExpectReport(names, true);
+}
+
+TEST_F(FolderWatchTest, IgnoresTheBytesBehindTheReports)
+{
+    ASSERT_TRUE(watch.Start(WATCHED.c_str()));
+    WriteText(WATCHED + "/a", "other");
+    Names changed;
+    const std::function<void(std::string_view)> collect = [&](std::string_view name) {
+        changed.emplace(name);
+    };
+    DirtyStack(1); // would be a report of the first watch
+    EXPECT_TRUE(watch.Report(collect));
+    EXPECT_EQ(changed, Names{"a"});
 }
 
 TEST_F(FolderWatchTest, WatchesTheLastFolderOnly)

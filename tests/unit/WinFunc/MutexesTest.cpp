@@ -1,9 +1,8 @@
 // Mutexes, which cannot be released, and critical sections.
 #include "CountedSleep.h"
+#include "DirtyStack.h"
 #include "WinFunc.h"
 
-#include <algorithm>
-#include <array>
 #include <string>
 #include <thread>
 
@@ -125,17 +124,10 @@ TEST(CriticalSectionTest, TheOwnerMayEnterAgain)
     DeleteCriticalSection(&section);
 }
 
-/// Leaves bytes on the stack that would be invalid attributes of a mutex.
-[[gnu::noinline]] void DirtyTheStack()
-{
-    std::array<volatile char, 1000> bytes;
-    std::fill(bytes.begin(), bytes.end(), '\xff');
-}
-
 TEST(CriticalSectionTest, IsRecursiveWhateverIsOnTheStack)
 {
     CRITICAL_SECTION section = {};
-    DirtyTheStack();
+    DirtyStack(-1); // would be invalid attributes
     InitializeCriticalSection(&section);
     EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
     EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
