@@ -46,7 +46,9 @@ constexpr int wakeUp = SIGUSR2;
 struct Sample
 {
     Clock::time_point time;
-    milliseconds processorTime{0}; ///< of the user-interface thread since its start
+    milliseconds processorTime{0};  ///< of the user-interface thread since its start
+    const char* function = nullptr; ///< of the test
+    const char* row = nullptr;      ///< of the function's data
     int depth = 0;
     std::array<void*, deepest> frames{};
 };
@@ -79,6 +81,8 @@ void takeSample(int /*signal*/)
         Sample& sample = samples[static_cast<size_t>(place)];
         sample.time = Clock::now();
         sample.processorTime = processorTime();
+        sample.function = QTest::currentTestFunction();
+        sample.row = QTest::currentDataTag();
         sample.depth = backtrace(sample.frames.data(), deepest);
         sampleCount = place + 1;
     }
@@ -110,6 +114,13 @@ std::string stackOf(const Sample& sample)
         }
     }
     return text;
+}
+
+/// Whether no test function and no row of its data began between the samples. Only addresses are compared,
+/// because the texts may be gone.
+bool isOfSameRow(const Sample& one, const Sample& other)
+{
+    return one.function == other.function && one.row == other.row;
 }
 
 class Heartbeat
@@ -175,11 +186,12 @@ private:
         for (int i = 0; i < sampleCount; ++i) {
             const Sample& sample = samples[static_cast<size_t>(i)];
             std::string stack = stackOf(sample);
-            if (i == 0 || stack != before) {
+            const bool sameRow = i == 0 || isOfSameRow(sample, samples[static_cast<size_t>(i) - 1]);
+            if (i == 0 || !sameRow || stack != before) {
                 const auto time = std::chrono::duration_cast<milliseconds>(sample.time - start);
                 const milliseconds used = sample.processorTime - m_lastProcessorTime;
                 gap.stacks += "gap stack " + std::to_string(time.count()) + " " +
-                              std::to_string(used.count()) + stack + "\n";
+                              std::to_string(used.count()) + (sameRow ? "" : " next") + stack + "\n";
                 before = std::move(stack);
             }
         }
