@@ -127,8 +127,8 @@ TEST(CriticalSectionTest, TheOwnerMayEnterAgain)
 TEST(CriticalSectionTest, IsRecursiveWhateverIsOnTheStack)
 {
     CRITICAL_SECTION section = {};
-    DirtyStack(-1); // would be invalid attributes
-    InitializeCriticalSection(&section);
+    DirtyStack(-1);                                 // would be invalid attributes
+    [&] { InitializeCriticalSection(&section); }(); // its variables are inside the range of DirtyStack
     EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
     EXPECT_EQ(TryEnterCriticalSection(&section), TRUE);
     LeaveCriticalSection(&section);
