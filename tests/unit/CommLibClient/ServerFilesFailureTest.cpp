@@ -6,17 +6,26 @@
 #include <cerrno>
 #include <gtest/gtest.h>
 
+namespace {
+
+/// The file of the server cannot be read once, and is read by the next query.
+void expectReadByTheNextQuery(FailingCall call, int error, const std::string& server)
+{
+    WritePublisher("N", "[Common]\nPublisherURL=" + server + "\nNPType=2\n");
+    unsigned int kind = 99;
+    FailOne(call, error);
+    ReadNPType(&kind, server.c_str()); // may find the server by a second attempt
+    EXPECT_TRUE(ReadNPType(&kind, server.c_str()));
+    EXPECT_EQ(kind, 2U);
+}
+
+} // namespace
+
 TEST(ServerFilesFailure, AReadErrorIsNotRemembered)
 {
     for (const FailingCall call : {FailingCall::OPEN, FailingCall::FSTAT, FailingCall::READ}) {
         SCOPED_TRACE(static_cast<int>(call));
-        const std::string server = "server" + std::to_string(static_cast<int>(call));
-        WritePublisher("N", "[Common]\nPublisherURL=" + server + "\nNPType=2\n");
-        unsigned int kind = 99;
-        FailOne(call, EIO);
-        ReadNPType(&kind, server.c_str()); // may find the server by a second attempt
-        EXPECT_TRUE(ReadNPType(&kind, server.c_str()));
-        EXPECT_EQ(kind, 2U);
+        expectReadByTheNextQuery(call, EIO, "server" + std::to_string(static_cast<int>(call)));
     }
 }
 
@@ -24,12 +33,6 @@ TEST(ServerFilesFailure, OnlyALackOfPermissionIsRemembered)
 {
     for (const int error : {ENOBUFS, ESTALE, ETIMEDOUT}) {
         SCOPED_TRACE(error);
-        const std::string server = "server" + std::to_string(error);
-        WritePublisher("N", "[Common]\nPublisherURL=" + server + "\nNPType=2\n");
-        unsigned int kind = 99;
-        FailOne(FailingCall::OPEN, error);
-        ReadNPType(&kind, server.c_str()); // may find the server by a second attempt
-        EXPECT_TRUE(ReadNPType(&kind, server.c_str()));
-        EXPECT_EQ(kind, 2U);
+        expectReadByTheNextQuery(FailingCall::OPEN, error, "server" + std::to_string(error));
     }
 }
