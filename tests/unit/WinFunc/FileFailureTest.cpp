@@ -133,6 +133,7 @@ TEST(LockedFileFailure, WritingContinuesAfterAShortOrInterruptedCall)
     ShortenOne(FailingCall::WRITE, 3);
     FailOne(FailingCall::WRITE, EINTR, 1);
     EXPECT_TRUE(file.WriteAll("012345678"));
+    errno = 0;
     EXPECT_TRUE(file.WriteAll("9"));
     EXPECT_EQ(ReadText(PROFILE), "0123456789");
     FailOne(FailingCall::WRITE, ENOSPC);
