@@ -117,7 +117,7 @@ std::string stackOf(const Sample& sample)
 }
 
 /// Whether no test function and no row of its data began between the samples. Only addresses are compared,
-/// because the texts may be gone.
+/// because the texts may have been freed.
 bool isOfSameRow(const Sample& one, const Sample& other)
 {
     return one.function == other.function && one.row == other.row;
@@ -233,9 +233,9 @@ void start()
 
 } // namespace
 
-#ifndef ULMAR_SANITIZED
-/// Replaces the function of the C library: the signals of the sampler, which end a ppoll, do not end this
-/// one.
+#ifndef ULMAR_SANITIZED // the sanitizers replace it themselves
+/// Replaces the function of the C library: a signal does not end the wait, so the sampler does not change the
+/// result of a wait in the client.
 extern "C" int ppoll(pollfd* entries, nfds_t count, const timespec* limit, const sigset_t* mask)
 {
     timespec left = limit ? *limit : timespec{};

@@ -1,4 +1,4 @@
-// Helpers that visit the pages of a window, and find the widgets that are visible on the current page.
+// Helpers that visit the pages of a window, find its visible widgets and choose entries of its menus.
 #pragma once
 
 #include <QCoreApplication>
