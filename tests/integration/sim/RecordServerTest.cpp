@@ -9,6 +9,7 @@
 
 #include "ProgramProcess.h"
 #include "Room.h"
+#include "SessionFile.h"
 #include "TcpPeer.h"
 #include "TextFiles.h"
 
@@ -16,7 +17,6 @@ namespace {
 
 constexpr char RECORDER[] = "127.0.0.99";
 constexpr char REPLAY[] = "127.0.0.98";
-constexpr char FILE_NAME[] = "/tmp/session.udrec";
 
 Ended probe(std::vector<std::string> arguments)
 {
@@ -50,9 +50,9 @@ TEST_F(RecordServer, TheClientGetsTheSameAnswers)
     };
     for (const char* const host : {"127.0.0.11", "127.0.0.12", "127.0.0.13"}) {
         for (const auto& session : sessions) {
-            std::filesystem::remove(FILE_NAME);
+            std::filesystem::remove(SESSION_FILE);
             std::vector<Ended> live;
-            ProgramProcess recorder(UDSIM, {"record", "--server", host, "--listen", RECORDER, FILE_NAME});
+            ProgramProcess recorder(UDSIM, {"record", "--server", host, "--listen", RECORDER, SESSION_FILE});
             recorder.readUntil("press Ctrl-C to stop\n");
             for (std::vector<std::string> arguments : session) {
                 arguments.insert(arguments.begin(), RECORDER);
@@ -63,7 +63,7 @@ TEST_F(RecordServer, TheClientGetsTheSameAnswers)
                 "udsim: recording " + std::string(host) +
                     ":80 in /tmp/session.udrec; clients connect to 127.0.0.99:80; press Ctrl-C to stop\n"
                     "udsim: recorded in /tmp/session.udrec\n");
-            ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+            ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, SESSION_FILE});
             player.readUntil("press Ctrl-C to stop\n");
             for (size_t i = 0; i < session.size(); ++i) {
                 std::vector<std::string> arguments = session[i];
@@ -82,7 +82,7 @@ TEST_F(RecordServer, TheClientGetsTheSameAnswers)
 
 TEST_F(RecordServer, PasswordsAreNotRecorded)
 {
-    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     const Ended sent = probe({RECORDER, "--job", "Secret", "--image", NETWORK_SCENARIO});
     EXPECT_EQ(sent.status, 0) << sent.output;
@@ -94,7 +94,7 @@ TEST_F(RecordServer, PasswordsAreNotRecorded)
         }
     }
     ASSERT_EQ(authorization.find("Basic "), 0U) << "the server receives it";
-    const std::string text = ReadText(FILE_NAME);
+    const std::string text = ReadText(SESSION_FILE);
     EXPECT_NE(text.find("Authorization:**"), std::string::npos);
     EXPECT_EQ(text.find(authorization.substr(6)), std::string::npos);
     const auto server = m_room->lookAtServer("Studio NII");
@@ -109,19 +109,19 @@ TEST_F(RecordServer, ALargeUploadIsForwardedWholeAndRecordedInPart)
 {
     const std::string large = "/tmp/large.iso";
     std::ofstream(large, std::ios::binary) << std::string(8U << 20, 'i') << "end";
-    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.12", "--listen", RECORDER, SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     const Ended sent = probe({RECORDER, "--job", "Large", "--image", large, "--piece", "4000000"});
     EXPECT_EQ(sent.status, 0) << sent.output;
     recorder.end();
-    EXPECT_LT(std::filesystem::file_size(FILE_NAME), 500'000U);
-    EXPECT_NE(ReadText(FILE_NAME).find("Content-Range: bytes 0-3999999/8388611"), std::string::npos);
+    EXPECT_LT(std::filesystem::file_size(SESSION_FILE), 500'000U);
+    EXPECT_NE(ReadText(SESSION_FILE).find("Content-Range: bytes 0-3999999/8388611"), std::string::npos);
 }
 
 TEST_F(RecordServer, RequestsNotInTheRecordingAreReported)
 {
-    std::ofstream(FILE_NAME) << "udsim-recording 1 server\n";
-    ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+    std::ofstream(SESSION_FILE) << "udsim-recording 1 server\n";
+    ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, SESSION_FILE});
     player.readUntil("press Ctrl-C to stop\n");
     EXPECT_EQ(probe({REPLAY}).status, 1);
     const std::string output = player.end();
@@ -132,21 +132,21 @@ TEST_F(RecordServer, RequestsNotInTheRecordingAreReported)
 
 TEST_F(RecordServer, AMissingServerIsReported)
 {
-    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.77", "--listen", RECORDER, FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.77", "--listen", RECORDER, SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     EXPECT_EQ(probe({RECORDER}).status, 1);
     const std::string output = recorder.end();
     EXPECT_NE(output.find("udsim: cannot connect: 127.0.0.77:80: Connection refused\n"), std::string::npos)
         << output;
-    EXPECT_NE(ReadText(FILE_NAME).find(" 1 cannot connect: 127.0.0.77:80: Connection refused\n"),
+    EXPECT_NE(ReadText(SESSION_FILE).find(" 1 cannot connect: 127.0.0.77:80: Connection refused\n"),
               std::string::npos);
 }
 
 TEST_F(RecordServer, TheRecorderDoesNotConnectToItself)
 {
     // A listener on all addresses is not recognized as the server.
-    ProgramProcess recorder(UDSIM,
-                            {"record", "--server", "127.0.0.99:8080", "--listen", "0.0.0.0:8080", FILE_NAME});
+    ProgramProcess recorder(
+        UDSIM, {"record", "--server", "127.0.0.99:8080", "--listen", "0.0.0.0:8080", SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     EXPECT_EQ(runProgram("/bin/bash", {"-c", "exec 3<>/dev/tcp/127.0.0.99/8080; cat <&3"}).output, "");
     const std::string output = recorder.end();
@@ -159,25 +159,25 @@ TEST_F(RecordServer, TheRecorderDoesNotConnectToItself)
 TEST_F(RecordServer, AnExcessClientIsReported)
 {
     TcpListener silent("127.0.0.50", 80);
-    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     ProgramProcess clients(
         "/bin/bash", {"-c", "for i in {1..65}; do exec {one}<>/dev/tcp/127.0.0.99/80; done; kill -STOP $$"});
     recorder.readUntil("udsim: a client was rejected: 64 are connected, which is the maximum\n");
     recorder.end();
-    EXPECT_NE(ReadText(FILE_NAME).find(" 0 a client was rejected: 64 are"), std::string::npos);
+    EXPECT_NE(ReadText(SESSION_FILE).find(" 0 a client was rejected: 64 are"), std::string::npos);
 }
 
 TEST_F(RecordServer, ItEndsDespiteOpenConnectionsAndSilentServers)
 {
     TcpListener silent("127.0.0.50", 80);
-    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, FILE_NAME});
+    ProgramProcess recorder(UDSIM, {"record", "--server", "127.0.0.50", "--listen", RECORDER, SESSION_FILE});
     recorder.readUntil("press Ctrl-C to stop\n");
     ProgramProcess client(PROBE, {RECORDER});
     TcpPeer peer = silent.Accept();
     EXPECT_NE(peer.ReadHead().find("GET /webapp"), std::string::npos);
     recorder.end();
-    EXPECT_NE(ReadText(FILE_NAME).find(" 1 ask "), std::string::npos) << "the last message is recorded";
+    EXPECT_NE(ReadText(SESSION_FILE).find(" 1 ask "), std::string::npos) << "the last message is recorded";
 }
 
 TEST(Replay, InvalidFiles)
@@ -188,21 +188,21 @@ TEST(Replay, InvalidFiles)
          "udsim: /tmp/session.udrec:2: neither a comment nor a message with time and connection\n"},
     };
     for (const auto& [text, expected] : table) {
-        std::ofstream(FILE_NAME) << text;
-        const Ended ended = runProgram(UDSIM, {"replay", FILE_NAME});
+        std::ofstream(SESSION_FILE) << text;
+        const Ended ended = runProgram(UDSIM, {"replay", SESSION_FILE});
         EXPECT_EQ(ended.output, expected);
         EXPECT_EQ(ended.status, 1);
     }
-    std::ofstream(FILE_NAME) << "udsim-recording 1 server\n0.001 1 cl";
-    ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+    std::ofstream(SESSION_FILE) << "udsim-recording 1 server\n0.001 1 cl";
+    ProgramProcess player(UDSIM, {"replay", "--listen", REPLAY, SESSION_FILE});
     player.readUntil("press Ctrl-C to stop\n");
     EXPECT_EQ(player.end().find("udsim: line 2: the recording is cut off here; this line is ignored\n"), 0U);
 }
 
 TEST(Record, OnlyARecordingOfAServerListensAtAnAddress)
 {
-    std::ofstream(FILE_NAME) << "udsim-recording 1 service\n";
-    const Ended ended = runProgram(UDSIM, {"replay", "--listen", REPLAY, FILE_NAME});
+    std::ofstream(SESSION_FILE) << "udsim-recording 1 service\n";
+    const Ended ended = runProgram(UDSIM, {"replay", "--listen", REPLAY, SESSION_FILE});
     EXPECT_EQ(ended.output,
               "udsim: \"--listen\" is only for recordings of a server; this is a recording of a "
               "service\nTry \"udsim --help\".\n");
@@ -211,10 +211,10 @@ TEST(Record, OnlyARecordingOfAServerListensAtAnAddress)
 
 TEST(Record, AnExistingFileIsKept)
 {
-    std::ofstream(FILE_NAME) << "precious";
+    std::ofstream(SESSION_FILE) << "precious";
     const Ended ended =
-        runProgram(UDSIM, {"record", "--server", "127.0.0.11", "--listen", RECORDER, FILE_NAME});
+        runProgram(UDSIM, {"record", "--server", "127.0.0.11", "--listen", RECORDER, SESSION_FILE});
     EXPECT_EQ(ended.output, "udsim: /tmp/session.udrec: File exists\n");
     EXPECT_EQ(ended.status, 1);
-    EXPECT_EQ(ReadText(FILE_NAME), "precious");
+    EXPECT_EQ(ReadText(SESSION_FILE), "precious");
 }

@@ -5,6 +5,7 @@
 #include "PublisherMgr.h"
 #include "RawClient.h"
 #include "Room.h"
+#include "SessionFile.h"
 #include "TextFiles.h"
 #include "UnixListener.h"
 
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr char SESSION_FILE[] = "/tmp/session.udrec";
 constexpr char ROOM[] =
     "[publisher A]\nmodel = RT-300III BD\nid = A\nink.cyan = 41\njob = One, copies=2\njob = Two\n"
     "[publisher B]\nmodel = RT-30II\nid = B\nconnected = no\n"
