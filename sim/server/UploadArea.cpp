@@ -12,7 +12,7 @@ namespace udsim {
 namespace {
 
 constexpr char AREA[] = "/uploads/";
-constexpr size_t NUMBER_DIGITS = 8; ///< of a job number in a user name and a path
+constexpr size_t JOB_NUMBER_DIGITS = 8; ///< of a job number in a user name and a path
 constexpr size_t PASSWORD_LENGTH = 12;
 
 struct Range
@@ -57,7 +57,7 @@ std::optional<GChecksumType> checksumOf(const std::string& type)
 
 std::string ServerJob::user() const
 {
-    std::array<char, NUMBER_DIGITS + 1> text{};
+    std::array<char, JOB_NUMBER_DIGITS + 1> text{};
     std::snprintf(text.data(), text.size(), "%08" PRIx32, number);
     return text.data();
 }
@@ -86,7 +86,7 @@ ServerJob* UploadArea::find(uint32_t number)
 
 std::optional<uint32_t> UploadArea::parseNumber(const std::string& text)
 {
-    if (text.size() != NUMBER_DIGITS || text.find_first_not_of("0123456789abcdef") != std::string::npos) {
+    if (text.size() != JOB_NUMBER_DIGITS || text.find_first_not_of("0123456789abcdef") != std::string::npos) {
         return std::nullopt;
     }
     return static_cast<uint32_t>(std::stoul(text, nullptr, 16));
@@ -111,8 +111,9 @@ HttpReply UploadArea::answer(const HttpRequest& request)
 {
     const std::string path = request.path();
     const std::string rest = path.substr(std::min(path.size(), std::string(AREA).size()));
-    const auto number = parseNumber(rest.substr(0, NUMBER_DIGITS));
-    if (!path.starts_with(AREA) || !number || rest.size() <= NUMBER_DIGITS || rest[NUMBER_DIGITS] != '/') {
+    const auto number = parseNumber(rest.substr(0, JOB_NUMBER_DIGITS));
+    if (!path.starts_with(AREA) || !number || rest.size() <= JOB_NUMBER_DIGITS ||
+        rest[JOB_NUMBER_DIGITS] != '/') {
         return {404, {}};
     }
     ServerJob* const job = find(*number);
@@ -123,7 +124,7 @@ HttpReply UploadArea::answer(const HttpRequest& request)
     if (job->committed) {
         return {403, {}};
     }
-    const std::string name = rest.substr(NUMBER_DIGITS + 1);
+    const std::string name = rest.substr(JOB_NUMBER_DIGITS + 1);
     if (request.method == "MKCOL" && name.empty()) {
         return {makeFolder(*job), {}};
     }

@@ -3,7 +3,7 @@
 
 #include "Servlets.h"
 
-/// The line of the log after a call with a wrong parameter.
+/// Logged for an invalid parameter.
 inline const std::string COMMON_LINE = "<3>[CommLib] ***Common Parameta Error***";
 
 /// A good reply of one item without data.

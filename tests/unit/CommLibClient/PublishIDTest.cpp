@@ -69,8 +69,8 @@ TEST(PublishID, RefusesBadParameters)
     EXPECT_EQ(GetPublishID(0, id, 8, &need), NCL_ERR_PARAMETER);
     EXPECT_THAT(publisher.Requests(), IsEmpty());
     const std::string start = "<6>server , GetPublishID , Start";
-    const std::string bad = "<3>[CommLib] ***Common Parameta Error***";
-    EXPECT_THAT(log.Take(), ElementsAre(start, bad, start, bad, "<6>(null) , GetPublishID , Start", bad));
+    EXPECT_THAT(log.Take(), ElementsAre(start, COMMON_LINE, start, COMMON_LINE,
+                                        "<6>(null) , GetPublishID , Start", COMMON_LINE));
 }
 
 TEST(PublishID, FailuresOfTheExchangeAreTraced)

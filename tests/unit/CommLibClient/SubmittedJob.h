@@ -7,6 +7,8 @@
 
 inline constexpr int ID = 1234; ///< of the submitted job
 inline constexpr DWORD MIB10 = 10485760;
+/// The SHA-1 digest of "abc".
+inline const std::string ABC_HASH = "a9993e364706816aba3e25717850c26c9cd0d89d";
 inline const std::string OK = HttpResponse("");
 inline const std::string BAD = HttpResponse("", "500 Oh");
 

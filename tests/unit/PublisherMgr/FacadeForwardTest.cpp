@@ -1,6 +1,7 @@
 // The results of the facade if no implementation serves the publisher. (Tests with a service cover the
 // forwarding of everything else.)
 #include "LogAgent.h"
+#include "ManagerLog.h"
 #include "PublisherFiles.h"
 #include "PublisherMgr.h"
 #include "Win_def_log.h"
@@ -159,9 +160,8 @@ TEST(Forwards, OnlyACancelOfAnUnknownPublisherIsLogged)
     for (const Operation& operation : byId) {
         operation.givesNone(mgr, "", nullptr);
     }
-    EXPECT_EQ(agent.TakeAll(), std::vector{"MESSAGE=RT300API[" + std::to_string(getpid()) +
-                                           "]: CPublisherMgr::SetServiceJobCancel, Publisher not "
-                                           "found\nPRIORITY=4\n"});
+    EXPECT_EQ(agent.TakeAll(),
+              std::vector{LogLine(4, "CPublisherMgr::SetServiceJobCancel, Publisher not found")});
 }
 
 /// Without a setting file there is no address, so the result does not depend on the network.
@@ -184,19 +184,19 @@ TEST(Forwards, JobSubmissionGoesToTheLibrary)
 {
     CPublisherMgr mgr(true);
     const BYTE data[] = {1};
-    const DWORD none = 4711; // no connection has this handle
+    const DWORD noHandle = 4711; // no connection has this handle
     int job = 99;
     const auto refused = [](auto operation) {
         DWORD code = 88;
         operation(&code);
         return code;
     };
-    EXPECT_TRUE(mgr.EndConnection(none));
-    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_EQ(mgr.GetPublishID(none, code), ""); }), 1u);
-    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendJobData(none, data, 1, &job, code)); }), 1u);
-    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendPRNData(none, 2, data, 1, code)); }), 1u);
-    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_FALSE(mgr.CommitJob(none, 2, code)); }), 1u);
-    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendDiscInfo(none, 2, data, 1, code)); }), 1u);
+    EXPECT_TRUE(mgr.EndConnection(noHandle));
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_EQ(mgr.GetPublishID(noHandle, code), ""); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendJobData(noHandle, data, 1, &job, code)); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendPRNData(noHandle, 2, data, 1, code)); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_FALSE(mgr.CommitJob(noHandle, 2, code)); }), 1u);
+    EXPECT_EQ(refused([&](DWORD* code) { EXPECT_TRUE(mgr.SendDiscInfo(noHandle, 2, data, 1, code)); }), 1u);
     EXPECT_EQ(job, 99);
 }
 
