@@ -1,13 +1,13 @@
 // Feeds any bytes to the client as the answer of the control service: the first byte selects the operation,
 // the rest is what the service sends before it closes the connection. Controls for which an answer of another
 // size stops the process by contract are excluded.
+#include "ScriptedControlService.h"
 #include "ServiceOperations.h"
-#include "TextFiles.h"
-#include "UnixListener.h"
 #include "Win_def_log.h"
 
+#include <cassert>
 #include <cstring>
-#include <future>
+#include <mutex>
 
 namespace {
 
@@ -17,6 +17,28 @@ std::vector<ServiceOperation> OperationsThatAlwaysReturn()
     std::erase_if(operations, [](const ServiceOperation& operation) { return operation.stopsOnOtherSize; });
     return operations;
 }
+
+/// A service that sends the same answer to each command.
+class RepeatingService
+{
+public:
+    void SetAnswer(std::string answer)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_answer = std::move(answer);
+    }
+
+private:
+    std::string Answer()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_answer;
+    }
+
+    std::mutex m_mutex;
+    std::string m_answer;
+    ScriptedControlService m_service{[this](UnixPeer& peer, const std::string&) { peer.Write(Answer()); }};
+};
 
 unsigned long NumberAt(const std::string& bytes, size_t offset)
 {
@@ -29,7 +51,7 @@ unsigned long NumberAt(const std::string& bytes, size_t offset)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static UnixListener listener(SERVICE_SOCKET);
+    static RepeatingService service;
     static C300MODPublisherMgr mgr(true, PUBLISHER_SETTING_DIR);
     static const std::vector<ServiceOperation> operations = OperationsThatAlwaysReturn();
     SetLogLevel(0);
@@ -39,15 +61,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const ServiceOperation& operation = operations[data[0] % operations.size()];
     const std::string answer(reinterpret_cast<const char*>(data) + 1, size - 1);
 
-    std::future<bool> call = std::async(std::launch::async, [&] { return operation.run(mgr); });
-    // A service that sends this answer to each command until the call has returned.
-    while (call.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
-        UnixPeer peer = listener.Accept(1);
-        if (peer.IsOpen() && peer.ReadExactly(408).size() == 408) {
-            peer.Write(answer);
-        }
-    }
-    const bool isYes = call.get();
+    service.SetAnswer(answer);
+    const bool isYes = operation.run(mgr);
     assert(!mgr.IsRunningCommunicateService());
     // The client evaluates only the lower half of a result.
     const bool isGoodHeader = answer.size() >= 24 && NumberAt(answer, 0) == operation.control &&
