@@ -18,6 +18,7 @@ const char PAIR_LINES[] = "Key=1\nOther=2\n";
 
 void ReadWithAnyBuffer()
 {
+    const auto profile = ProfileText::Read(FILE_NAME);
     size_t whole = 0;
     for (const DWORD size : {1024U, 1023U, 100U, 2U, 1U, 0U}) {
         std::vector<char> buffer(size);
@@ -27,7 +28,7 @@ void ReadWithAnyBuffer()
             continue;
         }
         whole = size == 1024 ? length : whole;
-        assert(ProfileText::Read(FILE_NAME)->Value("Common", "Key", size - 1) == buffer.data());
+        assert(profile->Value("Common", "Key", size - 1) == buffer.data());
         assert(length == std::min<size_t>(whole, size - 1));
         assert(std::strlen(buffer.data()) == length);
         for (size_t index = 0; index < length; ++index) {
