@@ -6,6 +6,7 @@
 #include "Win_def_log.h"
 
 #include <cstring>
+#include <initializer_list>
 #include <vector>
 
 namespace {
@@ -16,11 +17,12 @@ const char LINE_START[] = "\nKey=";
 const char PAIRS[] = "Key=1\0Other=2\0";
 const char PAIR_LINES[] = "Key=1\nOther=2\n";
 
-void ReadWithAnyBuffer()
+/// The first buffer holds the longest value.
+void ReadWithBuffers(std::initializer_list<DWORD> sizes)
 {
     const auto profile = ProfileText::Read(FILE_NAME);
     size_t whole = 0;
-    for (const DWORD size : {1024U, 1023U, 100U, 2U, 1U, 0U}) {
+    for (const DWORD size : sizes) {
         std::vector<char> buffer(size);
         const DWORD length = GetPrivateProfileStringA("Common", "Key", "", buffer.data(), size, FILE_NAME);
         if (size == 0) {
@@ -95,13 +97,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         return 0;
     }
     WriteText(FILE_NAME, text);
-    ReadWithAnyBuffer();
+    ReadWithBuffers({1024, 1023, 100, 2, 1, 0});
     assert(ReadText(FILE_NAME) == text);
 
     const BOOL keyWritten = WritePrivateProfileStringA("Common", "Key", VALUE, FILE_NAME);
     const std::string withKey = ReadText(FILE_NAME);
     assert(keyWritten ? IsOneLineWritten(text, withKey) : withKey == text);
-    ReadWithAnyBuffer();
+    ReadWithBuffers({1024});
 
     WriteText(FILE_NAME, text);
     const BOOL sectionWritten = WritePrivateProfileSectionA("Common", PAIRS, FILE_NAME);
