@@ -1,12 +1,13 @@
 // Runs every operation on a network publisher against a server that sends any bytes. The first byte selects
 // the operation, the second how many requests are answered well before. In the third, bit 0 selects whether
 // the rest is the body of a good reply or everything that the server sends, and bit 1 whether it is also the
-// answer to the later requests.
+// answer to the later requests. The client logs everything if bits 4 to 7 are set, and nothing otherwise.
 #include "NetworkOperations.h"
 #include "Operation.h"
 #include "PublisherFiles.h"
 #include "ScriptedNetwork.h"
 #include "SimulatedServer.h"
+#include "Win_def_log.h"
 
 #include <algorithm>
 #include <cassert>
@@ -18,6 +19,7 @@ constexpr size_t OF_CONNECTION = 4; ///< requests
 constexpr size_t MOST_JOBS = 1000;  ///< of a list
 constexpr unsigned AS_BODY = 1;
 constexpr unsigned AGAIN = 2;
+constexpr unsigned LOGGED = 0xF0;
 
 bool IsCode(long code)
 {
@@ -38,6 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const size_t good = data[1] % (OF_CONNECTION + operation.requests);
     const bool isBody = (data[2] & AS_BODY) != 0;
     const bool isRepeated = (data[2] & AGAIN) != 0;
+    SetLogLevel((data[2] & LOGGED) == LOGGED ? 5 : 0);
     const std::string rest(reinterpret_cast<const char*>(data) + HEAD, size - HEAD);
     const std::string bad = isBody ? HttpResponse(rest) : rest;
 
