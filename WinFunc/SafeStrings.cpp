@@ -127,14 +127,10 @@ int _strnicmp(const char* string1, const char* string2, size_t count)
     if (string1 == nullptr || string2 == nullptr) {
         return EINVAL;
     }
-    const int exact = strncmp(string1, string2, count);
-    if (exact == 0) {
-        return 0;
-    }
     const char* other = string2;
     for (size_t i = 0; i < count && string1[i] != '\0'; ++i) {
         if (!Matches(ByteOf(string1[i]), ByteOf(*other))) {
-            return exact;
+            return strncmp(string1, string2, count);
         }
         // Stays at the NUL of the other text: bytes that match anything may continue past its end.
         if (*other != '\0') {

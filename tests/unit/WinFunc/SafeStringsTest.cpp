@@ -233,6 +233,7 @@ TEST(SafeStrings, StrnicmpTable)
         {"abc", "", 3, More},
         {"a---", "a", 4, Same},
         {"a--x", "a", 4, More},
+        {"a-b", "a\0b", 3, More}, // the bytes behind the end of the right text do not belong to it
         {"abc", "ABC", 100, Same},
         {"\xe4", "\xc4", 1, Same},
     };
