@@ -1,6 +1,6 @@
 #include "Win_def.h"
 
-#include <cstring>
+#include <algorithm>
 #include <string_view>
 
 namespace {
@@ -19,10 +19,7 @@ struct Output
     /// The buffer stays zeroed if the part and its NUL do not fit.
     void Put(std::string_view part) const
     {
-        if (buffer == nullptr) {
-            return;
-        }
-        memset(buffer, 0, size);
+        std::fill_n(buffer, size, '\0');
         if (part.size() < size) {
             part.copy(buffer, part.size());
         }
