@@ -1,3 +1,4 @@
+#include "HeapGrowth.h"
 #include "Win_def.h"
 
 #include <cstddef>
@@ -102,4 +103,5 @@ TEST(BaseTypes, GlobalAllocUsesTheHeapWithAnyFlag)
         EXPECT_EQ(GlobalFree(memory), nullptr);
     }
     EXPECT_EQ(GlobalFree(nullptr), nullptr);
+    EXPECT_EQ(HeapGrowth([] { GlobalFree(GlobalAlloc(0, 100)); }), 0u);
 }
