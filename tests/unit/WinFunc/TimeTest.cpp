@@ -1,3 +1,4 @@
+#include "StoppedClocks.h"
 #include "Win_def.h"
 #include "Win_def_log.h"
 
@@ -121,6 +122,21 @@ TEST(Time, TickCountIsTheMonotonicClockIn32Bits)
     const DWORD ticks = GetTickCount();
     const int64_t after = MonotonicMilliseconds();
     EXPECT_LE(ticks - static_cast<DWORD>(before), static_cast<DWORD>(after - before));
+}
+
+TEST(Time, PartsOfAMillisecondAreCutOff)
+{
+    using namespace std::chrono_literals;
+    SYSTEMTIME utc{};
+    const StoppedClocks clocks(5s + 999'999'999ns);
+    EXPECT_EQ(GetTickCount(), 5999u);
+    GetSystemTime(&utc);
+    EXPECT_EQ(utc.wSecond, 5);
+    EXPECT_EQ(utc.wMilliseconds, 999);
+    StoppedClocks::Advance(1ns);
+    EXPECT_EQ(GetTickCount(), 6000u);
+    StoppedClocks::Advance(4'294'961'296ms);
+    EXPECT_EQ(GetTickCount(), 0u) << "after 2^32 milliseconds";
 }
 
 TEST(Time, SleepLastsAsLongAsRequested)

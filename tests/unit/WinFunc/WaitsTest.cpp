@@ -1,9 +1,10 @@
 // Waits for one of several objects, or for all of them.
 #include "CountedSleep.h"
+#include "StoppedClocks.h"
 #include "WinFunc.h"
 
+#include <chrono>
 #include <deque>
-#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -12,6 +13,7 @@ namespace {
 
 using Runs = CountedSleep::Runs;
 using testing::ElementsAre;
+using namespace std::chrono_literals;
 
 constexpr DWORD failed = 0xFFFFFFFF;
 
@@ -27,9 +29,7 @@ public:
     DWORD WaitForSingleObject(DWORD dwMilliseconds) override
     {
         timeouts.push_back(dwMilliseconds);
-        while (GetTickCount() - m_created < takes) {
-            std::this_thread::yield();
-        }
+        StoppedClocks::Advance(takes);
         const DWORD answer = m_answers.front();
         if (m_answers.size() > 1) {
             m_answers.pop_front();
@@ -38,11 +38,10 @@ public:
     }
 
     std::vector<DWORD> timeouts;
-    DWORD takes = 0; ///< no call returns earlier than this after construction, in milliseconds
+    std::chrono::milliseconds takes{0}; ///< for each call
 
 private:
     std::deque<DWORD> m_answers;
-    DWORD m_created = GetTickCount();
 };
 
 DWORD WaitAny(const std::vector<HANDLE>& handles, DWORD timeout)
@@ -62,6 +61,8 @@ protected:
     {
         CountedSleep::The().Start();
     }
+
+    StoppedClocks m_clocks{std::chrono::hours(1)};
 };
 
 using WaitAnyTest = WaitsTest;
@@ -230,35 +231,26 @@ TEST_F(WaitAllTest, ZeroAndInfiniteArePassedToEachHandle)
 
 TEST_F(WaitAllTest, AFiniteTimeoutIsSharedByTheHandles)
 {
-    constexpr DWORD timeout = 60000;
-    constexpr DWORD takes = 30;
+    Scripted first({0});
     Scripted second({0});
     Scripted third({0});
-    Scripted first({0});
-    first.takes = takes;
-    const DWORD start = GetTickCount();
-    EXPECT_EQ(WaitAll({ToHandle(&first), ToHandle(&second), ToHandle(&third)}, timeout), 0u);
-    const DWORD passed = GetTickCount() - start;
-    EXPECT_THAT(first.timeouts, ElementsAre(timeout));
-    ASSERT_EQ(second.timeouts.size(), 1u);
-    ASSERT_EQ(third.timeouts.size(), 1u);
-    EXPECT_LE(second.timeouts[0], timeout - (takes - 1)) << "the measured time may be 1 ms short";
-    EXPECT_GE(second.timeouts[0], timeout - passed);
-    EXPECT_LE(third.timeouts[0], second.timeouts[0]);
-    EXPECT_GE(third.timeouts[0], timeout - passed);
+    first.takes = 30ms;
+    second.takes = 1ms;
+    EXPECT_EQ(WaitAll({ToHandle(&first), ToHandle(&second), ToHandle(&third)}, 60000), 0u);
+    EXPECT_THAT(first.timeouts, ElementsAre(60000u));
+    EXPECT_THAT(second.timeouts, ElementsAre(59970u));
+    EXPECT_THAT(third.timeouts, ElementsAre(59969u));
 }
 
 TEST_F(WaitAllTest, AnExpiredTimeoutOverridesASignalledHandle)
 {
     Scripted slow({0});
     Scripted unasked({0});
-    slow.takes = 40;
+    slow.takes = 5ms;
     EXPECT_EQ(WaitAll({ToHandle(&slow), ToHandle(&unasked)}, 5), 258u);
     EXPECT_THAT(unasked.timeouts, ElementsAre());
-    Scripted slowAndAlone({0});
-    slowAndAlone.takes = 40;
-    EXPECT_EQ(WaitAll({ToHandle(&slowAndAlone)}, 5), 258u)
-        << "an expired timeout also overrides the last handle";
+    EXPECT_EQ(WaitAll({ToHandle(&slow)}, 6), 0u);
+    EXPECT_EQ(WaitAll({ToHandle(&slow)}, 5), 258u) << "an expired timeout also overrides the last handle";
 }
 
 TEST_F(WaitAllTest, AFiniteTimeoutMapsAnAbandonedObjectToItsIndex)
