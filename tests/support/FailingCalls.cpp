@@ -6,6 +6,8 @@
 #include <cstdarg>
 #include <utility>
 
+#include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -22,7 +24,7 @@ struct Failure
     size_t longest = ANY_SIZE; ///< of the next call, in bytes
 };
 
-thread_local std::array<Failure, 4> failures = {};
+thread_local std::array<Failure, static_cast<size_t>(FailingCall::READ_FOLDER) + 1> failures = {};
 
 /// True, with errno, if the call must fail.
 bool Fails(FailingCall call)
@@ -79,5 +81,28 @@ ssize_t write(int fd, const void* buffer, size_t size)
 {
     return Fails(FailingCall::WRITE) ? -1
                                      : syscall(SYS_write, fd, buffer, Shortened(FailingCall::WRITE, size));
+}
+
+int ftruncate(int fd, off_t size) noexcept
+{
+    return Fails(FailingCall::TRUNCATE) ? -1 : static_cast<int>(syscall(SYS_ftruncate, fd, size));
+}
+
+int close(int fd)
+{
+    const auto result = static_cast<int>(syscall(SYS_close, fd));
+    return Fails(FailingCall::CLOSE) ? -1 : result;
+}
+
+DIR* fdopendir(int fd)
+{
+    static const auto libraryCall = reinterpret_cast<DIR* (*)(int)>(dlsym(RTLD_NEXT, "fdopendir"));
+    return Fails(FailingCall::OPEN_FOLDER) ? nullptr : libraryCall(fd);
+}
+
+dirent* readdir(DIR* folder)
+{
+    static const auto libraryCall = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir"));
+    return Fails(FailingCall::READ_FOLDER) ? nullptr : libraryCall(folder);
 }
 }

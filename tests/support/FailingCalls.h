@@ -8,7 +8,11 @@ enum class FailingCall
     OPEN,
     FSTAT,
     READ,
-    WRITE
+    WRITE,
+    TRUNCATE,
+    CLOSE, ///< closes the descriptor nevertheless
+    OPEN_FOLDER,
+    READ_FOLDER
 };
 
 /// After `passed` such calls of this thread, the next one fails with `error`, an errno; later ones succeed.
