@@ -117,10 +117,10 @@ std::shared_ptr<const ProfileText> ProfileText::Read(const char* path)
     // A setting file has about 20 keys.
     profile->m_text.reserve(static_cast<size_t>(size));
     profile->m_entries.reserve(std::min<size_t>(24, static_cast<size_t>(size)));
-    Piece lastSection{0, 0};
+    Piece lastSection{0, 0}; // the empty name
     profile->m_isComplete =
         ForEachKey(file, size, [&](std::string_view section, std::string_view key, std::string_view value) {
-            if (profile->m_entries.empty() || profile->At(lastSection) != section) {
+            if (profile->At(lastSection) != section) {
                 lastSection = profile->Keep(section);
             }
             profile->m_entries.push_back({lastSection, profile->Keep(key), profile->Keep(value)});

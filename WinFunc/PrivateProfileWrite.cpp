@@ -67,8 +67,8 @@ std::optional<Splice> SetKey(const std::string& old, const std::string& section,
         return Splice{SEEK_SET, old.substr(0, behind).append("\n").append(line).append(old, behind + 1)};
     }
     const size_t delimiter = visible.find_first_of(" \t=", keyStart);
-    const size_t lineFeed = visible.find('\n', delimiter);
-    if (delimiter == npos || lineFeed == npos) {
+    const size_t lineFeed = visible.find('\n', delimiter); // npos too without a delimiter
+    if (lineFeed == npos) {
         return std::nullopt; // the line has no delimiter or line feed, so the end of its value is unknown
     }
     return Splice{SEEK_SET,

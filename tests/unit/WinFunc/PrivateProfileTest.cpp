@@ -296,6 +296,13 @@ TEST_P(PrivateProfileReader, NumberTable)
     }
 }
 
+TEST_P(PrivateProfileReader, AFileMayBeginWithTheSectionWithoutAName)
+{
+    WriteText(FILE_NAME, "[]\nKey=1\n[Common]\nKey=2\n");
+    EXPECT_EQ(ReadKey("", "Key"), Found("1"));
+    EXPECT_EQ(ReadKey("Common", "Key"), Found("2"));
+}
+
 TEST_P(PrivateProfileReader, AFileLargerThanAnySettingFileIsReadInFull)
 {
     const std::string filler = "Other=" + std::string(90, 'x') + "\n";
