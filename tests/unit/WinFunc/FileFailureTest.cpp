@@ -1,7 +1,9 @@
 // Files of which a call fails once: what could not be read is never overwritten.
 #include "FailingCalls.h"
+#include "FailingMemory.h"
 #include "ProfileText.h"
 #include "RegistryFile.h"
+#include "StdoutCapture.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
 
@@ -75,6 +77,42 @@ TEST(FileFailure, AProfileThatCannotBeReadIsUnchanged)
         EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "2", PROFILE));
         EXPECT_EQ(ReadText(PROFILE), SECTION);
     }
+}
+
+TEST(FileFailure, AProfileTooLargeForTheMemoryIsUnchanged)
+{
+    SetLogLevel(3);
+    constexpr size_t size = 1 << 20;
+    const std::string text = SECTION + std::string(size, 'x') + "\n";
+    WriteText(PROFILE, text);
+    for (const size_t passed : {0U, 1U}) { // the old text, then the new one
+        StdoutCapture output;
+        {
+            const FailingMemory memory(size, passed, FailingMemory::ALL);
+            EXPECT_FALSE(WritePrivateProfileStringA("Common", "Key", "2", PROFILE));
+            EXPECT_TRUE(memory.HasFailed());
+        }
+        const std::string lines = output.Stop();
+        EXPECT_NE(lines.find("WritePrivateProfileStringA, read failed with errno=12\x1b"), std::string::npos)
+            << lines;
+        EXPECT_EQ(ReadText(PROFILE), text);
+    }
+}
+
+TEST(FileFailure, AProfileThatEndsBeforeItsSizeIsWrittenAsItWasRead)
+{
+    WriteText(PROFILE, SECTION);
+    ShortenOne(FailingCall::READ, 0); // as if the file had been cut after its size was read
+    EXPECT_TRUE(WritePrivateProfileStringA("New", "Key", "2", PROFILE));
+    EXPECT_EQ(ReadText(PROFILE), std::string(SECTION) + "[New]\nKey=2\n") << "an empty text ends no line";
+}
+
+TEST(FileFailure, AWriteOfNoByteToAProfileIsNotDetected)
+{
+    WriteText(PROFILE, SECTION);
+    ShortenOne(FailingCall::WRITE, 0);
+    EXPECT_TRUE(WritePrivateProfileStringA("Common", "Key", "2", PROFILE));
+    EXPECT_EQ(ReadText(PROFILE), SECTION);
 }
 
 TEST(FileFailure, AProfileWithAReadErrorIsIncomplete)
