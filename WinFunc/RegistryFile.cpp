@@ -63,8 +63,8 @@ void ReadValueLine(std::string_view line, CRegistryValueStore& store)
 
     const size_t nameEnd = line.find('"', 1);
     const size_t equals = line.find('=', 1);
-    if (nameEnd == std::string_view::npos || equals == std::string_view::npos || equals < nameEnd) {
-        return;
+    if (equals == std::string_view::npos || equals < nameEnd) {
+        return; // also if the name has no end: npos is behind each position
     }
     const std::string_view name = line.substr(1, nameEnd - 1);
     const std::string_view data = line.substr(equals + 1);
