@@ -3,6 +3,7 @@
 #include "FailingMemory.h"
 #include "ProfileText.h"
 #include "RegistryFile.h"
+#include "SettledRegistry.h"
 #include "StdoutCapture.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
@@ -66,6 +67,75 @@ TEST(FileFailure, AnUnreadableRegistryIsNotWritable)
     EXPECT_FALSE(static_cast<CRegistryKey*>(key)->bWritable);
     RegCloseKey(key);
     EXPECT_EQ(ReadText(REGISTRY_FILE), TEXT);
+}
+
+TEST(FileFailure, NothingIsDeletedFromARegistryThatCannotBeRead)
+{
+    std::string text = TEXT;
+    while (text.size() < 20000) { // is read in 16384 bytes
+        text += "# a line\n";
+    }
+    text += "[HKLM/c]\n\n";
+    for (const Failure& failure : {Failure{FailingCall::FSTAT, EIO, 0}, Failure{FailingCall::READ, EIO, 0},
+                                   Failure{FailingCall::READ, EIO, 1}}) {
+        SCOPED_TRACE(testing::Message()
+                     << "call " << static_cast<int>(failure.call) << " after " << failure.passed);
+        WriteRegistry(text);
+        FailOne(failure.call, failure.error, failure.passed);
+        EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, "a"), 12);
+        EXPECT_EQ(ReadText(REGISTRY_FILE), text);
+        FailOne(failure.call, failure.error, failure.passed);
+        CRegistryKey key{"HKLM/a", true};
+        EXPECT_EQ(RegDeleteValueA(&key, "x"), 12);
+        EXPECT_EQ(ReadText(REGISTRY_FILE), text);
+    }
+}
+
+TEST(FileFailure, ALoadThatFailedIsRepeated)
+{
+    WriteRegistry(TEXT);
+    WaitUntilSettled();
+    for (const int flags : {O_RDONLY, O_RDWR}) {
+        g_Registry.clear();
+        RegForgetLoad();
+        FailOne(FailingCall::READ, EIO);
+        EXPECT_EQ(RegReadIn(flags), flags == O_RDONLY) << "only for reading";
+        EXPECT_TRUE(g_Registry.empty());
+        EXPECT_TRUE(RegReadIn(flags));
+        EXPECT_EQ(g_Registry.size(), 2U);
+    }
+}
+
+TEST(FileFailure, ThePiecesOfTheRegistryEndAtAFailure)
+{
+    WriteRegistry(TEXT);
+    const LockedFile file(REGISTRY_FILE, O_RDONLY);
+    std::string piece;
+    FailOne(FailingCall::FSTAT, EIO);
+    RegistryPieces withoutSize(file);
+    EXPECT_TRUE(withoutSize.HasFailed());
+    EXPECT_FALSE(withoutSize.Next(piece));
+    EXPECT_FALSE(withoutSize.Complete());
+
+    RegistryPieces pieces(file);
+    FailOne(FailingCall::READ, EIO);
+    EXPECT_FALSE(pieces.Next(piece));
+    EXPECT_TRUE(pieces.HasFailed());
+    EXPECT_FALSE(pieces.Next(piece)) << "the file is not read again";
+    EXPECT_FALSE(pieces.Complete());
+}
+
+TEST(FileFailure, ARegistryThatCannotBeReplacedIsReported)
+{
+    for (const FailingCall call :
+         {FailingCall::OPEN, FailingCall::TRUNCATE, FailingCall::WRITE, FailingCall::CLOSE}) {
+        SCOPED_TRACE(static_cast<int>(call));
+        WriteRegistry(TEXT);
+        FailOne(call, EIO);
+        EXPECT_FALSE(RegReplaceFile(TEXT));
+        EXPECT_TRUE(RegReplaceFile(TEXT));
+        EXPECT_EQ(ReadText(REGISTRY_FILE), TEXT);
+    }
 }
 
 TEST(FileFailure, AProfileThatCannotBeReadIsUnchanged)

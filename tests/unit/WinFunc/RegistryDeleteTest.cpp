@@ -60,6 +60,7 @@ TEST_F(RegistryDelete, KeyTable)
         {"a match anywhere in the section line", "[old HKLM/a]\n\n[HKLM/a]\n\n", "a", "[HKLM/a]\n\n"},
         {"text before the section is kept", "# note\n\n[HKLM/a]\n\n", "a", "# note\n\n"},
         {"the name in a value is not a section", "[HKLM/b]\n\"[HKLM/a]\"=\"1\"\n\n", "a", nullptr},
+        {"the only section", "[HKLM/a]\n\n", "a", ""},
         {"a last line without a line feed is kept unchanged", "[HKLM/a]\n\n[HKLM/c]\n\"z\"=\"3\"", "a",
          "[HKLM/c]\n\"z\"=\"3\""},
     };

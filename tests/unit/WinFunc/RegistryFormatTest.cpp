@@ -291,6 +291,35 @@ TEST_F(RegistryFormat, AValueLongerThanOnePieceIsLostButTheNextLinesAreKept)
     }
 }
 
+TEST_F(RegistryFormat, AValueLongerThanOnePieceIsLostWhereverItsLineBegins)
+{
+    const std::string line = "\"a\"=\"" + std::string(1024 - 6, 'v') + "\"";
+    ASSERT_EQ(line.size(), 1024U);
+    for (const size_t start : {15400U, 15800U, 16300U, 16383U, 16384U}) { // the file is read in 16384 bytes
+        std::string before;
+        while (before.size() < start - 500) {
+            before += std::string(99, '#') + "\n";
+        }
+        before += std::string(start - before.size() - 5, '#') + "\n[S]\n";
+        ASSERT_EQ(before.size(), start);
+        g_Registry.clear();
+        Load(before + line + "\n\"b\"=\"next\"\n");
+        EXPECT_EQ(g_Registry["S"].stringValues, (Texts{{"b", "next"}})) << start;
+    }
+}
+
+TEST_F(RegistryFormat, TheLastByteOfAFileOfAnySizeCounts)
+{
+    const std::string start = "[S]\n#";
+    const std::string end = "\n\"n\"=dword:2a";
+    for (const size_t size : {16383U, 16384U, 16385U, 16386U, 32769U}) {
+        g_Registry.clear();
+        Load(start + std::string(size - start.size() - end.size(), 'x') + end);
+        EXPECT_EQ(std::filesystem::file_size(REGISTRY_FILE), size);
+        EXPECT_EQ(g_Registry["S"].dwordValues, (Numbers{{"n", 42}})) << size;
+    }
+}
+
 TEST_F(RegistryFormat, EachPieceOfALongLineIsParsedAsALine)
 {
     Load("[S]\n" + std::string(1023, '#') + "[T]\n\"a\"=\"1\"\n" + std::string(1023, '#') + "\"b\"=\"2\"\n");

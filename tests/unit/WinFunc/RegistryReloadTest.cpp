@@ -2,6 +2,7 @@
 // not depend on whether the parse was skipped.
 #include "ChildProcess.h"
 #include "LocalMachineKeys.h"
+#include "SettledRegistry.h"
 #include "TextFiles.h"
 #include "WinFunc.h"
 
@@ -41,25 +42,6 @@ void Set(HKEY key, const std::string& text, const char* name = "x")
 {
     const auto* data = reinterpret_cast<const BYTE*>(text.c_str());
     EXPECT_EQ(RegSetValueExA(key, name, 0, REG_SZ, data, static_cast<DWORD>(text.size() + 1)), 0);
-}
-
-/// Waits until the last change of the file is so old that any later one gets a different time.
-void WaitUntilSettled()
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (std::chrono::steady_clock::now() < end) {
-        struct stat info = {};
-        timespec now = {};
-        ASSERT_EQ(stat(REGISTRY_FILE, &info), 0);
-        clock_gettime(CLOCK_REALTIME_COARSE, &now);
-        const auto age = std::chrono::seconds(now.tv_sec - info.st_ctim.tv_sec) +
-                         std::chrono::nanoseconds(now.tv_nsec - info.st_ctim.tv_nsec);
-        if (age > std::chrono::milliseconds(200)) {
-            return;
-        }
-        std::this_thread::yield();
-    }
-    FAIL() << "the clock does not advance";
 }
 
 /// True to simulate a file system that stores whole seconds only.
@@ -110,6 +92,15 @@ TEST(RegistryReload, ChangesOfTheSameSizeWithinOneTickAreSeen)
         WriteText(REGISTRY_FILE, ValueLine(round % 10));
         ASSERT_EQ(OpenAndRead(), std::to_string(round % 10));
     }
+}
+
+TEST(RegistryReload, AnUnchangedFileIsLoadedOnce)
+{
+    WriteRegistry(ValueLine(1));
+    WaitUntilSettled();
+    EXPECT_EQ(OpenAndRead(), "1");
+    g_Registry["HKLM/a"].stringValues["x"] = "in the map only";
+    EXPECT_EQ(OpenAndRead(), "in the map only") << "the next load would replace it";
 }
 
 TEST(RegistryReload, AChangeByAnotherProcessIsSeen)

@@ -191,6 +191,14 @@ TEST_F(RegistryStore, ClosingACleanKeyDoesNotChangeTheFile)
     EXPECT_EQ(ReadText(REGISTRY_FILE), text);
 }
 
+TEST_F(RegistryStore, ClosingAKeyThatIsNotWritableDoesNotChangeTheFile)
+{
+    const std::string text = "# kept as it is\n[HKLM/a]\n\"x\"=\"1\"";
+    WriteRegistry(text);
+    EXPECT_EQ(RegCloseKey(new CRegistryKey{"HKLM/a", false, true}), 0);
+    EXPECT_EQ(ReadText(REGISTRY_FILE), text);
+}
+
 TEST_F(RegistryStore, ValuesAreWrittenWhenTheKeyIsClosed)
 {
     const std::string text = "[HKLM/a]\n\n";
