@@ -35,13 +35,15 @@ std::optional<std::vector<std::string>> NamesIn(const std::string& path)
     }
     std::vector<std::string> names;
     const int before = errno; // restored on success
-    errno = 0;
-    while (const dirent* entry = readdir(directory.get())) {
+    const auto next = [&] {
+        errno = 0;
+        return readdir(directory.get());
+    };
+    while (const dirent* entry = next()) {
         const std::string name = entry->d_name;
         if (name != "." && name != "..") {
             names.push_back(name);
         }
-        errno = 0;
     }
     if (errno != 0) {
         return std::nullopt;
