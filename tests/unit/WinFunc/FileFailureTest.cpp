@@ -1,6 +1,7 @@
 // Files of which a call fails once: what could not be read is never overwritten.
 #include "FailingCalls.h"
 #include "FailingMemory.h"
+#include "OpenDescriptors.h"
 #include "ProfileText.h"
 #include "RegistryFile.h"
 #include "SettledRegistry.h"
@@ -136,6 +137,26 @@ TEST(FileFailure, ARegistryThatCannotBeReplacedIsReported)
         EXPECT_TRUE(RegReplaceFile(TEXT));
         EXPECT_EQ(ReadText(REGISTRY_FILE), TEXT);
     }
+}
+
+TEST(FileFailure, AFolderThatCannotBeListedIsKept)
+{
+    // The names are ".", ".." and "file".
+    for (const Failure& failure :
+         {Failure{FailingCall::OPEN_FOLDER, ENOMEM, 0}, Failure{FailingCall::READ_FOLDER, EIO, 0},
+          Failure{FailingCall::READ_FOLDER, EIO, 3}}) {
+        SCOPED_TRACE(testing::Message()
+                     << "call " << static_cast<int>(failure.call) << " after " << failure.passed);
+        std::filesystem::create_directories("/tmp/folder");
+        WriteText("/tmp/folder/file", "text");
+        const size_t before = OpenDescriptors();
+        FailOne(failure.call, failure.error, failure.passed);
+        EXPECT_FALSE(RemoveDirectoryA("/tmp/folder"));
+        EXPECT_EQ(errno, failure.error);
+        EXPECT_EQ(OpenDescriptors(), before);
+        EXPECT_EQ(ReadText("/tmp/folder/file"), "text");
+    }
+    EXPECT_TRUE(RemoveDirectoryA("/tmp/folder"));
 }
 
 TEST(FileFailure, AProfileThatCannotBeReadIsUnchanged)

@@ -202,6 +202,9 @@ TEST_F(RemoveDirectoryTest, FailsForAnythingButAFolder)
     EXPECT_EQ(GetLastError(), 2u);
     EXPECT_EQ(RemoveDirectoryA(""), FALSE);
     EXPECT_EQ(RemoveDirectoryA(nullptr), FALSE);
+    ASSERT_EQ(mkfifo("/tmp/fifo", 0600), 0);
+    EXPECT_EQ(RemoveDirectoryA("/tmp/fifo"), FALSE) << "without waiting for a writer";
+    EXPECT_TRUE(fs::is_fifo("/tmp/fifo"));
 }
 
 TEST_F(RemoveDirectoryTest, RemovesManyEntries)
@@ -252,6 +255,36 @@ TEST_F(RemoveDirectoryTest, StopsAtTheFirstFailure)
     EXPECT_EQ(RemoveDirectoryA(folder.c_str()), FALSE);
     EXPECT_EQ(GetLastError(), 5u);
     EXPECT_EQ(ReadText(folder + "/locked/file"), "text");
+}
+
+TEST_F(RemoveDirectoryTest, FailsForAnEmptyFolderThatCannotBeListed)
+{
+    ASSERT_EQ(chmod(folder.c_str(), 0300), 0);
+    ASSERT_TRUE(TakeAwayPrivileges());
+    EXPECT_EQ(RemoveDirectoryA(folder.c_str()), FALSE);
+    EXPECT_EQ(GetLastError(), 5u);
+    EXPECT_TRUE(fs::exists(folder));
+}
+
+TEST_F(RemoveDirectoryTest, FailsForAnEmptyFolderInOneThatCannotBeWritten)
+{
+    fs::create_directories(folder + "/empty");
+    ASSERT_EQ(chmod(folder.c_str(), 0555), 0);
+    ASSERT_TRUE(TakeAwayPrivileges());
+    EXPECT_EQ(RemoveDirectoryA((folder + "/empty").c_str()), FALSE);
+    EXPECT_EQ(GetLastError(), 5u);
+    EXPECT_TRUE(fs::exists(folder + "/empty"));
+}
+
+TEST_F(RemoveDirectoryTest, NeedsNoStandardInput)
+{
+    WriteText(folder + "/file", "text");
+    const int input = dup(STDIN_FILENO);
+    close(STDIN_FILENO);
+    EXPECT_EQ(RemoveDirectoryA(folder.c_str()), TRUE);
+    EXPECT_FALSE(fs::exists(folder));
+    dup2(input, STDIN_FILENO);
+    close(input);
 }
 
 TEST_F(RemoveDirectoryTest, SuccessKeepsTheLastError)
