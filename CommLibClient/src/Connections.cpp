@@ -9,8 +9,9 @@ constexpr size_t MAX_CONNECTIONS = 100;
 /// The size of the table, for readers that do not hold its mutex.
 std::atomic<size_t> tableSize = 0;
 
-/// Number of threads between the lookup of a handle and the increment of its object's counter.
-std::atomic<int> lookups = 0;
+/// Held between the lookup of a handle and the increment of its object's counter, and while an entry is
+/// freed.
+std::mutex lookups;
 
 std::vector<ST_NCL*> EmptyTable()
 {
@@ -105,7 +106,7 @@ DWORD ReturnErrParam()
 
 NCLGuard::NCLGuard(DWORD dwHandle)
 {
-    const CAutoRefCounter lookup(lookups);
+    const std::lock_guard lock(lookups);
     m_pNCL = GetNCLObj(dwHandle);
     if (m_pNCL != nullptr) {
         m_counter.emplace(m_pNCL->m_refCount);
@@ -125,11 +126,12 @@ void DestroyNCL(DWORD dwHandle, ST_NCL* pNCL)
 {
     Destroy(pNCL->m_pHttp);
     Destroy(pNCL->m_pHttpSecure);
-    DeleteNCLObj(dwHandle);
-    // Once no lookup is in progress, every operation that found the object before its entry was freed is
-    // counted. It returns as soon as it sees the flag.
-    while (lookups != 0) {
+    {
+        const std::lock_guard lock(lookups);
+        DeleteNCLObj(dwHandle);
     }
+    // Every operation that found the object before its entry was freed is counted. It returns as soon as it
+    // sees the flag.
     StopOperations(*pNCL);
     delete pNCL;
 }
@@ -144,8 +146,8 @@ bool DestroyOldestUnclaimedNCL()
     DWORD handle = 0;
     ST_NCL* oldest = nullptr;
     {
-        const std::lock_guard lock(g_csNCLArray); // no two threads choose the same object
-        const CAutoRefCounter lookup(lookups);    // no object is deleted while it is examined
+        const std::scoped_lock lock(g_csNCLArray, // no two threads choose the same object
+                                    lookups);     // no object is deleted while it is examined
         for (size_t index = 0; index < g_pvarrNCL.size(); ++index) {
             ST_NCL* const ncl = Entry(index);
             if (ncl != nullptr && ncl->m_ullUnclaimed != 0 &&

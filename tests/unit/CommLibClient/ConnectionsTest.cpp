@@ -314,3 +314,26 @@ TEST(EndConnection, ToleratesOperationsThatStartAtAnyTime)
         other.join();
     }
 }
+
+// An end does not wait for the lookups of other connections. With the thread sanitizer, threads that read an
+// atomic in a loop keep others from writing it, so a loop that waits for those lookups may never end.
+TEST(EndConnection, EndsWhileOtherConnectionsAreUsed)
+{
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 40; ++i) {
+        threads.emplace_back([] {
+            for (int round = 0; round < 500; ++round) {
+                const DWORD handle = SetNCLObj(new ST_NCL);
+                for (int operation = 0; operation < 7; ++operation) {
+                    const NCLGuard guard(handle);
+                    EXPECT_EQ(guard.Object(), GetNCLObj(handle));
+                }
+                EndConnection(handle);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_THAT(g_pvarrNCL, testing::Each(nullptr));
+}
