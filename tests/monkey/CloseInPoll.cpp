@@ -1,5 +1,6 @@
-// Closes the window again and again while queries run. Prints the seed; the same seed repeats the numbers of
-// requests after which the window is closed, and the publishers that come and go.
+// Closes the window again and again while queries run. Prints the seed, and each window before it is opened;
+// the same seed repeats the numbers of requests after which the window is closed, and the publishers that
+// come and go.
 #include "ManyPublishers.h"
 #include "MyRunnable.h"
 #include "NW_Com_Lib.h"
@@ -12,6 +13,7 @@
 #include <QThreadPool>
 
 #include <cstdio>
+#include <ctime>
 #include <memory>
 #include <random>
 #include <unistd.h>
@@ -22,7 +24,6 @@ constexpr int patience = 60000;        // milliseconds: bounds a hang, not a spe
 constexpr unsigned hangTime = 300;     // seconds until a close that hangs ends the program
 constexpr int requestTime = 5000;      // milliseconds: the longest wait for requests
 constexpr unsigned mostRequests = 800; // of the first poll, before the window is closed
-constexpr int report = 100;
 
 /// Opens a window and closes it after some requests. Returns whether queries ran at that time.
 bool openAndClose(const ManyPublishers& publishers, std::mt19937_64& random)
@@ -53,12 +54,12 @@ void closeInPolls(uint64_t seed, int count)
     int windows = 0;
     while (closed < count) {
         alarm(hangTime);
-        ++windows;
-        if (openAndClose(publishers, random) && ++closed % report == 0) {
-            std::printf("close: %d windows closed during queries, %.0f s\n", closed,
-                        static_cast<double>(time.elapsed()) / 1000);
-            std::fflush(stdout);
-        }
+        // The times tell a window that hangs from a program that gets no processor.
+        std::printf("close: window %d after %.1f s, %.1f s of processor time\n", ++windows,
+                    static_cast<double>(time.elapsed()) / 1000,
+                    static_cast<double>(std::clock()) / CLOCKS_PER_SEC);
+        std::fflush(stdout);
+        closed += openAndClose(publishers, random) ? 1 : 0;
         const auto publisher = static_cast<unsigned>(random() % publisherCount);
         if (random() % 2 == 0) {
             publishers.comes(publisher);
@@ -69,6 +70,8 @@ void closeInPolls(uint64_t seed, int count)
     }
     std::printf("close: %d of %d windows of seed %llu closed during queries in %.1f s\n", closed, windows,
                 static_cast<unsigned long long>(seed), static_cast<double>(time.elapsed()) / 1000);
+    std::fflush(stdout);
+    alarm(hangTime); // for the end of the program
 }
 
 } // namespace
