@@ -13,11 +13,10 @@
 #include "RawClient.h"
 #include "RegistryKeys.h"
 #include "RoomFixture.h"
+#include "SimPaths.h"
 
 namespace {
 
-constexpr char REGISTRY[] = "/opt/arven/Ulmar Disc Maker/conf/registry.txt";
-constexpr char SETTINGS[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher/";
 constexpr char ONE[] = "[publisher A]\nmodel = RT-300III BD\nguid = {G1}\nid = one\n";
 constexpr char TWO_DRIVE_SPEEDS[] = "CD-R:40,32,24,16,10,4;DVD-R:12,8,6,4;DVD-R DL:8,6,4;DVD+R:12,8,6,4;"
                                     "DVD+R DL:8,6,4;BD-R:8,6,4,2;BD-R DL:6,4,2";
@@ -139,7 +138,7 @@ TEST(SimInstallation, StartCreatesAllFiles)
                                       TWO_DRIVE_SPEEDS +
                                       "\"\n\"Connected\"=dword:00000001\n\"DPType\"=dword:20000009\n"
                                       "\"USBMode\"=dword:00000003\n\n");
-    EXPECT_EQ(contents(std::string(SETTINGS) + "one.ini"),
+    EXPECT_EQ(contents(std::string(SETTINGS) + "/one.ini"),
               "[Common]\nGUID={G1}\nPublisherName=A\nPublishMode=0\nStacker1=1\nStacker2=0\nStacker3=32\n"
               "Stacker4=0\nPrinterName=ARVEN RT-300PRN\nPublisherConnectionType=0\nUseDrive=0\nRetryTimes=3\n"
               "RetryTimesW=3\nRetryTimesR=3\nReadBackContinue=1\nAddErrorMark=1\n");
@@ -158,7 +157,7 @@ TEST(SimInstallation, KeysOfSingleDriveAndPrinterModels)
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{S}]\n\"DRVSupportWriteSpeed\"=\"CD-R:40,32,24,16,10,4;"
         "DVD-R:12,8,6,4;DVD-R DL:8,6,4;DVD+R:12,8,6,4;DVD+R DL:8,6,4\"\n\"Connected\"=dword:00000000\n"
         "\"DPType\"=dword:00000003\n\"USBMode\"=dword:00000000\n\n");
-    EXPECT_EQ(contents(std::string(SETTINGS) + "p.ini"),
+    EXPECT_EQ(contents(std::string(SETTINGS) + "/p.ini"),
               "[Common]\nGUID={P}\nPublisherName=P\nPublishMode=0\nStacker1=1\nStacker2=0\nStacker3=32\n"
               "Stacker4=0\nPrinterName=ARVEN RT-300APPRN\nPublisherConnectionType=0\n");
 }
@@ -168,7 +167,7 @@ TEST(SimInstallation, ExistingFilesSurvive)
     put(REGISTRY, "[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n\n"
                   "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{G1}]\n\"DPType\"=dword:00000003\n"
                   "\"PRTPortName\"=\"USB1\"\n\n");
-    put(std::string(SETTINGS) + "one.ini", "[Common]\nGUID={G1}\nPublisherName=Renamed\n");
+    put(std::string(SETTINGS) + "/one.ini", "[Common]\nGUID={G1}\nPublisherName=Renamed\n");
     const OpenRoom open(ONE);
     const std::string registry = contents(REGISTRY);
     EXPECT_EQ(registry.find("[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n\n"),
@@ -176,13 +175,13 @@ TEST(SimInstallation, ExistingFilesSurvive)
     EXPECT_NE(registry.find("\"DPType\"=dword:20000009\n"), std::string::npos);
     EXPECT_EQ(registry.find("\"DPType\"=dword:00000003\n"), std::string::npos);
     EXPECT_NE(registry.find("\"PRTPortName\"=\"USB1\"\n"), std::string::npos);
-    EXPECT_EQ(contents(std::string(SETTINGS) + "one.ini"), "[Common]\nGUID={G1}\nPublisherName=Renamed\n");
+    EXPECT_EQ(contents(std::string(SETTINGS) + "/one.ini"), "[Common]\nGUID={G1}\nPublisherName=Renamed\n");
 }
 
 TEST(SimInstallation, AnUnregisteredMachineHasNoSettingFile)
 {
     const OpenRoom open(std::string(ONE) + "registered = no\n");
-    EXPECT_FALSE(std::filesystem::exists(std::string(SETTINGS) + "one.ini"));
+    EXPECT_FALSE(std::filesystem::exists(std::string(SETTINGS) + "/one.ini"));
     EXPECT_NE(contents(REGISTRY).find("/Local/{G1}]"), std::string::npos);
 }
 
@@ -200,9 +199,9 @@ TEST(SimInstallation, TheSettingFileMapsAnIdToADevice)
 {
     OpenRoom open(std::string(ONE) +
                   "[publisher B]\nmodel = RT-30\nguid = {G2}\nerror = 19\nregistered = no\n");
-    put(std::string(SETTINGS) + "made by hand.ini", "[Common]\nPublisherName=B\nGUID={G2}\n");
+    put(std::string(SETTINGS) + "/made by hand.ini", "[Common]\nPublisherName=B\nGUID={G2}\n");
     EXPECT_EQ(ask(22, "made by hand").payload, Bytes(4).u32(0, 19).str());
-    put(std::string(SETTINGS) + "stray.ini", "[Common]\nGUID={nobody}\n");
+    put(std::string(SETTINGS) + "/stray.ini", "[Common]\nGUID={nobody}\n");
     EXPECT_EQ(ask(22, "stray").result, 21U);
     put("/tmp/outside.ini", "[Common]\nGUID={G2}\n");
     EXPECT_EQ(ask(22, "../../../../../tmp/outside").result, 21U);
@@ -211,7 +210,7 @@ TEST(SimInstallation, TheSettingFileMapsAnIdToADevice)
 TEST(SimInstallation, NotifyChangeReadsTheSettingFileAgain)
 {
     OpenRoom open(ONE);
-    put(std::string(SETTINGS) + "one.ini",
+    put(std::string(SETTINGS) + "/one.ini",
         "[Common]\nGUID={G1}\nPublisherName=New name\nStacker1=8\nStacker2=9\nStacker3=0\nStacker4=32\n");
     EXPECT_EQ(ask(17, "one").payload, Bytes(16).u32(0, 1).u32(4, 0).u32(8, 32).u32(12, 0).str());
     EXPECT_EQ(ask(16, "one").result, 0U);

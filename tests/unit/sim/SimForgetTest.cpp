@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "ProgramProcess.h"
+#include "SimPaths.h"
 #include "TextFiles.h"
 
 namespace {
@@ -12,8 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char SCENARIO_WITH_SPACE[] = "/tmp/my room.udsim";
-constexpr char REGISTRY_TEXT[] = "/opt/arven/Ulmar Disc Maker/conf/registry.txt";
-constexpr char SETTING_FOLDER[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
 constexpr char PUBLISHERS[] = "[publisher Studio A]\nmodel = RT-300III BD\nguid = {G1}\nid = one\n"
                               "[publisher B]\nmodel = RT-30II\nguid = {G2}\nid = two\nregistered = no\n"
                               "[network N]\nmodel = RT-300NII\nid = net\nhost = 127.0.0.11\n";
@@ -22,7 +21,7 @@ constexpr char PUBLISHERS[] = "[publisher Studio A]\nmodel = RT-300III BD\nguid 
 std::string settings()
 {
     std::string all;
-    for (const auto& entry : fs::directory_iterator(SETTING_FOLDER)) {
+    for (const auto& entry : fs::directory_iterator(SETTINGS)) {
         all += entry.path().filename().string() + "\n" + ReadText(entry.path());
     }
     return all;
@@ -42,25 +41,25 @@ protected:
     void SetUp() override
     {
         std::ofstream(SCENARIO_WITH_SPACE) << PUBLISHERS;
-        fs::create_directories(SETTING_FOLDER);
+        fs::create_directories(SETTINGS);
     }
 };
 
 TEST_F(SimForget, RemovesEverythingOfTheScenario)
 {
-    std::ofstream(REGISTRY_TEXT).close(); // as the package creates it
+    std::ofstream(REGISTRY).close(); // as the package creates it
     EXPECT_NE(runRoom().find("udsim: the publishers stay registered; remove them with: "
                              "udsim forget '/tmp/my room.udsim'\nudsim: ended\n"),
               std::string::npos);
-    EXPECT_TRUE(fs::exists(std::string(SETTING_FOLDER) + "/one.ini"));
-    EXPECT_FALSE(fs::exists(std::string(SETTING_FOLDER) + "/two.ini"));
-    EXPECT_TRUE(fs::exists(std::string(SETTING_FOLDER) + "/net.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
+    EXPECT_FALSE(fs::exists(std::string(SETTINGS) + "/two.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/net.ini"));
 
     const Ended forgotten = runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE});
     EXPECT_EQ(forgotten.output, "Studio A: removed\nN: removed\n");
     EXPECT_EQ(forgotten.status, 0);
     EXPECT_EQ(settings(), "");
-    EXPECT_EQ(ReadText(REGISTRY_TEXT), "");
+    EXPECT_EQ(ReadText(REGISTRY), "");
 
     const Ended again = runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE});
     EXPECT_EQ(again.output, "/tmp/my room.udsim: none of its publishers is registered\n");
@@ -73,20 +72,20 @@ TEST_F(SimForget, KeepsEverythingElseByteForByte)
         "[HKLM/Software/ARVEN/Ulmar Disc Maker]\n\"CompatiMode\"=dword:00000001\n\n"
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local]\n\n"
         "[HKLM/Software/ARVEN/Ulmar Disc Maker/Local/{G11}]\n\"DPType\"=dword:20000009\n\n";
-    std::ofstream(REGISTRY_TEXT) << keys;
-    std::ofstream(std::string(SETTING_FOLDER) + "/real.ini") << "[Common]\nGUID={G11}\nPublisherName=Real\n";
+    std::ofstream(REGISTRY) << keys;
+    std::ofstream(std::string(SETTINGS) + "/real.ini") << "[Common]\nGUID={G11}\nPublisherName=Real\n";
     const std::string before = settings();
     runRoom();
-    std::ofstream(REGISTRY_TEXT, std::ios::app) << "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n";
+    std::ofstream(REGISTRY, std::ios::app) << "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n";
     EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).status, 0);
     EXPECT_EQ(settings(), before);
-    EXPECT_EQ(ReadText(REGISTRY_TEXT), keys + "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n");
+    EXPECT_EQ(ReadText(REGISTRY), keys + "[HKLM/Software/ARVEN/Later]\n\"A\"=\"b\"\n\n");
 }
 
 TEST_F(SimForget, KeepsPublishersOfOtherDevicesAndServers)
 {
-    std::ofstream(std::string(SETTING_FOLDER) + "/one.ini") << "[Common]\nGUID={OTHER}\nPublisherName=Mine\n";
-    std::ofstream(std::string(SETTING_FOLDER) + "/net.ini")
+    std::ofstream(std::string(SETTINGS) + "/one.ini") << "[Common]\nGUID={OTHER}\nPublisherName=Mine\n";
+    std::ofstream(std::string(SETTINGS) + "/net.ini")
         << "[Common]\nPublisherConnectionType=1\nPublisherURL=studio.example.org\n";
     const std::string before = settings();
     runRoom();
@@ -99,7 +98,7 @@ TEST_F(SimForget, KeepsPublishersOfOtherDevicesAndServers)
 TEST_F(SimForget, FindsPublishersWhoseSettingsWereChanged)
 {
     runRoom();
-    std::ofstream(std::string(SETTING_FOLDER) + "/one.ini")
+    std::ofstream(std::string(SETTINGS) + "/one.ini")
         << "[Common]\nPublishMode=2\nPublisherName=New\nGUID={G1}\n";
     EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).output, "Studio A: removed\nN: removed\n");
     EXPECT_EQ(settings(), "");
@@ -108,7 +107,7 @@ TEST_F(SimForget, FindsPublishersWhoseSettingsWereChanged)
 TEST_F(SimForget, CreatesNoRegistry)
 {
     EXPECT_EQ(runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE}).status, 0);
-    EXPECT_FALSE(fs::exists(REGISTRY_TEXT));
+    EXPECT_FALSE(fs::exists(REGISTRY));
 }
 
 TEST_F(SimForget, IsRefusedWhileARoomRuns)
@@ -118,7 +117,7 @@ TEST_F(SimForget, IsRefusedWhileARoomRuns)
     const Ended early = runProgram(UDSIM, {"forget", SCENARIO_WITH_SPACE});
     EXPECT_EQ(early.output, "udsim: udsim is running; stop it first\n");
     EXPECT_EQ(early.status, 1);
-    EXPECT_TRUE(fs::exists(std::string(SETTING_FOLDER) + "/one.ini"));
+    EXPECT_TRUE(fs::exists(std::string(SETTINGS) + "/one.ini"));
     room.end();
 }
 

@@ -4,10 +4,11 @@
 #include "JobFilesFixture.h"
 #include "RawClient.h"
 #include "RoomFixture.h"
+#include "SimPaths.h"
 
 namespace {
 
-constexpr char SETTING[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher/{ARPUB20260105_1}.ini";
+const std::string SETTING = std::string(SETTINGS) + "/" + ID + ".ini";
 constexpr char IDLE[] = "[publisher A]\nmodel = RT-300III BD\nid = {ARPUB20260105_1}\nname = Studio\n"
                         "disc-time = 10s\ncleaning-time = 5s\nink.black = 20\n";
 

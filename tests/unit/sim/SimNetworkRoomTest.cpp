@@ -4,6 +4,7 @@
 
 #include "HttpClient.h"
 #include "NetworkFixture.h"
+#include "SimPaths.h"
 
 namespace {
 
@@ -129,10 +130,10 @@ TEST_F(SimNetworkRoom, OtherMethodsAndALargeBody)
 
 TEST_F(SimNetworkRoom, SettingFiles)
 {
-    EXPECT_EQ(readFile("/opt/arven/Ulmar Disc Maker/conf/RegPublisher/a.ini"),
+    EXPECT_EQ(readFile(std::string(SETTINGS) + "/a.ini"),
               "[Common]\nPublisherName=A\nPrinterName=ARVEN RT-300NIIPRN\nPublisherConnectionType=1\n"
               "PublisherURL=127.0.0.11\n");
-    EXPECT_EQ(readFile("/opt/arven/Ulmar Disc Maker/conf/RegPublisher/b.ini"),
+    EXPECT_EQ(readFile(std::string(SETTINGS) + "/b.ini"),
               "[Common]\nPublisherName=B\nPrinterName=ARVEN RT-300NPRN\nPublisherConnectionType=1\n"
               "PublisherURL=127.0.0.12\nNPType=1\n");
 }

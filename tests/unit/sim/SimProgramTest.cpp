@@ -13,11 +13,10 @@
 #include "HttpClient.h"
 #include "ProgramProcess.h"
 #include "RawClient.h"
+#include "SimPaths.h"
 #include "World.h"
 
 namespace {
-
-constexpr char SCENARIO[] = "/tmp/room.udsim";
 
 class Udsim : public ProgramProcess
 {
@@ -135,7 +134,7 @@ TEST(SimProgram, ChecksAScenarioAndRunsNothing)
     const Ended ended = runProgram(UDSIM, {"--check", SCENARIO});
     EXPECT_EQ(ended.output, "/tmp/room.udsim: 1 local and 1 network publishers, 1 events, 2 faults\n");
     EXPECT_EQ(ended.status, 0);
-    EXPECT_FALSE(std::ifstream("/opt/arven/Ulmar Disc Maker/conf/registry.txt").is_open());
+    EXPECT_FALSE(std::ifstream(REGISTRY).is_open());
 }
 
 TEST(SimProgram, ChecksEveryScenarioOfTheProject)

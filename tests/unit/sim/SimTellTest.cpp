@@ -9,6 +9,7 @@
 
 #include "ProgramProcess.h"
 #include "RoomFixture.h"
+#include "SimPaths.h"
 #include "TellSocket.h"
 #include "UnixListener.h"
 
@@ -201,8 +202,8 @@ TEST(SimTell, InvalidPathsAreReported)
 
 TEST(SimTell, SendsCommandsToARunningRoom)
 {
-    std::ofstream("/tmp/room.udsim") << ROOM;
-    ProgramProcess room(UDSIM, {"/tmp/room.udsim"});
+    std::ofstream(SCENARIO) << ROOM;
+    ProgramProcess room(UDSIM, {SCENARIO});
     room.readUntil("udsim: ready\n");
     struct Row
     {
@@ -252,8 +253,8 @@ TEST(SimTell, SendsCommandsToARunningRoom)
 
 TEST(SimTell, TheControlOptionNamesTheSocket)
 {
-    std::ofstream("/tmp/room.udsim") << ROOM;
-    ProgramProcess room(UDSIM, {"--control", PATH, "/tmp/room.udsim"});
+    std::ofstream(SCENARIO) << ROOM;
+    ProgramProcess room(UDSIM, {"--control", PATH, SCENARIO});
     room.readUntil("udsim: ready\n");
     EXPECT_EQ(runProgram(UDSIM, {"tell", "--control", PATH, "B", "offline"}).status, 0);
     const Ended nobody = runProgram(UDSIM, {"tell", "B", "offline"});

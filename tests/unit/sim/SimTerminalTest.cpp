@@ -7,15 +7,13 @@
 #include <sys/ioctl.h>
 
 #include "ProgramProcess.h"
+#include "SimPaths.h"
 
 namespace {
 
-constexpr char TERMINAL_SCENARIO[] = "/tmp/room.udsim";
-
 void putTerminalScenario()
 {
-    std::ofstream(TERMINAL_SCENARIO)
-        << "[publisher A]\nmodel = RT-30\ndisc-time = 400s\njob = Concert, copies=2\n";
+    std::ofstream(SCENARIO) << "[publisher A]\nmodel = RT-30\ndisc-time = 400s\njob = Concert, copies=2\n";
 }
 
 /// A room on a terminal with the given number of columns.
@@ -31,8 +29,7 @@ public:
         EXPECT_EQ(::openpty(&ends[0], &ends[1], nullptr, nullptr, &size), 0);
         ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
         ::fcntl(ends[1], F_SETFD, FD_CLOEXEC);
-        process.emplace(UDSIM, std::vector<std::string>{TERMINAL_SCENARIO, "--speed", "100"}, ends[1],
-                        ends[0]);
+        process.emplace(UDSIM, std::vector<std::string>{SCENARIO, "--speed", "100"}, ends[1], ends[0]);
     }
 
     std::optional<ProgramProcess> process;
@@ -87,7 +84,7 @@ TEST(SimTerminal, OtherOutputHasNoEscapeSequences)
 {
     putTerminalScenario();
     ::setenv("TERM", "xterm", 1);
-    ProgramProcess process(UDSIM, {TERMINAL_SCENARIO, "--speed", "1000"});
+    ProgramProcess process(UDSIM, {SCENARIO, "--speed", "1000"});
     process.readUntil("running \"Concert\"");
     process.signal(SIGTERM);
     const std::string output = process.readToTheEnd();

@@ -7,14 +7,13 @@
 #include <unistd.h>
 
 #include "ProgramProcess.h"
+#include "SimPaths.h"
 #include "UnixListener.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char SCENARIO[] = "/tmp/room.udsim";
-constexpr char SETTINGS[] = "/opt/arven/Ulmar Disc Maker/conf/RegPublisher";
 constexpr char CONTROL[] = "/var/run/udsim.socket";
 constexpr auto READ_ONLY = fs::perms::owner_read | fs::perms::owner_exec;
 
