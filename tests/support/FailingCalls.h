@@ -1,4 +1,4 @@
-// Makes single system calls of a test fail.
+// Makes single system calls of a test fail or transfer fewer bytes.
 #pragma once
 
 #include <cstddef>
