@@ -1,1 +1,0 @@
-// Nothing of its own: carries the precompiled headers of GoogleTest.

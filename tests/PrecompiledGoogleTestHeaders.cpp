@@ -1,0 +1,1 @@
+// Intentionally empty: its target builds the precompiled headers of GoogleTest.
