@@ -29,7 +29,7 @@ struct Word
 constexpr std::array<Word, 15> SERVER_FAULTS{{
     {"stall", Kind::stall, 0},
     {"close", Kind::close, 0},
-    {"delay", Kind::delay, LONGEST_DELAY},
+    {"delay", Kind::delay, LONGEST_FAULT_DELAY},
     {"status", Kind::status, 255},
     {"http", Kind::http, 999},
     {"empty", Kind::empty, 0},
@@ -41,7 +41,7 @@ constexpr std::array<Word, 15> SERVER_FAULTS{{
     {"chunk-extension", Kind::chunkExtension, 0},
     {"interim", Kind::interim, 1000},
     {"content-length", Kind::contentLength, UINT64_MAX},
-    {"drip", Kind::drip, LONGEST_DELAY},
+    {"drip", Kind::drip, LONGEST_FAULT_DELAY},
 }};
 
 std::string statusLine(unsigned status)

@@ -55,9 +55,9 @@ std::optional<Fault> Fault::parse(const std::string& text, std::string& error)
         return std::nullopt;
     }
     if (takesNumber) {
-        const auto number = parseNumber(argument, LONGEST_DELAY);
+        const auto number = parseNumber(argument, LONGEST_FAULT_DELAY); // also the limit of a result code
         if (!number) {
-            error = "the fault \"" + word + "\" needs a number up to " + std::to_string(LONGEST_DELAY);
+            error = "the fault \"" + word + "\" needs a number up to " + std::to_string(LONGEST_FAULT_DELAY);
             return std::nullopt;
         }
         fault.number = *number;

@@ -10,7 +10,8 @@
 
 namespace udsim {
 
-inline constexpr uint64_t LONGEST_DELAY = 3'600'000; ///< milliseconds, of a fault that delays a reply
+/// The longest time, in milliseconds, by which a fault delays a reply or each of its bytes.
+inline constexpr uint64_t LONGEST_FAULT_DELAY = 3'600'000;
 
 struct Fault
 {
