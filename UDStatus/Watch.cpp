@@ -18,7 +18,7 @@ namespace {
 constexpr char enterScreen[] = "\x1b[?1049h\x1b[?25l"; // another screen, without a cursor
 constexpr char leaveScreen[] = "\x1b[?25h\x1b[?1049l";
 constexpr char toTheTop[] = "\x1b[H";
-constexpr char clearLine[] = "\x1b[K\r\n";
+constexpr char clearLine[] = "\x1b[K"; // before its text, whose last cell it would clear otherwise
 constexpr char clearRest[] = "\x1b[J";
 
 sigset_t handledSignals()
@@ -84,7 +84,7 @@ bool Watch::draw()
         const int height = std::min(static_cast<int>(lines.size()), terminalHeight() - 1);
         picture = toTheTop;
         for (int i = 0; i < height; ++i) {
-            picture += encoded(lines[i]) + clearLine;
+            picture += clearLine + encoded(lines[i]) + "\r\n";
         }
         picture += clearRest;
     }

@@ -93,6 +93,26 @@ TEST(StatusTerminal, AWatchRedrawsInPlaceAndRestoresTheTerminal)
     EXPECT_EQ(end.err, "");
 }
 
+TEST(StatusTerminal, ALineThatFillsTheTerminalKeepsItsLastCharacter)
+{
+    const StatusRoom room(std::string(twoStudios) +
+                          "[publisher Wide]\nname = A publisher with quite a long name\nmodel = RT-30II\n");
+    StatusRun run({"--watch", "60"}, 40, colourless);
+    ASSERT_TRUE(run.waitFor("Avail\xe2\x80\xa6")); // the end of the first line
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.signal(SIGINT);
+    const std::string out = run.end().out;
+    // After the last cell of a line the cursor stays on it: clearing the rest of the line would clear that
+    // cell, too.
+    size_t cleared = 0;
+    for (size_t at = 0; (at = out.find("\x1b[K", at)) != std::string::npos; ++at) {
+        const std::string before = out.substr(0, at);
+        EXPECT_TRUE(before.ends_with("\n") || before.ends_with("\x1b[H")) << before;
+        ++cleared;
+    }
+    EXPECT_GT(cleared, 0U);
+}
+
 TEST(StatusTerminal, OtherSignalsRestoreTheTerminalToo)
 {
     const StatusRoom room(twoStudios);
