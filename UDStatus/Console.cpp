@@ -60,8 +60,9 @@ int terminalWidth()
 
 bool takesSequences()
 {
-    const char* terminal = std::getenv("TERM");
-    return ::isatty(STDOUT_FILENO) != 0 && terminal != nullptr && std::strcmp(terminal, "dumb") != 0;
+    const char* variable = std::getenv("TERM");
+    const std::string_view terminal = variable != nullptr ? variable : "";
+    return ::isatty(STDOUT_FILENO) != 0 && !terminal.empty() && terminal != "dumb";
 }
 
 bool showsColours()

@@ -74,7 +74,9 @@ TEST(StatusTerminal, TheStatusIsColoured)
     EXPECT_THAT(end.out, HasSubstr("\x1b[33mNot connected"));
     EXPECT_THAT(StatusRun({"Studio A"}, 100, xterm).end().out, HasSubstr("\x1b[32mReady\x1b[0m"));
     EXPECT_THAT(StatusRun({}, 100, colourless).end().out, Not(HasSubstr("\x1b")));
-    EXPECT_THAT(StatusRun({}, 100, {{"TERM", "dumb"}}).end().out, Not(HasSubstr("\x1b")));
+    for (const char* terminal : {"dumb", ""}) {
+        EXPECT_THAT(StatusRun({}, 100, {{"TERM", terminal}}).end().out, Not(HasSubstr("\x1b"))) << terminal;
+    }
 }
 
 TEST(StatusTerminal, AWatchRedrawsInPlaceAndRestoresTheTerminal)
