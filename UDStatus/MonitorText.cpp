@@ -116,7 +116,9 @@ private:
     {
         const QString name = plain(nameOf(report));
         const QString word = QString::fromLatin1(statusWord(report).word).replace('-', ' ');
-        if (report.answer == Answer::none) {
+        if (report.failure == QueryFailure::settingsUnreadable) {
+            find(MonitorState::unknown, name + QStringLiteral(": the setting file cannot be read"));
+        } else if (report.answer == Answer::none) {
             find(MonitorState::unknown, name + QStringLiteral(": ") + word);
         } else if (report.state == PublisherState::error) {
             find(MonitorState::critical,

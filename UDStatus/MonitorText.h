@@ -20,9 +20,10 @@ struct MonitorResult
 };
 
 /// The worst state decides: CRITICAL, then UNKNOWN, then WARNING. A publisher that is not ready is CRITICAL;
-/// one that gave no answer, or not the values of a threshold, is UNKNOWN, as is each of `unreadable`: the
-/// regist ids whose setting files cannot be read. With a threshold, a removed ink cartridge and an input
-/// stacker with too many discs are CRITICAL, and other states without a number UNKNOWN. Never translated.
+/// one whose setting file vanished, or that gave no answer, or not the values of a threshold, is UNKNOWN, as
+/// is each of `unreadable`: the regist ids whose setting files cannot be read. With a threshold, a removed
+/// ink cartridge and an input stacker with too many discs are CRITICAL, and other states without a number
+/// UNKNOWN. Never translated.
 MonitorResult monitorResult(const std::vector<PublisherReport>& reports, const Alerts& ink,
                             const Alerts& discs, const std::vector<QByteArray>& unreadable = {});
 

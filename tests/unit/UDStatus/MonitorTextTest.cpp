@@ -146,6 +146,16 @@ TEST(MonitorText, SettingsThatCannotBeReadAreUnknown)
     EXPECT_EQ(monitorResult({}, {}, {}, {"{B}"}).line, "UNKNOWN - cannot read the settings of {B}");
 }
 
+TEST(MonitorText, SettingsThatVanishBeforeTheQueryAreUnknown)
+{
+    PublisherReport report = silentReport();
+    report.answer = Answer::all;
+    report.failure = QueryFailure::settingsUnreadable;
+    const MonitorResult result = monitorResult({report}, {}, {});
+    EXPECT_EQ(result.state, MonitorState::unknown);
+    EXPECT_EQ(result.line, "UNKNOWN - Library: the setting file cannot be read");
+}
+
 TEST(MonitorText, NamesMayContainPercentSigns)
 {
     PublisherReport report = fullReport();
