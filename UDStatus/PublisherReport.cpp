@@ -228,11 +228,13 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
     }
     setStatus(reply, report);
     report.answer = details ? Answer::status : Answer::all;
+    // The list does not distinguish a device that is off from a service that does not answer. Until the
+    // service answers, the second is reported.
+    const bool local = !report.network;
+    report.serviceUnreachable = local && report.reachable && report.state == PublisherState::notConnected;
     progress();
 
-    const bool local = !report.network;
-    if (local && report.reachable && report.state == PublisherState::notConnected) {
-        // The list does not distinguish a device that is off from a service that does not answer.
+    if (report.serviceUnreachable) {
         report.serviceUnreachable = !publisherMgr.IsPossibleCommunicateService(nullptr);
     }
     if (!details || !report.reachable || report.serviceUnreachable) {

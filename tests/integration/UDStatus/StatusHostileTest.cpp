@@ -108,6 +108,19 @@ TEST(StatusHostile, ASilentServiceIsReported)
               "UNKNOWN - Studio A: no answer\n");
 }
 
+TEST(StatusHostile, AServiceThatFallsSilentIsReported)
+{
+    const StatusRoom room(std::string(twoStudios) +
+                          "[fault]\ncontrol = 22\ndo = close\n[fault]\ncontrol = 13\ndo = stall\n");
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"--timeout", "3"}, {"--timeout", "3", "Studio A"}}) {
+        const StatusEnd end = runStatus(arguments);
+        EXPECT_EQ(end.code, 1);
+        EXPECT_THAT(end.out, HasSubstr("Not connected"));
+        EXPECT_EQ(end.err, "ulmar-disc-status: the control service does not answer\n");
+    }
+}
+
 TEST(StatusHostile, DetailsThatComeTooLateAreMissing)
 {
     const StatusRoom room(std::string(twoStudios) + "[fault]\ncontrol = 9\ndo = stall\n");
