@@ -143,13 +143,18 @@ QString unansweredReason(const PublisherReport& report)
     return QStringLiteral("the server cannot be reached or is in a secure mode");
 }
 
-/// Prints the reason of every failure.
-void complainAboutFailures(const std::vector<QByteArray>& unreadable,
-                           const std::vector<PublisherReport>& reports)
+void complainAboutSettings(const std::vector<QByteArray>& unreadable)
 {
     for (const QByteArray& id : unreadable) {
         complain(QStringLiteral("cannot read the settings of %1").arg(QString::fromUtf8(id)));
     }
+}
+
+/// Prints the reason of every failure.
+void complainAboutFailures(const std::vector<QByteArray>& unreadable,
+                           const std::vector<PublisherReport>& reports)
+{
+    complainAboutSettings(unreadable);
     bool serviceUnreachable = false;
     for (const PublisherReport& report : reports) {
         if (report.serviceUnreachable) {
@@ -202,7 +207,11 @@ int printNames(const Options& options)
     for (const PublisherReport& report : selection.reports) {
         text += safeText(report.name) + QLatin1Char('\n');
     }
-    return print(encoded(text)) ? exitFine : exitFailure;
+    if (!print(encoded(text))) {
+        return exitFailure;
+    }
+    complainAboutSettings(selection.unreadable);
+    return selection.unreadable.empty() ? exitFine : exitFailure;
 }
 
 int printOnce(const Options& options)

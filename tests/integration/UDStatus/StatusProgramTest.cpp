@@ -149,6 +149,16 @@ TEST(StatusProgram, NamesAreListedWithoutQueries)
     EXPECT_TRUE(room->requests().empty());
 }
 
+TEST(StatusProgram, AnUnreadableSettingFileIsReportedWithTheNames)
+{
+    const StatusRoom room(twoStudios);
+    std::filesystem::create_symlink("/tmp/gone", PublisherFile("broken"));
+    const StatusEnd end = runStatus({"--names"});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_EQ(end.out, "Studio A\nStudio B\n");
+    EXPECT_EQ(end.err, "ulmar-disc-status: cannot read the settings of broken\n");
+}
+
 TEST(StatusProgram, NoPublishersAreNoError)
 {
     MakePublisherFolder();
