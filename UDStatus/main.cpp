@@ -201,6 +201,7 @@ int printNames(const Options& options)
     Selection selection(options);
     const std::optional<Failure> failure = selection.read();
     if (failure) {
+        complainAboutSettings(selection.unreadable);
         return fail(*failure);
     }
     QString text;
@@ -219,6 +220,7 @@ int printOnce(const Options& options)
     Selection selection(options);
     const std::optional<Failure> failure = selection.read();
     if (failure) {
+        complainAboutSettings(selection.unreadable);
         return fail(*failure);
     }
     const bool details = options.output != Output::text || !options.names.empty();

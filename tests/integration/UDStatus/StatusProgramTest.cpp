@@ -107,6 +107,19 @@ TEST(StatusProgram, AnUnknownNameIsAMistake)
     EXPECT_EQ(runStatus({std::string(100'000, 'a')}).code, 2);
 }
 
+TEST(StatusProgram, AnUnknownNameMayBeInAnUnreadableSettingFile)
+{
+    const StatusRoom room(twoStudios);
+    std::filesystem::create_symlink("/tmp/gone", PublisherFile("broken"));
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"nothing"}, {"--names", "nothing"}, {"--watch", "--", "nothing"}}) {
+        const StatusEnd end = runStatus(arguments);
+        EXPECT_EQ(end.code, 2);
+        EXPECT_EQ(end.err, "ulmar-disc-status: cannot read the settings of broken\n"
+                           "ulmar-disc-status: no publisher is named \"nothing\"\n");
+    }
+}
+
 TEST(StatusProgram, AnUnknownOptionIsAMistake)
 {
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{"--bogus"},
