@@ -216,6 +216,29 @@ TEST(StatusProgram, AServerThatCannotBeReachedIsNoAnswer)
     EXPECT_EQ(end.err, "ulmar-disc-status: Library: the server cannot be reached or is in a secure mode\n");
 }
 
+TEST(StatusProgram, AQueryThatCannotBeStartedIsReported)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\n[network Studio]\nmodel = RT-300NII\n");
+    const auto run = [](int descriptors, const char* option) {
+        return runProgram("/bin/sh", {"-c", "exec 3>&- 4>&- 5>&-; ulimit -n " + std::to_string(descriptors) +
+                                                "; exec " STATUS_PROGRAM " " + option});
+    };
+    int descriptors = 4; // the standard streams, and one to read with; the libraries may keep some
+    while (descriptors < 20 && run(descriptors, "--names").status != 0) {
+        ++descriptors;
+    }
+    const Ended list = run(descriptors, "--timeout=60"); // a pipe needs two
+    EXPECT_EQ(list.status, 1);
+    for (const std::string name : {"Library", "Studio"}) {
+        EXPECT_THAT(list.output, testing::ContainsRegex(name + " .* No answer "));
+        EXPECT_THAT(list.output, HasSubstr("ulmar-disc-status: " + name +
+                                           ": no process could be started for the query\n"));
+    }
+    const Ended monitor = run(descriptors, "--monitor");
+    EXPECT_EQ(monitor.status, 3);
+    EXPECT_EQ(monitor.output, "UNKNOWN - Library: no answer; Studio: no answer\n");
+}
+
 TEST(StatusProgram, AServerInASecureModeIsReported)
 {
     const StatusRoom room("[network Library]\nmodel = RT-300NII\nserver-mode = 0\n");
