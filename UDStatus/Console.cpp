@@ -8,7 +8,6 @@
 #include <cstring>
 #include <string_view>
 
-#include <langinfo.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -17,12 +16,6 @@ namespace {
 constexpr int usualWidth = 80;
 
 } // namespace
-
-QByteArray encoded(const QString& text)
-{
-    const bool utf8 = std::string_view(::nl_langinfo(CODESET)) == "UTF-8";
-    return utf8 ? text.toUtf8() : text.toLocal8Bit();
-}
 
 bool print(const QByteArray& data)
 {
@@ -44,7 +37,7 @@ bool print(const QByteArray& data)
 
 void complain(const QString& text)
 {
-    const QByteArray line = encoded(QStringLiteral("ulmar-disc-status: ") + safeText(text)) + '\n';
+    const QByteArray line = (QStringLiteral("ulmar-disc-status: ") + safeText(text)).toUtf8() + '\n';
     std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stderr);
     std::fflush(stderr);
 }

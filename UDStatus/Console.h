@@ -1,10 +1,7 @@
-// Writes to standard output and standard error.
+// Writes to standard output and standard error. All output is UTF-8, in every locale.
 #pragma once
 
 #include <QString>
-
-/// Encodes a text in the character set of the locale.
-QByteArray encoded(const QString& text);
 
 /// Writes all of it to standard output. Returns false on failure; the reason is printed on standard error,
 /// unless the reader has closed the pipe.

@@ -79,12 +79,12 @@ bool Watch::draw()
     if (!m_isTerminal) {
         picture = m_isFirst ? "" : "\n";
         m_isFirst = false;
-        picture += encoded(lines.join(QLatin1Char('\n'))) + '\n';
+        picture += lines.join(QLatin1Char('\n')).toUtf8() + '\n';
     } else {
         const int height = std::min(static_cast<int>(lines.size()), terminalHeight() - 1);
         picture = toTheTop;
         for (int i = 0; i < height; ++i) {
-            picture += clearLine + encoded(lines[i]) + "\r\n";
+            picture += clearLine + lines[i].toUtf8() + "\r\n";
         }
         picture += clearRest;
     }

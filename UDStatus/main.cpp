@@ -192,7 +192,7 @@ QByteArray documentOf(const Options& options, const std::vector<PublisherReport>
     case Output::metrics:
         return metricsText(reports);
     default:
-        return encoded(textLines(options, reports).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        return textLines(options, reports).join(QLatin1Char('\n')).toUtf8() + '\n';
     }
 }
 
@@ -208,7 +208,7 @@ int printNames(const Options& options)
     for (const PublisherReport& report : selection.reports) {
         text += safeText(report.name) + QLatin1Char('\n');
     }
-    if (!print(encoded(text))) {
+    if (!print(text.toUtf8())) {
         return exitFailure;
     }
     complainAboutSettings(selection.unreadable);
@@ -314,7 +314,7 @@ int monitor(const Options& options)
         surveyPublishers({true, options.timeout}, selection.reports);
         result = monitorResult(selection.reports, options.ink, options.discs, selection.unreadable);
     }
-    const bool printed = print(encoded(result.line) + '\n');
+    const bool printed = print(result.line.toUtf8() + '\n');
     return static_cast<int>(printed ? result.state : MonitorState::unknown);
 }
 

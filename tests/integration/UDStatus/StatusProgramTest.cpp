@@ -255,6 +255,15 @@ TEST(StatusProgram, ALocaleWithoutUtf8IsNotReported)
     EXPECT_EQ(end.err, "");
 }
 
+TEST(StatusProgram, TheOutputIsUtf8InEveryLocale)
+{
+    const StatusRoom room("[publisher Studio A]\nmodel = RT-30\njob = \xc3\x9c\xe6\x97\xa5\n");
+    for (const char* locale : {"C", "C.UTF-8", "none"}) {
+        EXPECT_THAT(runStatus({"Studio A"}, {{"LC_ALL", locale}}).out, HasSubstr("\n  \xc3\x9c\xe6\x97\xa5 "))
+            << locale;
+    }
+}
+
 TEST(StatusProgram, AClosedPipeEndsItQuietly)
 {
     const StatusRoom room(twoStudios);
