@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <clocale>
 #include <filesystem>
 #include <fstream>
@@ -113,6 +114,27 @@ TEST(StatusTerminal, ALineThatFillsTheTerminalKeepsItsLastCharacter)
         ++cleared;
     }
     EXPECT_GT(cleared, 0U);
+}
+
+TEST(StatusTerminal, APictureTallerThanTheTerminalIsCut)
+{
+    Installation installation;
+    for (int i = 1; i <= 26; ++i) { // the terminal has 24 lines
+        installation.addLocal("P" + std::to_string(i), "Studio " + std::to_string(i), 0x20000009, false);
+    }
+    StatusRun run({"--watch", "0.1"}, 100, colourless);
+    for (int picture = 0; picture < 28; ++picture) { // the last ones show all results
+        ASSERT_TRUE(run.waitFor("\x1b[J"));
+    }
+    run.signal(SIGINT);
+    const std::string out = run.end().out;
+    std::ptrdiff_t tallest = 0;
+    size_t start = out.find("\x1b[H");
+    for (size_t end = 0; (end = out.find("\x1b[J", start)) != std::string::npos; start = end + 1) {
+        const std::string picture = out.substr(start, end - start);
+        tallest = std::max(tallest, std::count(picture.begin(), picture.end(), '\n'));
+    }
+    EXPECT_EQ(tallest, 23); // the cursor is on the last line
 }
 
 TEST(StatusTerminal, OtherSignalsRestoreTheTerminalToo)
