@@ -13,7 +13,9 @@
 
 namespace {
 
+// Of a terminal that does not know its size.
 constexpr int usualWidth = 80;
+constexpr int usualHeight = 24;
 
 } // namespace
 
@@ -49,6 +51,12 @@ int terminalWidth()
         return 0;
     }
     return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usualWidth;
+}
+
+int terminalHeight()
+{
+    winsize size{};
+    return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 ? size.ws_row : usualHeight;
 }
 
 bool takesSequences()

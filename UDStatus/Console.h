@@ -13,6 +13,9 @@ void complain(const QString& text);
 /// The width of the terminal on standard output in cells; 0 if standard output is no terminal.
 int terminalWidth();
 
+/// The height of the terminal on standard output in lines.
+int terminalHeight();
+
 /// Whether standard output is a terminal that takes control sequences.
 bool takesSequences();
 

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include <poll.h> // house-rule: sockets: waits for signals
-#include <sys/ioctl.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -29,12 +28,6 @@ sigset_t handledSignals()
         ::sigaddset(&set, number);
     }
     return set;
-}
-
-int terminalHeight()
-{
-    winsize size{};
-    return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 0 ? size.ws_row : 24;
 }
 
 } // namespace
