@@ -3,6 +3,7 @@
 #include "SafeText.h"
 #include "SystemCalls.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -19,22 +20,27 @@ constexpr int usualHeight = 24;
 
 } // namespace
 
-bool print(const QByteArray& data)
+bool writeAll(int descriptor, const QByteArray& data)
 {
     for (int done = 0; done < data.size();) {
         const ssize_t count = Uninterrupted([&] {
-            return ::write(STDOUT_FILENO, data.constData() + done, static_cast<size_t>(data.size() - done));
+            return ::write(descriptor, data.constData() + done, static_cast<size_t>(data.size() - done));
         });
         if (count < 0) {
-            if (errno != EPIPE) {
-                complain(
-                    QStringLiteral("cannot write: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
-            }
             return false;
         }
         done += static_cast<int>(count);
     }
     return true;
+}
+
+bool print(const QByteArray& data)
+{
+    const bool written = writeAll(STDOUT_FILENO, data);
+    if (!written && errno != EPIPE) {
+        complain(QStringLiteral("cannot write: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
+    }
+    return written;
 }
 
 void complain(const QString& text)

@@ -1,7 +1,10 @@
-// Writes to standard output and standard error. All output is UTF-8, in every locale.
+// Standard output, standard error and the terminal. All output is UTF-8, in every locale.
 #pragma once
 
 #include <QString>
+
+/// Writes all of it. Returns false, with errno, on failure.
+bool writeAll(int descriptor, const QByteArray& data);
 
 /// Writes all of it to standard output. Returns false on failure; the reason is printed on standard error,
 /// unless the reader has closed the pipe.

@@ -1,5 +1,6 @@
 #include "Survey.h"
 
+#include "Console.h"
 #include "ReportStream.h"
 #include "SystemCalls.h"
 
@@ -28,21 +29,6 @@ struct Query
     Clock::time_point deadline;
     QByteArray received;
 };
-
-bool writeAll(int descriptor, const QByteArray& data)
-{
-    int done = 0;
-    while (done < data.size()) {
-        const ssize_t count = Uninterrupted([&] {
-            return ::write(descriptor, data.constData() + done, static_cast<size_t>(data.size() - done));
-        });
-        if (count <= 0) {
-            return false;
-        }
-        done += static_cast<int>(count);
-    }
-    return true;
-}
 
 /// The work of a query's process. Nothing that it prints reaches the user, except the reports of a sanitizer.
 [[noreturn]] void runQuery(int pipe, pid_t parent, bool details, PublisherReport report)
