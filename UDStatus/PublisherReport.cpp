@@ -41,7 +41,8 @@ std::optional<quint32> setting(UINT value)
     return value == PUBMGR_PUBLISHMODE_ERROR ? std::nullopt : std::optional<quint32>(value);
 }
 
-void askMode(CPublisherMgr& mgr, const char* id, const PUBLISHERINFO& info, PublisherReport& report)
+void askModeAndStackers(CPublisherMgr& mgr, const char* id, const PUBLISHERINFO& info,
+                        PublisherReport& report)
 {
     // As in the property dialog, the record counts. It holds the values of the server, or those stored here.
     report.publishMode = setting(info.uiPublishMode);
@@ -92,7 +93,7 @@ void askJobs(CPublisherMgr& mgr, const char* id, PublisherReport& report)
     }
 }
 
-void askParts(CPublisherMgr& mgr, const char* id, PublisherReport& report)
+void askLoaderAndPrinter(CPublisherMgr& mgr, const char* id, PublisherReport& report)
 {
     ULONG status = 0;
     if (mgr.GetServiceAldStatus(id, &status, nullptr)) {
@@ -243,12 +244,12 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
         return;
     }
     // The last three stop the process on some invalid replies, so everything before them is reported first.
-    askMode(publisherMgr, id.c_str(), reply.info, report);
+    askModeAndStackers(publisherMgr, id.c_str(), reply.info, report);
     askSupplies(publisherMgr, id.c_str(), report);
     askJobs(publisherMgr, id.c_str(), report);
     askVersions(publisherMgr, id.c_str(), report);
     progress();
-    askParts(publisherMgr, id.c_str(), report);
+    askLoaderAndPrinter(publisherMgr, id.c_str(), report);
     progress();
     askDrives(publisherMgr, id.c_str(), report);
     progress();
