@@ -17,8 +17,8 @@ constexpr size_t mostQueries = 64;
 struct SurveyOptions
 {
     bool details = false;
-    std::chrono::milliseconds timeout{10000}; ///< for each publisher, from the start of its query
-    int interruption = -1;                    ///< a descriptor; `interrupted` is called once it is readable
+    std::chrono::milliseconds timeout{}; ///< for each publisher, from the start of its query
+    int interruption = -1;               ///< a descriptor; `interrupted` is called once it is readable
 
     /// Handles the interruption. Returns false to end the survey. The time it takes, for example while the
     /// program is suspended, does not count for the time limits.
