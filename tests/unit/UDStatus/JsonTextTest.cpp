@@ -1,5 +1,6 @@
 #include "JsonText.h"
 
+#include "RowTexts.h"
 #include "SampleReports.h"
 
 #include <gtest/gtest.h>
@@ -84,6 +85,13 @@ TEST(JsonText, UnknownValuesAreNull)
     for (const QString& key : object.keys()) {
         EXPECT_EQ(object[key].isNull(), !known.contains(key)) << key.toStdString();
     }
+}
+
+TEST(JsonText, AnUnknownModelIsNull)
+{
+    PublisherReport report = fullReport();
+    report.model = modelText(PUBMGR_PUBLISHERTYPE_BASIC, 0);
+    EXPECT_EQ(publisher(report)["model"], QJsonValue(QJsonValue::Null));
 }
 
 TEST(JsonText, HostileTextsStayInsideTheirStrings)
