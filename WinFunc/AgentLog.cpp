@@ -15,8 +15,9 @@ int g_logLebel = 4;
 
 namespace {
 
-/// The longest wait for space in the agent's queue, which holds about ten lines.
-constexpr timeval AGENT_PATIENCE{0, 200000};
+/// The longest wait for space in the agent's queue, which holds about ten lines. The user-interface thread
+/// logs too, and should answer within 100 ms.
+constexpr timeval AGENT_PATIENCE{0, 80000};
 /// The pause after such a timeout, in which no call waits, so that a hung agent does not slow the program
 /// down.
 constexpr std::chrono::seconds AGENT_PAUSE{5};
