@@ -435,7 +435,10 @@ FALLIBLE(int, -1, mkdir, (const char* path, mode_t mode), (path, mode))
 FALLIBLE(int, -1, rmdir, (const char* path), (path))
 FALLIBLE(int, -1, unlink, (const char* path), (path))
 FALLIBLE(int, -1, symlink, (const char* target, const char* path), (target, path))
+FALLIBLE(int, -1, fchmodat, (int folder, const char* path, mode_t mode, int flags),
+         (folder, path, mode, flags))
 FALLIBLE(DIR*, nullptr, opendir, (const char* path), (path))
+FALLIBLE(dirent*, nullptr, readdir, (DIR * folder), (folder))
 FALLIBLE(char*, nullptr, realpath, (const char* path, char* resolved), (path, resolved))
 FALLIBLE(ssize_t, -1, readlink, (const char* path, char* text, size_t size), (path, text, size))
 FALLIBLE(int, -1, socket, (int domain, int type, int protocol), (domain, type, protocol))
@@ -480,6 +483,13 @@ WRAPPER(int, open, (const char* path, int flags, ...))
     return isHit("open", __builtin_return_address(0)) ? -1 : original(path, flags, mode);
 }
 
+/// `open` without a mode, with flags that the compiler does not know.
+WRAPPER(int, __open_2, (const char* path, int flags))
+{
+    static auto* const original = next<int(const char*, int)>("__open_2");
+    return isHit("open", __builtin_return_address(0)) ? -1 : original(path, flags);
+}
+
 WRAPPER(int, fcntl, (int fd, int command, ...))
 {
     static auto* const original = next<int(int, int, ...)>("fcntl");
@@ -502,13 +512,13 @@ WRAPPER(int, close, (int fd))
     return original(fd);
 }
 
-/// The file is closed in any case, but the caller learns that its data were lost.
+/// The file is closed in any case, but its data are lost, and the call fails.
 WRAPPER(int, fclose, (FILE * file))
 {
     static auto* const original = next<int(FILE*)>("fclose");
     const bool hit = isHit("fclose", __builtin_return_address(0));
     if (hit && plan.how == How::error) {
-        // Without its data, as on a full disk: the descriptor is replaced by one that takes nothing.
+        // Without its data, as on a full disk: the descriptor is replaced by one of /dev/full.
         const long full = syscall(SYS_openat, AT_FDCWD, "/dev/full", O_WRONLY | O_CLOEXEC);
         syscall(SYS_dup3, full, fileno(file), O_CLOEXEC);
         syscall(SYS_close, full);
