@@ -16,7 +16,7 @@ namespace {
 
 constexpr int logLevel = 3; // as in the program
 
-/// Calls a function of the shim. Without the shim does nothing.
+/// Calls a function of the shim, if it is preloaded.
 void tellShim(const char* function)
 {
     if (void* const found = dlsym(RTLD_DEFAULT, function)) {

@@ -75,9 +75,15 @@ void showList(QString& result)
     waitForTasks(taskPatience);
 }
 
+/// A file of the report.
+std::ofstream reported(const char* name)
+{
+    return std::ofstream(std::filesystem::path(std::getenv("FAULT_FOLDER")) / name);
+}
+
 void writeGap()
 {
-    std::ofstream(std::filesystem::path(std::getenv("FAULT_FOLDER")) / "gap") << longestGap;
+    reported("gap") << longestGap;
 }
 
 } // namespace
@@ -88,6 +94,7 @@ int main(int argc, char** argv)
     SetTextLocale();
     const int result = runScenario(argc, argv, {{"window", {}, showList, writeGap}});
     if (!waitForTasks(taskPatience)) {
+        reported("unfinished");
         std::_Exit(result); // as the program: Qt would wait forever for a task whose thread was not started
     }
     return result;

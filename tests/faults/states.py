@@ -12,6 +12,15 @@ REGISTRY = "conf/registry.txt"
 LOCAL_FILE = "conf/RegPublisher/L.ini"
 MODE_KEYS = ["PublishMode", "Stacker3", "Stacker4"]  # in the order in which they are written
 
+# Saves whose killed writer may leave a text from which the next start cannot make the complete one: the file, the form
+# that the text has then, and what it contains. The other killed saves are completed.
+TORN = {
+    "registry-write": (REGISTRY, r'(\[[^]\n]+\]\n("[^"\n]*"=("[^"\n]*"|dword:[0-9a-f]{8})\n)*\n)*',
+                       '"Probe"=dword:00000007\n'),
+    "settings-write": (LOCAL_FILE, r"\[Common\]\n(\w+=.*\n)*",
+                       "PublisherName=A new name that is longer than the old one\n"),
+}
+
 Entry = tuple
 State = dict[str, Entry]
 
@@ -147,15 +156,15 @@ def unexpected_after_kill(scenario: str, start: State, end: State, killed: State
     """The same after the next start. What a killed writer has cut off the registry, or mixed up in a setting file,
     stays lost: the file then only has to be readable and to contain what the scenario saves."""
     wrong = unexpected(scenario, start, end, final)
-    for key, shape, saved in [
-            (REGISTRY, r'(\[[^]\n]+\]\n("[^"\n]*"=("[^"\n]*"|dword:[0-9a-f]{8})\n)*\n)*', '"Probe"=dword:00000007\n'),
-            (LOCAL_FILE, r"\[Common\]\n(\w+=.*\n)*", "PublisherName=A new name that is longer than the old one\n")]:
-        if killed.get(key) in (start.get(key), end.get(key)):
-            continue
-        wrong = [fault for fault in wrong if not fault.startswith(key)]
-        text = text_of(final.get(key)) or ""
-        if scenario in ("registry-write", "settings-write") and (not re.fullmatch(shape, text) or saved not in text):
-            wrong.append(f"{key} is {text!r}")
+    if scenario not in TORN:
+        return wrong
+    key, shape, saved = TORN[scenario]
+    if killed.get(key) in (start.get(key), end.get(key)):
+        return wrong
+    wrong = [fault for fault in wrong if not fault.startswith(key)]
+    text = text_of(final.get(key)) or ""
+    if not re.fullmatch(shape, text) or saved not in text:
+        wrong.append(f"{key} is {text!r}")
     return wrong
 
 
