@@ -1,6 +1,7 @@
 // Closes the window again and again while queries run. Prints the seed, and each window before it is opened;
 // the same seed repeats the numbers of requests after which the window is closed, and the publishers that
 // come and go.
+#include "HangLimit.h"
 #include "ManyPublishers.h"
 #include "MyRunnable.h"
 #include "NW_Com_Lib.h"
@@ -16,14 +17,13 @@
 #include <ctime>
 #include <memory>
 #include <random>
-#include <unistd.h>
 
 namespace {
 
 constexpr int patience = 60000;        // milliseconds: bounds a hang, not a speed
-constexpr unsigned hangTime = 300;     // seconds until a close that hangs ends the program
 constexpr int requestTime = 5000;      // milliseconds: the longest wait for requests
 constexpr unsigned mostRequests = 800; // of the first poll, before the window is closed
+constexpr int mostWindows = 3;         // for each that is closed during queries
 
 /// Opens a window and closes it after some requests. Returns whether queries ran at that time.
 bool openAndClose(const ManyPublishers& publishers, std::mt19937_64& random)
@@ -44,7 +44,8 @@ bool openAndClose(const ManyPublishers& publishers, std::mt19937_64& random)
     return polling;
 }
 
-void closeInPolls(uint64_t seed, int count)
+/// Returns whether so many windows were closed during queries.
+bool closeInPolls(uint64_t seed, int count)
 {
     std::mt19937_64 random(seed);
     ManyPublishers publishers;
@@ -52,8 +53,8 @@ void closeInPolls(uint64_t seed, int count)
     time.start();
     int closed = 0;
     int windows = 0;
-    while (closed < count) {
-        alarm(hangTime);
+    while (closed < count && windows < mostWindows * count) {
+        limitHang();
         // The times tell a window that hangs from a program that gets no processor.
         std::printf("close: window %d after %.1f s, %.1f s of processor time\n", ++windows,
                     static_cast<double>(time.elapsed()) / 1000,
@@ -71,7 +72,8 @@ void closeInPolls(uint64_t seed, int count)
     std::printf("close: %d of %d windows of seed %llu closed during queries in %.1f s\n", closed, windows,
                 static_cast<unsigned long long>(seed), static_cast<double>(time.elapsed()) / 1000);
     std::fflush(stdout);
-    alarm(hangTime); // for the end of the program
+    limitHang(); // for the end of the program
+    return count > 0 && closed == count;
 }
 
 } // namespace
@@ -89,6 +91,6 @@ int main(int argc, char** argv)
     options.process(app);
     const quint64 seed = options.value("seed").toULongLong();
     std::printf("close: seed %llu\n", static_cast<unsigned long long>(seed));
-    closeInPolls(seed, options.value("count").toInt());
-    return waitForTasks(patience) ? 0 : 1;
+    const bool good = closeInPolls(seed, options.value("count").toInt());
+    return waitForTasks(patience) && good ? 0 : 1;
 }

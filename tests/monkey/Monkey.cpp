@@ -3,6 +3,7 @@
 #include <QTest> // before the macro snprintf of Win_def.h, because the header of Qt 6.8 calls std::snprintf
 
 #include "Hands.h"
+#include "HangLimit.h"
 #include "ManyPublishers.h"
 #include "MyRunnable.h"
 #include "NW_Com_Lib.h"
@@ -18,13 +19,11 @@
 #include <cstdio>
 #include <memory>
 #include <set>
-#include <unistd.h>
 
 namespace {
 
 constexpr int pollInterval = 100;       // milliseconds instead of the window's five seconds
 constexpr int patience = 60000;         // milliseconds: bounds a hang, not a speed
-constexpr unsigned hangTime = 300;      // seconds until an action that hangs ends the program
 constexpr int requestTime = 1000;       // milliseconds: the longest wait for requests
 constexpr unsigned longestAdvance = 60; // simulated seconds
 
@@ -285,7 +284,7 @@ bool play(uint64_t seed, int actions, int seconds)
         const Action action = plan.next();
         std::printf("monkey: %d %s\n", done, textOf(action).c_str());
         std::fflush(stdout);
-        alarm(hangTime);
+        limitHang();
         monkey.perform(action);
         const QString fault = monkey.fault();
         if (!fault.isEmpty()) {
