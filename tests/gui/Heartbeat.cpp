@@ -3,7 +3,7 @@
 //
 // A gap may belong to the test, which calls functions that block, as well as to the window. With the
 // environment variable ULMAR_GAPS, a second thread interrupts the user-interface thread every 20 ms during a
-// gap, and the program prints the call stacks that it found. tests/gui/gaps tells from them whose gap it was.
+// gap, and the program prints the call stacks that it found, by which tests/gui/gaps attributes the gap.
 #include <QCoreApplication>
 #include <QTest>
 #include <QTimer>
