@@ -1,4 +1,4 @@
-"""Rewrites a source so that each mutable expression asks Mutants.h whether its mutant is selected."""
+"""Rewrites a source so that Mutants.h can select one of its mutants while the program runs."""
 import itertools
 import re
 from dataclasses import dataclass
