@@ -266,7 +266,7 @@ ReportWord withDialogText(const ReportWord& word, const QString& text)
 ReportWord statusWord(const PublisherReport& report)
 {
     if (report.answer == Answer::none) {
-        return {"no-answer", QCoreApplication::translate(context, "No answer")};
+        return {"no-answer", translated(QT_TRANSLATE_NOOP("StatusProgram", "No answer"))};
     }
     return {stateRow(report.state).word, statusText(report.state)};
 }

@@ -530,6 +530,10 @@ Möchten Sie fortfahren?</translation>
         <source>fan error</source>
         <translation>Lüfterfehler</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -530,6 +530,10 @@ ARVEN Ulmar Disc Setup no envía ninguna información.
         <source>fan error</source>
         <translation>error del ventilador</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

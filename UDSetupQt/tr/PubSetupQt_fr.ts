@@ -530,6 +530,10 @@ Voulez-vous continuer&#x202f;?</translation>
         <source>fan error</source>
         <translation>erreur de ventilateur</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Aucune réponse</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -530,6 +530,10 @@ Continuare?</translation>
         <source>fan error</source>
         <translation>errore della ventola</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Nessuna risposta</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

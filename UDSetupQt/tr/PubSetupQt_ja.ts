@@ -530,6 +530,10 @@ ARVEN Ulmar Disc Setup が情報を送信することはありません。
         <source>fan error</source>
         <translation>ファンエラー</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

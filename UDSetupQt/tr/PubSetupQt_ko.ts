@@ -530,6 +530,10 @@ ARVEN Ulmar Disc Setup은 정보를 전송하지 않습니다.
         <source>fan error</source>
         <translation>팬 오류</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>응답 없음</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

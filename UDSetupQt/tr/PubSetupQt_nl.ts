@@ -530,6 +530,10 @@ Wilt u doorgaan?</translation>
         <source>fan error</source>
         <translation>ventilatorfout</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Geen antwoord</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

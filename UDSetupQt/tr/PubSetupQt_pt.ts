@@ -530,6 +530,10 @@ Deseja continuar?</translation>
         <source>fan error</source>
         <translation>erro do ventilador</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sem resposta</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

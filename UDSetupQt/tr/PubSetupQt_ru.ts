@@ -530,6 +530,10 @@ Would you like to continue?</source>
         <source>fan error</source>
         <translation>ошибка вентилятора</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>Нет ответа</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

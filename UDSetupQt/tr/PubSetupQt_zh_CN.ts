@@ -530,6 +530,10 @@ ARVEN Ulmar Disc Setup 不会发送任何信息。
         <source>fan error</source>
         <translation>风扇错误</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

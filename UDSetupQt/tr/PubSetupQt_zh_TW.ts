@@ -530,6 +530,10 @@ ARVEN Ulmar Disc Setup 不會傳送任何資訊。
         <source>fan error</source>
         <translation>風扇錯誤</translation>
     </message>
+    <message>
+        <source>No answer</source>
+        <translation>無回應</translation>
+    </message>
 </context>
 <context>
     <name>aboutDialog</name>

@@ -58,6 +58,16 @@ TEST(StatusHostile, ASilentServerDelaysNoOther)
     EXPECT_LT(end.time, seconds(30));
 }
 
+TEST(StatusHostile, NoAnswerIsTranslated)
+{
+    const Installation installation;
+    const SilentServer silent("X", "127.0.0.31");
+    std::filesystem::create_directories(TRANSLATION_DIR);
+    std::filesystem::copy_file(GERMAN_CATALOGUE, std::string(TRANSLATION_DIR) + "PubSetupQt_de_DE.qm");
+    const StatusEnd end = runStatus({"--timeout", "0.1"}, {{"LC_ALL", "de_DE.UTF-8"}, {"LANGUAGE", "de"}});
+    EXPECT_THAT(end.out, HasSubstr("  Keine Antwort  "));
+}
+
 TEST(StatusHostile, ManySilentServersAreAskedInTurns)
 {
     Installation installation;
