@@ -20,12 +20,16 @@ constexpr char toTheTop[] = "\x1b[H";
 constexpr char clearLine[] = "\x1b[K"; // before its text, whose last cell it would clear otherwise
 constexpr char clearRest[] = "\x1b[J";
 
+/// Without those that the caller ignores, as `nohup` does: a blocked signal is queued even if it is ignored.
 sigset_t handledSignals()
 {
     sigset_t set;
     ::sigemptyset(&set);
     for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGWINCH}) {
-        ::sigaddset(&set, number);
+        struct sigaction action = {};
+        if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler != SIG_IGN) {
+            ::sigaddset(&set, number);
+        }
     }
     return set;
 }

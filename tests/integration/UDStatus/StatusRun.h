@@ -120,6 +120,15 @@ private:
         posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_adddup2(&actions, out, STDOUT_FILENO);
         posix_spawn_file_actions_adddup2(&actions, err, STDERR_FILENO);
+        posix_spawnattr_t attributes;
+        posix_spawnattr_init(&attributes);
+        sigset_t taken; // may be ignored here, in the background of a script for example
+        ::sigemptyset(&taken);
+        for (const int number : {SIGINT, SIGQUIT, SIGHUP}) {
+            ::sigaddset(&taken, number);
+        }
+        posix_spawnattr_setsigdefault(&attributes, &taken);
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
         arguments.insert(arguments.begin(), STATUS_PROGRAM);
         std::vector<std::string> settings;
         for (const auto& [name, value] : variables) {
@@ -132,8 +141,9 @@ private:
         }
         std::vector<char*> argv = pointers(arguments);
         std::vector<char*> environment = pointers(settings);
-        EXPECT_EQ(::posix_spawn(&m_pid, STATUS_PROGRAM, &actions, nullptr, argv.data(), environment.data()),
-                  0);
+        EXPECT_EQ(
+            ::posix_spawn(&m_pid, STATUS_PROGRAM, &actions, &attributes, argv.data(), environment.data()), 0);
+        posix_spawnattr_destroy(&attributes);
         posix_spawn_file_actions_destroy(&actions);
     }
 

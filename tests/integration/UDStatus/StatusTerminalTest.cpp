@@ -150,6 +150,17 @@ TEST(StatusTerminal, OtherSignalsRestoreTheTerminalToo)
     }
 }
 
+/// `nohup` starts programs with an ignored SIGHUP.
+TEST(StatusTerminal, AnIgnoredSignalDoesNotEndAWatch)
+{
+    const StatusRoom room(twoStudios);
+    ProgramProcess process("/bin/sh", {"-c", "trap '' HUP; exec " STATUS_PROGRAM " --watch 0.1"});
+    process.readUntil("Studio B");
+    process.signal(SIGHUP);
+    process.signal(SIGTERM);
+    EXPECT_EQ(process.wait(), 128 + SIGTERM);
+}
+
 TEST(StatusTerminal, AWatchEndsWhileAPublisherHangs)
 {
     Installation installation;
