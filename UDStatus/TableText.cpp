@@ -5,6 +5,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <clocale>
 #include <cwchar>
 #include <numeric>
 #include <string_view>
@@ -12,6 +13,26 @@
 #include <langinfo.h>
 
 namespace {
+
+/// While an object exists, its thread uses the widths of UTF-8, in which all output is.
+class Utf8Widths
+{
+public:
+    Utf8Widths()
+    {
+        static const locale_t utf8 = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+        m_previous = ::uselocale(utf8); // without it, the widths of the current locale are used
+    }
+    ~Utf8Widths()
+    {
+        ::uselocale(m_previous);
+    }
+    Utf8Widths(const Utf8Widths&) = delete;
+    Utf8Widths& operator=(const Utf8Widths&) = delete;
+
+private:
+    locale_t m_previous;
+};
 
 int cellsOf(uint character)
 {
@@ -54,6 +75,7 @@ QString padded(const QString& text, int width, bool number)
 
 int cellsOf(const QString& text)
 {
+    const Utf8Widths widths;
     const QVector<uint> characters = text.toUcs4();
     return std::accumulate(characters.begin(), characters.end(), 0,
                            [](int sum, uint character) { return sum + cellsOf(character); });
