@@ -38,9 +38,15 @@ bool print(const QByteArray& data)
 {
     const bool written = writeAll(STDOUT_FILENO, data);
     if (!written && errno != EPIPE) {
-        complain(QStringLiteral("cannot write: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
+        complain(QStringLiteral("cannot write: %1").arg(errorText(errno)));
     }
     return written;
+}
+
+QString errorText(int error)
+{
+    const char* text = ::strerrordesc_np(error);
+    return text != nullptr ? QString::fromLatin1(text) : QStringLiteral("error %1").arg(error);
 }
 
 void complain(const QString& text)

@@ -10,6 +10,9 @@ bool writeAll(int descriptor, const QByteArray& data);
 /// unless the reader has closed the pipe.
 bool print(const QByteArray& data);
 
+/// The text of an errno; English in every locale, as everything on standard error.
+QString errorText(int error);
+
 /// Prints a line on standard error, after the name of the program. Escapes unsafe characters.
 void complain(const QString& text);
 

@@ -23,7 +23,6 @@
 #include <cerrno>
 #include <clocale>
 #include <csignal>
-#include <cstring>
 #include <map>
 #include <optional>
 #include <set>
@@ -60,8 +59,7 @@ public:
         DIR* folder = ::opendir(PUBLISHER_SETTING_DIR);
         if (folder == nullptr) {
             return Failure{exitFailure, QStringLiteral("cannot read the folder %1: %2")
-                                            .arg(QLatin1String(PUBLISHER_SETTING_DIR),
-                                                 QString::fromLocal8Bit(std::strerror(errno)))};
+                                            .arg(QLatin1String(PUBLISHER_SETTING_DIR), errorText(errno))};
         }
         ::closedir(folder);
         unreadable.clear();

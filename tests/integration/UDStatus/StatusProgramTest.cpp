@@ -187,9 +187,12 @@ TEST(StatusProgram, AMissingSettingFolderIsReported)
 {
     const StatusEnd end = runStatus({});
     EXPECT_EQ(end.code, 1);
-    EXPECT_EQ(end.err, "ulmar-disc-status: cannot read the folder " + std::string(PUBLISHER_SETTING_DIR) +
-                           ": No such file or directory\n");
-    EXPECT_EQ(runStatus({"--monitor"}).code, 3);
+    const std::string reason =
+        "cannot read the folder " + std::string(PUBLISHER_SETTING_DIR) + ": No such file or directory\n";
+    EXPECT_EQ(end.err, "ulmar-disc-status: " + reason);
+    const StatusEnd monitor = runStatus({"--monitor"}, {{"LC_ALL", "en_US.utf8"}, {"LANGUAGE", "de"}});
+    EXPECT_EQ(monitor.code, 3);
+    EXPECT_EQ(monitor.out, "UNKNOWN - " + reason); // English, although the messages of the system are German
 }
 
 TEST(StatusProgram, WithoutAServiceLocalPublishersAreNotConnected)
