@@ -1,8 +1,10 @@
 #include "PublisherReport.h"
 
+#include "InstallPaths.h"
 #include "NaturalOrder.h"
 #include "PropertyRows.h"
 #include "ReadPass.h"
+#include "SettingFile.h"
 #include "StackerRules.h"
 #include "UsedStackers.h"
 #include "WearFigures.h"
@@ -154,6 +156,12 @@ void askVersions(CPublisherMgr& mgr, const char* id, PublisherReport& report)
     }
 }
 
+/// The manager reads a file that cannot be opened as that of a local publisher named "NotSet".
+bool canBeRead(const CString& id)
+{
+    return ReadPass::Profile(SettingFile(PUBLISHER_SETTING_DIR, id.c_str()).Path()) != nullptr;
+}
+
 void setStatus(const StatusReply& reply, PublisherReport& report)
 {
     report.model = reply.row.strDevType;
@@ -197,7 +205,7 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
     for (const CString& id : ids) {
         const bool network = publisherMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
         PUBLISHERINFO info;
-        if (!publisherMgr.GetPublisherInfo(id.c_str(), &info, network)) {
+        if (!canBeRead(id) || !publisherMgr.GetPublisherInfo(id.c_str(), &info, network)) {
             unreadable.push_back(QByteArray::fromStdString(id));
             continue;
         }
@@ -221,7 +229,7 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
 {
     const CString id(report.id.toStdString());
     StatusReply reply;
-    if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
+    if (!canBeRead(id) || !queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
         report.answer = Answer::all; // as in the list, which keeps the row as it was
         report.failure = QueryFailure::settingsUnreadable;
         progress();

@@ -46,6 +46,21 @@ TEST(StatusUser, AnUnreadableSettingFolderIsReported)
     ::chmod(PUBLISHER_SETTING_DIR, 0755);
 }
 
+TEST(StatusUser, ASettingFileWithoutPermissionIsReported)
+{
+    addServer("A", "Library");
+    ASSERT_EQ(::chmod(PublisherFile("A").c_str(), 0), 0);
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{}, {"--names"}, {"--json"}}) {
+        const StatusEnd end = runStatus(arguments);
+        EXPECT_EQ(end.code, 1);
+        EXPECT_THAT(end.out, Not(HasSubstr("NotSet")));
+        EXPECT_EQ(end.err, "ulmar-disc-status: cannot read the settings of A\n");
+    }
+    const StatusEnd monitor = runStatus({"--monitor"});
+    EXPECT_EQ(monitor.code, 3);
+    EXPECT_EQ(monitor.out, "UNKNOWN - cannot read the settings of A\n");
+}
+
 TEST(StatusUser, AMonitorReportsAnUnreadableSettingFile)
 {
     MakePublisherFolder();
