@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 
 namespace {
 
@@ -202,7 +203,11 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
     publisherMgr.EnumRegistedPublisher(&ids);
     const ReadPass pass;
     std::vector<PublisherReport> reports;
+    std::set<std::string> known; // a copy such as "A.ini~" has the id of its original
     for (const CString& id : ids) {
+        if (!known.insert(id).second) {
+            continue;
+        }
         const bool network = publisherMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
         PUBLISHERINFO info;
         if (!canBeRead(id) || !publisherMgr.GetPublisherInfo(id.c_str(), &info, network)) {

@@ -172,6 +172,20 @@ TEST(StatusProgram, AnUnreadableSettingFileIsReportedWithTheNames)
     EXPECT_EQ(end.err, "ulmar-disc-status: cannot read the settings of broken\n");
 }
 
+TEST(StatusProgram, ACopyOfASettingFileIsNoPublisher)
+{
+    const StatusRoom room(twoStudios);
+    const std::string list = runStatus({}).out;
+    const std::string metrics = runStatus({"--metrics"}).out;
+    for (const std::filesystem::directory_entry& file :
+         std::filesystem::directory_iterator(PUBLISHER_SETTING_DIR)) {
+        std::filesystem::copy_file(file.path(), file.path().string() + "~");
+        break;
+    }
+    EXPECT_EQ(runStatus({}).out, list);
+    EXPECT_EQ(runStatus({"--metrics"}).out, metrics);
+}
+
 TEST(StatusProgram, NoPublishersAreNoError)
 {
     MakePublisherFolder();
