@@ -223,7 +223,8 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
         report.host = QString::fromStdString(info.strHostName);
         reports.push_back(std::move(report));
     }
-    std::sort(reports.begin(), reports.end(), [](const PublisherReport& a, const PublisherReport& b) {
+    // std::sort may leave its range, because natural order is not strict for digits of other scripts.
+    std::stable_sort(reports.begin(), reports.end(), [](const PublisherReport& a, const PublisherReport& b) {
         return naturalLess(a.name, b.name) || (!naturalLess(b.name, a.name) && a.id < b.id);
     });
     return reports;
