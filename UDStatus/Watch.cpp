@@ -55,14 +55,14 @@ Watch::~Watch()
 void Watch::enter()
 {
     if (m_isTerminal) {
-        print(enterScreen);
+        ::print(enterScreen);
     }
 }
 
 void Watch::leave()
 {
-    if (m_isTerminal) {
-        print(leaveScreen);
+    if (m_isTerminal && !m_isBlocked) {
+        ::print(leaveScreen);
     }
 }
 
@@ -85,8 +85,27 @@ bool Watch::draw()
         }
         picture += clearRest;
     }
-    m_failed = !print(picture);
-    return !m_failed;
+    return print(picture);
+}
+
+/// Writes pieces that a writable pipe takes at once, so that a signal ends the watch while nobody reads.
+bool Watch::print(const QByteArray& picture)
+{
+    constexpr int piece = 512; // POSIX: at most what a pipe takes as a whole
+    for (int done = 0; done < picture.size(); done += piece) {
+        pollfd entries[] = {{STDOUT_FILENO, POLLOUT, 0}, {m_signals, POLLIN, 0}};
+        while (entries[0].revents == 0) {
+            Uninterrupted([&] { return ::poll(entries, 2, -1); });
+            if (entries[0].revents == 0 && !handleWhileBlocked(nextSignal())) {
+                return false;
+            }
+        }
+        if (!::print(picture.mid(done, piece))) {
+            m_failed = true;
+            return false;
+        }
+    }
+    return true;
 }
 
 bool Watch::redraw()
@@ -110,11 +129,34 @@ bool Watch::handle(int number)
     }
 }
 
-bool Watch::handleSignals()
+/// The picture is neither redrawn nor is the screen restored, because both would wait for a reader.
+bool Watch::handleWhileBlocked(int number)
+{
+    switch (number) {
+    case 0:
+    case SIGWINCH: // the next picture has the new size
+        return true;
+    case SIGTSTP:
+        ::raise(SIGSTOP);
+        return true;
+    default:
+        m_ended = number;
+        m_isBlocked = true;
+        return false;
+    }
+}
+
+int Watch::nextSignal() const
 {
     signalfd_siginfo signal{};
-    while (::read(m_signals, &signal, sizeof signal) == static_cast<ssize_t>(sizeof signal)) {
-        if (!handle(static_cast<int>(signal.ssi_signo))) {
+    const ssize_t size = ::read(m_signals, &signal, sizeof signal);
+    return size == static_cast<ssize_t>(sizeof signal) ? static_cast<int>(signal.ssi_signo) : 0;
+}
+
+bool Watch::handleSignals()
+{
+    while (const int number = nextSignal()) {
+        if (!handle(number)) {
             return false;
         }
     }

@@ -43,12 +43,17 @@ public:
 private:
     void enter();
     void leave();
+    bool print(const QByteArray& picture);
+    /// The next signal that has arrived; 0 if there is none.
+    int nextSignal() const;
     bool handle(int number);
+    bool handleWhileBlocked(int number);
 
     const std::function<QStringList()> m_lines;
     int m_signals = -1;
-    int m_ended = 0;       ///< the signal that ended the watch
-    bool m_failed = false; ///< the picture cannot be written
+    int m_ended = 0;          ///< the signal that ended the watch
+    bool m_failed = false;    ///< the picture cannot be written
+    bool m_isBlocked = false; ///< the watch ended while standard output took nothing
     bool m_isTerminal = false;
     bool m_isFirst = true;
 };

@@ -161,6 +161,23 @@ TEST(StatusTerminal, AnIgnoredSignalDoesNotEndAWatch)
     EXPECT_EQ(process.wait(), 128 + SIGTERM);
 }
 
+TEST(StatusTerminal, AWatchEndsWhileNobodyReads)
+{
+    constexpr int room = 4096; // bytes in the pipe, less than a picture has
+    Installation installation;
+    for (char id = 'A'; id < 'Z'; ++id) {
+        installation.addLocal(std::string(1, id), std::string(250, id));
+    }
+    int ends[2] = {-1, -1};
+    ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+    ASSERT_EQ(::fcntl(ends[1], F_SETPIPE_SZ, room), room);
+    ProgramProcess process(STATUS_PROGRAM, {"--watch", "60"}, ends[1], ends[0]);
+    pollfd begun{ends[0], POLLIN, 0};
+    ASSERT_EQ(::poll(&begun, 1, ProgramProcess::PATIENCE), 1);
+    process.signal(SIGTERM);
+    EXPECT_EQ(process.wait(), 128 + SIGTERM);
+}
+
 TEST(StatusTerminal, AWatchEndsWhileAPublisherHangs)
 {
     Installation installation;
