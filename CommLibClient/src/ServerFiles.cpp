@@ -23,6 +23,7 @@
 #include "PubMgrConst.h"
 #include "SystemCalls.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <ctime>
 #include <memory>
@@ -151,7 +152,11 @@ private:
         m_files.clear();
         m_byName.clear();
         m_changed.clear();
-        while (const dirent* entry = readdir(directory.get())) {
+        const auto next = [&directory] {
+            errno = 0;
+            return readdir(directory.get());
+        };
+        while (const dirent* entry = next()) {
             std::string path = std::string(PUBLISHER_SETTING_DIR) + "/" + entry->d_name;
             // The programs of the suite do not support a longer path, so it names no publisher.
             if (entry->d_name[0] == '.' || path.size() >= size_t{MAX_PATH}) {
@@ -168,6 +173,7 @@ private:
             m_files.push_back(std::move(file));
             m_byName.emplace(entry->d_name, m_files.size() - 1);
         }
+        const bool isComplete = errno == 0;
         m_unreported.clear();
         for (size_t place = 0; place < m_files.size(); ++place) {
             UpdateFile(m_files[place]);
@@ -176,7 +182,9 @@ private:
                 m_unreported.push_back(place);
             }
         }
-        m_folder = folder;
+        if (isComplete) { // otherwise the next search lists the files again
+            m_folder = folder;
+        }
         return true;
     }
 

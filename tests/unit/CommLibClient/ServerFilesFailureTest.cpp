@@ -36,3 +36,8 @@ TEST(ServerFilesFailure, OnlyALackOfPermissionIsRemembered)
         expectReadByTheNextQuery(FailingCall::OPEN, error, "server" + std::to_string(error));
     }
 }
+
+TEST(ServerFilesFailure, AFolderThatWasReadInPartIsReadAgain)
+{
+    expectReadByTheNextQuery(FailingCall::READ_FOLDER, EIO, "server"); // the first query lists the folder
+}
