@@ -90,6 +90,7 @@ QString cutToCells(const QString& text, int cells)
         return QString();
     }
     const QString end = ellipsis();
+    const Utf8Widths widths;
     int left = cells - cellsOf(end);
     QString kept;
     for (const uint character : text.toUcs4()) {

@@ -81,6 +81,7 @@ TEST_F(TableText, WithoutUtf8CellsAreTheSame)
     ASSERT_NE(std::setlocale(LC_ALL, "C"), nullptr);
     EXPECT_EQ(cellsOf(utf8("\xe6\x9d\xb1\xe4\xba\xac")), 4); // two ideographs
     EXPECT_EQ(cellsOf(utf8("e\xcc\x81")), 1);                // with a combining accent
+    EXPECT_EQ(cutToCells(utf8("\xe6\x9d\xb1\xe4\xba\xac\xe6\x9d\xb1"), 5), utf8("\xe6\x9d\xb1\xe4\xba\xac~"));
     EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "C");
 }
 
