@@ -61,7 +61,7 @@ void Watch::enter()
 
 void Watch::leave()
 {
-    if (m_isTerminal && !m_isBlocked) {
+    if (m_isTerminal) {
         ::print(leaveScreen);
     }
 }
@@ -88,7 +88,8 @@ bool Watch::draw()
     return print(picture);
 }
 
-/// Writes pieces that a writable pipe takes at once, so that a signal ends the watch while nobody reads.
+/// Writes pieces that a writable pipe takes at once, so that a signal can end the program while standard
+/// output is not read.
 bool Watch::print(const QByteArray& picture)
 {
     constexpr int piece = 512; // POSIX: at most what a pipe takes as a whole
@@ -96,8 +97,8 @@ bool Watch::print(const QByteArray& picture)
         pollfd entries[] = {{STDOUT_FILENO, POLLOUT, 0}, {m_signals, POLLIN, 0}};
         while (entries[0].revents == 0) {
             Uninterrupted([&] { return ::poll(entries, 2, -1); });
-            if (entries[0].revents == 0 && !handleWhileBlocked(nextSignal())) {
-                return false;
+            if (entries[0].revents == 0) {
+                handleWhileBlocked(nextSignal());
             }
         }
         if (!::print(picture.mid(done, piece))) {
@@ -105,7 +106,7 @@ bool Watch::print(const QByteArray& picture)
             return false;
         }
     }
-    return true;
+    return !std::exchange(m_isOutdated, false) || redraw();
 }
 
 bool Watch::redraw()
@@ -129,20 +130,22 @@ bool Watch::handle(int number)
     }
 }
 
-/// The picture is neither redrawn nor is the screen restored, because both would wait for a reader.
-bool Watch::handleWhileBlocked(int number)
+/// The screen is not restored, because that would wait until standard output is read.
+void Watch::handleWhileBlocked(int number)
 {
     switch (number) {
     case 0:
-    case SIGWINCH: // the next picture has the new size
-        return true;
+        break;
+    case SIGWINCH:
+        m_isOutdated = true;
+        break;
     case SIGTSTP:
         ::raise(SIGSTOP);
-        return true;
+        break;
     default:
-        m_ended = number;
-        m_isBlocked = true;
-        return false;
+        const sigset_t set = handledSignals();
+        ::sigprocmask(SIG_UNBLOCK, &set, nullptr);
+        ::raise(number); // ends the process
     }
 }
 

@@ -7,7 +7,8 @@
 #include <functional>
 
 /// Takes the signals that end, suspend or resize a watch, and gives the terminal another screen. The
-/// destructor restores both. One object at a time; the program must have no other thread.
+/// destructor restores both. While standard output is not read, a signal ends the process at once. One object
+/// at a time; the program must have no other thread.
 class Watch
 {
 public:
@@ -47,13 +48,13 @@ private:
     /// The next signal that has arrived; 0 if there is none.
     int nextSignal() const;
     bool handle(int number);
-    bool handleWhileBlocked(int number);
+    void handleWhileBlocked(int number);
 
     const std::function<QStringList()> m_lines;
     int m_signals = -1;
-    int m_ended = 0;          ///< the signal that ended the watch
-    bool m_failed = false;    ///< the picture cannot be written
-    bool m_isBlocked = false; ///< the watch ended while standard output took nothing
+    int m_ended = 0;           ///< the signal that ended the watch
+    bool m_failed = false;     ///< the picture cannot be written
+    bool m_isOutdated = false; ///< the size has changed while the picture was written
     bool m_isTerminal = false;
     bool m_isFirst = true;
 };
