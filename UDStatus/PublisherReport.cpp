@@ -223,7 +223,8 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
         report.host = QString::fromStdString(info.strHostName);
         reports.push_back(std::move(report));
     }
-    // std::sort may leave its range, because natural order is not strict for digits of other scripts.
+    // The natural order is not strict for digits of other scripts ("1" < "A" < "²" < "1"). std::sort may then
+    // leave its range; std::stable_sort of this standard library does not.
     std::stable_sort(reports.begin(), reports.end(), [](const PublisherReport& a, const PublisherReport& b) {
         return naturalLess(a.name, b.name) || (!naturalLess(b.name, a.name) && a.id < b.id);
     });
@@ -235,7 +236,7 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
 {
     const CString id(report.id.toStdString());
     StatusReply reply;
-    if (!canBeRead(id) || !queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
+    if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
         report.answer = Answer::all; // as in the list, which keeps the row as it was
         report.failure = QueryFailure::settingsUnreadable;
         progress();

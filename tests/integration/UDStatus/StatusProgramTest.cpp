@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <regex>
 #include <set>
@@ -184,6 +186,20 @@ TEST(StatusProgram, ACopyOfASettingFileIsNoPublisher)
     }
     EXPECT_EQ(runStatus({}).out, list);
     EXPECT_EQ(runStatus({"--metrics"}).out, metrics);
+}
+
+/// The natural order has no place for the superscript: it is below "1", which is below "A", which is below
+/// it.
+TEST(StatusProgram, NamesWithoutAnOrderAreAllListed)
+{
+    constexpr int publishers = 60;
+    const std::array<const char*, 3> names = {"\xc2\xb2", "1", "A"};
+    for (int i = 0; i < publishers; ++i) {
+        WritePublisher(std::to_string(i), "[Common]\nPublisherConnectionType=0\nPublisherName=" +
+                                              std::string(names[i % 3]) + "\n");
+    }
+    const std::string listed = runStatus({"--names"}).out;
+    EXPECT_EQ(std::count(listed.begin(), listed.end(), '\n'), publishers);
 }
 
 TEST(StatusProgram, NoPublishersAreNoError)
