@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 static_assert(std::is_empty_v<_StackDepth>);
@@ -41,8 +42,7 @@ std::string OwnId()
 
 using Clock = std::chrono::steady_clock;
 
-/// Less than the wait for a hung agent, and more than a call takes that does not wait.
-constexpr std::chrono::milliseconds SHORTEST_WAIT(75);
+constexpr std::chrono::milliseconds SHORTEST_WAIT(75); // for a hung agent
 
 /// A call that waited for the agent.
 struct Wait
@@ -51,15 +51,24 @@ struct Wait
     Clock::time_point end;
 };
 
+/// How often this thread has waited. That it lost the processor does not count.
+long Waits()
+{
+    rusage usage{};
+    getrusage(RUSAGE_THREAD, &usage);
+    return usage.ru_nvcsw;
+}
+
 /// Logs lines until a call waits for the agent. None if no call waits for 30 seconds.
 std::optional<Wait> NextWait()
 {
     const Clock::time_point limit = Clock::now() + std::chrono::seconds(30);
     while (Clock::now() < limit) {
+        const long waits = Waits();
         const Clock::time_point start = Clock::now();
         logViaAgent(4, "%s", "text");
         const Clock::time_point end = Clock::now();
-        if (end - start >= SHORTEST_WAIT) {
+        if (Waits() > waits && end - start >= SHORTEST_WAIT) {
             return Wait{start, end};
         }
         ::poll(nullptr, 0, 5); // the test waits for the program's own pause
