@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <list>
 #include <set>
 
 namespace {
@@ -202,7 +204,7 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
     CStringArray ids;
     publisherMgr.EnumRegistedPublisher(&ids);
     const ReadPass pass;
-    std::vector<PublisherReport> reports;
+    std::list<PublisherReport> reports;
     std::set<std::string> known; // a copy such as "A.ini~" has the id of its original
     for (const CString& id : ids) {
         if (!known.insert(id).second) {
@@ -223,12 +225,12 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
         report.host = QString::fromStdString(info.strHostName);
         reports.push_back(std::move(report));
     }
-    // The natural order is not strict for digits of other scripts ("1" < "A" < "²" < "1"). std::sort may then
-    // leave its range; std::stable_sort of this standard library does not.
-    std::stable_sort(reports.begin(), reports.end(), [](const PublisherReport& a, const PublisherReport& b) {
+    // Not std::sort, which may leave its range: the natural order is not strict for digits of other scripts
+    // ("1" < "A" < "²" < "1").
+    reports.sort([](const PublisherReport& a, const PublisherReport& b) {
         return naturalLess(a.name, b.name) || (!naturalLess(b.name, a.name) && a.id < b.id);
     });
-    return reports;
+    return {std::move_iterator(reports.begin()), std::move_iterator(reports.end())};
 }
 
 void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& report,
