@@ -20,6 +20,8 @@ constexpr char toTheTop[] = "\x1b[H";
 constexpr char clearLine[] = "\x1b[K"; // before its text, whose last cell it would clear otherwise
 constexpr char clearRest[] = "\x1b[J";
 
+constexpr int mostWait = 1000; // ms for standard output to be read, after a signal
+
 /// Without those that the caller ignores, as `nohup` does: a blocked signal is queued even if it is ignored.
 sigset_t handledSignals()
 {
@@ -116,6 +118,11 @@ bool Watch::redraw()
 
 bool Watch::handle(int number)
 {
+    pollfd entry{STDOUT_FILENO, POLLOUT, 0};
+    if (Uninterrupted([&] { return ::poll(&entry, 1, mostWait); }) == 0) {
+        handleWhileBlocked(number);
+        return true;
+    }
     switch (number) {
     case SIGWINCH:
         return redraw();

@@ -7,8 +7,9 @@
 #include <functional>
 
 /// Takes the signals that end, suspend or resize a watch, and gives the terminal another screen. The
-/// destructor restores both. While a picture waits until standard output is read, a signal ends the process
-/// at once. One object at a time; the program must have no other thread.
+/// destructor restores both. While standard output is not read, as on a terminal after Ctrl-S, the signal
+/// itself ends the process, within a second, and the screen is not restored. One object at a time; the
+/// program must have no other thread.
 class Watch
 {
 public:

@@ -9,6 +9,7 @@
 
 #include <pty.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 
 struct StatusEnd
 {
@@ -80,6 +81,13 @@ public:
         const winsize size{24, columns, 0, 0};
         ::ioctl(m_out, TIOCSWINSZ, &size);
         signal(SIGWINCH); // the terminal is not the controlling one, so the kernel sends none
+    }
+    /// The terminal takes nothing any more, as after Ctrl-S.
+    void stopOutput() const
+    {
+        const int terminal = ::ioctl(m_out, TIOCGPTPEER, O_RDWR | O_NOCTTY | O_CLOEXEC);
+        EXPECT_EQ(::tcflow(terminal, TCOOFF), 0);
+        ::close(terminal);
     }
     /// The reader of a pipe ends.
     void closeOutput()

@@ -179,6 +179,16 @@ TEST(StatusTerminal, AWatchEndsWhileNobodyReads)
     EXPECT_EQ(process.wait(), 1000 + SIGTERM); // the signal itself ends it
 }
 
+TEST(StatusTerminal, AWatchEndsOnAStoppedTerminal)
+{
+    const Installation installation; // without publishers there is only one picture
+    StatusRun run({"--watch", "60"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.stopOutput();
+    run.signal(SIGTERM);
+    EXPECT_EQ(run.end().code, 1000 + SIGTERM); // the signal itself ends it
+}
+
 TEST(StatusTerminal, AWatchEndsWhileAPublisherHangs)
 {
     Installation installation;
