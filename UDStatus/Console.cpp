@@ -9,6 +9,7 @@
 #include <cstring>
 #include <string_view>
 
+#include <poll.h> // house-rule: sockets: waits for standard output
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -26,10 +27,14 @@ bool writeAll(int descriptor, const QByteArray& data)
         const ssize_t count = Uninterrupted([&] {
             return ::write(descriptor, data.constData() + done, static_cast<size_t>(data.size() - done));
         });
-        if (count < 0) {
+        if (count >= 0) {
+            done += static_cast<int>(count);
+        } else if (errno == EAGAIN) {
+            pollfd entry{descriptor, POLLOUT, 0};
+            ::poll(&entry, 1, -1);
+        } else {
             return false;
         }
-        done += static_cast<int>(count);
     }
     return true;
 }
@@ -37,10 +42,17 @@ bool writeAll(int descriptor, const QByteArray& data)
 bool print(const QByteArray& data)
 {
     const bool written = writeAll(STDOUT_FILENO, data);
-    if (!written && errno != EPIPE) {
-        complain(QStringLiteral("cannot write: %1").arg(errorText(errno)));
+    if (!written) {
+        complainAboutOutput();
     }
     return written;
+}
+
+void complainAboutOutput()
+{
+    if (errno != EPIPE) {
+        complain(QStringLiteral("cannot write: %1").arg(errorText(errno)));
+    }
 }
 
 QString errorText(int error)

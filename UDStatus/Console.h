@@ -3,12 +3,15 @@
 
 #include <QString>
 
-/// Writes all of it. Returns false, with errno, on failure.
+/// Writes all of it, and waits as long as the descriptor takes nothing, even if it is non-blocking. Returns
+/// false, with errno, on failure.
 bool writeAll(int descriptor, const QByteArray& data);
 
-/// Writes all of it to standard output. Returns false on failure; the reason is printed on standard error,
-/// unless the reader has closed the pipe.
+/// Writes all of it to standard output. Returns false on failure, which complainAboutOutput has reported.
 bool print(const QByteArray& data);
+
+/// Prints why writing to standard output failed, by errno, unless the reader has closed the pipe.
+void complainAboutOutput();
 
 /// The text of an errno; English in every locale, as everything on standard error.
 QString errorText(int error);

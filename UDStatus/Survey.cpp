@@ -37,6 +37,9 @@ struct Query
     if (::getppid() != parent) {
         ::_exit(EXIT_FAILURE);
     }
+    for (const int number : {SIGINT, SIGQUIT, SIGHUP}) { // are for the program, which ends its queries
+        std::signal(number, SIG_IGN);
+    }
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);

@@ -4,10 +4,12 @@
 #include "SystemCalls.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <utility>
 
+#include <fcntl.h>
 #include <poll.h> // house-rule: sockets: waits for signals
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -20,7 +22,19 @@ constexpr char toTheTop[] = "\x1b[H";
 constexpr char clearLine[] = "\x1b[K"; // before its text, whose last cell it would clear otherwise
 constexpr char clearRest[] = "\x1b[J";
 
-constexpr int mostWait = 1000; // ms for standard output to be read, after a signal
+constexpr int pauseTime = 50;  // ms until standard output is tried again
+constexpr int mostPauses = 20; // of a watch that is to end
+
+/// Carries out a signal that is blocked. SIGTSTP does not stop a program that no shell could continue.
+void raiseUnblocked(int number)
+{
+    sigset_t set;
+    ::sigemptyset(&set);
+    ::sigaddset(&set, number);
+    ::raise(number);
+    ::sigprocmask(SIG_UNBLOCK, &set, nullptr); // here
+    ::sigprocmask(SIG_BLOCK, &set, nullptr);
+}
 
 /// Without those that the caller ignores, as `nohup` does: a blocked signal is queued even if it is ignored.
 sigset_t handledSignals()
@@ -36,9 +50,32 @@ sigset_t handledSignals()
     return set;
 }
 
+/// Standard output. A write to a terminal can wait although the terminal is writable, so a terminal is opened
+/// again without waiting; this changes nothing for other programs.
+int openOutput(bool isTerminal)
+{
+    const int descriptor =
+        isTerminal ? ::open("/proc/self/fd/1", O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC) : -1;
+    return descriptor >= 0 ? descriptor : STDOUT_FILENO;
+}
+
+/// Writes what standard output takes at once. Returns the number of bytes; -1 with errno on failure.
+ssize_t writeSome(int descriptor, const char* data, int size)
+{
+    constexpr int piece = 512; // POSIX: at most what a writable pipe takes as a whole
+    pollfd entry{descriptor, POLLOUT, 0};
+    if (Uninterrupted([&] { return ::poll(&entry, 1, 0); }) == 0) {
+        errno = EAGAIN;
+        return -1;
+    }
+    return Uninterrupted(
+        [&] { return ::write(descriptor, data, static_cast<size_t>(std::min(size, piece))); });
+}
+
 } // namespace
 
-Watch::Watch(std::function<QStringList()> lines) : m_lines(std::move(lines)), m_isTerminal(takesSequences())
+Watch::Watch(std::function<QStringList()> lines)
+    : m_lines(std::move(lines)), m_isTerminal(takesSequences()), m_output(openOutput(m_isTerminal))
 {
     const sigset_t set = handledSignals();
     ::sigprocmask(SIG_BLOCK, &set, nullptr);
@@ -50,6 +87,9 @@ Watch::~Watch()
 {
     leave();
     ::close(m_signals);
+    if (m_output != STDOUT_FILENO) {
+        ::close(m_output);
+    }
     const sigset_t set = handledSignals();
     ::sigprocmask(SIG_UNBLOCK, &set, nullptr);
 }
@@ -57,14 +97,14 @@ Watch::~Watch()
 void Watch::enter()
 {
     if (m_isTerminal) {
-        ::print(enterScreen);
+        print(enterScreen);
     }
 }
 
 void Watch::leave()
 {
     if (m_isTerminal) {
-        ::print(leaveScreen);
+        print(leaveScreen);
     }
 }
 
@@ -87,28 +127,32 @@ bool Watch::draw()
         }
         picture += clearRest;
     }
-    return print(picture);
-}
-
-/// Writes pieces that a writable pipe takes at once, so that a signal can end the program while standard
-/// output is not read.
-bool Watch::print(const QByteArray& picture)
-{
-    constexpr int piece = 512; // POSIX: at most what a pipe takes as a whole
-    for (int done = 0; done < picture.size(); done += piece) {
-        pollfd entries[] = {{STDOUT_FILENO, POLLOUT, 0}, {m_signals, POLLIN, 0}};
-        while (entries[0].revents == 0) {
-            Uninterrupted([&] { return ::poll(entries, 2, -1); });
-            if (entries[0].revents == 0) {
-                handleWhileBlocked(nextSignal());
-            }
-        }
-        if (!::print(picture.mid(done, piece))) {
-            m_failed = true;
-            return false;
-        }
+    if (!print(picture)) {
+        return false;
     }
     return !std::exchange(m_isOutdated, false) || redraw();
+}
+
+bool Watch::print(const QByteArray& data)
+{
+    int pauses = 0;
+    for (int done = 0; !m_failed && done < data.size();) {
+        const ssize_t count = writeSome(m_output, data.constData() + done, data.size() - done);
+        if (count >= 0) {
+            done += static_cast<int>(count);
+            pauses = 0;
+        } else if (errno != EAGAIN) {
+            complainAboutOutput();
+            m_failed = true;
+        } else if (m_ended != 0 && ++pauses > mostPauses) {
+            handleWhileBlocked(m_ended);
+        } else {
+            pollfd entry{m_signals, POLLIN, 0};
+            ::poll(&entry, 1, pauseTime);
+            handleWhileBlocked(nextSignal());
+        }
+    }
+    return !m_failed;
 }
 
 bool Watch::redraw()
@@ -118,17 +162,12 @@ bool Watch::redraw()
 
 bool Watch::handle(int number)
 {
-    pollfd entry{STDOUT_FILENO, POLLOUT, 0};
-    if (Uninterrupted([&] { return ::poll(&entry, 1, mostWait); }) == 0) {
-        handleWhileBlocked(number);
-        return true;
-    }
     switch (number) {
     case SIGWINCH:
         return redraw();
     case SIGTSTP:
         leave();
-        ::raise(SIGSTOP); // SIGTSTP itself is blocked
+        raiseUnblocked(SIGTSTP);
         enter();
         return redraw();
     default:
@@ -140,19 +179,10 @@ bool Watch::handle(int number)
 /// The screen is not restored, because that would wait until standard output is read.
 void Watch::handleWhileBlocked(int number)
 {
-    switch (number) {
-    case 0:
-        break;
-    case SIGWINCH:
+    if (number == SIGWINCH) {
         m_isOutdated = true;
-        break;
-    case SIGTSTP:
-        ::raise(SIGSTOP);
-        break;
-    default:
-        const sigset_t set = handledSignals();
-        ::sigprocmask(SIG_UNBLOCK, &set, nullptr);
-        ::raise(number); // ends the process
+    } else if (number != 0) {
+        raiseUnblocked(number);
     }
 }
 

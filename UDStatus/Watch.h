@@ -45,7 +45,8 @@ public:
 private:
     void enter();
     void leave();
-    bool print(const QByteArray& picture);
+    /// Writes all of it to standard output, as soon as that is read.
+    bool print(const QByteArray& data);
     /// The next signal that has arrived; 0 if there is none.
     int nextSignal() const;
     bool handle(int number);
@@ -56,6 +57,7 @@ private:
     int m_ended = 0;           ///< the signal that ended the watch
     bool m_failed = false;     ///< the picture cannot be written
     bool m_isOutdated = false; ///< the size has changed while the picture was written
-    bool m_isTerminal = false;
+    const bool m_isTerminal;
+    const int m_output; ///< standard output
     bool m_isFirst = true;
 };

@@ -320,6 +320,26 @@ TEST(StatusProgram, AFullDiskIsReported)
     EXPECT_EQ(end.output, "ulmar-disc-status: cannot write: No space left on device\n");
 }
 
+TEST(StatusProgram, ANonBlockingOutputLosesNothing)
+{
+    constexpr int capacity = 4096;
+    Installation installation;
+    for (char id = 'A'; id < 'Z'; ++id) {
+        installation.addLocal(std::string(1, id), std::string(250, id));
+    }
+    int ends[2] = {-1, -1};
+    ASSERT_EQ(::pipe2(ends, O_CLOEXEC | O_NONBLOCK), 0);
+    ASSERT_EQ(::fcntl(ends[1], F_SETPIPE_SZ, capacity), capacity);
+    ::fcntl(ends[0], F_SETFL, 0);
+    ProgramProcess process(STATUS_PROGRAM, {"--names"}, ends[1], ends[0]);
+    for (int waiting = 0; waiting < capacity;) { // nothing is read until the pipe is full
+        ASSERT_EQ(::ioctl(ends[0], FIONREAD, &waiting), 0);
+        std::this_thread::yield();
+    }
+    process.readUntil(std::string(250, 'Y'));
+    EXPECT_EQ(process.wait(), 0);
+}
+
 TEST(StatusProgram, ClosedStandardStreamsAreReplaced)
 {
     const StatusRoom room(twoStudios);

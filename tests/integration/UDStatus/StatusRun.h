@@ -85,9 +85,18 @@ public:
     /// The terminal takes nothing any more, as after Ctrl-S.
     void stopOutput() const
     {
-        const int terminal = ::ioctl(m_out, TIOCGPTPEER, O_RDWR | O_NOCTTY | O_CLOEXEC);
+        const int terminal = openTerminal();
         EXPECT_EQ(::tcflow(terminal, TCOOFF), 0);
         ::close(terminal);
+    }
+    /// Waits until the terminal takes nothing any more, because nobody reads.
+    void waitUntilFull() const
+    {
+        pollfd terminal{openTerminal(), POLLOUT, 0};
+        pollfd end{m_err, POLLIN, 0}; // nothing is printed here: a pause
+        while (::poll(&terminal, 1, 0) == 1 && ::poll(&end, 1, 10) == 0) {
+        }
+        ::close(terminal.fd);
     }
     /// The reader of a pipe ends.
     void closeOutput()
@@ -136,7 +145,8 @@ private:
             ::sigaddset(&taken, number);
         }
         posix_spawnattr_setsigdefault(&attributes, &taken);
-        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+        // A group of its own: a program whose group no shell could continue cannot be suspended.
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
         arguments.insert(arguments.begin(), STATUS_PROGRAM);
         std::vector<std::string> settings;
         for (const auto& [name, value] : variables) {
@@ -153,6 +163,11 @@ private:
             ::posix_spawn(&m_pid, STATUS_PROGRAM, &actions, &attributes, argv.data(), environment.data()), 0);
         posix_spawnattr_destroy(&attributes);
         posix_spawn_file_actions_destroy(&actions);
+    }
+
+    int openTerminal() const
+    {
+        return ::ioctl(m_out, TIOCGPTPEER, O_RDWR | O_NOCTTY | O_CLOEXEC);
     }
 
     static std::vector<char*> pointers(std::vector<std::string>& texts)

@@ -179,6 +179,18 @@ TEST(StatusTerminal, AWatchEndsWhileNobodyReads)
     EXPECT_EQ(process.wait(), 1000 + SIGTERM); // the signal itself ends it
 }
 
+TEST(StatusTerminal, AWatchEndsOnATerminalThatIsNotRead)
+{
+    Installation installation;
+    for (char id = 'A'; id < 'Z'; ++id) {
+        installation.addLocal(std::string(1, id), std::string(250, id));
+    }
+    StatusRun run({"--watch", "0.1"}, 1000, colourless);
+    run.waitUntilFull();
+    run.signal(SIGTERM);
+    EXPECT_EQ(run.end().code, 1000 + SIGTERM); // the signal itself ends it
+}
+
 TEST(StatusTerminal, AWatchEndsOnAStoppedTerminal)
 {
     const Installation installation; // without publishers there is only one picture
@@ -231,6 +243,23 @@ TEST(StatusTerminal, ASuspendedWatchRestoresTheTerminal)
     EXPECT_EQ(run.end().code, 0);
 }
 
+/// As with `ssh -t HOST`: nobody could continue it.
+TEST(StatusTerminal, AWatchWithoutAShellIsNotSuspended)
+{
+    const Installation installation;
+    ProgramProcess process("/usr/bin/setsid", {STATUS_PROGRAM, "--watch", "0.1"});
+    const std::string picture = "No publishers are registered.\n";
+    process.readUntil(picture);
+    process.signal(SIGTSTP);
+    std::string pictures = picture;
+    for (int more = 0; more < 8; ++more) { // not all of them are printed before the signal
+        pictures += "\n" + picture;
+    }
+    ASSERT_THAT(process.readUntil(pictures), HasSubstr(pictures));
+    process.signal(SIGTERM);
+    EXPECT_EQ(process.wait(), 128 + SIGTERM);
+}
+
 std::string childrenOf(pid_t process)
 {
     const std::string id = std::to_string(process);
@@ -238,6 +267,17 @@ std::string childrenOf(pid_t process)
     std::string children;
     std::getline(file, children);
     return children;
+}
+
+/// Bit 0 is signal 1.
+unsigned long ignoredSignals(const std::string& process)
+{
+    std::ifstream file("/proc/" + std::to_string(std::stoi(process)) + "/status");
+    std::string word;
+    while (file >> word && word != "SigIgn:") {
+    }
+    file >> word;
+    return std::stoul(word, nullptr, 16);
 }
 
 TEST(StatusTerminal, APictureWaitsForNoPublisherThatHangs)
@@ -258,6 +298,8 @@ TEST(StatusTerminal, APictureWaitsForNoPublisherThatHangs)
     run.signal(SIGCONT);
     ASSERT_TRUE(run.waitFor("Studio A"));
     EXPECT_EQ(childrenOf(run.process()), query);
+    // Ctrl-C is sent to all processes of the terminal, and must not look like a failed query.
+    EXPECT_NE(ignoredSignals(query) & (1U << (SIGINT - 1)), 0U);
     run.signal(SIGINT);
     const StatusEnd end = run.end();
     EXPECT_EQ(end.code, 0);
