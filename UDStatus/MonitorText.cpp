@@ -148,7 +148,8 @@ private:
 
     void takeDiscs(const PublisherReport& report)
     {
-        if (!report.stackers) {
+        const auto isInput = [](const StackerReport& stacker) { return stacker.input; };
+        if (!report.stackers || std::none_of(report.stackers->begin(), report.stackers->end(), isInput)) {
             return findMissing(m_discs, report, QStringLiteral("discs"));
         }
         for (const StackerReport& stacker : *report.stackers) {

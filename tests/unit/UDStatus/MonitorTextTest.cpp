@@ -74,6 +74,18 @@ TEST(MonitorText, ThresholdsOfDiscsConcernInputStackers)
     EXPECT_EQ(monitorResult({report}, {}, alerts("90:", "10:")).state, MonitorState::unknown);
 }
 
+TEST(MonitorText, WithoutAKnownInputStackerTheDiscsAreUnknown)
+{
+    PublisherReport report = fullReport();
+    for (StackerReport& stacker : *report.stackers) {
+        stacker.input = false;
+    }
+    const MonitorResult result = monitorResult({report}, {}, alerts("90:", "10:"));
+    EXPECT_EQ(result.state, MonitorState::unknown);
+    EXPECT_TRUE(result.line.startsWith("UNKNOWN - Studio A: discs unknown | ")) << result.line.toStdString();
+    EXPECT_EQ(monitorResult({report}, {}, {}).state, MonitorState::ok);
+}
+
 TEST(MonitorText, StatesWithoutANumberMatterOnlyWithAThreshold)
 {
     PublisherReport report = fullReport();
