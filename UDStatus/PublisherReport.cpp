@@ -173,6 +173,8 @@ void setStatus(const StatusReply& reply, PublisherReport& report)
     report.state = reply.state;
     if (report.state == PublisherState::error) {
         report.fatalCode = reply.facts.fatalCode;
+    } else if (report.network && reply.facts.fatalCode == ERR_SERVICE_NOT_COMMUNICATION) {
+        report.failure = QueryFailure::ended; // the list shows "Ready" if the server is lost during the query
     } else if (report.state == PublisherState::ready) {
         report.fatalCode = 0;
     }
@@ -239,8 +241,12 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
     const CString id(report.id.toStdString());
     StatusReply reply;
     if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
-        report.answer = Answer::all; // as in the list, which keeps the row as it was
-        report.failure = QueryFailure::settingsUnreadable;
+        if (canBeRead(id)) { // a query of the server's settings failed
+            report.failure = QueryFailure::ended;
+        } else {
+            report.answer = Answer::all; // as in the list, which keeps the row as it was
+            report.failure = QueryFailure::settingsUnreadable;
+        }
         progress();
         return;
     }

@@ -33,7 +33,7 @@ enum class QueryFailure : quint8
     none,               ///< it did not, or it exceeded the time limit
     settingsUnreadable, ///< the setting file cannot be read any more
     notStarted,         ///< no process could be started for it
-    ended               ///< its process ended abnormally, most likely because of an invalid reply
+    ended               ///< by an invalid reply, most likely, or because the server refused it or was lost
 };
 
 struct JobReport

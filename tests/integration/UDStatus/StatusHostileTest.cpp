@@ -248,6 +248,47 @@ TEST(StatusHostile, AQueryThatStopsIsNoticedWithIgnoredChildren)
     EXPECT_THAT(reason.output, HasSubstr("Bad: the query failed"));
 }
 
+udsim::HttpFault faultOf(const char* kind, const char* path)
+{
+    std::string error;
+    udsim::HttpFault fault = udsim::HttpFault::parse(kind, error).value_or(udsim::HttpFault());
+    EXPECT_EQ(error, "");
+    fault.path = path;
+    return fault;
+}
+
+/// The fourth request of the mode begins the query of the status. The list shows "Ready" then.
+TEST(StatusHostile, AServerThatIsLostDuringTheQueryHasNotAnswered)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nid = N\n");
+    udsim::HttpFault fault = faultOf("close", "/webapp2/ServerModeGetter");
+    fault.after = 3;
+    room->setFault(fault);
+    const StatusEnd list = runStatus({});
+    EXPECT_EQ(list.code, 1);
+    EXPECT_EQ(list.err, "ulmar-disc-status: Library: the query failed; the reply may be invalid\n");
+    room->clearFaults();
+    room->setFault(fault);
+    const QJsonObject publisher = publisherOf(runStatus({"--json"}));
+    EXPECT_FALSE(publisher["complete"].toBool());
+    EXPECT_TRUE(publisher["errorCode"].isNull());
+    room->clearFaults();
+    room->setFault(fault);
+    EXPECT_THAT(runStatus({"--monitor"}).out, StartsWith("UNKNOWN - Library: incomplete answer"));
+}
+
+/// The settings are asked for after the connection is tested.
+TEST(StatusHostile, ARefusedQueryOfTheSettingsIsNoUnreadableFile)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nid = N\n");
+    room->setFault(faultOf("status 9", "/webapp2/DevInfoIntGetter"));
+    const StatusEnd end = runStatus({});
+    EXPECT_EQ(end.code, 1);
+    EXPECT_THAT(end.out, HasSubstr("No answer"));
+    EXPECT_EQ(end.err, "ulmar-disc-status: Library: the query failed; the reply may be invalid\n");
+    EXPECT_THAT(runStatus({"--monitor"}).out, StartsWith("UNKNOWN - Library: no answer"));
+}
+
 TEST(StatusHostile, BrokenRepliesOfAServerEndNoProgram)
 {
     const StatusRoom room("[network Library]\nmodel = RT-300NII\nid = N\njobs = 2\n");
