@@ -10,10 +10,13 @@
 #include "WearFigures.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <iterator>
 #include <list>
 #include <set>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -165,6 +168,15 @@ bool canBeRead(const CString& id)
     return ReadPass::Profile(SettingFile(PUBLISHER_SETTING_DIR, id.c_str()).Path()) != nullptr;
 }
 
+/// Not of an id that a file such as ".A.ini.swp" has, or whose file has just been removed. A link to nowhere
+/// exists.
+bool exists(const CString& id)
+{
+    struct stat status = {};
+    return ::lstat(SettingFile(PUBLISHER_SETTING_DIR, id.c_str()).Path().c_str(), &status) == 0 ||
+           errno != ENOENT;
+}
+
 void setStatus(const StatusReply& reply, PublisherReport& report)
 {
     report.model = reply.row.strDevType;
@@ -215,7 +227,9 @@ std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
         const bool network = publisherMgr.GetConnectType(id.c_str()) == PUBMGR_CONNECTTYPE_NETWORK;
         PUBLISHERINFO info;
         if (!canBeRead(id) || !publisherMgr.GetPublisherInfo(id.c_str(), &info, network)) {
-            unreadable.push_back(QByteArray::fromStdString(id));
+            if (exists(id)) {
+                unreadable.push_back(QByteArray::fromStdString(id));
+            }
             continue;
         }
         PublisherReport report;

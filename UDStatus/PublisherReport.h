@@ -167,8 +167,8 @@ struct PublisherReport
 };
 
 /// The registered publishers in the order of the list, as they are known before any query. `unreadable`
-/// receives the regist ids whose setting files cannot be read. The list shows a file without permission as a
-/// publisher named "NotSet", and the others not at all.
+/// receives the regist ids whose setting files exist, but cannot be read. The list shows a file without
+/// permission as a publisher named "NotSet", and the others not at all.
 std::vector<PublisherReport> registeredPublishers(CPublisherMgr& publisherMgr,
                                                   std::vector<QByteArray>& unreadable);
 

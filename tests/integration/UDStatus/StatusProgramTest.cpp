@@ -188,6 +188,18 @@ TEST(StatusProgram, ACopyOfASettingFileIsNoPublisher)
     EXPECT_EQ(runStatus({"--metrics"}).out, metrics);
 }
 
+TEST(StatusProgram, FilesOfAnEditorAreNoPublishers)
+{
+    const StatusRoom room(twoStudios);
+    for (const char* name : {".A.ini.swp", "#A.ini#", "Removed.ini~"}) {
+        std::ofstream(std::string(PUBLISHER_SETTING_DIR) + "/" + name) << "x";
+    }
+    const StatusEnd end = runStatus({"--names"});
+    EXPECT_EQ(end.code, 0);
+    EXPECT_EQ(end.out, "Studio A\nStudio B\n");
+    EXPECT_EQ(end.err, "");
+}
+
 /// The natural order has no place for the superscript: it is below "1", which is below "A", which is below
 /// it.
 TEST(StatusProgram, NamesWithoutAnOrderAreAllListed)
