@@ -3,6 +3,7 @@
 #include "StatusRun.h"
 
 #include "InstallPaths.h"
+#include "Installation.h"
 #include "PublisherFiles.h"
 
 #include <gmock/gmock.h>
