@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <iterator>
 #include <utility>
 
 #include <fcntl.h>
@@ -25,15 +26,30 @@ constexpr char clearRest[] = "\x1b[J";
 constexpr int pauseTime = 50;  // ms until standard output is tried again
 constexpr int mostPauses = 20; // of a watch that is to end
 
-/// Carries out a signal that is blocked. SIGTSTP does not stop a program that no shell could continue.
-void raiseUnblocked(int number)
+constexpr int endingSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+
+/// Stops the process. Does nothing if no shell could continue it.
+void suspend()
 {
     sigset_t set;
     ::sigemptyset(&set);
-    ::sigaddset(&set, number);
-    ::raise(number);
+    ::sigaddset(&set, SIGTSTP);
+    ::raise(SIGTSTP);
     ::sigprocmask(SIG_UNBLOCK, &set, nullptr); // here
     ::sigprocmask(SIG_BLOCK, &set, nullptr);
+}
+
+/// A signal that is still to be handled and ends the watch; 0 if there is none.
+int pendingEnd()
+{
+    sigset_t set;
+    ::sigpending(&set);
+    for (const int number : endingSignals) {
+        if (::sigismember(&set, number) == 1) {
+            return number;
+        }
+    }
+    return 0;
 }
 
 /// Without those that the caller ignores, as `nohup` does: a blocked signal is queued even if it is ignored.
@@ -41,22 +57,32 @@ sigset_t handledSignals()
 {
     sigset_t set;
     ::sigemptyset(&set);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP, SIGWINCH}) {
+    const auto add = [&set](int number) {
         struct sigaction action = {};
         if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler != SIG_IGN) {
             ::sigaddset(&set, number);
         }
-    }
+    };
+    std::for_each(std::begin(endingSignals), std::end(endingSignals), add);
+    add(SIGTSTP);
+    add(SIGWINCH);
     return set;
 }
 
 /// Standard output. A write to a terminal can wait although the terminal is writable, so a terminal is opened
 /// again without waiting; this changes nothing for other programs.
-int openOutput(bool isTerminal)
+int openOutput()
 {
-    const int descriptor =
-        isTerminal ? ::open("/proc/self/fd/1", O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC) : -1;
+    const int descriptor = ::isatty(STDOUT_FILENO) != 0
+                               ? ::open("/proc/self/fd/1", O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)
+                               : -1;
     return descriptor >= 0 ? descriptor : STDOUT_FILENO;
+}
+
+int codeOf(int signal)
+{
+    constexpr int base = 128;
+    return signal == SIGINT ? 0 : base + signal;
 }
 
 /// Writes what standard output takes at once. Returns the number of bytes; -1 with errno on failure.
@@ -75,7 +101,7 @@ ssize_t writeSome(int descriptor, const char* data, int size)
 } // namespace
 
 Watch::Watch(std::function<QStringList()> lines)
-    : m_lines(std::move(lines)), m_isTerminal(takesSequences()), m_output(openOutput(m_isTerminal))
+    : m_lines(std::move(lines)), m_isTerminal(takesSequences()), m_output(openOutput())
 {
     const sigset_t set = handledSignals();
     ::sigprocmask(SIG_BLOCK, &set, nullptr);
@@ -86,6 +112,8 @@ Watch::Watch(std::function<QStringList()> lines)
 Watch::~Watch()
 {
     leave();
+    while (m_ended != 0 && nextSignal() != 0) { // has nothing more to end
+    }
     ::close(m_signals);
     if (m_output != STDOUT_FILENO) {
         ::close(m_output);
@@ -127,10 +155,7 @@ bool Watch::draw()
         }
         picture += clearRest;
     }
-    if (!print(picture)) {
-        return false;
-    }
-    return !std::exchange(m_isOutdated, false) || redraw();
+    return print(picture);
 }
 
 bool Watch::print(const QByteArray& data)
@@ -144,12 +169,12 @@ bool Watch::print(const QByteArray& data)
         } else if (errno != EAGAIN) {
             complainAboutOutput();
             m_failed = true;
-        } else if (m_ended != 0 && ++pauses > mostPauses) {
-            handleWhileBlocked(m_ended);
         } else {
-            pollfd entry{m_signals, POLLIN, 0};
-            ::poll(&entry, 1, pauseTime);
-            handleWhileBlocked(nextSignal());
+            const int end = m_ended != 0 ? m_ended : pendingEnd();
+            if (end != 0 && ++pauses > mostPauses) {
+                ::_exit(codeOf(end));
+            }
+            ::poll(nullptr, 0, pauseTime);
         }
     }
     return !m_failed;
@@ -167,22 +192,12 @@ bool Watch::handle(int number)
         return redraw();
     case SIGTSTP:
         leave();
-        raiseUnblocked(SIGTSTP);
+        suspend();
         enter();
         return redraw();
     default:
         m_ended = number;
         return false;
-    }
-}
-
-/// The screen is not restored, because that would wait until standard output is read.
-void Watch::handleWhileBlocked(int number)
-{
-    if (number == SIGWINCH) {
-        m_isOutdated = true;
-    } else if (number != 0) {
-        raiseUnblocked(number);
     }
 }
 
@@ -220,9 +235,5 @@ bool Watch::wait(std::chrono::milliseconds time)
 
 int Watch::exitCode() const
 {
-    constexpr int signalBase = 128;
-    if (m_failed) {
-        return EXIT_FAILURE;
-    }
-    return m_ended == SIGINT ? 0 : signalBase + m_ended;
+    return m_failed ? EXIT_FAILURE : codeOf(m_ended);
 }

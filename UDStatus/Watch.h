@@ -7,9 +7,10 @@
 #include <functional>
 
 /// Takes the signals that end, suspend or resize a watch, and gives the terminal another screen. The
-/// destructor restores both. While standard output is not read, as on a terminal after Ctrl-S, the signal
-/// itself ends the process, within a second, and the screen is not restored. One object at a time; the
-/// program must have no other thread.
+/// destructor restores both. If standard output is not read for a second after a signal to end, as on a
+/// terminal after Ctrl-S, the process ends with its exit code, and the screen is not restored; the other
+/// signals wait until it is read. (A terminal that the process may not open again can delay every signal.)
+/// One object at a time; the program must have no other thread.
 class Watch
 {
 public:
@@ -50,13 +51,11 @@ private:
     /// The next signal that has arrived; 0 if there is none.
     int nextSignal() const;
     bool handle(int number);
-    void handleWhileBlocked(int number);
 
     const std::function<QStringList()> m_lines;
     int m_signals = -1;
-    int m_ended = 0;           ///< the signal that ended the watch
-    bool m_failed = false;     ///< the picture cannot be written
-    bool m_isOutdated = false; ///< the size has changed while the picture was written
+    int m_ended = 0;       ///< the signal that ended the watch
+    bool m_failed = false; ///< the picture cannot be written
     const bool m_isTerminal;
     const int m_output; ///< standard output
     bool m_isFirst = true;

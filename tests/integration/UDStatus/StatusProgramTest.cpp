@@ -11,8 +11,10 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <fstream>
 #include <regex>
 #include <set>
+#include <thread>
 
 namespace {
 
@@ -345,9 +347,10 @@ TEST(StatusProgram, ANonBlockingOutputLosesNothing)
     ASSERT_EQ(::fcntl(ends[1], F_SETPIPE_SZ, capacity), capacity);
     ::fcntl(ends[0], F_SETFL, 0);
     ProgramProcess process(STATUS_PROGRAM, {"--names"}, ends[1], ends[0]);
-    for (int waiting = 0; waiting < capacity;) { // nothing is read until the pipe is full
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(ProgramProcess::PATIENCE);
+    for (int waiting = 0; waiting < capacity; std::this_thread::yield()) { // nothing is read until it is full
         ASSERT_EQ(::ioctl(ends[0], FIONREAD, &waiting), 0);
-        std::this_thread::yield();
+        ASSERT_LT(std::chrono::steady_clock::now(), limit);
     }
     process.readUntil(std::string(250, 'Y'));
     EXPECT_EQ(process.wait(), 0);

@@ -85,16 +85,21 @@ public:
     /// The terminal takes nothing any more, as after Ctrl-S.
     void stopOutput() const
     {
-        const int terminal = openTerminal();
-        EXPECT_EQ(::tcflow(terminal, TCOOFF), 0);
-        ::close(terminal);
+        controlFlow(TCOOFF);
     }
-    /// Waits until the terminal takes nothing any more, because nobody reads.
+    /// As after Ctrl-Q.
+    void startOutput() const
+    {
+        controlFlow(TCOON);
+    }
+    /// Waits until the terminal takes nothing any more, because nobody reads. A terminal is not writable for
+    /// a moment, either, while it is written to.
     void waitUntilFull() const
     {
         pollfd terminal{openTerminal(), POLLOUT, 0};
         pollfd end{m_err, POLLIN, 0}; // nothing is printed here: a pause
-        while (::poll(&terminal, 1, 0) == 1 && ::poll(&end, 1, 10) == 0) {
+        for (int full = 0; full < 10 && ::poll(&end, 1, 10) == 0;) {
+            full = ::poll(&terminal, 1, 0) == 0 ? full + 1 : 0;
         }
         ::close(terminal.fd);
     }
@@ -115,6 +120,13 @@ public:
         return m_pid;
     }
 
+    /// Waits for the end, while nobody reads the output. Returns the exit code as StatusEnd does.
+    int codeWithoutReading()
+    {
+        int status = 0;
+        ::waitpid(std::exchange(m_pid, -1), &status, 0);
+        return codeOf(status);
+    }
     /// Waits for the end, and returns everything that was printed.
     StatusEnd end()
     {
@@ -122,7 +134,7 @@ public:
         }
         int status = 0;
         ::waitpid(std::exchange(m_pid, -1), &status, 0);
-        m_end.code = WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
+        m_end.code = codeOf(status);
         m_end.time = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_started);
         return m_end;
     }
@@ -165,9 +177,20 @@ private:
         posix_spawn_file_actions_destroy(&actions);
     }
 
+    void controlFlow(int action) const
+    {
+        const int terminal = openTerminal();
+        EXPECT_EQ(::tcflow(terminal, action), 0);
+        ::close(terminal);
+    }
     int openTerminal() const
     {
         return ::ioctl(m_out, TIOCGPTPEER, O_RDWR | O_NOCTTY | O_CLOEXEC);
+    }
+
+    static int codeOf(int status)
+    {
+        return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
     }
 
     static std::vector<char*> pointers(std::vector<std::string>& texts)

@@ -174,9 +174,9 @@ TEST(StatusTerminal, AWatchEndsWhileNobodyReads)
     ProgramProcess process(STATUS_PROGRAM, {"--watch", "60"}, ends[1], ends[0]);
     pollfd begun{ends[0], POLLIN, 0};
     ASSERT_EQ(::poll(&begun, 1, ProgramProcess::PATIENCE), 1);
-    process.signal(SIGWINCH); // is drawn once the output is read
+    process.signal(SIGWINCH); // waits until the output is read
     process.signal(SIGTERM);
-    EXPECT_EQ(process.wait(), 1000 + SIGTERM); // the signal itself ends it
+    EXPECT_EQ(process.wait(), 128 + SIGTERM);
 }
 
 TEST(StatusTerminal, AWatchEndsOnATerminalThatIsNotRead)
@@ -185,20 +185,56 @@ TEST(StatusTerminal, AWatchEndsOnATerminalThatIsNotRead)
     for (char id = 'A'; id < 'Z'; ++id) {
         installation.addLocal(std::string(1, id), std::string(250, id));
     }
-    StatusRun run({"--watch", "0.1"}, 1000, colourless);
-    run.waitUntilFull();
-    run.signal(SIGTERM);
-    EXPECT_EQ(run.end().code, 1000 + SIGTERM); // the signal itself ends it
+    for (const char* terminal : {"xterm", "dumb"}) {
+        StatusRun run({"--watch", "0.1"}, 1000, {{"LC_ALL", "C.UTF-8"}, {"TERM", terminal}});
+        run.waitUntilFull();
+        run.signal(SIGTERM);
+        EXPECT_EQ(run.codeWithoutReading(), 128 + SIGTERM) << terminal;
+    }
 }
 
 TEST(StatusTerminal, AWatchEndsOnAStoppedTerminal)
 {
     const Installation installation; // without publishers there is only one picture
-    StatusRun run({"--watch", "60"}, 100, colourless);
+    for (const int number : {SIGTERM, SIGINT}) {
+        StatusRun run({"--watch", "60"}, 100, colourless);
+        ASSERT_TRUE(run.waitFor("\x1b[J"));
+        run.stopOutput();
+        run.signal(number);
+        EXPECT_EQ(run.codeWithoutReading(), number == SIGINT ? 0 : 128 + number);
+    }
+}
+
+TEST(StatusTerminal, AWatchRestoresATerminalThatIsReadAgain)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "0.1"}, 100, colourless);
     ASSERT_TRUE(run.waitFor("\x1b[J"));
     run.stopOutput();
     run.signal(SIGTERM);
-    EXPECT_EQ(run.end().code, 1000 + SIGTERM); // the signal itself ends it
+    run.signal(SIGTERM);
+    run.startOutput();
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 128 + SIGTERM);
+    EXPECT_TRUE(end.out.ends_with(leaves));
+}
+
+TEST(StatusTerminal, ASuspendedWatchOfAStoppedTerminalRestoresItToo)
+{
+    const StatusRoom room(twoStudios);
+    StatusRun run({"--watch", "0.1"}, 100, colourless);
+    ASSERT_TRUE(run.waitFor("\x1b[J"));
+    run.stopOutput();
+    run.signal(SIGTSTP);
+    run.startOutput();
+    ASSERT_TRUE(run.waitFor(leaves));
+    int status = 0;
+    ASSERT_EQ(::waitpid(run.process(), &status, WUNTRACED), run.process());
+    EXPECT_TRUE(WIFSTOPPED(status));
+    run.signal(SIGCONT);
+    ASSERT_TRUE(run.waitFor(std::string(enters) + "\x1b[H"));
+    run.signal(SIGINT);
+    EXPECT_EQ(run.end().code, 0);
 }
 
 TEST(StatusTerminal, AWatchEndsWhileAPublisherHangs)
