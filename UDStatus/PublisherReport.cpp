@@ -185,8 +185,6 @@ void setStatus(const StatusReply& reply, PublisherReport& report)
     report.state = reply.state;
     if (report.state == PublisherState::error) {
         report.fatalCode = reply.facts.fatalCode;
-    } else if (report.network && reply.facts.fatalCode == ERR_SERVICE_NOT_COMMUNICATION) {
-        report.failure = QueryFailure::ended; // the list shows "Ready" if the server is lost during the query
     } else if (report.state == PublisherState::ready) {
         report.fatalCode = 0;
     }
@@ -253,19 +251,30 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
                     const std::function<void()>& progress)
 {
     const CString id(report.id.toStdString());
-    StatusReply reply;
-    if (!queryStatus(publisherMgr, id, true, [] { return false; }, reply)) {
-        if (canBeRead(id)) { // a query of the server's settings failed
-            report.failure = QueryFailure::ended;
-        } else {
-            report.answer = Answer::all; // as in the list, which keeps the row as it was
-            report.failure = QueryFailure::settingsUnreadable;
+    const auto finish = [&] {
+        report.answer = Answer::all;
+        if (report.network && report.reachable && !publisherMgr.IsPossibleCommunicate(id.c_str(), nullptr)) {
+            report.failure = QueryFailure::ended; // the server was lost meanwhile
         }
+        progress();
+    };
+    StatusReply reply;
+    const bool queried = queryStatus(publisherMgr, id, true, [] { return false; }, reply);
+    if (!queried && !canBeRead(id)) {
+        report.answer = Answer::all; // as in the list, which keeps the row as it was
+        report.failure = QueryFailure::settingsUnreadable;
+        progress();
+        return;
+    }
+    // The list shows "Ready" if the server is lost before the last query of the status.
+    const bool lost = reply.facts.network && reply.facts.fatalCode == ERR_SERVICE_NOT_COMMUNICATION;
+    if (!queried || lost) {
+        report.failure = QueryFailure::ended;
         progress();
         return;
     }
     setStatus(reply, report);
-    report.answer = details ? Answer::status : Answer::all;
+    report.answer = Answer::status;
     // The list does not distinguish a device that is off from a service that does not answer. Until the
     // service answers, the second is reported.
     const bool local = !report.network;
@@ -276,8 +285,7 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
         report.serviceUnreachable = !publisherMgr.IsPossibleCommunicateService(nullptr);
     }
     if (!details || !report.reachable || report.serviceUnreachable) {
-        report.answer = Answer::all;
-        progress();
+        finish();
         return;
     }
     // The last three stop the process on some invalid replies, so everything before them is reported first.
@@ -291,6 +299,5 @@ void queryPublisher(CPublisherMgr& publisherMgr, bool details, PublisherReport& 
     askDrives(publisherMgr, id.c_str(), report);
     progress();
     askWear(publisherMgr, id.c_str(), report);
-    report.answer = Answer::all;
-    progress();
+    finish();
 }

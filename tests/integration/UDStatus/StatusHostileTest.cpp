@@ -258,24 +258,50 @@ udsim::HttpFault faultOf(const char* kind, const char* path)
     return fault;
 }
 
-/// The fourth request of the mode begins the query of the status. The list shows "Ready" then.
-TEST(StatusHostile, AServerThatIsLostDuringTheQueryHasNotAnswered)
+/// The fourth request of the mode begins the last query of the status. The list shows "Ready" then.
+TEST(StatusHostile, AServerThatIsLostBeforeItsStatusHasNotAnswered)
 {
     const StatusRoom room("[network Library]\nmodel = RT-300NII\nid = N\n");
-    udsim::HttpFault fault = faultOf("close", "/webapp2/ServerModeGetter");
-    fault.after = 3;
-    room->setFault(fault);
-    const StatusEnd list = runStatus({});
+    const auto runWithFault = [&room](std::vector<std::string> arguments) {
+        udsim::HttpFault fault = faultOf("close", "/webapp2/ServerModeGetter");
+        fault.after = 3;
+        room->clearFaults();
+        room->setFault(fault);
+        return runStatus(std::move(arguments));
+    };
+    const StatusEnd list = runWithFault({});
     EXPECT_EQ(list.code, 1);
+    EXPECT_THAT(list.out, HasSubstr("No answer"));
     EXPECT_EQ(list.err, "ulmar-disc-status: Library: the query failed; the reply may be invalid\n");
-    room->clearFaults();
-    room->setFault(fault);
-    const QJsonObject publisher = publisherOf(runStatus({"--json"}));
+    const QJsonObject publisher = publisherOf(runWithFault({"--json"}));
     EXPECT_FALSE(publisher["complete"].toBool());
     EXPECT_TRUE(publisher["errorCode"].isNull());
-    room->clearFaults();
-    room->setFault(fault);
-    EXPECT_THAT(runStatus({"--monitor"}).out, StartsWith("UNKNOWN - Library: incomplete answer"));
+    EXPECT_THAT(runWithFault({"--metrics"}).out,
+                HasSubstr("ulmar_publisher_up{id=\"N\",publisher=\"Library\"} 0"));
+    EXPECT_THAT(runWithFault({"--monitor"}).out, StartsWith("UNKNOWN - Library: no answer"));
+}
+
+/// From each of the requests on but the last, which only asks for the kind of the server.
+TEST(StatusHostile, AServerThatIsLostDuringAQueryHasNotAnsweredCompletely)
+{
+    const StatusRoom room("[network Library]\nmodel = RT-300NII\nid = N\njobs = 2\n");
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"--timeout", "60"}, {"--timeout", "60", "--json"}}) {
+        constexpr unsigned most = 200;
+        unsigned requests = 0;
+        for (StatusEnd end; end.code != 0 && requests < most; ++requests) {
+            udsim::HttpFault fault = faultOf("close", "/");
+            fault.after = requests;
+            room->clearFaults();
+            room->setFault(fault);
+            end = runStatus(arguments);
+            EXPECT_TRUE(end.code == 0 || !end.err.empty()) << requests;
+        }
+        room->clearFaults();
+        const size_t before = room->httpRequests().size();
+        EXPECT_EQ(runStatus(arguments).code, 0);
+        EXPECT_EQ(requests, room->httpRequests().size() - before);
+    }
 }
 
 /// The settings are asked for after the connection is tested.
