@@ -14,7 +14,10 @@
 
 #include <array>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <memory>
+#include <optional>
 #include <set>
 
 #include <sys/syscall.h>
@@ -314,6 +317,24 @@ TEST(StatusHostile, ARefusedQueryOfTheSettingsIsNoUnreadableFile)
     EXPECT_THAT(end.out, HasSubstr("No answer"));
     EXPECT_EQ(end.err, "ulmar-disc-status: Library: the query failed; the reply may be invalid\n");
     EXPECT_THAT(runStatus({"--monitor"}).out, StartsWith("UNKNOWN - Library: no answer"));
+}
+
+TEST(StatusHostile, ASettingFileThatVanishesDuringAQueryIsReported)
+{
+    Installation installation;
+    std::optional<TcpListener> server(std::in_place, "127.0.0.31", 80);
+    Installation::addNetwork("X", "Library", "127.0.0.31");
+    StatusRun run({"--timeout", "60"});
+    {
+        const TcpPeer connection = server->Accept();
+        ASSERT_TRUE(connection.IsOpen());
+        std::filesystem::remove(Installation::settingFile("X"));
+        server.reset();
+    }
+    const StatusEnd end = run.end();
+    EXPECT_EQ(end.code, 1);
+    EXPECT_THAT(end.out, HasSubstr("Not connected"));
+    EXPECT_EQ(end.err, "ulmar-disc-status: Library: the setting file cannot be read\n");
 }
 
 TEST(StatusHostile, BrokenRepliesOfAServerEndNoProgram)
