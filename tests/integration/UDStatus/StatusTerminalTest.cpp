@@ -319,7 +319,7 @@ unsigned long ignoredSignals(const std::string& process)
 TEST(StatusTerminal, APictureWaitsForNoPublisherThatHangs)
 {
     const StatusRoom room("[publisher Studio A]\nmodel = RT-300III BD\n");
-    const TcpListener silent("127.0.0.31", 80);
+    TcpListener silent("127.0.0.31", 80);
     Installation::addNetwork("X", "Silent", "127.0.0.31");
     StatusRun run({"--watch", "--timeout", "86400"}, 100, colourless);
     ASSERT_TRUE(run.waitFor("Studio A  RT-300III   -          Ready"));
@@ -335,6 +335,8 @@ TEST(StatusTerminal, APictureWaitsForNoPublisherThatHangs)
     ASSERT_TRUE(run.waitFor("Studio A"));
     EXPECT_EQ(childrenOf(run.process()), query);
     // Ctrl-C is sent to all processes of the terminal, and must not look like a failed query.
+    const TcpPeer connection = silent.Accept(); // the query has begun
+    ASSERT_TRUE(connection.IsOpen());
     EXPECT_NE(ignoredSignals(query) & (1U << (SIGINT - 1)), 0U);
     run.signal(SIGINT);
     const StatusEnd end = run.end();
